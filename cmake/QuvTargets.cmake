@@ -1,0 +1,34 @@
+# What every target of this project shares: warnings and sanitizers, and how a library is installed.
+
+function(quv_compile_options target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow)
+    if(QUVPROTOCOL_WERROR)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    if(QUVPROTOCOL_SANITIZERS)
+        target_compile_options(${target} PRIVATE -fsanitize=${QUVPROTOCOL_SANITIZERS} -fno-omit-frame-pointer
+            -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=${QUVPROTOCOL_SANITIZERS})
+    endif()
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+endfunction()
+
+# Installs a library with its CMake package and its pkg-config file; headers are installed where they are listed.
+function(quv_install_library target)
+    install(TARGETS ${target} EXPORT ${target}Targets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
+    install(EXPORT ${target}Targets NAMESPACE ${target}:: DESTINATION ${package_dir})
+    configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/${target}Config.cmake.in
+        ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake INSTALL_DESTINATION ${package_dir})
+    write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
+        COMPATIBILITY SameMinorVersion)
+    install(FILES
+        ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake
+        ${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
+        ${PROJECT_SOURCE_DIR}/cmake/FindXmlRpcpp.cmake
+        DESTINATION ${package_dir})
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/${target}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()
