@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "base/translation_p.h"
+
+#include <QtCore/QList>
+#include <QtCore/QPair>
+#include <QtCore/QString>
+
+namespace quv {
+
+// Bit words. Three tables tell all that there is to tell of a status word: which bit of which word is which flag, which
+// flag is worth a line when it is set, and which when it changes.
+
+/** One bit of a firmware word. An inverted flag is true while the bit is clear. */
+template <class Status>
+struct MaskBit
+{
+    int word;
+    int bit;
+    bool Status::*flag;
+    bool inverted = false;
+};
+
+/** Sets all flags of one word. */
+template <class Status, class Table>
+void applyWord(const Table &table, int word, unsigned mask, Status &status)
+{
+    for (const auto &row : table) {
+        if (row.word == word)
+            status.*row.flag = ((mask >> row.bit & 1U) != 0) != row.inverted;
+    }
+}
+
+/** A text that may differ between a dispenser and a mixer; marked with QT_TRANSLATE_NOOP where it stands. */
+struct DeviceText
+{
+    const char *dispenser = nullptr;
+    const char *mixer = nullptr; ///< null: the same as on a dispenser
+
+    constexpr DeviceText() = default;
+    constexpr DeviceText(const char *both) : dispenser(both) {}
+    constexpr DeviceText(const char *onDispenser, const char *onMixer)
+        : dispenser(onDispenser),
+          mixer(onMixer)
+    {}
+
+    const char *of(bool isDispenser) const { return isDispenser || !mixer ? dispenser : mixer; }
+};
+
+/** A condition worth a line while it lasts; a bad one is a reason not to work. */
+template <class Status>
+struct Condition
+{
+    bool Status::*flag;
+    DeviceText text;
+    bool bad = false;
+};
+
+template <class Status, class Table>
+void describeConditions(const Table &table, const Status &status, bool isDispenser,
+                        QList<QPair<QString, bool>> &descriptions)
+{
+    for (const auto &row : table) {
+        if (status.*row.flag)
+            descriptions.append({translated(row.text.of(isDispenser)), row.bad});
+    }
+}
+
+/** The lines for a flag that went on, translated, and off, which stands as written; without a text no line. */
+template <class Status>
+struct Change
+{
+    bool Status::*flag;
+    DeviceText on;
+    DeviceText off;
+};
+
+template <class Status, class Table>
+void describeChanges(const Table &table, const Status &before, const Status &after, bool isDispenser,
+                     QList<QString> &changes)
+{
+    for (const auto &row : table) {
+        if (before.*row.flag == after.*row.flag)
+            continue;
+        const bool isOn = after.*row.flag;
+        if (const char *text = (isOn ? row.on : row.off).of(isDispenser))
+            changes.append(isOn ? translated(text) : QString::fromUtf8(text));
+    }
+}
+
+} // namespace quv

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QuvFramework/fw_version.h>
+
+namespace quv {
+
+/** A firmware family that has something from the revision after \a aboveRevision on. */
+struct FamilyGate
+{
+    static constexpr int always = -1;
+
+    int family;
+    int aboveRevision = always;
+};
+
+/** True when one of the gates names the version's family and its revision lies above. */
+template <class Gates>
+bool passesGate(const Gates &gates, const FW_Version &version)
+{
+    for (const FamilyGate &gate : gates) {
+        if (gate.family == version.m_family)
+            return gate.aboveRevision == FamilyGate::always || version.m_revision > gate.aboveRevision;
+    }
+    return false;
+}
+
+} // namespace quv

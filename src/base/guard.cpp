@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/guard_p.h"
+
+namespace quv {
+
+bool reportCurrentException(const char *code, const char *text, FW_DriverError *error)
+{
+    try {
+        throw;
+    } catch (const FW_Exception &exception) {
+        if (error)
+            *error = exception;
+    } catch (...) {
+        FW_DriverError::D_E(code, text, error);
+    }
+    return false;
+}
+
+void rethrowCurrentException(const char *code, const char *text, const char *function)
+{
+    try {
+        throw;
+    } catch (const FW_Exception &) {
+        throw;
+    } catch (...) {
+        throw FW_Exception(code, text, function);
+    }
+}
+
+} // namespace quv

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QStringList>
+
+namespace quv {
+
+/** Reads a hexadecimal number of 32 bits, as QString::toUInt does; the firmware's short tokens take a faster road. */
+bool parseHex(const QString &token, unsigned &number);
+
+/** Why a token was refused. */
+struct TokenRefusal
+{
+    const char *code;
+    const char *text;
+};
+
+/**
+ * Walks the hexadecimal tokens of a firmware answer. The throwing readers raise FW_Exception with the refusal that they
+ * are handed when the tokens have run out or one is no number.
+ */
+class TokenReader
+{
+public:
+    /** \a tokens must outlive the reader; \a function is the signature that refusals name. */
+    TokenReader(const QStringList &tokens, int first, const char *function)
+        : m_tokens(tokens),
+          m_index(first),
+          m_function(function)
+    {}
+
+    int remaining() const { return qMax(m_tokens.size() - m_index, 0); }
+    bool atEnd() const { return remaining() == 0; }
+
+    /** The next number, without throwing; false at the end and on a bad token, which is stepped over. */
+    bool next(unsigned &number);
+    /** The next token as a number that is not checked: 0 for anything that is none. */
+    unsigned nextUnchecked();
+
+    int next(const TokenRefusal &refusal);
+    /** A number of \a digits base-246 digits, low digit first. */
+    long long nextNumber(int digits, const TokenRefusal &refusal);
+    /** Refuses when fewer than \a count tokens remain. */
+    void require(int count, const TokenRefusal &refusal) const;
+
+private:
+    [[noreturn]] void refuse(const TokenRefusal &refusal) const;
+
+    const QStringList &m_tokens;
+    int m_index = 0;
+    const char *m_function = "";
+};
+
+} // namespace quv
