@@ -7,6 +7,10 @@
 #include <QtCore/QPair>
 #include <QtCore/QString>
 
+#include <cstddef>
+#include <iterator>
+#include <utility>
+
 namespace quv {
 
 // Bit words. Three tables tell all that there is to tell of a status word: which bit of which word is which flag, which
@@ -22,14 +26,24 @@ struct MaskBit
     bool inverted = false;
 };
 
-/** Sets all flags of one word. */
-template <class Status, class Table>
-void applyWord(const Table &table, int word, unsigned mask, Status &status)
+template <const auto &table, class Status, std::size_t... row>
+void applyRows(const unsigned *masks, int lastWord, Status &status, std::index_sequence<row...>)
 {
-    for (const auto &row : table) {
-        if (row.word == word)
-            status.*row.flag = ((mask >> row.bit & 1U) != 0) != row.inverted;
-    }
+    const auto apply = [&](const MaskBit<Status> &bit) {
+        if (bit.word <= lastWord)
+            status.*bit.flag = ((masks[bit.word] >> bit.bit & 1U) != 0) != bit.inverted;
+    };
+    (apply(table[row]), ...);
+}
+
+/**
+ * Sets the flags of all words from the first to \a lastWord; \a masks is indexed by the word's number. The table is a
+ * constant that the compiler unrolls: the status is asked for all day long.
+ */
+template <const auto &table, class Status>
+void applyWords(const unsigned *masks, int lastWord, Status &status)
+{
+    applyRows<table>(masks, lastWord, status, std::make_index_sequence<std::size(table)>());
 }
 
 /** A text that may differ between a dispenser and a mixer; marked with QT_TRANSLATE_NOOP where it stands. */

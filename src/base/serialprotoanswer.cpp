@@ -6,6 +6,8 @@
 
 #include <QuvFramework/fw_exception.h>
 
+#include <utility>
+
 SerialProtoAnswer::SerialProtoAnswer() : ProtoAnswer(quv::SerialType) {}
 
 SerialProtoAnswer::SerialProtoAnswer(QStringList tokens) : ProtoAnswer(quv::SerialType)
@@ -17,7 +19,12 @@ SerialProtoAnswer::SerialProtoAnswer(QStringList tokens) : ProtoAnswer(quv::Seri
         throw FW_Exception("DE00070", "Invalid parameter length type found in answer", Q_FUNC_INFO);
     if (static_cast<quint64>(tokens.size()) < static_cast<quint64>(length) + 1)
         throw FW_Exception("DE00077", "Error during command answer decoding: bad length", Q_FUNC_INFO);
-    m_parameters = tokens.mid(1);
+    if (tokens.isDetached()) { // handed over: no token needs to be copied
+        m_parameters = std::move(tokens);
+        m_parameters.removeFirst();
+    } else {
+        m_parameters = tokens.mid(1);
+    }
 }
 
 SerialProtoAnswer::SerialProtoAnswer(QList<QVariant> &list) : ProtoAnswer(quv::SerialType, list) {}

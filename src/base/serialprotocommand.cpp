@@ -5,6 +5,8 @@
 #include "base/prototypes_p.h"
 #include "base/replaceanswer_p.h"
 
+#include <utility>
+
 SerialProtoCommand::SerialProtoCommand() : ProtoCommand(quv::SerialType) {}
 
 SerialProtoCommand::SerialProtoCommand(QString command, const FW_Machine *machine)
@@ -77,5 +79,5 @@ QList<int> SerialProtoCommand::serialParameters(int) const
 
 bool SerialProtoCommand::setSerialAnswer(QStringList tokens, FW_DriverError *error)
 {
-    return buildProtoAnswer(tokens, error);
+    return buildProtoAnswer(std::move(tokens), error);
 }

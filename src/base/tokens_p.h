@@ -5,8 +5,35 @@
 
 namespace quv {
 
-/** Reads a hexadecimal number of 32 bits, as QString::toUInt does; the firmware's short tokens take a faster road. */
-bool parseHex(const QString &token, unsigned &number);
+/** Reads a hexadecimal number of 32 bits with all that QString::toUInt allows: blanks, a sign, a prefix, leading zeros. */
+bool parseAnyHex(const QString &token, unsigned &number);
+
+/** The value of a hexadecimal digit; negative for any other character. */
+inline int hexDigit(QChar character)
+{
+    const unsigned c = character.unicode();
+    const unsigned decimal = c - '0';
+    if (decimal < 10)
+        return static_cast<int>(decimal);
+    const unsigned letter = (c | 0x20U) - 'a';
+    return letter < 6 ? static_cast<int>(letter) + 10 : -1;
+}
+
+/** Reads a hexadecimal number of 32 bits; false, and 0, for anything else. Nearly all tokens have one digit or two. */
+inline bool parseHex(const QString &token, unsigned &number)
+{
+    const int size = token.size();
+    const QChar *text = token.constData();
+    if (size == 1 || size == 2) {
+        const int high = size == 2 ? hexDigit(text[0]) : 0;
+        const int low = hexDigit(text[size - 1]);
+        if ((high | low) >= 0) {
+            number = static_cast<unsigned>(high * 16 + low);
+            return true;
+        }
+    }
+    return parseAnyHex(token, number);
+}
 
 /** Why a token was refused. */
 struct TokenRefusal
@@ -33,9 +60,13 @@ public:
     bool atEnd() const { return remaining() == 0; }
 
     /** The next number, without throwing; false at the end and on a bad token, which is stepped over. */
-    bool next(unsigned &number);
+    bool next(unsigned &number) { return !atEnd() && parseHex(m_tokens.at(m_index++), number); }
     /** The next token as a number that is not checked: 0 for anything that is none. */
-    unsigned nextUnchecked();
+    unsigned nextUnchecked()
+    {
+        unsigned number = 0;
+        return next(number) ? number : 0;
+    }
 
     int next(const TokenRefusal &refusal);
     /** A number of \a digits base-246 digits, low digit first. */

@@ -11,6 +11,8 @@
 #include <QuvFramework/fw_utils.h>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace {
 
@@ -90,6 +92,7 @@ struct Word
 };
 
 constexpr int requiredWords = 4;
+constexpr int lastWordNumber = 12;
 
 constexpr Word words[] = {
     {1, {"DE00128", "Error during command answer decoding: mask 1"}},
@@ -106,7 +109,7 @@ constexpr Word words[] = {
     {12, {"DE02878", "Error during command answer decoding: mask 10"}},
 };
 
-constexpr unsigned noPosition = 245;
+constexpr int noPosition = 245;
 
 constexpr quv::Condition<Status> conditionsBeforeHeads[] = {
     {&Status::tinting, QT_TRANSLATE_NOOP("QuvProtocol", "Tinting in progress")},
@@ -269,11 +272,10 @@ DispenserStatusAnswer::DispenserStatusAnswer(const XmlRpc::XmlRpcValue &value)
 
 DispenserStatusAnswer::DispenserStatusAnswer(QStringList tokens)
     : MachineStatusAnswer(tokens),
-      SerialProtoAnswer(tokens)
+      SerialProtoAnswer(std::move(tokens))
 {
-    FW_DriverError error;
-    if (!decodeMasks(m_parameters, 2, &error))
-        throw FW_Exception(error, Q_FUNC_INFO);
+    if (const quv::TokenRefusal *refusal = decodeWords(m_parameters, 2))
+        throw FW_Exception(refusal->code, refusal->text, Q_FUNC_INFO);
 }
 
 DispenserStatusAnswer *DispenserStatusAnswer::clone() const
@@ -283,28 +285,34 @@ DispenserStatusAnswer *DispenserStatusAnswer::clone() const
 
 bool DispenserStatusAnswer::decodeSerialStatus(QStringList tokens, FW_DriverError *error)
 {
-    return decodeMasks(tokens, 0, error);
+    const quv::TokenRefusal *refusal = decodeWords(tokens, 0);
+    return refusal ? FW_DriverError::D_E(refusal->code, refusal->text, error) : true;
 }
 
-bool DispenserStatusAnswer::decodeMasks(const QStringList &tokens, int first, FW_DriverError *error)
+const quv::TokenRefusal *DispenserStatusAnswer::decodeWords(const QStringList &tokens, int first)
 {
+    static constexpr quv::TokenRefusal tooFew = {"DE02666", "Error during command answer decoding"};
+
     quv::TokenReader reader(tokens, first, "");
     if (reader.remaining() < requiredWords)
-        return FW_DriverError::D_E("DE02666", "Error during command answer decoding", error);
+        return &tooFew;
+    std::array<unsigned, lastWordNumber + 1> masks{};
+    int decoded = 0;
+    const quv::TokenRefusal *refusal = nullptr;
     for (const Word &word : words) {
         if (reader.atEnd())
             break; // older firmware sends fewer words
         if (word.position) {
-            const unsigned position = reader.nextUnchecked();
-            this->*word.position = position == noPosition ? 0 : static_cast<int>(position);
-            continue;
+            const int position = static_cast<int>(reader.nextUnchecked());
+            this->*word.position = position == noPosition || position < 0 ? 0 : position;
+        } else if (!reader.next(masks[static_cast<std::size_t>(word.number)])) {
+            refusal = &word.refusal;
+            break;
         }
-        unsigned mask = 0;
-        if (!reader.next(mask))
-            return FW_DriverError::D_E(word.refusal.code, word.refusal.text, error);
-        quv::applyWord(bits, word.number, mask, *this);
+        decoded = word.number;
     }
-    return true;
+    quv::applyWords<bits>(masks.data(), decoded, *this);
+    return refusal;
 }
 
 bool DispenserStatusAnswer::acceptCommands() const

@@ -6,6 +6,10 @@
 
 struct FW_Version;
 
+namespace quv {
+struct TokenRefusal;
+}
+
 /**
  * The status of a dispenser, the answer to GET_STATUS: what the machine is doing right now. Over the serial link it is a
  * list of masks of seven bits each, over XML-RPC one flat struct of flags and three ints.
@@ -97,5 +101,6 @@ public:
     int current_position_id_zone = 0; ///< 0: no zone
 
 private:
-    bool decodeMasks(const QStringList &tokens, int first, FW_DriverError *error);
+    /** Reads the words from \a first on; null, or why not. */
+    const quv::TokenRefusal *decodeWords(const QStringList &tokens, int first);
 };

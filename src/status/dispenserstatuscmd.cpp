@@ -6,6 +6,8 @@
 #include "catalogue/protocommandlist.h"
 #include "status/dispenserstatusanswer.h"
 
+#include <utility>
+
 namespace {
 
 constexpr char answerFailed[] = "Failed to create DispenserStatusAnswer";
@@ -87,7 +89,7 @@ bool DispenserStatusCmd::buildProtoAnswer(QList<QVariant> &list, FW_DriverError 
 bool DispenserStatusCmd::buildProtoAnswer(QStringList tokens, FW_DriverError *error)
 {
     return replaceProtoAnswer("DE00097", answerFailed, error,
-                              [&] { return new DispenserStatusAnswer(tokens); });
+                              [&] { return new DispenserStatusAnswer(std::move(tokens)); });
 }
 
 bool DispenserStatusCmd::setAnswer(const XmlRpc::XmlRpcValue &value, bool async, FW_DriverError *error)

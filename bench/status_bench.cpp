@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "ratios.h"
+#include "status/dispenserstatusanswer.h"
+
+#include <QtCore/QStringList>
+
+namespace {
+
+using XmlRpc::XmlRpcValue;
+
+/** A dispenser in the middle of its work: flags in every word, a position and a zone. */
+QStringList tokens()
+{
+    return QString::fromLatin1("E 0 1 4 1 0 8 4 5 2 6 3 10 0 8").split(QLatin1Char(' '));
+}
+
+unsigned sumOfWords(const QStringList &list)
+{
+    unsigned sum = 0;
+    bool ok = false;
+    for (int i = 3; i < 15; ++i)
+        sum += list.at(i).toUInt(&ok, 16);
+    return sum;
+}
+
+const std::vector<std::string> &flagNames()
+{
+    static const std::vector<std::string> names = [] {
+        std::vector<std::string> all;
+        const XmlRpcValue value = DispenserStatusAnswer().toXmlRpcValue();
+        for (const auto &[name, member] : value) {
+            if (member.getType() == XmlRpcValue::TypeBoolean)
+                all.push_back(name);
+        }
+        return all;
+    }();
+    return names;
+}
+
+const std::vector<std::string> intNames = {"disp_status", "current_position_id", "current_position_id_zone"};
+
+XmlRpcValue structByHand()
+{
+    XmlRpcValue value;
+    for (const std::string &name : flagNames())
+        value[name] = true;
+    for (const std::string &name : intNames)
+        value[name] = 1;
+    return value;
+}
+
+int readByHand(const XmlRpcValue &value)
+{
+    int sum = 0;
+    for (const std::string &name : flagNames()) {
+        if (value.hasMember(name))
+            sum += static_cast<const bool &>(value[name]) ? 1 : 0;
+    }
+    for (const std::string &name : intNames) {
+        if (value.hasMember(name))
+            sum += static_cast<const int &>(value[name]);
+    }
+    return sum;
+}
+
+} // namespace
+
+void quv::registerStatus()
+{
+    addRatio("status: 12 words from tokens", 1.3,
+             repeat([list = tokens()] { return DispenserStatusAnswer(list); }),
+             repeat([list = tokens()] { return sumOfWords(list); }));
+
+    const DispenserStatusAnswer answer(tokens());
+    addRatio("status: to its struct", 1.0, repeat([answer] { return answer.toXmlRpcValue(); }),
+             repeat([] { return structByHand(); }));
+
+    const XmlRpcValue value = answer.toXmlRpcValue();
+    addRatio("status: from its struct", 0.4, repeat([value] { return DispenserStatusAnswer(value); }),
+             repeat([value] { return readByHand(value); }));
+}

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "fuzzinput.h"
+#include "status/dispenserstatusanswer.h"
+
+#include <QuvFramework/fw_exception.h>
+
+#include <QtCore/QString>
+
+namespace {
+
+bool isCode(const QString &code)
+{
+    return code.size() == 7 && code.startsWith(QLatin1String("DE"));
+}
+
+/** A status that was decoded writes itself and reads back the same, and can be told in words. */
+void checkAnswer(const DispenserStatusAnswer &answer)
+{
+    quv::require(answer.checkStatus(answer.status()), "a decoded status is 1 or 2");
+    quv::require(answer == DispenserStatusAnswer(answer.toXmlRpcValue()),
+                 "a status reads back from its struct");
+    quv::require(answer.hasBadWorkingState() == !answer.getFirstBadWorkingState().isEmpty(),
+                 "a bad state has a text");
+    const DispenserStatusAnswer cleared;
+    quv::require(DispenserStatusAnswer::getNewStatesDescriptions(&answer, &answer).isEmpty(),
+                 "no change, no text");
+    DispenserStatusAnswer::getNewStatesDescriptions(&cleared, &answer);
+}
+
+} // namespace
+
+/** Blank-separated tokens of a firmware answer give a status, or a refusal with its code. */
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    try {
+        checkAnswer(DispenserStatusAnswer(text.split(QLatin1Char(' '))));
+    } catch (const FW_Exception &refusal) {
+        quv::require(isCode(refusal.code()) && !refusal.text().isEmpty() && !refusal.function().isEmpty(),
+                     "a refusal has its code, its text and its function");
+    }
+    return 0;
+}
