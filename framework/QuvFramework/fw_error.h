@@ -26,11 +26,14 @@ public:
     virtual QString toPrintableString() const = 0; ///< one line, whatever the texts hold
     virtual XmlRpc::XmlRpcValue toXmlRpcValue() const;
 
-    /** Same class and same content. The time is left out: the same error told twice is one error. */
+    /**
+     * Same type and same content. The time is left out: the same error told twice is one error; and so is the function
+     * of an exception, which does not travel.
+     */
     virtual bool equalTo(const FW_Error &other) const = 0;
 
     QDateTime timestamp() const { return m_timestamp; }
-    void setTimestamp(const QDateTime &timestamp) { m_timestamp = timestamp; }
+    void setTimestamp(const QDateTime &timestamp); ///< an invalid time changes nothing
 
     /** The kind of the error that \a value holds; Undefined when it holds none. */
     static Type errorType(const XmlRpc::XmlRpcValue &value);

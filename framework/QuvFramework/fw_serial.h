@@ -18,6 +18,8 @@ QUVFRAMEWORK_EXPORT QList<int> splitValue(long long value, int base);
  * \a ok, when given, is false for a token that is no number, a base below 2 or a number beyond 63 bits; the result is 0 then.
  */
 QUVFRAMEWORK_EXPORT long long joinValues(const QStringList &tokens, int base, bool hex, bool *ok = nullptr);
+template <class T>
+long long joinValues(const QStringList &tokens, int base, T *ok) = delete; // would be a true hex
 QUVFRAMEWORK_EXPORT long long joinValues(const QList<int> &digits, int base, bool *ok = nullptr);
 
 /**

@@ -47,15 +47,19 @@ QUVFRAMEWORK_EXPORT bool DecodeXmlRpcValue(const XmlRpc::XmlRpcValue &value, Xml
 
 /** The member \a key of the struct \a value, in place; null when it is missing or \a value is no struct. */
 QUVFRAMEWORK_EXPORT const XmlRpc::XmlRpcValue *FindXmlRpcMember(const XmlRpc::XmlRpcValue &value,
-                                                                const char *key);
+                                                                const std::string &key);
 /** The element \a index of the array \a value, in place; null when it is out of range or \a value is no array. */
 QUVFRAMEWORK_EXPORT const XmlRpc::XmlRpcValue *FindXmlRpcElement(const XmlRpc::XmlRpcValue &value, int index);
+// what they gave of a temporary would be gone with it
+const XmlRpc::XmlRpcValue *FindXmlRpcMember(const XmlRpc::XmlRpcValue &&value,
+                                            const std::string &key) = delete;
+const XmlRpc::XmlRpcValue *FindXmlRpcElement(const XmlRpc::XmlRpcValue &&value, int index) = delete;
 
 /** The member \a key of a struct, as one of the types above. */
 template <class T>
 bool DecodeXmlRpcValue(const XmlRpc::XmlRpcValue &value, const QString &key, T &out)
 {
-    const XmlRpc::XmlRpcValue *member = FindXmlRpcMember(value, key.toUtf8().constData());
+    const XmlRpc::XmlRpcValue *member = FindXmlRpcMember(value, EncodeXmlRpcText(key));
     return member && DecodeXmlRpcValue(*member, out);
 }
 
@@ -66,6 +70,10 @@ bool DecodeXmlRpcValue(const XmlRpc::XmlRpcValue &value, int index, T &out)
     const XmlRpc::XmlRpcValue *element = FindXmlRpcElement(value, index);
     return element && DecodeXmlRpcValue(*element, out);
 }
+
+// a pointer would become a boolean value, in which there is nothing to find
+template <class T, class... Arguments>
+bool DecodeXmlRpcValue(const T *value, Arguments &&...arguments) = delete;
 
 /** The raw member; false when it is missing. */
 QUVFRAMEWORK_EXPORT bool DecodeXmlRpcMember(const XmlRpc::XmlRpcValue &value, const QString &key,
@@ -81,8 +89,8 @@ QUVFRAMEWORK_EXPORT bool DecodeXmlRpcTimestamp(const XmlRpc::XmlRpcValue &value,
 /** Any XML-RPC value as a variant: scalars, QByteArray, QDateTime, QList<QVariant>, QMap<QString, QVariant>. */
 QUVFRAMEWORK_EXPORT QVariant DecodeXmlRpcVariant(const XmlRpc::XmlRpcValue &value);
 /**
- * The inverse. A whole number beyond 32 bits becomes a double. What XML-RPC cannot hold, an invalid variant among it,
- * becomes the integer 0: an empty value cannot be read back from a document.
+ * The inverse. A whole number beyond 32 bits becomes a double, a date and time is written in local time. What XML-RPC
+ * cannot hold, an invalid variant among it, becomes the integer 0: an empty value cannot be read back from a document.
  */
 QUVFRAMEWORK_EXPORT XmlRpc::XmlRpcValue EncodeXmlRpcVariant(const QVariant &variant);
 
@@ -102,8 +110,9 @@ QUVFRAMEWORK_EXPORT void EncodeXmlRpcValue(XmlRpc::XmlRpcValue &value, const QSt
                                            const XmlRpc::XmlRpcValue &member);
 QUVFRAMEWORK_EXPORT void EncodeXmlRpcValue(XmlRpc::XmlRpcValue &value,
                                            const QMap<QString, QVariant> &members);
+template <class T>
 void EncodeXmlRpcValue(XmlRpc::XmlRpcValue &value, const QString &key,
-                       const char *member) = delete; // would be a bool
+                       const T *member) = delete; // would be a bool
 
 /**
  * The element \a index of a list. False, and \a out left alone, when it is out of range or does not convert: an int is

@@ -65,6 +65,12 @@ FW_Error::FW_Error(const XmlRpc::XmlRpcValue &value)
 
 FW_Error::~FW_Error() = default;
 
+void FW_Error::setTimestamp(const QDateTime &timestamp)
+{
+    if (timestamp.isValid())
+        m_timestamp = timestamp;
+}
+
 XmlRpc::XmlRpcValue FW_Error::toXmlRpcValue() const
 {
     XmlRpc::XmlRpcValue value;

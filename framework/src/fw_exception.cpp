@@ -5,11 +5,25 @@
 
 namespace {
 
-/** clang prints "const A &" where g++ prints "const A&". */
-QString asGccPrints(QString signature)
+/** clang puts the blank before "*" and "&": "const A &", "A *f()", where g++ prints "const A&", "A* f()". */
+QString asGccPrints(const QString &signature)
 {
-    return signature.replace(QLatin1String(" *"), QLatin1String("*"))
-        .replace(QLatin1String(" &"), QLatin1String("&"));
+    QString text;
+    bool blankTaken = false;
+    for (const QChar c : signature) {
+        if (c == QLatin1Char('*') || c == QLatin1Char('&')) {
+            if (text.endsWith(QLatin1Char(' '))) {
+                text.chop(1);
+                blankTaken = true;
+            }
+        } else {
+            if (blankTaken && (c.isLetter() || c == QLatin1Char('_')))
+                text += QLatin1Char(' ');
+            blankTaken = false;
+        }
+        text += c;
+    }
+    return text;
 }
 
 } // namespace

@@ -39,8 +39,9 @@ double roundD(double value, unsigned int digits)
 {
     const double factor = std::pow(10.0, digits);
     const double scaled = value * factor;
-    // beyond the range a double has no such decimals: the value is already round
-    return std::isfinite(scaled) ? std::round(scaled) / factor : value;
+    // from here on a double has no such decimals: the value is already round
+    constexpr double wholeFrom = 4503599627370496.0; // 2 to the power of 52
+    return std::abs(scaled) < wholeFrom ? std::round(scaled) / factor : value;
 }
 
 int maxValue(const QList<int> &values)
@@ -71,8 +72,10 @@ double getRandomNumber(double min, double max)
     const auto [low, high] = std::minmax(min, max);
     if (!(low < high))
         return low;
-    return std::uniform_real_distribution<double>(
-        low, std::nextafter(high, std::numeric_limits<double>::infinity()))(threadGenerator());
+    // a share of each limit: the distance of the two may be beyond the range of a double
+    const double share =
+        std::uniform_real_distribution<double>(0.0, std::nextafter(1.0, 2.0))(threadGenerator());
+    return std::clamp(low * (1.0 - share) + high * share, low, high);
 }
 
 int getThRandom()

@@ -5,7 +5,10 @@
 #include <QtCore/QTextCodec>
 #include <QtCore/QTime>
 
+#include <ctime>
+#include <initializer_list>
 #include <limits>
+#include <type_traits>
 
 using XmlRpc::XmlRpcValue;
 
@@ -62,10 +65,11 @@ bool storeStruct(const XmlRpcValue &value, Map &out)
     return true;
 }
 
-QDateTime fromBrokenDownTime(const std::tm &time, Qt::TimeSpec spec)
+QDateTime fromBrokenDownTime(const std::tm &broken, Qt::TimeSpec spec)
 {
-    return QDateTime(QDate(time.tm_year + 1900, time.tm_mon + 1, time.tm_mday),
-                     QTime(time.tm_hour, time.tm_min, time.tm_sec), spec);
+    const QDate date(broken.tm_year + 1900, broken.tm_mon + 1, broken.tm_mday);
+    const QTime time(broken.tm_hour, broken.tm_min, broken.tm_sec);
+    return time.isValid() ? QDateTime(date, time, spec) : QDateTime(); // Qt would take midnight instead
 }
 
 std::tm toBrokenDownTime(const QDateTime &dateTime)
@@ -257,7 +261,7 @@ bool DecodeXmlRpcValue(const XmlRpcValue &value, XmlRpcValue &out)
     return true;
 }
 
-const XmlRpcValue *FindXmlRpcMember(const XmlRpcValue &value, const char *key)
+const XmlRpcValue *FindXmlRpcMember(const XmlRpcValue &value, const std::string &key)
 {
     // operator[] would insert a missing member, through a const value as well
     return value.getType() == XmlRpcValue::TypeStruct && value.hasMember(key) ? &value[key] : nullptr;
@@ -276,7 +280,7 @@ bool DecodeXmlRpcMember(const XmlRpcValue &value, const QString &key, XmlRpcValu
 
 bool DecodeXmlRpcTimestamp(const XmlRpcValue &value, const QString &key, QDateTime &out, bool utc)
 {
-    const XmlRpcValue *member = FindXmlRpcMember(value, key.toUtf8().constData());
+    const XmlRpcValue *member = FindXmlRpcMember(value, EncodeXmlRpcText(key));
     if (!member)
         return false;
     const Qt::TimeSpec spec = utc ? Qt::UTC : Qt::LocalTime;
@@ -337,6 +341,9 @@ XmlRpcValue EncodeXmlRpcVariant(const QVariant &variant)
         return XmlRpcValue(variant.toBool());
     case QMetaType::Int:
         return XmlRpcValue(variant.toInt());
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
     case QMetaType::Short:
     case QMetaType::UShort:
     case QMetaType::UInt:
@@ -357,7 +364,10 @@ XmlRpcValue EncodeXmlRpcVariant(const QVariant &variant)
     case QMetaType::QByteArray:
         return binary(variant.toByteArray());
     case QMetaType::QDateTime: {
-        std::tm time = toBrokenDownTime(variant.toDateTime());
+        const QDateTime dateTime = variant.toDateTime().toLocalTime();
+        if (!dateTime.isValid())
+            break;
+        std::tm time = toBrokenDownTime(dateTime);
         return XmlRpcValue(&time);
     }
     case QMetaType::QStringList:

@@ -20,9 +20,9 @@ namespace quv {
 /** A refusal of one argument: its code in the XML-RPC form and in the list form, and the text of both. */
 struct ArgumentRefusal
 {
-    const char *valueCode;
-    const char *listCode;
-    const char *text;
+    const char *valueCode = "";
+    const char *listCode = "";
+    const char *text = "";
 };
 
 // An argument in a variant list: the stored type decides, nothing is converted but whole numbers in range.

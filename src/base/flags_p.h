@@ -20,9 +20,9 @@ namespace quv {
 template <class Status>
 struct MaskBit
 {
-    int word;
-    int bit;
-    bool Status::*flag;
+    int word = 0;
+    int bit = 0;
+    bool Status::*flag = nullptr;
     bool inverted = false;
 };
 
@@ -66,7 +66,7 @@ struct DeviceText
 template <class Status>
 struct Condition
 {
-    bool Status::*flag;
+    bool Status::*flag = nullptr;
     DeviceText text;
     bool bad = false;
 };
@@ -85,7 +85,7 @@ void describeConditions(const Table &table, const Status &status, bool isDispens
 template <class Status>
 struct Change
 {
-    bool Status::*flag;
+    bool Status::*flag = nullptr;
     DeviceText on;
     DeviceText off;
 };

@@ -10,7 +10,7 @@ struct FamilyGate
 {
     static constexpr int always = -1;
 
-    int family;
+    int family = 0;
     int aboveRevision = always;
 };
 

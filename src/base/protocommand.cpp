@@ -159,7 +159,8 @@ XmlRpc::XmlRpcValue ProtoCommand::xmlrpc_parameters(bool *ok) const
 
 void ProtoCommand::setProtoAnswer(ProtoAnswer *answer)
 {
-    m_protoAnswer = cloned(answer);
+    // nobody is told of a failure: what cannot be copied is no answer
+    replaceProtoAnswer("", "", nullptr, [&] { return cloned(answer).release(); });
 }
 
 ProtoAnswer *ProtoCommand::getProtoAnswer(bool *ok) const
@@ -315,7 +316,13 @@ bool ProtoCommand::takeXmlRpcAnswer(const XmlRpc::XmlRpcValue &value, bool async
     m_xmlRpcAnswer = std::move(envelope);
     if (!decoded || m_protoAnswer || m_xmlRpcAnswer->retCode() != 0)
         return decoded;
-    return buildProtoAnswer(m_xmlRpcAnswer->xmlrpcRetValue(), error);
+
+    bool built = false;
+    const bool kept = quv::guarded(
+        code, text, error, [&] { built = buildProtoAnswer(m_xmlRpcAnswer->xmlrpcRetValue(), error); });
+    if (!kept) // a subclass threw, and may have left anything
+        clearProtoAnswer();
+    return built;
 }
 
 bool ProtoCommand::takeProtoAnswer(const ProtoAnswer *answer, const char *nullCode, const char *cloneCode,

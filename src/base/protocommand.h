@@ -48,7 +48,8 @@ public:
     /** The arguments as an XML-RPC array; \a ok, when given, becomes true. */
     virtual XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const;
 
-    virtual void setProtoAnswer(ProtoAnswer *answer); ///< stores a clone; null only clears
+    /** Stores a clone; null, and an answer that cannot be cloned, only clears. Never throws. */
+    virtual void setProtoAnswer(ProtoAnswer *answer);
     virtual ProtoAnswer *getProtoAnswer(bool *ok = nullptr) const;
     virtual XmlRpcAnswer *getXmlRpcAnswer(bool *ok = nullptr) const;
 

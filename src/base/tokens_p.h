@@ -38,8 +38,8 @@ inline bool parseHex(const QString &token, unsigned &number)
 /** Why a token was refused. */
 struct TokenRefusal
 {
-    const char *code;
-    const char *text;
+    const char *code = "";
+    const char *text = "";
 };
 
 /**

@@ -20,26 +20,27 @@ class SerialProtoCommand;
 /** One row of the catalogue: a command, who carries it out, and how the driver schedules it. */
 struct CMD_STRUCT
 {
-    int id;          ///< the row's number, equal to its CommandListValue
+    int id = 0;      ///< the row's number, equal to its CommandListValue
     QString name;    ///< as clients spell it
     QString code;    ///< firmware code of command family 1, four hexadecimal digits; empty when there is none
     QString altCode; ///< firmware code of command family 2, of any form; empty when there is none
-    int maxParams;   ///< greatest number of parameters that a caller may give; never enforced
-    int minParams;   ///< number of mandatory parameters
-    int type; ///< who carries it out: 0 firmware, 1 driver, 2 and 3 both, 5 and 6 special procedures of either, 7 scale
-    int target; ///< mask of SerialDeviceType
-    bool multiple;
-    bool addressMachine; ///< false: a command of the driver alone
-    int workingPriorityLevel;
-    int schedulingPriorityLevel; ///< 1 and above is high
-    bool checkBusy;              ///< the driver must take the machine's busy state into account
-    qint64 busyTimeout;          ///< milliseconds; 0 none, 9999999 when it depends on the parameters
-    bool trackExecutionTime;
-    bool recordInStats;
-    int machineObjUsage;
-    bool privateCommand;
-    bool erogationCommand; ///< delivers colorant
-    int familyMask;        ///< mask of FW_Dispenser::CommandFamily
+    int maxParams = 0; ///< greatest number of parameters that a caller may give; never enforced
+    int minParams = 0; ///< number of mandatory parameters
+    /** Who carries it out: 0 firmware, 1 driver, 2 and 3 both, 5 and 6 special procedures of either, 7 scale. */
+    int type = 0;
+    int target = 0; ///< mask of SerialDeviceType
+    bool multiple = false;
+    bool addressMachine = false; ///< false: a command of the driver alone
+    int workingPriorityLevel = 0;
+    int schedulingPriorityLevel = 0; ///< 1 and above is high
+    bool checkBusy = false;          ///< the driver must take the machine's busy state into account
+    qint64 busyTimeout = 0;          ///< milliseconds; 0 none, 9999999 when it depends on the parameters
+    bool trackExecutionTime = false;
+    bool recordInStats = false;
+    int machineObjUsage = 0;
+    bool privateCommand = false;
+    bool erogationCommand = false; ///< delivers colorant
+    int familyMask = 0;            ///< mask of FW_Dispenser::CommandFamily
 };
 
 /**
@@ -56,7 +57,7 @@ class QUVPROTOCOL_EXPORT ProtoCommandList
 {
 public:
     /** The rows by name; the value is the row's number. */
-    enum CommandListValue {
+    enum CommandListValue : int {
         GET_STATUS = 0,
         GET_DISP_STATUS,
         GET_CIRCUITS_STATUS,

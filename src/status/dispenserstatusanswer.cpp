@@ -86,8 +86,8 @@ constexpr quv::MaskBit<Status> bits[] = {
 /** A word in the order of its token: a mask with its refusal, or one of the two position numbers. */
 struct Word
 {
-    int number;
-    quv::TokenRefusal refusal;
+    int number = 0;
+    quv::TokenRefusal refusal{};
     int Status::*position = nullptr;
 };
 
