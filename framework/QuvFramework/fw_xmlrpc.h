@@ -75,6 +75,9 @@ bool DecodeXmlRpcValue(const XmlRpc::XmlRpcValue &value, int index, T &out)
 template <class T, class... Arguments>
 bool DecodeXmlRpcValue(const T *value, Arguments &&...arguments) = delete;
 
+/** The same type and content, all the way down; the value class's own comparison leaves out the names of members. */
+QUVFRAMEWORK_EXPORT bool SameXmlRpcValue(const XmlRpc::XmlRpcValue &left, const XmlRpc::XmlRpcValue &right);
+
 /** The raw member; false when it is missing. */
 QUVFRAMEWORK_EXPORT bool DecodeXmlRpcMember(const XmlRpc::XmlRpcValue &value, const QString &key,
                                             XmlRpc::XmlRpcValue &out);

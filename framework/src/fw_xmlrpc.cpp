@@ -5,6 +5,7 @@
 #include <QtCore/QTextCodec>
 #include <QtCore/QTime>
 
+#include <algorithm>
 #include <ctime>
 #include <initializer_list>
 #include <limits>
@@ -271,6 +272,29 @@ const XmlRpcValue *FindXmlRpcElement(const XmlRpcValue &value, int index)
 {
     return value.getType() == XmlRpcValue::TypeArray && index >= 0 && index < value.size() ? &value[index]
                                                                                            : nullptr;
+}
+
+bool SameXmlRpcValue(const XmlRpcValue &left, const XmlRpcValue &right)
+{
+    if (left.getType() != right.getType())
+        return false;
+    switch (left.getType()) {
+    case XmlRpcValue::TypeArray:
+        if (left.size() != right.size())
+            return false;
+        for (int i = 0; i < left.size(); ++i) {
+            if (!SameXmlRpcValue(left[i], right[i]))
+                return false;
+        }
+        return true;
+    case XmlRpcValue::TypeStruct:
+        return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                          [](const auto &a, const auto &b) {
+                              return a.first == b.first && SameXmlRpcValue(a.second, b.second);
+                          });
+    default:
+        return left == right;
+    }
 }
 
 bool DecodeXmlRpcMember(const XmlRpcValue &value, const QString &key, XmlRpcValue &out)

@@ -14,7 +14,7 @@ struct FamilyGate
     int aboveRevision = always;
 };
 
-/** True when one of the gates names the version's family and its revision lies above. */
+/** True when the gate of the version's family lets its revision pass; false for a family without a gate. */
 template <class Gates>
 bool passesGate(const Gates &gates, const FW_Version &version)
 {

@@ -296,7 +296,7 @@ public:
     /** Plain command for a name without a class; throws DE00344 (value) or DE00335 (list) for an unknown name. */
     static ConfProtoCommand *getConfigProtoCommand(QString name, XmlRpc::XmlRpcValue &args);
     static ConfProtoCommand *getConfigProtoCommand(QString name, QList<QVariant> args);
-    /** Without arguments. \a name must target a dispenser or a mixer: for any other this call never returns. */
+    /** Without arguments. \a name must target a dispenser or a mixer; any other is refused with DE03010. */
     static ConfProtoCommand *getConfigProtoCommand(QString name, const FW_Machine *machine);
     /** Goes on to getConfigProtoCommand, without the machine, for a name that it has no class for; likewise the next. */
     static ConfProtoCommand *getDispenserConfigProtoCommand(QString name, XmlRpc::XmlRpcValue &args,

@@ -39,7 +39,6 @@ public:
     bool hasBadWorkingState() const override;
     QString getFirstBadWorkingState() const override;
 
-    using MachineStatusAnswer::equalTo;
     bool equalTo(const ProtoAnswer *other) const override;
     XmlRpc::XmlRpcValue toXmlRpcValue() const override;
 

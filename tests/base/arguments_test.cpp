@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/arguments_p.h"
+
+#include "base/basetesting.h"
+
+using namespace testing_base;
+
+namespace {
+
+/** Two arguments that must be given and five that may be. */
+struct Wash
+{
+    int circuit = -1;
+    QString name = "none";
+    bool warm = false;
+    double share = 1.5;
+    long long stamp = 77;
+    QStringList notes = {"old"};
+    QList<int> steps = {9};
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.required(self.circuit, {"V1", "L1", "Circuit missing"},
+                         {"V2", "L2", "Circuit: int expected"});
+        archive.required(self.name, {"V3", "L3", "Name missing"}, {"V4", "L4", "Name: text expected"});
+        archive.optional(self.warm, {"V5", "L5", "Warm: bool expected"});
+        archive.optional(self.share, {"V6", "L6", "Share: number expected"});
+        archive.optional(self.stamp, {"V7", "L7", "Stamp: int expected"});
+        archive.optional(self.notes, {"V8", "L8", "Notes: texts expected"});
+        archive.optional(self.steps, {"V9", "L9", "Steps: ints expected"});
+    }
+};
+
+constexpr char signature[] = "Wash::Wash(const Arguments&)";
+
+Wash readValue(const Value &value)
+{
+    Wash wash;
+    quv::ValueReader reader(value, signature);
+    Wash::arguments(wash, reader);
+    return wash;
+}
+
+Wash readList(const List &list)
+{
+    Wash wash;
+    quv::ListReader reader(list, signature);
+    Wash::arguments(wash, reader);
+    return wash;
+}
+
+void expectValueRefused(const char *code, const char *text, const Value &value)
+{
+    expectRefusal(code, text, signature, [&] { readValue(value); });
+}
+
+void expectListRefused(const char *code, const char *text, const List &list)
+{
+    expectRefusal(code, text, signature, [&] { readList(list); });
+}
+
+void expectFull(const Wash &wash)
+{
+    EXPECT_EQ(wash.circuit, 5);
+    EXPECT_EQ(wash.name, "north");
+    EXPECT_TRUE(wash.warm);
+    EXPECT_EQ(wash.share, 0.25);
+    EXPECT_EQ(wash.stamp, 12);
+    EXPECT_EQ(wash.notes, (QStringList{"a", "b"}));
+    EXPECT_EQ(wash.steps, (QList<int>{1, 2}));
+}
+
+void expectDefaultsAfterName(const Wash &wash)
+{
+    EXPECT_EQ(wash.circuit, 5);
+    EXPECT_EQ(wash.name, "north");
+    EXPECT_FALSE(wash.warm);
+    EXPECT_EQ(wash.share, 1.5);
+    EXPECT_EQ(wash.stamp, 77);
+    EXPECT_EQ(wash.notes, QStringList({"old"}));
+    EXPECT_EQ(wash.steps, QList<int>({9}));
+}
+
+} // namespace
+
+TEST(Arguments, AreReadByPosition)
+{
+    expectFull(readValue(arrayOf(5, "north", true, 0.25, 12, arrayOf("a", "b"), arrayOf(1, 2))));
+    expectFull(readList(
+        {5, "north", true, 0.25, 12LL, QStringList{"a", "b"}, QVariant::fromValue(QList<int>{1, 2})}));
+    expectFull(readList({5, "north", true, 0.25, 12, List{"a", "b"}, QVariant(List{1, 2})}));
+}
+
+TEST(Arguments, NotGivenLeaveTheirFieldsAlone)
+{
+    expectDefaultsAfterName(readValue(arrayOf(5, "north")));
+    expectDefaultsAfterName(readList({5, "north"}));
+}
+
+TEST(Arguments, BeyondTheLastAreNotRead)
+{
+    EXPECT_EQ(readValue(arrayOf(5, "north", true, 0.25, 12, arrayOf("a"), arrayOf(1), "more")).steps,
+              QList<int>({1}));
+}
+
+TEST(Arguments, MissingAreRefusedInTheFormsOwnCode)
+{
+    expectValueRefused("V1", "Circuit missing", arrayOf());
+    expectValueRefused("V1", "Circuit missing", Value());
+    expectValueRefused("V1", "Circuit missing", Value(5));
+    expectValueRefused("V1", "Circuit missing", structOf({{"circuit", 5}}));
+    expectValueRefused("V3", "Name missing", arrayOf(5));
+    expectListRefused("L1", "Circuit missing", {});
+    expectListRefused("L3", "Name missing", {5});
+}
+
+TEST(Arguments, OfAnotherTypeAreRefusedInTheFormsOwnCode)
+{
+    expectValueRefused("V2", "Circuit: int expected", arrayOf("5", "north"));
+    expectValueRefused("V2", "Circuit: int expected", arrayOf(true, "north"));
+    expectValueRefused("V2", "Circuit: int expected", arrayOf(5.0, "north"));
+    expectValueRefused("V4", "Name: text expected", arrayOf(5, 5));
+    expectValueRefused("V5", "Warm: bool expected", arrayOf(5, "north", 1));
+    expectValueRefused("V6", "Share: number expected", arrayOf(5, "north", true, "0.25"));
+    expectValueRefused("V7", "Stamp: int expected", arrayOf(5, "north", true, 0.25, 12.0));
+    expectValueRefused("V8", "Notes: texts expected", arrayOf(5, "north", true, 0.25, 12, arrayOf("a", 1)));
+    expectValueRefused("V9", "Steps: ints expected",
+                       arrayOf(5, "north", true, 0.25, 12, arrayOf(), arrayOf(1, "2")));
+
+    expectListRefused("L2", "Circuit: int expected", {"5", "north"});
+    expectListRefused("L2", "Circuit: int expected", {true, "north"});
+    expectListRefused("L2", "Circuit: int expected", {5.0, "north"});
+    expectListRefused("L2", "Circuit: int expected", {2147483648LL, "north"});
+    expectListRefused("L2", "Circuit: int expected", {QVariant(), "north"});
+    expectListRefused("L4", "Name: text expected", {5, 5});
+    expectListRefused("L5", "Warm: bool expected", {5, "north", 1});
+    expectListRefused("L6", "Share: number expected", {5, "north", true, "0.25"});
+    expectListRefused("L7", "Stamp: int expected", {5, "north", true, 0.25, 12.0});
+    expectListRefused("L8", "Notes: texts expected", {5, "north", true, 0.25, 12, QVariant(List{"a", 1})});
+    expectListRefused("L9", "Steps: ints expected",
+                      {5, "north", true, 0.25, 12, QStringList(), QVariant(List{1, "2"})});
+}
+
+TEST(Arguments, WholeNumbersStandForNumbers)
+{
+    EXPECT_EQ(readValue(arrayOf(5, "north", true, 3)).share, 3.0);
+    EXPECT_EQ(readList({5, "north", true, 3}).share, 3.0);
+    EXPECT_EQ(readList({5LL, "north"}).circuit, 5);
+    EXPECT_EQ(readList({5, "north", true, 0.5, 5000000000LL}).stamp, 5000000000LL);
+}
+
+TEST(Arguments, AreWrittenInOrder)
+{
+    Wash wash;
+    wash.circuit = 5;
+    wash.name = "north";
+    wash.warm = true;
+    wash.share = 0.25;
+    wash.stamp = 12;
+    wash.notes = QStringList{"a", "b"};
+    wash.steps = {1, 2};
+
+    quv::ValueWriter values;
+    Wash::arguments(wash, values);
+    bool ok = false;
+    EXPECT_EQ(dumped(values.result(&ok)), R"([5, "north", true, 0.250000, 12, ["a", "b"], [1, 2]])");
+    EXPECT_TRUE(ok);
+    EXPECT_EQ(values.result(nullptr).size(), 7);
+
+    quv::ListWriter variants;
+    Wash::arguments(wash, variants);
+    const List list = variants.result();
+    ASSERT_EQ(list.size(), 7);
+    EXPECT_EQ(list.at(0), QVariant(5));
+    EXPECT_EQ(list.at(1), QVariant("north"));
+    EXPECT_EQ(list.at(2), QVariant(true));
+    EXPECT_EQ(list.at(3), QVariant(0.25));
+    EXPECT_EQ(list.at(4), QVariant(12LL));
+    EXPECT_EQ(list.at(5), QVariant(QStringList{"a", "b"}));
+    EXPECT_EQ(list.at(6).value<QList<int>>(), (QList<int>{1, 2}));
+    EXPECT_EQ(list.at(0).userType(), QMetaType::Int);
+    EXPECT_EQ(list.at(4).userType(), QMetaType::LongLong);
+
+    expectFull(readValue(values.result(nullptr)));
+    expectFull(readList(list));
+}
+
+TEST(Arguments, NoneAreAnEmptyArray)
+{
+    const quv::ValueWriter values;
+    EXPECT_EQ(dumped(values.result(nullptr)), "[]");
+    EXPECT_EQ(quv::ListWriter().result(), List());
+}
+
+TEST(Arguments, WrittenTextIsUtf8)
+{
+    Wash wash;
+    wash.name = QString::fromUtf8("Größe");
+    quv::ValueWriter values;
+    Wash::arguments(wash, values);
+    EXPECT_EQ(dumped(values.result(nullptr)[1]), "\"Gr\xC3\xB6\xC3\x9F"
+                                                 "e\"");
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/confprotocommand.h"
+
+#include "base/answercontract.h"
+#include "base/answerrows.h"
+#include "base/basetesting.h"
+
+#include <memory>
+
+using namespace testing_base;
+
+TEST(ConfProtoCommand, IsMadeInFourForms)
+{
+    const CountedMachine machine;
+    const ConfProtoCommand empty;
+    EXPECT_TRUE(empty.command().isNull());
+    EXPECT_EQ(empty.protoType(), 2);
+    EXPECT_EQ(empty.machine(), nullptr);
+    const ConfProtoCommand named("LOGOUT", &machine);
+    EXPECT_EQ(named.command(), "LOGOUT");
+    EXPECT_EQ(named.protoType(), 2);
+    EXPECT_NE(named.machine(), nullptr);
+    const ConfProtoCommand ofValue("LOGIN", arrayOf("me", "secret"), &machine);
+    EXPECT_EQ(ofValue.command(), "LOGIN");
+    EXPECT_EQ(ofValue.protoType(), 2);
+    EXPECT_EQ(ofValue.parameters(), List());
+    EXPECT_NE(ofValue.machine(), nullptr);
+    const ConfProtoCommand ofList("LOGIN", List{"me", "secret"}, &machine);
+    EXPECT_EQ(ofList.parameters(), (List{"me", "secret"}));
+    EXPECT_EQ(ofList.protoType(), 2);
+    EXPECT_NE(ofList.machine(), nullptr);
+    EXPECT_EQ(CountedMachine::alive, 4);
+}
+
+TEST(ConfProtoCommand, ConstructorsCheckTheNumberOfArguments)
+{
+    expectRefusal("DE00312", "LOGIN command : expected at least 2 parameters, received 0 instead!",
+                  "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)",
+                  [] { ConfProtoCommand("LOGIN", arrayOf(), nullptr); });
+    expectRefusal("DE00313", "LOGIN command : expected at least 2 parameters, received 0 instead!",
+                  "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)",
+                  [] { ConfProtoCommand("LOGIN", List(), nullptr); });
+}
+
+TEST(ConfProtoCommand, ClonesAreOfItsClass)
+{
+    const ConfProtoCommand command("LOGIN", List{"me", "secret"}, nullptr);
+    const std::unique_ptr<ProtoCommand> copy(static_cast<const ProtoCommand &>(command).clone());
+    EXPECT_NE(dynamic_cast<ConfProtoCommand *>(copy.get()), nullptr);
+    EXPECT_EQ(copy->parameters(), (List{"me", "secret"}));
+    EXPECT_EQ(copy->protoType(), 2);
+}
+
+TEST(ConfProtoCommand, EstimatesItsTime)
+{
+    const FW_Dispenser dispenser;
+    EXPECT_EQ(ConfProtoCommand("GET_USS_W_STATUS", nullptr).getCmdEstimatedExecutionTime(nullptr), 240000);
+    EXPECT_EQ(ConfProtoCommand("GET_USS_W_STATUS", nullptr).getCmdEstimatedExecutionTime(&dispenser), 240000);
+    for (const char *name : {"LOGIN", "GET_CONFIG", "ADD_USS_W_EVENT", "RESET", "NO_SUCH_COMMAND", ""})
+        EXPECT_EQ(ConfProtoCommand(name, nullptr).getCmdEstimatedExecutionTime(&dispenser), 20000) << name;
+}
+
+TEST(ConfProtoCommand, KeepsTheAnswerContract)
+{
+    ConfProtoCommand command("LOGIN", nullptr);
+    expectAnswerContract(command, {"ConfProtoAnswer", "DE01297", "DE00346", "DE01151",
+                                   "Failed to create answer", "DE01152", "DE01153"});
+}
+
+TEST(ConfProtoCommand, AnswerClassFollowsTheName)
+{
+    const AnswerRow rows[] = {
+        {"GET_CALIB_PROFILES", "GetCalibrationProfilesAnswer"},
+        {"GET_ACTIVE_DISP", "GetActiveDispAnswer"},
+        {"GET_DRIVER_SETTINGS", "GetDriverSettingsAnswer"},
+        {"GET_DRIVER_INFO", "GetDriverInfoAnswer"},
+        {"GET_CONN_STATUS", "GetConnectionStatusAnswer"},
+        {"GET_HOST_INFO", "GetHostInfoAnswer"},
+        {"GET_CURRENT_WEIGHT", "WeightAnswer"},
+        {"GET_SCALE_CONFIG", "GetScaleConfigAnswer"},
+        {"GET_SCALE_STATUS", "ScaleStatusAnswer"},
+        {"GET_USS_W_STATUS", "GetUssWaterStatusAnswer"},
+        {"GET_MIXER_STATUS", "MixerDriverStatusAnswer"},
+        {"GET_DEVICE_PARAMS", "GetDeviceParamsAnswer"},
+        {"GET_SHELF_PARAMS", "GetShelfParamsAnswer"},
+        {"GET_ERRORS", "ConfProtoAnswer"},
+        {"LOGIN", "ConfProtoAnswer"},
+        {"GET_KEY_CODE", "ConfProtoAnswer"},
+        {"NO_SUCH_COMMAND", "ConfProtoAnswer"},
+        {"", "ConfProtoAnswer"},
+    };
+    expectPendingAnswersAmong(rows, 2);
+    for (const AnswerRow &row : rows) {
+        SCOPED_TRACE(row.command);
+        ConfProtoCommand command(row.command, nullptr);
+        List list;
+        const std::string expected = expectedClass(row, 2, "ConfProtoAnswer");
+        ASSERT_TRUE(command.buildProtoAnswer(arrayOf(), nullptr));
+        EXPECT_EQ(className(command.getProtoAnswer()), expected);
+        ASSERT_TRUE(command.buildProtoAnswer(list, nullptr));
+        EXPECT_EQ(className(command.getProtoAnswer()), expected);
+        EXPECT_EQ(command.getProtoAnswer()->protoType(), 2);
+    }
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/guard_p.h"
+
+#include "base/basetesting.h"
+
+using namespace testing_base;
+
+namespace {
+
+[[noreturn]] void throwOwn()
+{
+    throw FW_Exception("DE1", "Own text", "Maker::Maker(int)");
+}
+
+[[noreturn]] void throwStandard()
+{
+    throw std::runtime_error("standard");
+}
+
+[[noreturn]] void throwNumber()
+{
+    throw 7;
+}
+
+void rethrown(void (*work)())
+{
+    try {
+        work();
+    } catch (...) {
+        quv::rethrowCurrentException("DE9", "Went wrong", "Factory::make()");
+    }
+}
+
+} // namespace
+
+TEST(Guard, LetsWorkDoItsWork)
+{
+    FW_DriverError error("DE0", "untouched");
+    int done = 0;
+    EXPECT_TRUE(quv::guarded("DE9", "Went wrong", &error, [&] { ++done; }));
+    EXPECT_TRUE(quv::guarded("DE9", "Went wrong", nullptr, [&] { ++done; }));
+    EXPECT_EQ(done, 2);
+    expectError(error, "DE0", "untouched");
+}
+
+TEST(Guard, KeepsTheFrameworksCodeAndText)
+{
+    FW_DriverError error;
+    EXPECT_FALSE(quv::guarded("DE9", "Went wrong", &error, throwOwn));
+    expectError(error, "DE1", "Own text");
+    EXPECT_EQ(error.function(), "Maker::Maker(int)");
+}
+
+TEST(Guard, GivesAnythingElseTheCodeAndTextAtHand)
+{
+    for (void (*work)() : {&throwStandard, &throwNumber}) {
+        FW_DriverError error;
+        EXPECT_FALSE(quv::guarded("DE9", "Went wrong", &error, work));
+        expectError(error, "DE9", "Went wrong");
+        EXPECT_EQ(error.function(), QString());
+    }
+}
+
+TEST(Guard, NeedsNoError)
+{
+    EXPECT_FALSE(quv::guarded("DE9", "Went wrong", nullptr, throwOwn));
+    EXPECT_FALSE(quv::guarded("DE9", "Went wrong", nullptr, throwStandard));
+    EXPECT_FALSE(quv::guarded("DE9", "Went wrong", nullptr, throwNumber));
+}
+
+TEST(Guard, RethrowsTheFrameworksException)
+{
+    expectRefusal("DE1", "Own text", "Maker::Maker(int)", [] { rethrown(throwOwn); });
+}
+
+TEST(Guard, RethrowsAnythingElseUnderTheCodeAtHand)
+{
+    expectRefusal("DE9", "Went wrong", "Factory::make()", [] { rethrown(throwStandard); });
+    expectRefusal("DE9", "Went wrong", "Factory::make()", [] { rethrown(throwNumber); });
+}

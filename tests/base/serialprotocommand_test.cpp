@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/serialprotocommand.h"
+
+#include "base/answercontract.h"
+#include "base/answerrows.h"
+#include "base/basetesting.h"
+#include "base/outofmemory.h"
+#include "base/serialprotoanswer.h"
+
+#include <memory>
+
+using namespace testing_base;
+
+namespace {
+
+constexpr char tokensFunction[] = "SerialProtoAnswer::SerialProtoAnswer(QStringList)";
+
+} // namespace
+
+TEST(SerialProtoCommand, IsMadeInFourForms)
+{
+    const CountedMachine machine;
+    const SerialProtoCommand empty;
+    EXPECT_TRUE(empty.command().isNull());
+    EXPECT_EQ(empty.protoType(), 1);
+    EXPECT_EQ(empty.machine(), nullptr);
+    const SerialProtoCommand named("RESET", &machine);
+    EXPECT_EQ(named.command(), "RESET");
+    EXPECT_EQ(named.protoType(), 1);
+    EXPECT_NE(named.machine(), nullptr);
+    EXPECT_NE(named.machine(), &machine);
+    const SerialProtoCommand ofValue("STIRRING", arrayOf(1, 2), &machine);
+    EXPECT_EQ(ofValue.command(), "STIRRING");
+    EXPECT_EQ(ofValue.protoType(), 1);
+    EXPECT_NE(ofValue.machine(), nullptr);
+    EXPECT_EQ(ofValue.parameters(), List());
+    const SerialProtoCommand ofList("STIRRING", List{1, 2}, &machine);
+    EXPECT_EQ(ofList.parameters(), (List{1, 2}));
+    EXPECT_EQ(ofList.protoType(), 1);
+    EXPECT_NE(ofList.machine(), nullptr);
+    for (const SerialProtoCommand *command : {&empty, &named, &ofValue, &ofList})
+        EXPECT_EQ(command->moduleID(), 0);
+    EXPECT_EQ(CountedMachine::alive, 4);
+}
+
+TEST(SerialProtoCommand, ConstructorsCheckTheNumberOfArguments)
+{
+    expectRefusal("DE00312", "STIRRING command : expected at least 2 parameters, received 1 instead!",
+                  "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)",
+                  [] { SerialProtoCommand("STIRRING", arrayOf(1), nullptr); });
+    expectRefusal("DE00313", "STIRRING command : expected at least 2 parameters, received 1 instead!",
+                  "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)",
+                  [] { SerialProtoCommand("STIRRING", List{1}, nullptr); });
+}
+
+TEST(SerialProtoCommand, HasAModuleThatCopiesKeep)
+{
+    SerialProtoCommand command("RESET", nullptr);
+    EXPECT_TRUE(command.setModuleID(17));
+    EXPECT_EQ(command.moduleID(), 17);
+    EXPECT_TRUE(command.setModuleID(-1));
+    EXPECT_EQ(command.moduleID(), -1);
+    const std::unique_ptr<SerialProtoCommand> copy(command.clone());
+    EXPECT_EQ(copy->moduleID(), -1);
+    EXPECT_EQ(copy->command(), "RESET");
+    EXPECT_EQ(copy->protoType(), 1);
+}
+
+TEST(SerialProtoCommand, SendsNoIntegersOfItsOwn)
+{
+    const SerialProtoCommand command("STIRRING", List{1, 2}, nullptr);
+    EXPECT_EQ(command.serialParameters(1), QList<int>());
+    EXPECT_EQ(command.serialParameters(2), QList<int>());
+}
+
+TEST(SerialProtoCommand, EstimatesNothing)
+{
+    EXPECT_EQ(SerialProtoCommand("RESET", nullptr).getCmdEstimatedExecutionTime(nullptr), 0);
+}
+
+TEST(SerialProtoCommand, KeepsTheAnswerContract)
+{
+    SerialProtoCommand command("RESET", nullptr);
+    expectAnswerContract(command, {"SerialProtoAnswer", "DE01295", "DE00473", "DE00349",
+                                   "Failed to create answer", "DE01150", "DE01151"});
+}
+
+TEST(SerialProtoCommand, TakesTokens)
+{
+    SerialProtoCommand command("RESET", nullptr);
+    FW_DriverError error;
+    ASSERT_TRUE(command.setSerialAnswer({"2", "A", "b"}, &error));
+    EXPECT_EQ(className(command.getProtoAnswer()), "SerialProtoAnswer");
+    EXPECT_EQ(static_cast<SerialProtoAnswer *>(command.getProtoAnswer())->serialParameters(),
+              (QStringList{"A", "b"}));
+    ASSERT_TRUE(command.buildProtoAnswer(QStringList{"0"}, nullptr));
+    EXPECT_EQ(static_cast<SerialProtoAnswer *>(command.getProtoAnswer())->serialParameters(), QStringList());
+    EXPECT_EQ(error.code(), QString());
+    EXPECT_EQ(command.getXmlRpcAnswer(), nullptr);
+}
+
+TEST(SerialProtoCommand, LeavesTheCallersTokensAlone)
+{
+    const QStringList tokens = {"1", "A"};
+    SerialProtoCommand command("RESET", nullptr);
+    ASSERT_TRUE(command.setSerialAnswer(tokens, nullptr));
+    EXPECT_EQ(tokens, (QStringList{"1", "A"}));
+}
+
+TEST(SerialProtoCommand, BadTokensLeaveNoAnswer)
+{
+    const struct
+    {
+        QStringList tokens;
+        const char *code;
+        const char *text;
+    } rows[] = {
+        {{}, "DE00076", "Empty answer received"},
+        {{"ZZ"}, "DE00070", "Invalid parameter length type found in answer"},
+        {{"2", "A"}, "DE00077", "Error during command answer decoding: bad length"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.code);
+        SerialProtoCommand command("RESET", nullptr);
+        FW_DriverError error;
+        ASSERT_TRUE(command.setSerialAnswer({"0"}, nullptr));
+        EXPECT_FALSE(command.setSerialAnswer(row.tokens, &error));
+        expectError(error, row.code, row.text);
+        EXPECT_EQ(error.function(), tokensFunction);
+        EXPECT_EQ(command.getProtoAnswer(), nullptr);
+        error = FW_DriverError();
+        EXPECT_FALSE(command.buildProtoAnswer(row.tokens, &error));
+        expectError(error, row.code, row.text);
+        EXPECT_FALSE(command.setSerialAnswer(row.tokens, nullptr));
+        EXPECT_FALSE(command.buildProtoAnswer(row.tokens, nullptr));
+    }
+}
+
+TEST(SerialProtoCommand, TokensThatCannotBecomeAnAnswerSaySo)
+{
+    SerialProtoCommand command("RESET", nullptr);
+    const QStringList tokens = {"0"};
+    FW_DriverError error;
+    ASSERT_TRUE(command.setSerialAnswer(tokens, nullptr));
+    EXPECT_FALSE(outOfMemoryOnce([&] { return command.setSerialAnswer(tokens, &error); }));
+    expectError(error, "DE00102", "Failed to create answer");
+    EXPECT_EQ(command.getProtoAnswer(), nullptr);
+    error = FW_DriverError();
+    EXPECT_FALSE(outOfMemoryOnce([&] { return command.buildProtoAnswer(tokens, &error); }));
+    expectError(error, "DE00102", "Failed to create answer");
+    EXPECT_FALSE(outOfMemoryOnce([&] { return command.buildProtoAnswer(tokens, nullptr); }));
+}
+
+TEST(SerialProtoCommand, ASecondAnswerReplacesTheFirst)
+{
+    SerialProtoCommand command("RESET", nullptr);
+    {
+        CountedAnswer<SerialProtoAnswer> answer(1);
+        command.setProtoAnswer(&answer);
+    }
+    EXPECT_EQ(CountedAnswer<SerialProtoAnswer>::alive, 1);
+    EXPECT_TRUE(command.setSerialAnswer({"0"}, nullptr));
+    EXPECT_EQ(CountedAnswer<SerialProtoAnswer>::alive, 0);
+    EXPECT_EQ(className(command.getProtoAnswer()), "SerialProtoAnswer");
+}
+
+TEST(SerialProtoCommand, AnswerClassFollowsTheName)
+{
+    const AnswerRow rows[] = {
+        {"GET_ERRORS", "GetErrorsAnswer"},
+        {"GET_SENSORS_STATUS", "SensorsStatusAnswer"},
+        {"GET_TURNTABLE_POSITIONS", "GetTurntablePositionsAnswer"},
+        {"GET_KEY_CODE", "GetKeyCodeAnswer"},
+        {"ZDR_GET_COMMANDS", "GetZandorCommandsAnswer"},
+        {"GET_STATUS", "SerialProtoAnswer"},
+        {"RESET", "SerialProtoAnswer"},
+        {"GET_CALIB_PROFILES", "SerialProtoAnswer"},
+        {"NO_SUCH_COMMAND", "SerialProtoAnswer"},
+        {"", "SerialProtoAnswer"},
+    };
+    expectPendingAnswersAmong(rows, 1);
+    for (const AnswerRow &row : rows) {
+        SCOPED_TRACE(row.command);
+        SerialProtoCommand command(row.command, nullptr);
+        List list;
+        const std::string expected = expectedClass(row, 1, "SerialProtoAnswer");
+        ASSERT_TRUE(command.buildProtoAnswer(arrayOf(), nullptr));
+        EXPECT_EQ(className(command.getProtoAnswer()), expected);
+        ASSERT_TRUE(command.buildProtoAnswer(list, nullptr));
+        EXPECT_EQ(className(command.getProtoAnswer()), expected);
+        EXPECT_EQ(command.getProtoAnswer()->protoType(), 1);
+
+        // a key code is asked of the driver: the firmware's tokens never become one
+        ASSERT_TRUE(command.buildProtoAnswer(QStringList{"0"}, nullptr));
+        EXPECT_EQ(className(command.getProtoAnswer()),
+                  row.command == std::string("GET_KEY_CODE") ? "SerialProtoAnswer" : expected);
+    }
+}

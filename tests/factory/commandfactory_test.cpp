@@ -1,0 +1,937 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "catalogue/protocommandlist.h"
+
+#include "base/basetesting.h"
+#include "base/confprotocommand.h"
+#include "base/outofmemory.h"
+#include "base/scaleprotocommand.h"
+#include "base/serialprotocommand.h"
+#include "catalogue/commandrows.h"
+#include "factory/factoryrows.h"
+#include "factory/pending_p.h"
+
+#include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_mixer.h>
+#include <QuvFramework/fw_xmlrpc.h>
+
+#include <QtCore/QDirIterator>
+#include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
+
+#include <xmlrpcpp/XmlRpcException.h>
+
+#include <cxxabi.h>
+
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <set>
+#include <stdexcept>
+#include <tuple>
+#include <typeinfo>
+
+namespace {
+
+using namespace testing_base;
+using quv::Dispatch;
+using quv::Form;
+using quv::ListForm;
+using quv::ValueForm;
+using Cmd = ProtoCommandList;
+using CommandPtr = std::unique_ptr<ProtoCommand>;
+
+constexpr Form forms[] = {ValueForm, ListForm};
+constexpr Dispatch operations[] = {Dispatch::Serial, Dispatch::DispenserSerial, Dispatch::MixerSerial,
+                                   Dispatch::Config, Dispatch::DispenserConfig, Dispatch::MixerConfig,
+                                   Dispatch::Scale};
+
+// ---------------------------------------------------------------- arguments and machines
+
+/**
+ * Arguments that the command of this name accepts, none of them a default. While a command is plain, as many ones as it
+ * asks for do; whoever gives it a class of its own adds a line here.
+ */
+List argumentsFor(const CommandRow &row)
+{
+    static const std::map<std::string, List> arguments = {
+        {"GET_STATUS", {7}},
+    };
+    const auto own = arguments.find(row.name);
+    if (own != arguments.end())
+        return own->second;
+    List ones;
+    for (int i = 0; i < row.minParams; ++i)
+        ones.append(1);
+    return ones;
+}
+
+Value valueOf(const List &list)
+{
+    Value value;
+    value.setSize(list.size());
+    for (int i = 0; i < list.size(); ++i)
+        value[i] = EncodeXmlRpcVariant(list.at(i));
+    return value;
+}
+
+const CommandRow &rowNamed(const std::string &name)
+{
+    for (const CommandRow &row : commandRows) {
+        if (name == row.name)
+            return row;
+    }
+    throw std::logic_error("no command " + name);
+}
+
+constexpr int dispenserID = 5;
+constexpr int mixerID = 6;
+
+struct Machines
+{
+    Machines()
+    {
+        dispenser.setId(dispenserID);
+        mixer.setId(mixerID);
+    }
+
+    FW_Dispenser dispenser;
+    FW_Mixer mixer;
+};
+
+std::string className(const CommandPtr &command)
+{
+    if (!command)
+        return "null";
+    const ProtoCommand &object = *command;
+    const std::unique_ptr<char, decltype(&std::free)> name(
+        abi::__cxa_demangle(typeid(object).name(), nullptr, nullptr, nullptr), &std::free);
+    return name.get();
+}
+
+/** Calls a dispatch operation in one of its forms; the value form gets the arguments as an XML-RPC array. */
+template <class Args>
+CommandPtr make(Dispatch operation, const QString &name, Args &args, const FW_Dispenser *dispenser,
+                const FW_Mixer *mixer)
+{
+    switch (operation) {
+    case Dispatch::Serial:
+        return CommandPtr(Cmd::getSerialProtoCommand(name, args, dispenser));
+    case Dispatch::DispenserSerial:
+        return CommandPtr(Cmd::getDispenserSerialProtoCommand(name, args, dispenser));
+    case Dispatch::MixerSerial:
+        return CommandPtr(Cmd::getMixerSerialProtoCommand(name, args, mixer));
+    case Dispatch::Config:
+        return CommandPtr(Cmd::getConfigProtoCommand(name, args));
+    case Dispatch::DispenserConfig:
+        return CommandPtr(Cmd::getDispenserConfigProtoCommand(name, args, dispenser));
+    case Dispatch::MixerConfig:
+        return CommandPtr(Cmd::getMixerConfigProtoCommand(name, args, mixer));
+    case Dispatch::Scale:
+        return CommandPtr(Cmd::getScaleProtoCommand(name, args));
+    }
+    return {};
+}
+
+CommandPtr make(Dispatch operation, Form form, const QString &name, List args,
+                const FW_Dispenser *dispenser = nullptr, const FW_Mixer *mixer = nullptr)
+{
+    if (form == ListForm)
+        return make(operation, name, args, dispenser, mixer);
+    Value value = valueOf(args);
+    return make(operation, name, value, dispenser, mixer);
+}
+
+CommandPtr makeAny(Form form, const QString &name, List args, const FW_Machine *machine)
+{
+    if (form == ListForm)
+        return CommandPtr(Cmd::getProtoCommand(name, args, machine));
+    Value value = valueOf(args);
+    return CommandPtr(Cmd::getProtoCommand(name, value, machine));
+}
+
+// ---------------------------------------------------------------- what is expected
+
+/** What an operation makes for a name. */
+struct Expected
+{
+    std::string className; ///< empty: it refuses
+    Takes takes = Takes::Name;
+    Dispatch madeBy = Dispatch::Serial; ///< the operation whose table has the row
+    bool pending = false;               ///< still a plain command, in place of the class
+};
+
+std::string plainClass(Dispatch operation)
+{
+    switch (operation) {
+    case Dispatch::Serial:
+    case Dispatch::DispenserSerial:
+    case Dispatch::MixerSerial:
+        return "SerialProtoCommand";
+    case Dispatch::Config:
+    case Dispatch::DispenserConfig:
+    case Dispatch::MixerConfig:
+        return "ConfProtoCommand";
+    case Dispatch::Scale:
+        return "ScaleProtoCommand";
+    }
+    return {};
+}
+
+Expected expectedOf(Dispatch operation, Form form, const CommandRow &command)
+{
+    for (const FactoryRow &row : factoryRows) {
+        if (row.operation == operation && (row.forms & form) != 0 && std::string(row.name) == command.name) {
+            const bool pending = quv::isPending(operation, form, command.id);
+            return {pending ? plainClass(operation) : row.className, row.takes, operation, pending};
+        }
+    }
+    switch (operation) {
+    case Dispatch::DispenserSerial:
+    case Dispatch::MixerSerial:
+        return expectedOf(Dispatch::Serial, form, command);
+    case Dispatch::DispenserConfig:
+    case Dispatch::MixerConfig:
+        return expectedOf(Dispatch::Config, form, command);
+    case Dispatch::Serial:
+    case Dispatch::Config:
+        return {plainClass(operation), Takes::Name, operation, false};
+    case Dispatch::Scale:
+        break;
+    }
+    return {{}, Takes::Nothing, operation, false};
+}
+
+int expectedMachine(const Expected &expected, bool isDispenser)
+{
+    if (expected.madeBy == Dispatch::Config || expected.madeBy == Dispatch::Scale)
+        return 0;
+    const bool kept = expected.pending || expected.takes == Takes::ArgumentsAndMachine;
+    return !kept ? 0 : isDispenser ? dispenserID : mixerID;
+}
+
+int machineID(const CommandPtr &command)
+{
+    return command->machine() ? command->machine()->id() : 0;
+}
+
+std::string caption(Dispatch operation, Form form, const char *name)
+{
+    static const char *const names[] = {"serial",        "dispenser's serial",        "mixer's serial",
+                                        "configuration", "dispenser's configuration", "mixer's configuration",
+                                        "scale"};
+    return std::string(names[static_cast<int>(operation)]) + (form == ValueForm ? ", value, " : ", list, ") +
+           name;
+}
+
+// ---------------------------------------------------------------- the tables
+
+TEST(CommandFactory, makesTheClassOfEachRowAndPlainCommandsOtherwise)
+{
+    const Machines machines;
+    for (Dispatch operation : operations) {
+        const bool ofMixer = operation == Dispatch::MixerSerial || operation == Dispatch::MixerConfig;
+        for (Form form : forms) {
+            for (const CommandRow &row : commandRows) {
+                SCOPED_TRACE(caption(operation, form, row.name));
+                const QString name = QString::fromLatin1(row.name);
+                const List arguments = argumentsFor(row);
+                const Expected expected = expectedOf(operation, form, row);
+                if (expected.className.empty())
+                    continue; // see refusesWhatNoScaleDoes
+                const CommandPtr command =
+                    make(operation, form, name, arguments, &machines.dispenser, &machines.mixer);
+                EXPECT_EQ(className(command), expected.className);
+                EXPECT_EQ(command->command(), name);
+                EXPECT_EQ(machineID(command), expectedMachine(expected, !ofMixer));
+                EXPECT_NE(command->machine(), &machines.dispenser) << "the machine is the caller's";
+                EXPECT_NE(command->machine(), &machines.mixer) << "the machine is the caller's";
+                const bool kept =
+                    expected.pending || (expected.takes != Takes::Name && expected.takes != Takes::Nothing);
+                if (!kept) {
+                    EXPECT_EQ(command->parameters(), List()) << "arguments are dropped";
+                } else if (form == ListForm) {
+                    EXPECT_EQ(command->parameters().mid(0, arguments.size()), arguments);
+                }
+                EXPECT_FALSE(command->getProtoAnswer());
+                EXPECT_FALSE(command->getXmlRpcAnswer());
+            }
+        }
+    }
+}
+
+TEST(CommandFactory, makesTheSameWithoutAMachine)
+{
+    for (Dispatch operation : operations) {
+        for (Form form : forms) {
+            for (const CommandRow &row : commandRows) {
+                const Expected expected = expectedOf(operation, form, row);
+                if (expected.className.empty() || row.type == 5)
+                    continue; // what special procedures do without a machine is their own affair
+                SCOPED_TRACE(caption(operation, form, row.name));
+                const CommandPtr command =
+                    make(operation, form, QString::fromLatin1(row.name), argumentsFor(row));
+                EXPECT_EQ(className(command), expected.className);
+                EXPECT_FALSE(command->machine());
+            }
+        }
+    }
+}
+
+TEST(CommandFactory, leavesTheCallersArgumentsAlone)
+{
+    Value value = arrayOf(7);
+    const CommandPtr ofValue(Cmd::getProtoCommand("GET_STATUS", value, nullptr));
+    EXPECT_EQ(dumped(value), "[7]");
+    List list = {7};
+    const CommandPtr ofList(Cmd::getProtoCommand("GET_STATUS", list, nullptr));
+    EXPECT_EQ(list, List({7}));
+}
+
+TEST(CommandFactory, countsTheArgumentsOfPlainCommandsThatHaveARowStillToCome)
+{
+    for (const quv::PendingCommand &pending : quv::pendingCommands()) {
+        const CommandRow &row = commandRows[pending.name];
+        for (Form form : forms) {
+            if ((pending.forms & form) == 0 || row.minParams == 0)
+                continue;
+            const QString name = QString::fromLatin1(row.name);
+            const List tooFew = argumentsFor(row).mid(1);
+            const QString text =
+                QStringLiteral("%1 command : expected at least %2 parameters, received %3 instead!")
+                    .arg(name)
+                    .arg(row.minParams)
+                    .arg(row.minParams - 1);
+            SCOPED_TRACE(caption(pending.dispatch, form, row.name));
+            try {
+                make(pending.dispatch, form, name, tooFew);
+                ADD_FAILURE() << "too few arguments were taken";
+            } catch (const FW_Exception &refusal) {
+                EXPECT_EQ(refusal.code(), form == ValueForm ? "DE00312" : "DE00313");
+                EXPECT_EQ(refusal.text(), text);
+            }
+        }
+    }
+}
+
+TEST(CommandFactory, hasSixRowsOnlyInTheListFormOfTheDriversCommands)
+{
+    const FW_Dispenser dispenser;
+    const char *const names[] = {"SET_LEVELS",
+                                 "CHECK_FORMULA_LEVELS",
+                                 "GET_FORMULA_CIRCUITS",
+                                 "GET_LOW_LEVEL_FORMULA",
+                                 "GET_FORMULA_EXECUTION",
+                                 "SET_SERIAL"};
+    for (const char *text : names) {
+        SCOPED_TRACE(text);
+        const CommandRow &row = rowNamed(text);
+        const QString name = QString::fromLatin1(text);
+        const List arguments = argumentsFor(row);
+
+        const CommandPtr value = make(Dispatch::Config, ValueForm, name, arguments);
+        EXPECT_EQ(className(value), "ConfProtoCommand") << "the row is not there";
+        EXPECT_EQ(make(Dispatch::Config, ValueForm, name, {})->command(), name) << "nothing is counted";
+
+        // the dispenser's table has them in the value form, and keeps the machine
+        EXPECT_TRUE(make(Dispatch::DispenserConfig, ValueForm, name, arguments, &dispenser)->machine());
+        EXPECT_FALSE(make(Dispatch::DispenserConfig, ListForm, name, arguments, &dispenser)->machine());
+        EXPECT_THROW(make(Dispatch::DispenserConfig, ValueForm, name, {}, &dispenser), FW_Exception);
+        EXPECT_THROW(make(Dispatch::DispenserConfig, ListForm, name, {}, &dispenser), FW_Exception);
+        EXPECT_THROW(make(Dispatch::Config, ListForm, name, {}), FW_Exception);
+    }
+}
+
+TEST(CommandFactory, keepsAllOfAClosedLinkInTheListFormForADispenser)
+{
+    const Machines machines;
+    const List arguments = {3, QStringLiteral("x")};
+    const CommandPtr list =
+        make(Dispatch::DispenserConfig, ListForm, "CLOSE_SERIAL", arguments, &machines.dispenser);
+    EXPECT_EQ(className(list), "ConfProtoCommand");
+    EXPECT_EQ(list->parameters(), arguments);
+    EXPECT_EQ(machineID(list), dispenserID);
+
+    const CommandPtr value =
+        make(Dispatch::DispenserConfig, ValueForm, "CLOSE_SERIAL", arguments, &machines.dispenser);
+    EXPECT_EQ(className(value), "ConfProtoCommand");
+    EXPECT_EQ(value->parameters(), List());
+    EXPECT_FALSE(value->machine());
+
+    const CommandPtr mixer =
+        make(Dispatch::MixerConfig, ListForm, "CLOSE_SERIAL", arguments, nullptr, &machines.mixer);
+    EXPECT_EQ(mixer->parameters(), List());
+    EXPECT_FALSE(mixer->machine());
+}
+
+TEST(CommandFactory, handsTheMachineDownToTheGeneralTable)
+{
+    const Machines machines;
+    const List arguments = argumentsFor(rowNamed("SET_SERIAL"));
+    for (Form form : forms) {
+        const CommandPtr dispenser =
+            make(Dispatch::DispenserSerial, form, "SET_SERIAL", arguments, &machines.dispenser);
+        EXPECT_TRUE(dynamic_cast<const FW_Dispenser *>(dispenser->machine()));
+        const CommandPtr mixer =
+            make(Dispatch::MixerSerial, form, "SET_SERIAL", arguments, nullptr, &machines.mixer);
+        EXPECT_TRUE(dynamic_cast<const FW_Mixer *>(mixer->machine()));
+    }
+}
+
+TEST(CommandFactory, refusesWhatNoScaleDoes)
+{
+    constexpr char valueForm[] =
+        "static ScaleProtoCommand* ProtoCommandList::getScaleProtoCommand(QString, XmlRpc::XmlRpcValue&)";
+    constexpr char listForm[] =
+        "static ScaleProtoCommand* ProtoCommandList::getScaleProtoCommand(QString, QList<QVariant>)";
+    QStringList taken;
+    for (const CommandRow &row : commandRows) {
+        const QString name = QString::fromLatin1(row.name);
+        if (!expectedOf(Dispatch::Scale, ListForm, row).className.empty()) {
+            taken << name;
+            continue;
+        }
+        SCOPED_TRACE(row.name);
+        expectRefusal("DE02070", "Unknown command received", valueForm,
+                      [&] { make(Dispatch::Scale, ValueForm, name, argumentsFor(row)); });
+        expectRefusal("DE02080", "Unknown command received", listForm,
+                      [&] { make(Dispatch::Scale, ListForm, name, argumentsFor(row)); });
+    }
+    EXPECT_EQ(taken, QStringList({"WEIGHT", "TARE", "TARE_SET", "DISPLAY_STRING"}));
+}
+
+// ---------------------------------------------------------------- any kind of command
+
+/** The operation that a command of any kind is made by: firmware first, then driver, then scale. */
+Dispatch wayOf(const CommandRow &row)
+{
+    if (row.type == 7)
+        return Dispatch::Scale;
+    const bool serial = row.type == 0 || row.type == 2 || row.type == 3 || row.type == 5;
+    switch (row.target) {
+    case 1:
+    case 5:
+        return serial ? Dispatch::DispenserSerial : Dispatch::DispenserConfig;
+    case 4:
+        return serial ? Dispatch::MixerSerial : Dispatch::MixerConfig;
+    default:
+        return serial ? Dispatch::Serial : Dispatch::Config;
+    }
+}
+
+TEST(CommandFactory, makesACommandOfAnyKindByItsKindAndTarget)
+{
+    const Machines machines;
+    for (Form form : forms) {
+        for (const CommandRow &row : commandRows) {
+            SCOPED_TRACE(caption(wayOf(row), form, row.name));
+            const QString name = QString::fromLatin1(row.name);
+            const List arguments = argumentsFor(row);
+            const Expected expected = expectedOf(wayOf(row), form, row);
+            ASSERT_NE(expected.className, "");
+
+            const bool forDispenser = row.target == 1 || row.target == 5;
+            const CommandPtr onDispenser = makeAny(form, name, arguments, &machines.dispenser);
+            EXPECT_EQ(className(onDispenser), expected.className);
+            EXPECT_EQ(machineID(onDispenser), forDispenser ? expectedMachine(expected, true) : 0);
+
+            // a command for both kinds of machine goes on without the mixer
+            const CommandPtr onMixer = makeAny(form, name, arguments, &machines.mixer);
+            EXPECT_EQ(className(onMixer), expected.className);
+            EXPECT_EQ(machineID(onMixer), row.target == 4 ? expectedMachine(expected, false) : 0);
+
+            const CommandPtr alone = makeAny(form, name, arguments, nullptr);
+            EXPECT_EQ(className(alone), expected.className);
+            EXPECT_FALSE(alone->machine());
+        }
+    }
+}
+
+TEST(CommandFactory, prefersTheFirmwareForCommandsThatTheDriverSharesWithIt)
+{
+    for (Form form : forms) {
+        for (const char *name : {"STOP", "SET_SERIAL", "CLOSE_SERIAL", "GET_DISPENSED_FORMULA"}) {
+            const CommandPtr command =
+                makeAny(form, QString::fromLatin1(name), argumentsFor(rowNamed(name)), nullptr);
+            EXPECT_TRUE(dynamic_cast<SerialProtoCommand *>(command.get())) << name;
+            EXPECT_EQ(command->protoType(), 1) << name;
+        }
+        const CommandPtr stop = make(Dispatch::Config, form, "STOP", {});
+        EXPECT_TRUE(dynamic_cast<ConfProtoCommand *>(stop.get())) << "asked for by its own operation";
+    }
+}
+
+TEST(CommandFactory, makesPlainCommandsForNamesOutsideTheTables)
+{
+    const Machines machines;
+    const List arguments = {1, 2};
+    for (Form form : forms) {
+        // a driver's command, but asked for as one of the firmware
+        const CommandPtr serial =
+            make(Dispatch::Serial, form, "GET_DRIVER_INFO", arguments, &machines.dispenser);
+        EXPECT_EQ(className(serial), "SerialProtoCommand");
+        EXPECT_EQ(serial->protoType(), 1);
+        EXPECT_EQ(serial->command(), "GET_DRIVER_INFO");
+        EXPECT_EQ(serial->parameters(), List());
+        EXPECT_FALSE(serial->machine());
+
+        const CommandPtr config = makeAny(form, "GET_DRIVER_SETTINGS", arguments, &machines.dispenser);
+        EXPECT_EQ(className(config), "ConfProtoCommand");
+        EXPECT_EQ(config->protoType(), 2);
+        EXPECT_EQ(config->parameters(), List());
+        EXPECT_FALSE(config->machine());
+
+        // these have no class, and will have none
+        for (const char *name : {"GET_CMD_ID", "ERRORS_NUM", "FW_SCAN", "FW_SCAN_START", "FW_SCAN_READ",
+                                 "TINT2", "GET_CONN_STATUS", "SCALE_RESET"}) {
+            const CommandPtr plain = makeAny(form, QString::fromLatin1(name), {}, nullptr);
+            EXPECT_EQ(className(plain), plain->protoType() == 1 ? "SerialProtoCommand" : "ConfProtoCommand")
+                << name << ": no argument is counted";
+        }
+    }
+}
+
+TEST(CommandFactory, makesADriversCommandWithoutArguments)
+{
+    const Machines machines;
+    const CommandPtr list(Cmd::getConfigProtoCommand("GET_CIRCUIT_LIST", &machines.dispenser));
+    EXPECT_EQ(className(list), className(make(Dispatch::DispenserConfig, ListForm, "GET_CIRCUIT_LIST", {})));
+    EXPECT_EQ(list->command(), "GET_CIRCUIT_LIST");
+    const CommandPtr mixers(Cmd::getConfigProtoCommand("GET_MIXER_LIST", &machines.mixer));
+    EXPECT_EQ(className(mixers), className(make(Dispatch::MixerConfig, ListForm, "GET_MIXER_LIST", {})));
+    EXPECT_EQ(mixers->command(), "GET_MIXER_LIST");
+
+    // the row that keeps its machine tells that the dispenser, and no mixer, is handed on
+    const CommandPtr kept(Cmd::getConfigProtoCommand("CLOSE_SERIAL", &machines.dispenser));
+    EXPECT_EQ(machineID(kept), dispenserID);
+    EXPECT_EQ(kept->parameters(), List());
+    const CommandPtr wrongKind(Cmd::getConfigProtoCommand("CLOSE_SERIAL", &machines.mixer));
+    EXPECT_FALSE(wrongKind->machine());
+    const CommandPtr none(Cmd::getConfigProtoCommand("CLOSE_SERIAL", static_cast<FW_Machine *>(nullptr)));
+    EXPECT_FALSE(none->machine());
+
+    expectRefusal(
+        "DE00313", "GET_CMD_EST_EXEC_TIME command : expected at least 1 parameters, received 0 instead!",
+        "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)",
+        [&] { CommandPtr(Cmd::getConfigProtoCommand("GET_CMD_EST_EXEC_TIME", &machines.dispenser)); });
+    for (const char *name : {"GET_DRIVER_SETTINGS", "GET_SW_VERSION", "NO_COMMAND", ""}) {
+        expectRefusal(
+            "DE03010", "Command has no target machine",
+            "static ConfProtoCommand* ProtoCommandList::getConfigProtoCommand(QString, const FW_Machine*)",
+            [&] { CommandPtr(Cmd::getConfigProtoCommand(QString::fromLatin1(name), &machines.dispenser)); });
+    }
+}
+
+// ---------------------------------------------------------------- what is still to come
+
+/** The names of the classes that the headers of the library declare. */
+std::set<std::string> existingClasses()
+{
+    static const QRegularExpression declaration(
+        "^(?:class|struct)\\s+(?:QUVPROTOCOL_EXPORT\\s+)?(\\w+)[^;]*$", QRegularExpression::MultilineOption);
+    std::set<std::string> classes;
+    QDirIterator headers(QUV_SOURCES, {"*.h"}, QDir::Files, QDirIterator::Subdirectories);
+    while (headers.hasNext()) {
+        QFile file(headers.next());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        auto matches = declaration.globalMatch(QString::fromUtf8(file.readAll()));
+        while (matches.hasNext())
+            classes.insert(matches.next().captured(1).toStdString());
+    }
+    return classes;
+}
+
+TEST(PendingRows, areRowsOfTheFactory)
+{
+    std::set<std::tuple<Dispatch, Form, int>> seen;
+    for (const quv::PendingCommand &pending : quv::pendingCommands()) {
+        const CommandRow &command = commandRows[pending.name];
+        for (Form form : forms) {
+            if ((pending.forms & form) == 0)
+                continue;
+            SCOPED_TRACE(caption(pending.dispatch, form, command.name));
+            EXPECT_TRUE(seen.insert({pending.dispatch, form, command.id}).second) << "listed twice";
+            std::string expected = "no row";
+            for (const FactoryRow &row : factoryRows) {
+                if (row.operation == pending.dispatch && (row.forms & form) != 0 &&
+                    std::string(row.name) == command.name)
+                    expected = row.className;
+            }
+            EXPECT_EQ(pending.className, expected);
+        }
+    }
+}
+
+TEST(PendingRows, areListedUntilTheirClassIsThere)
+{
+    const std::set<std::string> classes = existingClasses();
+    ASSERT_EQ(classes.count("DispenserStatusCmd"), 1U) << "the headers were not found";
+    for (const quv::PendingCommand &pending : quv::pendingCommands())
+        EXPECT_EQ(classes.count(pending.className), 0U) << pending.className << " exists: give it its row";
+    for (const quv::PendingAnswer &pending : quv::pendingAnswers())
+        EXPECT_EQ(classes.count(pending.className), 0U) << pending.className << " exists: dispatch to it";
+}
+
+TEST(PendingRows, onlyGetFewer)
+{
+    const std::size_t commands = quv::pendingCommands().size();
+    const std::size_t answers = quv::pendingAnswers().size();
+    std::cout << commands << " rows of the factory still give plain commands\n"
+              << answers << " answer classes are still plain answers\n";
+    EXPECT_LE(commands, 140U);
+    EXPECT_LE(answers, 18U);
+}
+
+TEST(PendingRows, nameTheAnswersOfCommandsWithoutAClass)
+{
+    const std::set<std::tuple<unsigned, std::string, std::string>> all = {
+        {1, "GET_ERRORS", "GetErrorsAnswer"},
+        {1, "GET_SENSORS_STATUS", "SensorsStatusAnswer"},
+        {1, "GET_TURNTABLE_POSITIONS", "GetTurntablePositionsAnswer"},
+        {1, "GET_KEY_CODE", "GetKeyCodeAnswer"},
+        {1, "ZDR_GET_COMMANDS", "GetZandorCommandsAnswer"},
+        {2, "GET_CALIB_PROFILES", "GetCalibrationProfilesAnswer"},
+        {2, "GET_ACTIVE_DISP", "GetActiveDispAnswer"},
+        {2, "GET_DRIVER_SETTINGS", "GetDriverSettingsAnswer"},
+        {2, "GET_DRIVER_INFO", "GetDriverInfoAnswer"},
+        {2, "GET_CONN_STATUS", "GetConnectionStatusAnswer"},
+        {2, "GET_HOST_INFO", "GetHostInfoAnswer"},
+        {2, "GET_CURRENT_WEIGHT", "WeightAnswer"},
+        {2, "GET_SCALE_CONFIG", "GetScaleConfigAnswer"},
+        {2, "GET_SCALE_STATUS", "ScaleStatusAnswer"},
+        {2, "GET_USS_W_STATUS", "GetUssWaterStatusAnswer"},
+        {2, "GET_MIXER_STATUS", "MixerDriverStatusAnswer"},
+        {2, "GET_DEVICE_PARAMS", "GetDeviceParamsAnswer"},
+        {2, "GET_SHELF_PARAMS", "GetShelfParamsAnswer"},
+    };
+    std::set<std::tuple<unsigned, std::string, std::string>> seen;
+    for (const quv::PendingAnswer &pending : quv::pendingAnswers()) {
+        const std::tuple<unsigned, std::string, std::string> row(
+            pending.kind, commandRows[pending.command].name, pending.className);
+        EXPECT_EQ(all.count(row), 1U) << pending.className;
+        EXPECT_TRUE(seen.insert(row).second) << pending.className << " is listed twice";
+    }
+}
+
+// ---------------------------------------------------------------- refusals
+
+/** An operation in one form: what it is called, and its codes. */
+struct Operation
+{
+    Dispatch dispatch;
+    Form form;
+    const char *name; ///< a command of its own table
+    const char *foreignCode;
+    const char *foreignText;
+    const char *function;
+    const char *unknownCode;
+    const char *unknownFunction; ///< of the operation at the end of the chain
+};
+
+constexpr char serialOfValue[] = "static SerialProtoCommand* ProtoCommandList::getSerialProtoCommand("
+                                 "QString, XmlRpc::XmlRpcValue&, const FW_Machine*)";
+constexpr char serialOfList[] = "static SerialProtoCommand* ProtoCommandList::getSerialProtoCommand("
+                                "QString, QList<QVariant>, const FW_Machine*)";
+constexpr char configOfValue[] =
+    "static ConfProtoCommand* ProtoCommandList::getConfigProtoCommand(QString, XmlRpc::XmlRpcValue&)";
+constexpr char configOfList[] =
+    "static ConfProtoCommand* ProtoCommandList::getConfigProtoCommand(QString, QList<QVariant>)";
+constexpr char scaleOfValue[] =
+    "static ScaleProtoCommand* ProtoCommandList::getScaleProtoCommand(QString, XmlRpc::XmlRpcValue&)";
+constexpr char scaleOfList[] =
+    "static ScaleProtoCommand* ProtoCommandList::getScaleProtoCommand(QString, QList<QVariant>)";
+
+constexpr Operation allOperations[] = {
+    {Dispatch::Serial, ValueForm, "SET_SERIAL", "DE02233",
+     "Errors during serial protocol command xml-rpc decoding", serialOfValue, "DE02547", serialOfValue},
+    {Dispatch::Serial, ListForm, "SET_SERIAL", "DE02220",
+     "Errors during serial protocol command parmeters decoding", serialOfList, "DE02536", serialOfList},
+    {Dispatch::DispenserSerial, ValueForm, "GET_STATUS", "DE00148",
+     "Errors during serial protocol command xml-rpc decoding",
+     "static SerialProtoCommand* ProtoCommandList::getDispenserSerialProtoCommand("
+     "QString, XmlRpc::XmlRpcValue&, const FW_Dispenser*)",
+     "DE02547", serialOfValue},
+    {Dispatch::DispenserSerial, ListForm, "GET_STATUS", "DE00146",
+     "Errors during serial protocol command parmeters decoding",
+     "static SerialProtoCommand* ProtoCommandList::getDispenserSerialProtoCommand("
+     "QString, QList<QVariant>, const FW_Dispenser*)",
+     "DE02536", serialOfList},
+    {Dispatch::MixerSerial, ValueForm, "MIX", "DE02524",
+     "Errors during serial protocol command parmeters decoding",
+     "static SerialProtoCommand* ProtoCommandList::getMixerSerialProtoCommand("
+     "QString, XmlRpc::XmlRpcValue&, const FW_Mixer*)",
+     "DE02547", serialOfValue},
+    {Dispatch::MixerSerial, ListForm, "MIX", "DE02522",
+     "Errors during serial protocol command parmeters decoding",
+     "static SerialProtoCommand* ProtoCommandList::getMixerSerialProtoCommand("
+     "QString, QList<QVariant>, const FW_Mixer*)",
+     "DE02536", serialOfList},
+    {Dispatch::Config, ValueForm, "GET_CONFIG", "DE00345",
+     "Errors during configuration protocol command xml-rpc decoding", configOfValue, "DE00344",
+     configOfValue},
+    {Dispatch::Config, ListForm, "GET_CONFIG", "DE00336",
+     "Errors during configuration protocol command parameters decoding", configOfList, "DE00335",
+     configOfList},
+    {Dispatch::DispenserConfig, ValueForm, "SET_DM_DATA", "DE02551",
+     "Errors during configuration protocol command xml-rpc decoding",
+     "static ConfProtoCommand* ProtoCommandList::getDispenserConfigProtoCommand("
+     "QString, XmlRpc::XmlRpcValue&, const FW_Dispenser*)",
+     "DE00344", configOfValue},
+    {Dispatch::DispenserConfig, ListForm, "SET_DM_DATA", "DE02549",
+     "Errors during configuration protocol command parameters decoding",
+     "static ConfProtoCommand* ProtoCommandList::getDispenserConfigProtoCommand("
+     "QString, QList<QVariant>, const FW_Dispenser*)",
+     "DE00335", configOfList},
+    {Dispatch::MixerConfig, ValueForm, "GET_CMD_EST_EXEC_TIME", "DE02558",
+     "Errors during configuration protocol command xml-rpc decoding",
+     "static ConfProtoCommand* ProtoCommandList::getMixerConfigProtoCommand("
+     "QString, XmlRpc::XmlRpcValue&, const FW_Mixer*)",
+     "DE00344", configOfValue},
+    {Dispatch::MixerConfig, ListForm, "GET_CMD_EST_EXEC_TIME", "DE02556",
+     "Errors during configuration protocol command variant decoding",
+     "static ConfProtoCommand* ProtoCommandList::getMixerConfigProtoCommand("
+     "QString, QList<QVariant>, const FW_Mixer*)",
+     "DE00335", configOfList},
+    {Dispatch::Scale, ValueForm, "WEIGHT", "DE02082", "Errors during scale protocol command xml-rpc decoding",
+     scaleOfValue, "DE02070", scaleOfValue},
+    {Dispatch::Scale, ListForm, "WEIGHT", "DE02081", "Errors during scale protocol command decoding",
+     scaleOfList, "DE02080", scaleOfList},
+};
+
+const QStringList unknownNames = {QString(), QStringLiteral("NO_COMMAND"), QStringLiteral("tint"),
+                                  QStringLiteral("GET_STATUS "), QStringLiteral("ÄÖ")};
+
+TEST(CommandFactoryRefusals, tellAnUnknownName)
+{
+    const Machines machines;
+    for (const Operation &operation : allOperations) {
+        for (const QString &name : unknownNames) {
+            SCOPED_TRACE(caption(operation.dispatch, operation.form, name.toUtf8().constData()));
+            expectRefusal(operation.unknownCode, "Unknown command received", operation.unknownFunction, [&] {
+                make(operation.dispatch, operation.form, name, {1}, &machines.dispenser, &machines.mixer);
+            });
+        }
+    }
+}
+
+TEST(CommandFactoryRefusals, tellANameOfNoKind)
+{
+    const Machines machines;
+    for (const FW_Machine *machine :
+         {static_cast<const FW_Machine *>(nullptr), static_cast<const FW_Machine *>(&machines.dispenser),
+          static_cast<const FW_Machine *>(&machines.mixer)}) {
+        for (const QString &name : unknownNames) {
+            expectRefusal("DE00337", "Command type not recognized",
+                          "static ProtoCommand* ProtoCommandList::getProtoCommand("
+                          "QString, XmlRpc::XmlRpcValue&, const FW_Machine*)",
+                          [&] { makeAny(ValueForm, name, {1}, machine); });
+            expectRefusal("DE00441", "Command type not recognized",
+                          "static ProtoCommand* ProtoCommandList::getProtoCommand("
+                          "QString, QList<QVariant>, const FW_Machine*)",
+                          [&] { makeAny(ListForm, name, {1}, machine); });
+        }
+    }
+}
+
+TEST(CommandFactoryRefusals, turnAShortageOfMemoryIntoTheOperationsCode)
+{
+    for (const Operation &operation : allOperations) {
+        SCOPED_TRACE(caption(operation.dispatch, operation.form, operation.name));
+        List list = argumentsFor(rowNamed(operation.name));
+        Value value = valueOf(list);
+        const QString name = QString::fromLatin1(operation.name);
+        const auto work = [&] {
+            return operation.form == ValueForm ? make(operation.dispatch, name, value, nullptr, nullptr)
+                                               : make(operation.dispatch, name, list, nullptr, nullptr);
+        };
+        ASSERT_TRUE(work()) << "without a shortage it is made";
+        expectRefusal(operation.foreignCode, operation.foreignText, operation.function,
+                      [&] { outOfMemoryOnce(work); });
+        ASSERT_TRUE(work()) << "the next one is made again";
+    }
+}
+
+TEST(CommandFactoryRefusals, passOnWhatTheOperationInTheMiddleSays)
+{
+    // a command of any kind is made by another operation, whose own refusal it tells
+    List list;
+    Value value = valueOf({});
+    const CommandPtr ofList(Cmd::getProtoCommand("GET_STATUS", list, nullptr));
+    const CommandPtr ofValue(Cmd::getProtoCommand("GET_STATUS", value, nullptr));
+    expectRefusal(
+        "DE00148", "Errors during serial protocol command xml-rpc decoding", allOperations[2].function, [&] {
+            outOfMemoryOnce([&] { return CommandPtr(Cmd::getProtoCommand("GET_STATUS", value, nullptr)); });
+        });
+    expectRefusal("DE00146", "Errors during serial protocol command parmeters decoding",
+                  allOperations[3].function, [&] {
+                      outOfMemoryOnce(
+                          [&] { return CommandPtr(Cmd::getProtoCommand("GET_STATUS", list, nullptr)); });
+                  });
+}
+
+/** A machine that cannot be copied. */
+template <class Machine>
+class UncopyableMachine : public Machine
+{
+public:
+    explicit UncopyableMachine(std::function<void()> fail) : m_fail(std::move(fail)) {}
+
+    UncopyableMachine *clone() const override
+    {
+        m_fail();
+        return nullptr;
+    }
+
+private:
+    std::function<void()> m_fail;
+};
+
+const std::function<void()> foreignFailures[] = {
+    [] { throw std::runtime_error("not to be copied"); },
+    [] { throw 7; },
+    [] { throw FW_DriverError("DE09999", "an error, but no exception of the framework"); },
+    [] { throw XmlRpc::XmlRpcException("type error"); },
+};
+
+TEST(CommandFactoryRefusals, turnWhatAMachineThrowsIntoTheOperationsCode)
+{
+    for (const auto &fail : foreignFailures) {
+        const UncopyableMachine<FW_Dispenser> dispenser(fail);
+        const UncopyableMachine<FW_Mixer> mixer(fail);
+        for (const Operation &operation : allOperations) {
+            const bool copies = operation.dispatch == Dispatch::Serial ||
+                                operation.dispatch == Dispatch::DispenserConfig ||
+                                operation.dispatch == Dispatch::MixerConfig;
+            const char *name = operation.dispatch == Dispatch::DispenserSerial ? "TINT" : operation.name;
+            if (!copies && operation.dispatch != Dispatch::DispenserSerial)
+                continue;
+            SCOPED_TRACE(caption(operation.dispatch, operation.form, name));
+            expectRefusal(operation.foreignCode, operation.foreignText, operation.function, [&] {
+                make(operation.dispatch, operation.form, QString::fromLatin1(name), {1, 1, 1}, &dispenser,
+                     &mixer);
+            });
+        }
+    }
+}
+
+TEST(CommandFactoryRefusals, passOnWhatAMachineThrowsAsAnException)
+{
+    const auto fail = [] { throw FW_Exception("DE09998", "No copies", "FW_Dispenser::clone() const"); };
+    const UncopyableMachine<FW_Dispenser> dispenser(fail);
+    for (Form form : forms) {
+        expectRefusal("DE09998", "No copies", "FW_Dispenser::clone() const",
+                      [&] { make(Dispatch::DispenserSerial, form, "TINT", {1}, &dispenser); });
+        expectRefusal("DE09998", "No copies", "FW_Dispenser::clone() const",
+                      [&] { makeAny(form, "TINT", {1}, &dispenser); });
+    }
+}
+
+TEST(CommandFactoryRefusals, passOnWhatAConstructorThrows)
+{
+    constexpr char ofValue[] =
+        "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
+    constexpr char ofList[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
+    constexpr char tooFew[] = "TINT command : expected at least 1 parameters, received 0 instead!";
+    expectRefusal("DE00313", tooFew, ofList, [] { makeAny(ListForm, "TINT", {}, nullptr); });
+    expectRefusal("DE00312", tooFew, ofValue, [] { makeAny(ValueForm, "TINT", {}, nullptr); });
+    expectRefusal("DE00313", tooFew, ofList, [] { make(Dispatch::DispenserSerial, ListForm, "TINT", {}); });
+    expectRefusal("DE00312", tooFew, ofValue, [] { make(Dispatch::DispenserSerial, ValueForm, "TINT", {}); });
+
+    for (Value scalar : {Value(1), Value("text"), Value(true), structOf({{"a", Value(1)}})}) {
+        for (const char *name : {"TINT", "GET_STATUS", "WEIGHT"}) {
+            expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofValue, [&] {
+                CommandPtr(Cmd::getProtoCommand(QString::fromLatin1(name), scalar, nullptr));
+            });
+        }
+    }
+    for (const char *name : {"TINT", "GET_STATUS", "WEIGHT"}) {
+        Value empty;
+        expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofValue,
+                      [&] { CommandPtr(Cmd::getProtoCommand(QString::fromLatin1(name), empty, nullptr)); });
+    }
+    expectRefusal("DE00298", "Position ID: expected INT parameter",
+                  "DispenserStatusCmd::DispenserStatusCmd(const XmlRpc::XmlRpcValue&)",
+                  [] { makeAny(ValueForm, "GET_STATUS", {true}, nullptr); });
+    expectRefusal("DE00300", "Position ID: expected INT parameter",
+                  "DispenserStatusCmd::DispenserStatusCmd(QList<QVariant>)",
+                  [] { makeAny(ListForm, "GET_STATUS", {true}, nullptr); });
+}
+
+TEST(CommandFactoryRefusals, ignoreWhatAPlainCommandDoesNotRead)
+{
+    Value noArray("text");
+    EXPECT_EQ(className(CommandPtr(Cmd::getProtoCommand("GET_DRIVER_INFO", noArray, nullptr))),
+              "ConfProtoCommand");
+    Value empty;
+    EXPECT_EQ(className(CommandPtr(Cmd::getProtoCommand("GET_ERRORS", empty, nullptr))),
+              "SerialProtoCommand");
+}
+
+// ---------------------------------------------------------------- the contract of every command
+
+/** The arguments of a request: all after the name. */
+List argumentsOf(const Value &request)
+{
+    List list;
+    for (int i = 1; i < request.size(); ++i)
+        list.append(DecodeXmlRpcVariant(request[i]));
+    return list;
+}
+
+TEST(EveryCommand, canBeMadeWrittenAndReadBack)
+{
+    const Machines machines;
+    for (Form form : forms) {
+        for (const CommandRow &row : commandRows) {
+            SCOPED_TRACE(caption(wayOf(row), form, row.name));
+            const QString name = QString::fromLatin1(row.name);
+            const FW_Machine *machine = &machines.dispenser;
+            if (row.target == 4)
+                machine = &machines.mixer;
+            const List given = argumentsFor(row);
+            const CommandPtr command = makeAny(form, name, given, machine);
+
+            bool ok = false;
+            const Value request = command->toXmlRpcValue(QString(), &ok);
+            ASSERT_TRUE(ok);
+            ASSERT_EQ(request.getType(), Value::TypeArray);
+            ASSERT_GE(request.size(), 1);
+            EXPECT_EQ(dumped(request[0]), '"' + std::string(row.name) + '"');
+
+            const bool plain = className(command) == plainClass(wayOf(row));
+            if (plain) {
+                EXPECT_EQ(request.size(), 1) << "a plain command has no arguments to write";
+                continue;
+            }
+            for (int i = 0; i < given.size(); ++i)
+                EXPECT_EQ(dumped(request[i + 1]), dumped(EncodeXmlRpcVariant(given.at(i)))) << i;
+            for (Form back : forms) {
+                const CommandPtr again = makeAny(back, name, argumentsOf(request), machine);
+                EXPECT_EQ(className(again), className(command));
+                EXPECT_EQ(again->command(), name);
+                EXPECT_EQ(again->protoType(), command->protoType());
+                EXPECT_EQ(dumped(again->toXmlRpcValue(QString())), dumped(request));
+                EXPECT_EQ(again->parameters(), command->parameters());
+            }
+            const CommandPtr copy(command->clone());
+            EXPECT_EQ(className(copy), className(command));
+            EXPECT_EQ(dumped(copy->toXmlRpcValue(QString())), dumped(request));
+        }
+    }
+}
+
+TEST(EveryCommand, tellsTheNameAfterTheLeadingText)
+{
+    for (const CommandRow &row : commandRows) {
+        SCOPED_TRACE(row.name);
+        const CommandPtr command =
+            makeAny(ListForm, QString::fromLatin1(row.name), argumentsFor(row), nullptr);
+        const Value request = command->toXmlRpcValue("user");
+        ASSERT_GE(request.size(), 2);
+        EXPECT_EQ(dumped(request[0]), "\"user\"");
+        EXPECT_EQ(dumped(request[1]), '"' + std::string(row.name) + '"');
+    }
+}
+
+} // namespace

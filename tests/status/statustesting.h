@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "base/basetesting.h"
+#include "status/dispenserstatusanswer.h"
+
+#include <QtCore/QStringList>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+// What the tests of status answers share: the flags by name, a whole answer in both forms, translated texts.
+
+namespace testing_status {
+
+using namespace testing_base;
+
+/** A flag with the name of its field, which is also the name of its member. */
+template <class Status>
+struct Flag
+{
+    const char *name = "";
+    bool Status::*field = nullptr;
+};
+
+/** In the order in which they are declared. */
+extern const std::vector<Flag<MachineStatusAnswer>> machineFlags;
+extern const std::vector<Flag<DispenserStatusAnswer>> dispenserFlags;
+
+/** The names of the flags that are true, the machine's and the dispenser's. */
+std::set<std::string> setFlags(const DispenserStatusAnswer &answer);
+bool &flagNamed(DispenserStatusAnswer &answer, const std::string &name);
+
+/** The same with the machine's flags alone. */
+std::set<std::string> setMachineFlags(const MachineStatusAnswer &answer);
+bool &machineFlagNamed(MachineStatusAnswer &answer, const std::string &name);
+
+/** A struct with a member for each field: status 1, all flags but normal_wm false, positions 0. */
+Value idleStruct();
+/** The struct without one member. */
+Value without(const Value &value, const std::string &key);
+
+/** Tokens of an idle machine, up to the last mask. */
+QStringList idleTokens();
+
+/** A status text and whether it is bad. */
+struct Line
+{
+    const char *text = "";
+    bool bad = false;
+};
+using Lines = QList<QPair<QString, bool>>;
+Lines linesOf(const std::vector<Line> &lines);
+
+/** While it lives, every text of the library's context is translated to the same text between angle quotes. */
+class TranslatedTexts
+{
+public:
+    TranslatedTexts();
+    ~TranslatedTexts();
+    TranslatedTexts(const TranslatedTexts &) = delete;
+    TranslatedTexts &operator=(const TranslatedTexts &) = delete;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+/** The text as TranslatedTexts translates it. */
+QString translation(const char *text);
+
+} // namespace testing_status
