@@ -1,0 +1,383 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "driver.h"
+
+#include "simulatedfirmware.h"
+
+#include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_mixer.h>
+#include <QuvFramework/fw_xmlrpc.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <future>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using namespace std::chrono_literals;
+using quv::Driver;
+using quv::FirmwareReply;
+using XmlRpc::XmlRpcValue;
+
+/// Replies as it is told, and notes what it was asked.
+class ScriptedFirmware final : public quv::Firmware
+{
+public:
+    using Script = std::function<FirmwareReply()>;
+    explicit ScriptedFirmware(Script script) : m_script(std::move(script)) {}
+
+    FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) override
+    {
+        asked.append(QStringLiteral("%1 %2 %3").arg(code).arg(module).arg(parameters.size()));
+        return m_script();
+    }
+
+    QStringList asked{};
+
+private:
+    Script m_script{};
+};
+
+const QStringList IdleTokens = QStringLiteral("E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0").split(QLatin1Char(' '));
+
+template <class... Params>
+XmlRpcValue arrayOf(const Params &...params)
+{
+    XmlRpcValue array;
+    array.setSize(0);
+    int i = 0;
+    ((array[i++] = XmlRpcValue(params)), ...);
+    return array;
+}
+
+/// The parts of an envelope that tests look at.
+struct Envelope
+{
+    explicit Envelope(const XmlRpcValue &value)
+    {
+        if (!DecodeXmlRpcValue(value, "ret_code", retCode) || !DecodeXmlRpcValue(value, "info", info) ||
+            !DecodeXmlRpcMember(value, "ret_value", answer))
+            throw std::logic_error("no envelope");
+        const XmlRpcValue *errors = FindXmlRpcMember(value, "errors");
+        for (int i = 0; i < errors->size(); ++i) {
+            QString code;
+            QString text;
+            DecodeXmlRpcValue(*FindXmlRpcElement(*errors, i), "code", code);
+            DecodeXmlRpcValue(*FindXmlRpcElement(*errors, i), "text", text);
+            failures.append(code + QLatin1Char(' ') + text);
+        }
+    }
+
+    bool flag(const char *key) const
+    {
+        bool value = false;
+        if (!DecodeXmlRpcValue(answer, key, value))
+            throw std::logic_error("no flag");
+        return value;
+    }
+    std::string error() const { return failures.join(QLatin1Char('|')).toStdString(); }
+
+    int retCode = -1;
+    QString info{};
+    XmlRpcValue answer{};
+    QStringList failures{};
+};
+
+class DriverTest : public testing::Test
+{
+protected:
+    ScriptedFirmware &addScripted(std::unique_ptr<FW_Machine> machine, ScriptedFirmware::Script script)
+    {
+        auto firmware = std::make_unique<ScriptedFirmware>(std::move(script));
+        ScriptedFirmware &added = *firmware;
+        m_driver.addMachine(std::move(machine), std::move(firmware));
+        return added;
+    }
+    ScriptedFirmware &addDispenser(const QStringList &tokens, bool refused = false)
+    {
+        return addScripted(std::make_unique<FW_Dispenser>(), [=] { return FirmwareReply{refused, tokens}; });
+    }
+    ScriptedFirmware &addMixer(const QStringList &tokens)
+    {
+        return addScripted(std::make_unique<FW_Mixer>(), [=] { return FirmwareReply{false, tokens}; });
+    }
+
+    template <class... Params>
+    Envelope call(const char *method, const Params &...params)
+    {
+        return Envelope(m_driver.call({QLatin1String(method), arrayOf(params...)}));
+    }
+
+    Driver m_driver;
+};
+
+TEST_F(DriverTest, theStatusComesAsTheStructOfItsAnswer)
+{
+    const ScriptedFirmware &firmware = addDispenser(IdleTokens);
+    const Envelope envelope = call("EXEC_B", "GET_STATUS");
+    EXPECT_EQ(envelope.retCode, 0);
+    EXPECT_EQ(envelope.info, QStringLiteral("GET_STATUS command executed successfully!"));
+    EXPECT_TRUE(envelope.failures.isEmpty());
+    EXPECT_TRUE(envelope.flag("head1_can_dose"));
+    EXPECT_FALSE(envelope.flag("resetting"));
+    EXPECT_EQ(firmware.asked, QStringList{QStringLiteral("0006 0 0")});
+}
+
+TEST_F(DriverTest, argumentsReachTheFirmware)
+{
+    const ScriptedFirmware &firmware = addDispenser(IdleTokens);
+    EXPECT_EQ(call("EXEC_B", "GET_STATUS", 5).retCode, 0);
+    EXPECT_EQ(firmware.asked, QStringList{QStringLiteral("0006 5 0")});
+}
+
+TEST_F(DriverTest, aLeadingTextIsPassedOver)
+{
+    const ScriptedFirmware &firmware = addDispenser(IdleTokens);
+    EXPECT_EQ(call("EXEC_B", "session 12", "GET_STATUS", 5).retCode, 0);
+    EXPECT_EQ(call("EXEC_B", "", "GET_STATUS", 6).retCode, 0);
+    EXPECT_EQ(firmware.asked, (QStringList{QStringLiteral("0006 5 0"), QStringLiteral("0006 6 0")}));
+}
+
+TEST_F(DriverTest, aCommandsNameIsNoLeadingText)
+{
+    addDispenser(IdleTokens);
+    const Envelope envelope = call("EXEC_B", "GET_STATUS", "RESET");
+    EXPECT_EQ(envelope.retCode, 1);
+    EXPECT_EQ(envelope.error(), "DE00298 Position ID: expected INT parameter");
+}
+
+TEST_F(DriverTest, aDispenserOfFamily2IsAskedByItsOwnCode)
+{
+    auto dispenser = std::make_unique<FW_Dispenser>();
+    dispenser->setCommandFamily(FW_Dispenser::CommandFamily2);
+    const ScriptedFirmware &firmware = addScripted(std::move(dispenser), [] {
+        return FirmwareReply{false, IdleTokens};
+    });
+    EXPECT_EQ(call("EXEC_B", "GET_STATUS").retCode, 0);
+    EXPECT_EQ(firmware.asked, QStringList{QStringLiteral("I3 0 0")});
+    const Envelope reset = call("EXEC_B", "RESET");
+    EXPECT_EQ(reset.retCode, 3);
+    EXPECT_EQ(reset.error(), "DE03105 The machine's firmware has no code for this command");
+    EXPECT_EQ(firmware.asked.size(), 1);
+}
+
+TEST_F(DriverTest, aCommandGoesToTheMachineThatItIsFor)
+{
+    const ScriptedFirmware &mixer = addMixer({QStringLiteral("0")});
+    const ScriptedFirmware &dispenser = addDispenser({QStringLiteral("0")});
+    EXPECT_EQ(call("EXEC_B", "MIXER_STATUS").retCode, 0);
+    EXPECT_EQ(mixer.asked, QStringList{QStringLiteral("0033 0 0")});
+    EXPECT_EQ(call("EXEC_B", "RESET").retCode, 0); // for both kinds
+    EXPECT_EQ(dispenser.asked, QStringList{QStringLiteral("0001 0 0")});
+    EXPECT_EQ(mixer.asked.size(), 1);
+}
+
+TEST_F(DriverTest, aMixerAloneGetsWhatIsForBothKinds)
+{
+    const ScriptedFirmware &mixer = addMixer({QStringLiteral("0")});
+    EXPECT_EQ(call("EXEC_B", "RESET").retCode, 0);
+    EXPECT_EQ(mixer.asked, QStringList{QStringLiteral("0001 0 0")});
+    const Envelope status = call("EXEC_B", "GET_STATUS");
+    EXPECT_EQ(status.retCode, 5);
+    EXPECT_EQ(status.error(), "DE03104 This driver has no machine that carries out this command");
+}
+
+TEST_F(DriverTest, aSecondMachineOfAKindIsRefused)
+{
+    addDispenser(IdleTokens);
+    EXPECT_FALSE(m_driver.addMachine(std::make_unique<FW_Dispenser>(),
+                                     std::make_unique<quv::SimulatedFirmware>(FW_Dispenser())));
+}
+
+TEST_F(DriverTest, requestsThatCannotBeUnderstood)
+{
+    const Envelope empty = call("EXEC_B");
+    EXPECT_EQ(empty.retCode, 1);
+    EXPECT_EQ(empty.error(), "DE03101 The request holds no command name");
+    EXPECT_EQ(empty.info, QStringLiteral("Command failed! : Failed! Xml-rpc command invalid for Driver."));
+
+    EXPECT_EQ(call("EXEC_B", 2147483647).error(),
+              "DE03102 The command name must be a text, not the integer 2147483647");
+    EXPECT_EQ(call("EXEC_B", 0.1).error(), "DE03102 The command name must be a text, not the double 0.1");
+    EXPECT_EQ(call("EXEC_B", 0.30000000000000004).error(),
+              "DE03102 The command name must be a text, not the double 0.30000000000000004");
+    EXPECT_EQ(call("EXEC_B", true, "GET_STATUS").error(),
+              "DE03102 The command name must be a text, not a boolean");
+    EXPECT_EQ(call("EXEC_B", arrayOf("GET_STATUS")).error(),
+              "DE03102 The command name must be a text, not an array");
+}
+
+TEST_F(DriverTest, anUnknownCommandIsNamedInAnyScript)
+{
+    const Envelope envelope = call("EXEC_B", "T\xC3\x8FNT \xE8\x89\xB2", 1);
+    EXPECT_EQ(envelope.retCode, 1);
+    ASSERT_EQ(envelope.failures.size(), 2);
+    EXPECT_EQ(envelope.failures[0], QStringLiteral("DE00337 Command type not recognized"));
+    EXPECT_EQ(envelope.failures[1],
+              QString::fromUtf8("DE03103 The catalogue has no command \"T\xC3\x8FNT \xE8\x89\xB2\""));
+    EXPECT_EQ(envelope.info,
+              QString::fromUtf8("T\xC3\x8FNT ? : Failed! Xml-rpc command invalid for Driver."));
+}
+
+TEST_F(DriverTest, aReplyThatCannotBeDecoded)
+{
+    addDispenser({QStringLiteral("2"), QStringLiteral("0"), QStringLiteral("1")});
+    const Envelope envelope = call("EXEC_B", "GET_STATUS");
+    EXPECT_EQ(envelope.retCode, 2);
+    EXPECT_EQ(envelope.error(), "DE00066 Error during command answer decoding: bad length");
+    EXPECT_EQ(envelope.info, QStringLiteral("GET_STATUS : Failed! Serial answer invalid for Driver."));
+}
+
+TEST_F(DriverTest, aCodeThatTheFirmwareDoesNotKnow)
+{
+    addDispenser(QStringLiteral("6 8 0 0 0 0 0").split(QLatin1Char(' ')), true);
+    const Envelope envelope = call("EXEC_B", "RESET");
+    EXPECT_EQ(envelope.retCode, 3);
+    EXPECT_EQ(envelope.error(),
+              "DE03106 The firmware refused the code 0001; masks of the reasons: 0x8 and 0x0");
+}
+
+TEST_F(DriverTest, aCommandThatTheFirmwareRefuses)
+{
+    addDispenser(QStringLiteral("6 10 1 0 0 0 0").split(QLatin1Char(' ')), true);
+    const Envelope envelope = call("EXEC_B", "GET_STATUS");
+    EXPECT_EQ(envelope.retCode, 4);
+    EXPECT_EQ(envelope.error(),
+              "DE03106 The firmware refused the code 0006; masks of the reasons: 0x10 and 0x1");
+    EXPECT_EQ(envelope.info,
+              QStringLiteral("GET_STATUS : Failed! Command not executed due to errors on firmware."));
+}
+
+TEST_F(DriverTest, aLinkThatFails)
+{
+    addScripted(std::make_unique<FW_Dispenser>(),
+                []() -> FirmwareReply { throw std::runtime_error("no reply within 2 s"); });
+    const Envelope envelope = call("EXEC_B", "GET_STATUS");
+    EXPECT_EQ(envelope.retCode, 8);
+    EXPECT_EQ(envelope.error(), "DE03110 no reply within 2 s");
+}
+
+TEST_F(DriverTest, whatTheDriverDoesNotCarryOutYet)
+{
+    addDispenser(IdleTokens);
+    for (const char *name : {"GET_DRIVER_INFO", "CHECK_BUSY"}) {
+        const Envelope envelope = call("EXEC_B", name);
+        EXPECT_EQ(envelope.retCode, 6) << name;
+        EXPECT_EQ(envelope.error(),
+                  "DE03107 This driver does not yet carry out this command, which needs no firmware")
+            << name;
+    }
+}
+
+TEST_F(DriverTest, aTicketIsNotOfferedAndNothingIsCarriedOut)
+{
+    const ScriptedFirmware &firmware = addDispenser(IdleTokens);
+    const Envelope envelope = call("EXEC_NB", "RESET");
+    EXPECT_EQ(envelope.retCode, 6);
+    EXPECT_EQ(envelope.error(),
+              "DE03108 This driver does not yet offer tickets; call EXEC_B, which waits for the answer");
+    EXPECT_TRUE(firmware.asked.isEmpty());
+    EXPECT_EQ(call("EXEC_NB", "GET_STATUS", "text").retCode, 1);
+}
+
+TEST_F(DriverTest, waitingForAChangeIsNotOfferedButThePlainLayoutIs)
+{
+    const ScriptedFirmware &firmware = addDispenser(IdleTokens);
+    XmlRpcValue parameters;
+    parameters["cmd_parameters"] = arrayOf(5);
+    XmlRpcValue last;
+    last["last_answer"] = 1;
+    for (const XmlRpcValue &request :
+         {arrayOf("GET_STATUS", 500, 10000), arrayOf("lead", "GET_STATUS", 500, 10000),
+          arrayOf("GET_STATUS", parameters, 500, 10000), arrayOf("GET_STATUS", last, 500, 10000),
+          arrayOf("GET_STATUS", parameters, last, 500, 10000)}) {
+        const Envelope envelope(m_driver.call({QStringLiteral("EXEC_NC"), request}));
+        EXPECT_EQ(envelope.retCode, 6);
+        EXPECT_EQ(envelope.error(), "DE03109 This driver does not yet wait for a change of the answer");
+    }
+    EXPECT_TRUE(firmware.asked.isEmpty());
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS").retCode, 0);
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", 5).retCode, 0);
+    EXPECT_EQ(firmware.asked, (QStringList{QStringLiteral("0006 0 0"), QStringLiteral("0006 5 0")}));
+}
+
+TEST_F(DriverTest, anUnknownMethodIsAFault)
+{
+    for (const char *method : {"", "exec_b", "EXEC_", "system.listMethods"}) {
+        try {
+            m_driver.call({QLatin1String(method), arrayOf("GET_STATUS")});
+            ADD_FAILURE() << method;
+        } catch (const quv::FaultException &error) {
+            EXPECT_EQ(error.fault().code, -32601) << method;
+        }
+    }
+}
+
+TEST_F(DriverTest, aProcessShowsInTheStatusThatFollows)
+{
+    qint64 now = 0;
+    auto machine = std::make_unique<FW_Dispenser>();
+    auto firmware = std::make_unique<quv::SimulatedFirmware>(*machine, 1, [&now] { return now; });
+    m_driver.addMachine(std::move(machine), std::move(firmware));
+    EXPECT_FALSE(call("EXEC_B", "GET_STATUS").flag("resetting"));
+    EXPECT_EQ(call("EXEC_B", "RESET").retCode, 0);
+    EXPECT_TRUE(call("EXEC_B", "GET_STATUS").flag("resetting"));
+    EXPECT_EQ(call("EXEC_B", "RESET").retCode, 4);
+    now = 6000;
+    EXPECT_FALSE(call("EXEC_B", "GET_STATUS").flag("resetting"));
+}
+
+TEST_F(DriverTest, aMachineIsAskedByOneRequestAtATime)
+{
+    std::atomic<int> inside{0};
+    std::atomic<int> most{0};
+    addScripted(std::make_unique<FW_Dispenser>(), [&] {
+        const int now = ++inside;
+        if (now > most)
+            most = now;
+        std::this_thread::sleep_for(2ms);
+        --inside;
+        return FirmwareReply{false, IdleTokens};
+    });
+    std::vector<std::thread> clients;
+    clients.reserve(8);
+    for (int i = 0; i < 8; ++i)
+        clients.emplace_back([&] {
+            for (int n = 0; n < 5; ++n)
+                EXPECT_EQ(call("EXEC_B", "GET_STATUS").retCode, 0);
+        });
+    for (std::thread &client : clients)
+        client.join();
+    EXPECT_EQ(most, 1);
+}
+
+TEST_F(DriverTest, aBusyMachineHoldsUpNobodyElse)
+{
+    std::promise<void> entered;
+    std::promise<void> release;
+    addScripted(std::make_unique<FW_Dispenser>(), [&] {
+        entered.set_value();
+        release.get_future().wait();
+        return FirmwareReply{false, IdleTokens};
+    });
+    addMixer({QStringLiteral("0")});
+    auto busy = std::async(std::launch::async, [&] { return call("EXEC_B", "GET_STATUS").retCode; });
+    entered.get_future().wait();
+
+    auto others = std::async(std::launch::async, [&] {
+        return std::vector<int>{call("EXEC_B", "MIXER_STATUS").retCode,
+                                call("EXEC_B", "GET_DRIVER_INFO").retCode, call("EXEC_B", "NOPE").retCode};
+    });
+    EXPECT_EQ(others.wait_for(5s), std::future_status::ready);
+    EXPECT_EQ(busy.wait_for(0s), std::future_status::timeout);
+    release.set_value();
+    EXPECT_EQ(others.get(), (std::vector<int>{0, 6, 1}));
+    EXPECT_EQ(busy.get(), 0);
+}
+
+} // namespace

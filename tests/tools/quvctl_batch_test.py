@@ -1,0 +1,548 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+"""quvctl batch as a program: literal requests in, literal replies out. Usage: quvctl_batch_test.py QUVCTL"""
+
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import threading
+import unittest
+
+QUVCTL = ""
+LONGEST = 16 * 1024 * 1024
+
+GET_PROTO_VALUE = ("static ProtoCommand* ProtoCommandList::getProtoCommand"
+                   "(QString, XmlRpc::XmlRpcValue&, const FW_Machine*)")
+GET_PROTO_LIST = ("static ProtoCommand* ProtoCommandList::getProtoCommand"
+                  "(QString, QList<QVariant>, const FW_Machine*)")
+PROTO_VALUE = "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)"
+PROTO_LIST = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)"
+
+# What a dispenser's status holds when nothing is going on.
+IDLE = {
+    "disp_status": 1, "current_position_id": 0, "current_position_id_zone": 0, "normal_wm": True,
+    **dict.fromkeys("""
+        offline_pressed board_not_initialized startup resetting BL_active BL_memory_resetting BL_fw_update conf_writing
+        hw_error conf_error process_error stop_process disp_info_writing disp_info_erasing new_buffered_error
+        dispenser_not_ready emergency_pressed can_present shelf_up shelf_down WM_set door_open machine_turned_off
+        machine_unlocked tinting recirculating stirring valve_on cap_open bellow_up no_24_voltage no_48_voltage punching
+        slave_scan post_erogation turntable_moving cleaning formula_interrupted nozzle_valve_working_pos
+        circuit_fin_presence airpurge head1_can_dose head2_can_dose predispensing pumping nozzle_moving
+        nozzle_valve_open_accurate canister_lvl_critical new_cleaning_stats stall_low stall_high check_level_in_progress
+        speed_red_in_recirc plc_start_activated plc_stop_activated m_zdr_mixingInProgress m_zdr_openingPlatesInProgress
+        m_zdr_closingPlatesInProgress m_zdr_pluggingInProgress m_zdr_canCentered m_zdr_plasticPlugReserve
+        m_zdr_plasticPlugNotMounted m_zdr_homePosition""".split(), False)}
+
+
+def status(**changes):
+    assert set(changes) <= set(IDLE)
+    return {**IDLE, **changes}
+
+
+def refused(code, text, function):
+    return {"ok": False, "code": code, "text": text, "function": function}
+
+
+def bad(text):
+    return refused("", text, "")
+
+
+def unique(pairs):
+    keys = [key for key, _ in pairs]
+    assert len(keys) == len(set(keys)), keys
+    return dict(pairs)
+
+
+class BatchTest(unittest.TestCase):
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.process = subprocess.Popen([QUVCTL, "batch"], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.process.stdin.close()
+        status_at_end = cls.process.wait(30)
+        cls.process.stdout.close()
+        assert status_at_end == 0, status_at_end
+
+    def send(self, line):
+        """The reply line to a line of bytes."""
+        watchdog = threading.Timer(30, self.process.kill)
+        watchdog.start()
+        self.process.stdin.write(line + b"\n")
+        self.process.stdin.flush()
+        reply = self.process.stdout.readline()
+        watchdog.cancel()
+        self.assertTrue(reply.endswith(b"\n"), reply)
+        return reply.decode("utf-8")
+
+    def ask(self, request):
+        text = request if isinstance(request, str) else json.dumps(request)
+        return json.loads(self.send(text.encode("utf-8")), object_pairs_hook=unique)
+
+    def expect(self, request, reply):
+        got = self.ask(request)
+        self.assertEqual(got, reply)
+        # True == 1 and 1.0 == 1 in Python, but not on the wire
+        self.assertEqual(json.dumps(got, sort_keys=True), json.dumps(reply, sort_keys=True))
+
+
+class Catalogue(BatchTest):
+    def test_rows(self):
+        reply = self.ask({"op": "catalogue"})
+        self.assertIs(reply["ok"], True)
+        rows = reply["rows"]
+        self.assertEqual(len(rows), 167)
+        self.assertEqual([row["id"] for row in rows], list(range(167)))
+        self.assertEqual(list(rows[0].items()), [
+            ("id", 0), ("name", "GET_STATUS"), ("code", "0006"), ("altCode", "I3"), ("maxParams", 1), ("minParams", 0),
+            ("type", 0), ("target", 1), ("multiple", False), ("addressMachine", True), ("workingPriorityLevel", 0),
+            ("schedulingPriorityLevel", 6), ("checkBusy", False), ("busyTimeout", 0), ("trackExecutionTime", False),
+            ("recordInStats", False), ("machineObjUsage", 0), ("privateCommand", False), ("erogationCommand", False),
+            ("familyMask", 3)])
+        self.assertEqual(rows[8], {
+            "id": 8, "name": "TINT", "code": "0017", "altCode": "", "maxParams": 1, "minParams": 1, "type": 5,
+            "target": 1, "multiple": False, "addressMachine": True, "workingPriorityLevel": 0,
+            "schedulingPriorityLevel": 0, "checkBusy": True, "busyTimeout": 9999999, "trackExecutionTime": True,
+            "recordInStats": True, "machineObjUsage": 2, "privateCommand": False, "erogationCommand": True,
+            "familyMask": 3})
+        self.assertEqual(rows[166]["name"], "PAUSE")
+
+    def query(self, expected, what, **arguments):
+        self.expect({"op": "query", "what": what, **arguments}, {"ok": True, "value": expected})
+
+    def test_lookups(self):
+        self.query(True, "existsCommand", name="GET_STATUS")
+        self.query(False, "existsCommand", name="get_status")
+        self.query("TINT", "cmdStr", value=8)
+        self.query("", "cmdStr", value=167)
+        self.query("", "cmdStr", value=-1)
+        self.query(10, "cmdParamNum", name="BOARD_MEMORY", mandatory=False)
+        self.query(6, "cmdParamNum", name="BOARD_MEMORY", mandatory=True)
+        self.query(-1, "cmdParamNum", name="NOPE", mandatory=True)
+        self.query(6, "cmdParamNum", value=40, mandatory=True)
+        self.query(-1, "cmdParamNum", value=167, mandatory=False)
+        self.query("0006", "cmdCode", name="GET_STATUS", family=1)
+        self.query("I3", "cmdCode", name="GET_STATUS", family=2)
+        self.query("", "cmdCode", name="TINT", family=3)
+        self.query("", "cmdCode", name="NOPE", family=1)
+        self.query("EXEC_B", "functionCallStr", mode=1)
+        self.query("EXEC_NB", "functionCallStr", mode=2)
+        self.query("EXEC_B", "functionCallStr", mode=3)
+        self.query("EXEC_NC", "functionCallStr", mode=4)
+
+    def test_targets(self):
+        for name, dispenser, mixer in [("TINT", True, False), ("MIX", False, True), ("RESET", True, True),
+                                       ("GET_HOST_INFO", False, False), ("NOPE", False, False)]:
+            self.query(dispenser, "targetIsDispenser", name=name)
+            self.query(mixer, "targetIsMixer", name=name)
+            self.query(dispenser or mixer, "targetIsMachine", name=name)
+
+    def test_kinds(self):
+        # of each: strictly, and otherwise
+        table = {
+            "isSerialCommand": {"GET_ERRORS": (True, True), "SET_SERIAL": (False, True), "STOP": (False, True),
+                                "TINT": (False, True), "CLEAN_CONFIG": (False, False), "NOPE": (False, False)},
+            "isConfigurationCommand": {"LOGIN": (True, True), "SET_SERIAL": (False, True), "STOP": (False, True),
+                                       "CLEAN_CONFIG": (False, True), "TINT": (False, False)},
+            "isSerialAndConfigCommand": {"SET_SERIAL": (True, True), "STOP": (False, True), "TINT": (False, False)},
+            "isConfigAndSerialCommand": {"STOP": (True, True), "SET_SERIAL": (False, True), "TINT": (False, False)},
+            "isSpecialCommand": {"TINT": (False, True), "CLEAN_CONFIG": (False, True), "STOP": (False, False)},
+            "isSpecialAndSerialCommand": {"TINT": (True, True), "CLEAN_CONFIG": (False, False)},
+            "isSpecialAndConfigCommand": {"CLEAN_CONFIG": (True, True), "TINT": (False, False)},
+            "isScaleCommand": {"WEIGHT": (True, True), "TINT": (False, False), "NOPE": (False, False)},
+        }
+        for what, names in table.items():
+            for name, (strictly, otherwise) in names.items():
+                self.query(strictly, what, name=name, strict=True)
+                self.query(otherwise, what, name=name, strict=False)
+
+    def test_fields(self):
+        self.query(True, "isMultipleCommand", name="CHECK_BUSY")
+        self.query(False, "isMultipleCommand", name="TINT")
+        self.query(False, "addressMachine", name="LOGIN")
+        self.query(True, "addressMachine", name="TINT")
+        self.query(True, "hasHighSchedulingPriority", name="GET_SHELF_POS")
+        self.query(False, "hasHighSchedulingPriority", name="TINT")
+        self.query(True, "checkBusyFlag", name="TINT")
+        self.query(False, "checkBusyFlag", name="GET_STATUS")
+        self.query(500000, "busyTimeout", name="ULTRASOUND_CLEAN")
+        self.query(9999999, "commandTimeout", name="TINT")
+        self.query(0, "commandTimeout", name="GET_STATUS")
+        self.query(True, "trackExecutionTime", name="TINT")
+        self.query(False, "trackExecutionTime", name="PRIMING")
+        self.query(True, "recordInStats", name="CLEANING")
+        self.query(False, "recordInStats", name="RESET")
+        self.query(2, "machineObjUsage", name="TINT")
+        self.query(0, "machineObjUsage", name="NOPE")
+        self.query(True, "privateCommand", name="GET_ERROR_PKT")
+        self.query(False, "privateCommand", name="TINT")
+        self.query(True, "erogationCommand", name="MIX")
+        self.query(False, "erogationCommand", name="STIRRING")
+
+    def test_what_may_be_left_out(self):
+        self.query(True, "isSerialCommand", name="STOP")  # not strict: firmware and driver share it
+        self.query(3, "cmdParamNum", name="PURGE")  # the greatest number
+        self.query("0006", "cmdCode", name="GET_STATUS")  # family 1
+        self.query("EXEC_B", "functionCallStr")
+
+    def test_bad_queries(self):
+        for request, text in [
+                ({"what": "nope"}, '"what" names no query of the catalogue'),
+                ({}, '"what" is missing'),
+                ({"what": "existsCommand"}, '"name" is missing'),
+                ({"what": "existsCommand", "name": 5}, '"name" must be a string'),
+                ({"what": "isSerialCommand", "name": "TINT", "strict": 1}, '"strict" must be true or false'),
+                ({"what": "cmdStr", "value": "8"}, '"value" must be a whole number'),
+                ({"what": "cmdStr", "value": 4294967304}, '"value" must be a whole number of 32 bits'),
+                ({"what": "cmdCode", "name": "TINT", "family": 1.0}, '"family" must be a whole number')]:
+            self.expect({"op": "query", **request}, bad(text))
+
+
+class Encode(BatchTest):
+    def encode(self, reply, **request):
+        self.expect({"op": "encode", **request}, reply)
+
+    def test_status_request(self):
+        plain = {"ok": True, "class": "DispenserStatusCmd", "request": ["GET_STATUS", 0], "parameters": [0],
+                 "code": "0006", "module": 0, "serial": [], "estimated_ms": 0, "command": "", "action": "",
+                 "action_detailed": ""}
+        self.encode(plain, name="GET_STATUS")
+        self.encode(plain, name="GET_STATUS", args=[], form="list", machine="dispenser")
+        module3 = {**plain, "request": ["GET_STATUS", 3], "parameters": [3], "module": 3}
+        self.encode(module3, name="GET_STATUS", args=[3])
+        self.encode(module3, name="GET_STATUS", args=[3], form="list", machine="mixer")
+        self.encode({**plain, "code": "I3"}, name="GET_STATUS", family=2)
+        self.encode({**plain, "code": ""}, name="GET_STATUS", family=3)
+
+    def test_texts_of_the_bases(self):
+        self.encode({"ok": True, "class": "ConfProtoCommand", "request": ["GET_DRIVER_SETTINGS"], "parameters": [],
+                     "estimated_ms": 20000, "command": "Application settings read",
+                     "action": "Retrieving application settings",
+                     "action_detailed": "Retrieving application settings"}, name="GET_DRIVER_SETTINGS")
+        self.encode({"ok": True, "class": "SerialProtoCommand", "request": ["FINALIZE_CONFIG"], "parameters": [],
+                     "code": "0067", "module": 0, "serial": [], "estimated_ms": 0, "command": "",
+                     "action": "In progress", "action_detailed": "In progress"}, name="FINALIZE_CONFIG")
+        self.encode({"ok": True, "class": "ConfProtoCommand", "request": ["GET_USS_W_STATUS"], "parameters": [],
+                     "estimated_ms": 240000, "command": "", "action": "", "action_detailed": ""},
+                    name="GET_USS_W_STATUS")
+
+    def test_refusals(self):
+        self.encode(refused("DE00298", "Position ID: expected INT parameter",
+                            "DispenserStatusCmd::DispenserStatusCmd(const XmlRpc::XmlRpcValue&)"),
+                    name="GET_STATUS", args=[1.0])
+        self.encode(refused("DE00300", "Position ID: expected INT parameter",
+                            "DispenserStatusCmd::DispenserStatusCmd(QList<QVariant>)"),
+                    name="GET_STATUS", args=["1"], form="list")
+        self.encode(refused("DE00312", "TINT command : expected at least 1 parameters, received 0 instead!",
+                            PROTO_VALUE), name="TINT")
+        self.encode(refused("DE00313", "TINT command : expected at least 1 parameters, received 0 instead!",
+                            PROTO_LIST), name="TINT", form="list")
+        self.encode(refused("DE00311", "ProtoCommand: expected array for xmlrpc type", PROTO_VALUE),
+                    name="GET_STATUS", args={"position": 1})
+        self.encode(refused("DE00337", "Command type not recognized", GET_PROTO_VALUE), name="NOPE")
+        self.encode(refused("DE00441", "Command type not recognized", GET_PROTO_LIST), name="NOPE", form="list")
+
+    def test_bad_requests(self):
+        self.encode(bad('"name" is missing'))
+        self.encode(bad('"name" must be a string'), name=None)
+        self.encode(bad('"form" must be "value" or "list"'), name="GET_STATUS", form="xml")
+        self.encode(bad('"args" must be an array'), name="GET_STATUS", args={}, form="list")
+        self.encode(bad('"args": the whole number 2147483648 does not fit in 32 bits'),
+                    name="GET_STATUS", args=[2147483648])
+        self.encode(bad('"args": the whole number -2147483649 does not fit in 32 bits'),
+                    name="GET_STATUS", args=[-2147483649], form="list")
+        self.encode(bad('"args": null is no value of the protocol'), name="GET_STATUS", args=[None])
+        self.encode(bad('"family" must be a whole number'), name="GET_STATUS", family="1")
+
+    def test_machine_file(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "machine.json")
+            with open(path, "w", encoding="utf-8") as file:
+                file.write('{"type": "dispenser", "heads": 2, "command_family": 2}')
+            self.assertIs(self.ask({"op": "encode", "name": "GET_STATUS", "machine": path})["ok"], True)
+            missing = self.ask({"op": "encode", "name": "GET_STATUS", "machine": path + "x"})
+        self.assertIs(missing["ok"], False)
+        self.assertEqual(missing["code"], "")
+        self.assertIn(path + "x", missing["text"])
+
+
+class Decode(BatchTest):
+    def decode(self, tokens, reply):
+        self.expect({"op": "decode", "name": "GET_STATUS", "args": [], "tokens": tokens}, reply)
+
+    def answer(self, descriptions, **changes):
+        return {"ok": True, "class": "DispenserStatusAnswer", "value": status(**changes),
+                "descriptions": [{"text": text, "bad": is_bad} for text, is_bad in descriptions]}
+
+    def test_shortest_answer(self):
+        self.decode(["6", "0", "1", "0", "0", "0", "0"], self.answer([]))
+        self.decode(["6", "anything", "2", "0", "0", "0", "1"], self.answer([], disp_status=2, normal_wm=False))
+
+    def test_bits(self):
+        self.decode(["6", "0", "1", "7F", "0", "40", "0"], self.answer(
+            [("Emergency button pressed", True), ("Offline button pressed", True), ("Board not initialized", True),
+             ("Startup in progress", True), ("Reset in progress", False), ("Tinting in progress", False),
+             ("Recirculation in progress", False), ("Stirring in progress", False)],
+            offline_pressed=True, board_not_initialized=True, tinting=True, recirculating=True, stirring=True,
+            startup=True, resetting=True, emergency_pressed=True))
+        self.decode(["6", "0", "1", "0", "3", "2", "16"], self.answer(
+            [("At least one valve ON", False), ("Autocap opened", False), ("Bellows up", False),
+             ("Punching in progress", False)],
+            valve_on=True, cap_open=True, bellow_up=True, no_24_voltage=True, no_48_voltage=True, punching=True))
+
+    def test_all_words(self):
+        self.decode(["C", "0", "1", "0", "0", "0", "0", "40", "F5", "3", "4", "48", "2", "40", "8"], self.answer(
+            [("Door open", False), ("Machine turned off while working", True), ("Head 1 ready to dispense", False),
+             ("One or more canister under critical level", True), ("Stall low", False)],
+            door_open=True, current_position_id_zone=3, head1_can_dose=True, machine_turned_off=True,
+            canister_lvl_critical=True, stall_low=True, m_zdr_canCentered=True, m_zdr_homePosition=True))
+
+    def test_positions(self):
+        self.decode(["8", "0", "1", "0", "0", "0", "0", "0", "1F", "F5"],
+                    self.answer([], current_position_id=31))
+        self.decode(["8", "0", "1", "0", "0", "0", "0", "0", "zz", "9"],
+                    self.answer([], current_position_id_zone=9))
+
+    def test_refusals(self):
+        machine = "MachineStatusAnswer::MachineStatusAnswer(QStringList)"
+        serial = "SerialProtoAnswer::SerialProtoAnswer(QStringList)"
+        dispenser = "DispenserStatusAnswer::DispenserStatusAnswer(QStringList)"
+        mask = "Error during command answer decoding: mask "
+        for tokens, code, text, function in [
+                ([], "DE00066", "Error during command answer decoding: bad length", machine),
+                (["5", "0", "1", "0", "0"], "DE00066", "Error during command answer decoding: bad length", machine),
+                (["6", "0", "0", "0", "0", "0", "0"], "DE00068",
+                 "Error during command answer decoding: conversion failed", machine),
+                (["6", "0", "3", "0", "0", "0", "0"], "DE00068",
+                 "Error during command answer decoding: conversion failed", machine),
+                (["ZZ", "0", "1", "0", "0", "0", "0"], "DE00070",
+                 "Invalid parameter length type found in answer", serial),
+                (["7", "0", "1", "0", "0", "0", "0"], "DE00077",
+                 "Error during command answer decoding: bad length", serial),
+                (["5", "0", "1", "0", "0", "0"], "DE02666", "Error during command answer decoding", dispenser),
+                (["6", "0", "1", "x", "0", "0", "0"], "DE00128", mask + "1", dispenser),
+                (["6", "0", "1", "0", "x", "0", "0"], "DE00129", mask + "2", dispenser),
+                (["6", "0", "1", "0", "0", "x", "0"], "DE00130", mask + "3", dispenser),
+                (["6", "0", "1", "0", "0", "0", "x"], "DE00113", mask + "4", dispenser),
+                (["7", "0", "1", "0", "0", "0", "0", "x"], "DE01454", mask + "5", dispenser),
+                (["A", "0", "1", "0", "0", "0", "0", "0", "0", "0", "x"], "DE02242", mask + "8", dispenser),
+                (["B", "0", "1", "0", "0", "0", "0", "0", "0", "0", "0", "x"], "DE02430", mask + "9", dispenser),
+                (["C", "0", "1", "0", "0", "0", "0", "0", "0", "0", "0", "0", "x"], "DE02628", mask + "10",
+                 dispenser),
+                (["D", "0", "1", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "x"], "DE02877", mask + "10",
+                 dispenser),
+                (["E", "0", "1", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "x"], "DE02878", mask + "10",
+                 dispenser)]:
+            self.decode(tokens, refused(code, text, function))
+
+    def test_plain_answer(self):
+        self.expect({"op": "decode", "name": "FINALIZE_CONFIG", "tokens": ["1", "A", "B"]},
+                    {"ok": True, "class": "SerialProtoAnswer", "value": 0})
+        self.expect({"op": "decode", "name": "FINALIZE_CONFIG", "tokens": []},
+                    refused("DE00076", "Empty answer received", "SerialProtoAnswer::SerialProtoAnswer(QStringList)"))
+
+    def test_bad_requests(self):
+        self.decode("6", bad('"tokens" must be an array of strings'))
+        self.decode([6], bad('"tokens" must be an array of strings'))
+        self.expect({"op": "decode", "name": "GET_STATUS"}, bad('"tokens" is missing'))
+        self.expect({"op": "decode", "name": "LOGOUT", "args": ["x"], "tokens": []},
+                    bad('"name": LOGOUT is no serial command, so tokens are no answer to it'))
+
+
+class Answers(BatchTest):
+    def test_answer(self):
+        value = status(disp_status=2, tinting=True, hw_error=True, current_position_id=7)
+        reply = {"ok": True, "class": "DispenserStatusAnswer", "value": value,
+                 "descriptions": [{"text": "Hardware error present", "bad": True},
+                                  {"text": "Tinting in progress", "bad": False}]}
+        self.expect({"op": "answer", "name": "GET_STATUS", "args": [], "value": value}, reply)
+        # members that are written and never read
+        self.expect({"op": "answer", "name": "GET_STATUS",
+                     "value": {**value, "WM_set": True, "disp_info_writing": True, "disp_info_erasing": True}}, reply)
+
+    def test_answer_without_optional_members(self):
+        value = status()
+        for key in ["new_buffered_error", "normal_wm", "door_open", "slave_scan", "current_position_id",
+                    "m_zdr_homePosition"]:
+            del value[key]
+        self.expect({"op": "answer", "name": "GET_STATUS", "value": value},
+                    {"ok": True, "class": "DispenserStatusAnswer", "value": status(), "descriptions": []})
+
+    def test_answer_refusals(self):
+        machine = "MachineStatusAnswer::MachineStatusAnswer(const XmlRpc::XmlRpcValue&)"
+        dispenser = "DispenserStatusAnswer::DispenserStatusAnswer(const XmlRpc::XmlRpcValue&)"
+        for key, replacement, code, text, function in [
+                ("disp_status", None, "DE00443", "MachineStatusAnswer: expected disp_status value", machine),
+                ("disp_status", True, "DE00443", "MachineStatusAnswer: expected disp_status value", machine),
+                ("hw_error", None, "DE00026", "MachineStatusAnswer: expected hw_error value", machine),
+                ("hw_error", 0, "DE00026", "MachineStatusAnswer: expected hw_error value", machine),
+                ("can_present", None, "DE00026", "DispenserStatusAnswer: expected can_present value", machine),
+                ("punching", None, "DE00026", "DispenserStatusAnswer: expected punching value", dispenser)]:
+            value = status()
+            del value[key]
+            if replacement is not None:
+                value[key] = replacement
+            self.expect({"op": "answer", "name": "GET_STATUS", "value": value}, refused(code, text, function))
+        self.expect({"op": "answer", "name": "GET_STATUS"}, bad('"value" is missing'))
+
+    def test_plain_answer(self):
+        self.expect({"op": "answer", "name": "FINALIZE_CONFIG", "value": {"a": [1, 2.0]}},
+                    {"ok": True, "class": "SerialProtoAnswer", "value": 0})
+
+
+class Envelopes(BatchTest):
+    def setanswer(self, envelope, reply, **more):
+        self.expect({"op": "setanswer", "name": "GET_STATUS", "envelope": envelope, **more}, reply)
+
+    def test_success(self):
+        value = status(stirring=True)
+        self.setanswer({"ret_code": 0, "info": "done", "ret_value": value, "errors": [], "exec_time": 12},
+                       {"ok": True, "envelope": {"ret_code": 0, "info": "done", "printable": ["Success!"]},
+                        "class": "DispenserStatusAnswer", "value": value})
+
+    def test_refusal_of_the_machine(self):
+        self.setanswer({"ret_code": 4, "info": "no", "ret_value": 0, "errors": []},
+                       {"ok": True, "envelope": {
+                           "ret_code": 4, "info": "no",
+                           "printable": ["Failed! Command not executed due to errors on firmware."]}})
+
+    def test_ticket(self):
+        self.setanswer({"ret_code": 0, "info": "", "ret_value": {"ticket_id": "T-1"}, "errors": []},
+                       {"ok": True, "envelope": {"ret_code": 0, "info": "", "printable": ["Success!"]},
+                        "class": "AsyncAnswer", "value": {"ticket_id": "T-1"}}, **{"async": True})
+
+    def test_envelopes_that_are_none(self):
+        whole = {"ret_code": 0, "info": "", "ret_value": 0, "errors": []}
+        function = "XmlRpcAnswer::XmlRpcAnswer(const XmlRpc::XmlRpcValue&)"
+        for change, code, text in [
+                ({"ret_value": None}, "DE00356", "XmlRpcAnswer: expected ret_value value"),
+                ({"ret_code": None}, "DE00357", "XmlRpcAnswer: expected ret_code value"),
+                ({"ret_code": True}, "DE00357", "XmlRpcAnswer: expected ret_code value"),
+                ({"info": None}, "DE00358", "XmlRpcAnswer: expected info value"),
+                ({"errors": None}, "DE00366", "XmlRpcAnswer: expected errors value"),
+                ({"errors": {}}, "DE00365", "XmlRpcAnswer: bad type for errors value: Array expected"),
+                ({"exec_time": 1.5}, "DE00523", "XmlRpcAnswer: error decoding execution time value")]:
+            envelope = {key: value for key, value in {**whole, **change}.items() if value is not None}
+            self.setanswer(envelope, refused(code, text, function))
+        self.setanswer(5, refused("DE00355", "XmlRpcAnswer: expected struct type for xmlrpc type", function))
+        self.setanswer(whole, refused("DE00443", "MachineStatusAnswer: expected disp_status value",
+                                      "MachineStatusAnswer::MachineStatusAnswer(const XmlRpc::XmlRpcValue&)"))
+        self.setanswer(whole, bad('"async" must be true or false'), **{"async": 0})
+        self.expect({"op": "setanswer", "name": "GET_STATUS"}, bad('"envelope" is missing'))
+
+    def envelope(self, written, **request):
+        self.expect({"op": "envelope", **request}, {"ok": True, "value": written})
+
+    def test_writing(self):
+        self.envelope({"ret_code": 4, "info": "TINT : Failed! Command not executed due to errors on firmware.",
+                       "ret_value": {"a": [1, 2.0, True, "x"]}, "errors": [], "exec_time": 5},
+                      ret_code=4, value={"a": [1, 2.0, True, "x"]}, command="TINT", time=4294967301)
+        self.envelope({"ret_code": 0, "info": "TINT command executed successfully!", "ret_value": 7, "errors": [],
+                       "exec_time": 12}, ret_code=0, value=7, command="TINT", time=12)
+        self.envelope({"ret_code": 0, "info": "Command executed successfully!", "ret_value": 0, "errors": [],
+                       "exec_time": 0}, ret_code=0)
+        for code, text in [(1, "Failed! Xml-rpc command invalid for Driver."),
+                           (2, "Failed! Serial answer invalid for Driver."),
+                           (3, "Failed! Serial command invalid for firmware."),
+                           (5, "Failed! Command not executed due to errors on the driver configuration."),
+                           (6, "Failed! Command not executed due to errors in Driver internal procedures."),
+                           (7, "Command has been interrupted!"),
+                           (8, "Failed! Command not executed due to generic errors."),
+                           (9, "Failed! Generic error."), (-1, "Failed! Generic error.")]:
+            self.envelope({"ret_code": code, "info": "Command failed! : " + text, "ret_value": 0, "errors": [],
+                           "exec_time": 0}, ret_code=code, command="")
+
+    def test_bad_requests(self):
+        self.expect({"op": "envelope"}, bad('"ret_code" is missing'))
+        self.expect({"op": "envelope", "ret_code": 2147483648}, bad('"ret_code" must be a whole number of 32 bits'))
+        self.expect({"op": "envelope", "ret_code": 0, "time": 1.0}, bad('"time" must be a whole number'))
+        self.expect({"op": "envelope", "ret_code": 0, "value": {"$base64": "?"}},
+                    bad('"value": "$base64" holds no valid base64'))
+
+    def test_numbers_keep_their_types(self):
+        raw = self.send(b'{"op":"envelope","ret_code":0,"value":[3,3.0,-0.0,1e3,0.1,1e300,123456789.125,true]}')
+        self.assertIn('"ret_value":[3,3.0,-0.0,1000.0,0.1,1e+300,123456789.125,true]', raw)
+
+    def test_text_and_binary(self):
+        value = {"caf\u00e9": "\u20ac \U0001f600 \u0000 \n\"", "bytes": {"$base64": "AP8="}}
+        reply = self.ask({"op": "envelope", "ret_code": 0, "value": value})
+        self.assertEqual(reply["value"]["ret_value"], value)
+
+
+class Supports(BatchTest):
+    def test_no_gate(self):
+        self.expect({"op": "supports", "name": "GET_STATUS", "args": [], "family": 63, "revision": 38},
+                    {"ok": True, "supported": True})
+
+    def test_bad_requests(self):
+        self.expect({"op": "supports", "name": "GET_STATUS", "family": 63}, bad('"revision" is missing'))
+        self.expect({"op": "supports", "name": "NOPE", "family": 63, "revision": 38},
+                    refused("DE00337", "Command type not recognized", GET_PROTO_VALUE))
+
+
+class Lines(BatchTest):
+    def test_requests_that_are_none(self):
+        for line, text in [
+                ("", "an empty line is no request"),
+                (" \t\r", "an empty line is no request"),
+                ("[]", "a request is a JSON object"),
+                ("5", "a request is a JSON object"),
+                ("{}", '"op" is missing'),
+                ('{"op":5}', '"op" must be a string'),
+                ('{"op":"nope"}', '"op" names no operation'),
+                ('{"op":"catalogue","op":"catalogue"}', 'the member "op" stands twice in one object'),
+                ('{"op":"envelope","ret_code":99999999999999999999}',
+                 "the whole number 99999999999999999999 does not fit in 64 bits"),
+                ('{"op":"catalogue","x":' + "[" * 64 + "]" * 64 + "}",
+                 "arrays and objects are nested more than 64 levels deep"),
+                ('{"op":"catalogue"}\0', "no JSON: it holds a NUL byte")]:
+            self.expect(line, bad(text))
+
+    def test_no_json(self):
+        for line in [b"{", b"hello", b'{"op":"catalogue"} x', b"\xff", b'{"op":"\xc3"}', b'{"op":"\xed\xa0\x80"}',
+                     b"[" * 100000, b'{"op":NaN}', b"{'op':1}", b'{"op":"a\tb"}']:
+            reply = json.loads(self.send(line))
+            self.assertIs(reply["ok"], False)
+            self.assertEqual(reply["code"], "")
+            self.assertEqual(reply["function"], "")
+            self.assertTrue(reply["text"])
+
+    def test_members_that_nobody_reads_are_passed_over(self):
+        self.expect({"op": "query", "what": "existsCommand", "name": "TINT", "id": None, "note": 2 ** 40},
+                    {"ok": True, "value": True})
+
+    def test_long_lines(self):
+        head = b'{"op":"query","what":"existsCommand","name":"'
+        longest = head + b"x" * (LONGEST - len(head) - 2) + b'"}'
+        self.assertEqual(len(longest), LONGEST)
+        self.assertEqual(json.loads(self.send(longest)), {"ok": True, "value": False})
+        self.assertEqual(json.loads(self.send(longest + b" ")), bad("the request is longer than 16 MiB"))
+        self.expect({"op": "query", "what": "existsCommand", "name": "TINT"}, {"ok": True, "value": True})
+
+
+class Stream(unittest.TestCase):
+    def run_batch(self, data):
+        return subprocess.run([QUVCTL, "batch"], input=data, stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=60)
+
+    def test_no_input(self):
+        result = self.run_batch(b"")
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, b"", b""))
+
+    def test_a_reply_a_line_in_order(self):
+        result = self.run_batch(b'{"op":"query","what":"cmdStr","value":8}\r\n\nx\n'
+                                b'{"op":"query","what":"cmdStr","value":9}')
+        self.assertEqual(result.returncode, 0)
+        lines = result.stdout.decode().split("\n")
+        self.assertEqual(lines[0], '{"ok":true,"value":"TINT"}')
+        self.assertEqual(lines[1], '{"ok":false,"code":"","text":"an empty line is no request","function":""}')
+        self.assertIs(json.loads(lines[2])["ok"], False)
+        self.assertEqual(lines[3:], ['{"ok":true,"value":"STIRRING"}', ""])
+
+
+if __name__ == "__main__":
+    QUVCTL = sys.argv.pop(1)
+    unittest.main()

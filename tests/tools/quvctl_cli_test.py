@@ -1,0 +1,404 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+"""quvctl for people: words in, lines and exit status out. Usage: quvctl_cli_test.py QUVCTL COMPLETION_SCRIPT"""
+
+import json
+import os
+import pty
+import re
+import socket
+import subprocess
+import sys
+import threading
+import unittest
+import xmlrpc.client
+import xmlrpc.server
+
+QUVCTL = ""
+COMPLETION = ""
+
+REQUIRED_FLAGS = """offline_pressed board_not_initialized startup resetting BL_active BL_memory_resetting BL_fw_update
+    conf_writing hw_error conf_error process_error stop_process emergency_pressed can_present shelf_up shelf_down tinting
+    recirculating stirring valve_on cap_open bellow_up no_24_voltage no_48_voltage punching""".split()
+
+
+def status(**changes):
+    return {"disp_status": 1, **dict.fromkeys(REQUIRED_FLAGS, False), **changes}
+
+
+def envelope(value, ret_code=0, info="GET_STATUS command executed successfully!", errors=()):
+    return {"ret_code": ret_code, "info": info, "ret_value": value, "errors": list(errors), "exec_time": 3}
+
+
+class Driver:
+    """A driver of another make: answers EXEC_B with what it was told to, and remembers what it was asked."""
+
+    def __init__(self, reply, port=0):
+        self.reply = reply
+        self.requests = []
+        self.server = xmlrpc.server.SimpleXMLRPCServer(("127.0.0.1", port), logRequests=False)
+        self.server.register_function(self.execute, "EXEC_B")
+        self.port = self.server.server_address[1]
+        self.thread = threading.Thread(target=self.server.serve_forever, args=(0.01,))
+        self.thread.start()
+
+    def execute(self, *params):
+        self.requests.append(list(params))
+        if isinstance(self.reply, Exception):
+            raise self.reply
+        return self.reply
+
+    def close(self):
+        self.server.shutdown()
+        self.thread.join()
+        self.server.server_close()
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+
+def run(*words, **more):
+    result = subprocess.run([QUVCTL, *words], stdin=subprocess.DEVNULL, capture_output=True, timeout=30, **more)
+    return result.returncode, result.stdout.decode("utf-8"), result.stderr.decode("utf-8")
+
+
+class CliTest(unittest.TestCase):
+    maxDiff = None
+
+    def done(self, *words):
+        code, out, err = run(*words)
+        self.assertEqual((code, err), (0, ""))
+        return out
+
+    def refused(self, *words):
+        code, out, err = run(*words)
+        self.assertEqual((code, out), (1, ""), err)
+        return err
+
+    def wrong(self, *words):
+        code, out, err = run(*words)
+        self.assertEqual((code, out), (2, ""), err)
+        return err
+
+
+class General(CliTest):
+    def test_help(self):
+        overview = self.done("help")
+        self.assertEqual(self.done("--help"), overview)
+        self.assertEqual(self.done("-h"), overview)
+        for name in ["list", "show", "encode", "decode", "call", "watch", "batch"]:
+            self.assertRegex(overview, rf"(?m)^  {name} ")
+            text = self.done("help", name)
+            self.assertTrue(text.startswith(f"Usage: quvctl {name} [options]"), text)
+            self.assertEqual(self.done(name, "--help"), text)
+
+    def test_version(self):
+        self.assertRegex(self.done("--version"), r"^quvctl \d+\.\d+\.\d+\n$")
+
+    def test_wrong_usage(self):
+        self.assertEqual(self.wrong(), "quvctl: a subcommand is missing (see quvctl help)\n")
+        self.assertEqual(self.wrong("fly"), 'quvctl: there is no subcommand "fly" (see quvctl help)\n')
+        self.assertEqual(self.wrong("show"), "quvctl: show needs NAME (see quvctl help)\n")
+        self.assertEqual(self.wrong("show", "TINT", "PACK"), 'quvctl: unexpected "PACK" (see quvctl help)\n')
+        self.assertEqual(self.wrong("list", "--wings"), "quvctl: Unknown option 'wings'. (see quvctl help)\n")
+        self.assertEqual(self.wrong("list", "--kind", "fast"),
+                         "quvctl: --kind is one of: serial, configuration, special, scale (see quvctl help)\n")
+        self.assertEqual(self.wrong("list", "--family", "3"),
+                         "quvctl: --family takes a number from 1 to 2 (see quvctl help)\n")
+        self.assertEqual(self.wrong("call", "GET_STATUS", "--port", "65536"),
+                         "quvctl: --port takes a number from 1 to 65535 (see quvctl help)\n")
+        self.wrong("call", "GET_STATUS", "--timeout", "nan")
+        self.wrong("watch", "--count", "-1")
+        self.wrong("help", "fly")
+
+    def test_output_that_cannot_be_written(self):
+        with open("/dev/full", "w", encoding="utf-8") as full:
+            result = subprocess.run([QUVCTL, "list"], stdout=full, timeout=30, check=False)
+        self.assertEqual(result.returncode, 1)
+
+
+class Catalogue(CliTest):
+    def names(self, *filters):
+        return self.done("list", "--names", *filters).split()
+
+    def test_filters(self):
+        everything = self.names()
+        self.assertEqual(len(everything), 167)
+        self.assertEqual(everything[:2], ["GET_STATUS", "GET_DISP_STATUS"])
+        self.assertEqual(self.names("--kind", "scale"), ["WEIGHT", "TARE", "TARE_SET", "DISPLAY_STRING"])
+        self.assertEqual(self.names("--machine", "none"), [
+            "GET_DRIVER_SETTINGS", "SET_DRIVER_SETTINGS", "GET_DRIVER_INFO", "GET_SW_VERSION", "GET_HOST_INFO"])
+        self.assertIn("STOP", self.names("--kind", "serial"))
+        self.assertIn("STOP", self.names("--kind", "configuration"))
+        self.assertIn("CLEAN_CONFIG", self.names("--kind", "special"))
+        mixers = self.names("--machine", "mixer")
+        self.assertIn("MIX", mixers)
+        self.assertIn("RESET", mixers)
+        self.assertNotIn("TINT", mixers)
+        self.assertEqual(self.names("--machine", "dispenser", "--family", "2", "--kind", "serial")[-4:],
+                         ["PUNCH", "PLUG", "PACK2", "VALVE_TEST"])
+
+    def test_table(self):
+        lines = self.done("list", "--kind", "scale").split("\n")
+        self.assertEqual(lines, [
+            "NAME            CODE  PARAMETERS  FAMILIES  MACHINE    KIND",
+            "WEIGHT          -     0 to 3      1         dispenser  scale",
+            "TARE            -     0 to 2      1         dispenser  scale",
+            "TARE_SET        -     0 to 2      1         dispenser  scale",
+            "DISPLAY_STRING  -     0 to 1      1         dispenser  scale",
+            ""])
+
+    def test_json(self):
+        rows = json.loads(self.done("list", "--json", "--kind", "scale"))
+        self.assertEqual([row["id"] for row in rows], [110, 111, 112, 117])
+        self.assertEqual(json.loads(self.done("show", "PAUSE", "--json"))["id"], 166)
+
+    def test_show(self):
+        text = self.done("show", "TINT")
+        for title, words in [("Name", "TINT"), ("Row", "8"), ("Code", "0017"), ("Parameters", "1"),
+                             ("Kind", "special and serial"), ("Machine", "dispenser"), ("Command families", "1, 2"),
+                             ("Time-out", "depends on the parameters"), ("Delivers colorant", "yes"),
+                             ("Private", "no")]:
+            self.assertRegex(text, rf"(?m)^{title} {{2,}}{words}$")
+        self.assertRegex(self.done("show", "GET_STATUS"), r"(?m)^Code +0006 \(I3\)$")
+        self.assertRegex(self.done("show", "STOP"), r"(?m)^Time-out +60 s$")
+        self.assertEqual(self.refused("show", "NOPE"), 'quvctl: the catalogue has no command "NOPE"\n')
+
+
+class Encode(CliTest):
+    def test_words(self):
+        self.assertEqual(self.done("encode", "GET_STATUS", "3").split("\n"), [
+            "Class       DispenserStatusCmd",
+            'Request     ["GET_STATUS",3]',
+            "Parameters  [3]",
+            "Code        0006",
+            "Module      3",
+            "Serial      []",
+            "Time, ms    0",
+            "Command     ",
+            "Action      ",
+            "Detailed    ",
+            ""])
+
+    def test_json(self):
+        reply = json.loads(self.done("encode", "--json", "--form", "list", "GET_STATUS", "-5", "--family", "2"))
+        self.assertEqual((reply["module"], reply["code"]), (-5, "I3"))
+
+    def test_refusals(self):
+        self.assertEqual(self.refused("encode", "GET_STATUS", "3.0"),
+                         "DE00298: Position ID: expected INT parameter\n")
+        self.assertEqual(self.refused("encode", "GET_STATUS", "word"),
+                         "DE00298: Position ID: expected INT parameter\n")
+        self.assertEqual(self.refused("encode", "GET_STATUS", "true", "--form", "list"),
+                         "DE00300: Position ID: expected INT parameter\n")
+        self.assertEqual(self.refused("encode", "NOPE"), "DE00337: Command type not recognized\n")
+        self.assertEqual(self.refused("encode", "GET_STATUS", "2147483648"),
+                         'quvctl: "args": the whole number 2147483648 does not fit in 32 bits\n')
+        self.assertIn("/no/such/file", self.refused("encode", "GET_STATUS", "--machine", "/no/such/file"))
+
+    def test_arguments_that_are_no_json(self):
+        self.assertTrue(self.wrong("encode", "GET_STATUS", "[1").startswith("quvctl: argument [1: no JSON: "))
+        self.wrong("encode", "GET_STATUS", '{"a"}')
+        self.wrong("encode", "GET_STATUS", '"open')
+        self.wrong("encode", "GET_STATUS", "007")
+        self.wrong("encode", "GET_STATUS", "99999999999999999999")
+
+
+class Decode(CliTest):
+    def test_bad_conditions_first(self):
+        self.assertEqual(self.done("decode", "GET_STATUS", "9", "0", "1", "C", "40", "4", "8", "40", "5", "F5", "4")
+                         .split("\n"), [
+            "Machine status 1",
+            "Hardware error present",
+            "Can is present",
+            "Door open",
+            "Tinting in progress",
+            "Recirculation in progress",
+            "Head 1 ready to dispense",
+            "Process error",
+            "Position 5",
+            ""])
+
+    def test_flags_without_words(self):
+        self.assertEqual(self.done("decode", "GET_STATUS", "A", "0", "2", "0", "0", "0", "1", "0", "0", "0", "1", "2")
+                         .split("\n"),
+                         ["Machine status 2", "Running reserved mode", "circuit_fin_presence", "pumping", ""])
+
+    def test_other_forms(self):
+        self.assertEqual(self.done("decode", "FINALIZE_CONFIG", "0"), "0\n")
+        reply = json.loads(self.done("decode", "--json", "GET_STATUS", "6", "0", "1", "0", "0", "0", "8",
+                                     "--args", "[4]", "--machine", "dispenser"))
+        self.assertEqual(reply["descriptions"], [{"text": "Can is present", "bad": False}])
+
+    def test_refusals(self):
+        self.assertEqual(self.refused("decode", "GET_STATUS", "6", "0", "1", "0", "x", "0", "0"),
+                         "DE00129: Error during command answer decoding: mask 2\n")
+        self.assertEqual(self.refused("decode", "GET_DRIVER_INFO", "0"),
+                         'quvctl: "name": GET_DRIVER_INFO is no serial command, so tokens are no answer to it\n')
+        self.assertTrue(self.wrong("decode", "GET_STATUS", "0", "--args", "[").startswith("quvctl: --args: no JSON"))
+        self.assertEqual(self.wrong("decode", "GET_STATUS"), "quvctl: decode needs NAME TOKEN... (see quvctl help)\n")
+
+    def terminal_output(self, **environment):
+        ours, theirs = pty.openpty()
+        try:
+            subprocess.run([QUVCTL, "decode", "GET_STATUS", "6", "0", "1", "1", "0", "0", "0"], stdout=theirs,
+                           env={**os.environ, "TERM": "xterm", "NO_COLOR": "", **environment}, timeout=30, check=True)
+            return os.read(ours, 4096).decode("utf-8")
+        finally:
+            os.close(ours)
+            os.close(theirs)
+
+    def test_colours(self):
+        self.assertIn("\033[31mOffline button pressed\033[0m", self.terminal_output())
+        self.assertNotIn("\033", self.terminal_output(NO_COLOR="1"))
+        self.assertNotIn("\033", self.terminal_output(TERM="dumb"))
+
+
+class Call(CliTest):
+    def test_status(self):
+        with Driver(envelope(status(tinting=True, hw_error=True))) as driver:
+            out = self.done("call", "GET_STATUS", "2", "--host", "127.0.0.1", "--port", str(driver.port))
+            self.assertEqual(driver.requests, [["GET_STATUS", 2]])
+        self.assertEqual(out.split("\n"), ["GET_STATUS command executed successfully!", "Machine status 1",
+                                           "Hardware error present", "Tinting in progress", ""])
+
+    def test_json(self):
+        with Driver(envelope(status(stirring=True))) as driver:
+            reply = json.loads(self.done("call", "GET_STATUS", "--json", "--port", str(driver.port)))
+        self.assertEqual(reply["envelope"], {"ret_code": 0, "info": "GET_STATUS command executed successfully!",
+                                             "printable": ["Success!"]})
+        self.assertEqual(reply["class"], "DispenserStatusAnswer")
+        self.assertIs(reply["value"]["stirring"], True)
+
+    def test_refusal_of_the_driver(self):
+        errors = [{"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE00123", "text": "No caf\u00e9"}]
+        with Driver(envelope(0, 6, "GET_STATUS : failed", errors)) as driver:
+            err = self.refused("call", "GET_STATUS", "--port", str(driver.port))
+            self.assertEqual(err, "Failed! Command not executed due to errors in Driver internal procedures.Errors: \n"
+                                  "DE00123: No caf\u00e9\n")
+            code, out, _ = run("call", "GET_STATUS", "--json", "--port", str(driver.port))
+        self.assertEqual((code, json.loads(out)["envelope"]["ret_code"]), (1, 6))
+
+    def test_fault(self):
+        with Driver(xmlrpc.client.Fault(-32600, "not like this")) as driver:
+            self.assertEqual(self.refused("call", "GET_STATUS", "--port", str(driver.port)), "-32600: not like this\n")
+
+    def test_answer_of_wrong_form(self):
+        with Driver(5) as driver:
+            self.assertEqual(self.refused("call", "GET_STATUS", "--port", str(driver.port)),
+                             "DE00355: XmlRpcAnswer: expected struct type for xmlrpc type\n")
+        with Driver(envelope(0)) as driver:
+            self.assertEqual(self.refused("call", "GET_STATUS", "--port", str(driver.port)),
+                             "DE00443: MachineStatusAnswer: expected disp_status value\n")
+
+    def test_texts_do_not_steer_the_terminal(self):
+        with Driver(envelope(status(), info="a\u009bb\u0085c")) as driver:
+            out = self.done("call", "GET_STATUS", "--port", str(driver.port))
+        self.assertEqual(out.split("\n")[0], "a\ufffdb\ufffdc")
+
+    def test_no_driver(self):
+        with socket.socket() as closed:
+            closed.bind(("127.0.0.1", 0))
+            self.assertTrue(self.refused("call", "GET_STATUS", "--port", str(closed.getsockname()[1]))
+                            .startswith("quvctl: "))
+
+    def test_timeout(self):
+        with socket.socket() as silent:
+            silent.bind(("127.0.0.1", 0))
+            silent.listen()
+            self.assertTrue(self.refused("call", "GET_STATUS", "--timeout", "0.2", "--port",
+                                         str(silent.getsockname()[1])).startswith("quvctl: "))
+
+    def test_refused_before_it_is_sent(self):
+        with Driver(envelope(status())) as driver:
+            self.assertEqual(self.refused("call", "GET_STATUS", "x", "--port", str(driver.port)),
+                             "DE00298: Position ID: expected INT parameter\n")
+            self.assertEqual(driver.requests, [])
+
+
+class Watch(CliTest):
+    def line(self, process):
+        watchdog = threading.Timer(30, process.kill)
+        watchdog.start()
+        line = process.stdout.readline().decode("utf-8")
+        watchdog.cancel()
+        self.assertRegex(line, r"^\d\d:\d\d:\d\d .*\n$")
+        return line[9:-1]
+
+    def test_changes(self):
+        driver = Driver(envelope(status(tinting=True, emergency_pressed=True)))
+        port = driver.port
+        process = subprocess.Popen([QUVCTL, "watch", "--interval", "0.02", "--port", str(port)],
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE)
+        try:
+            self.assertEqual([self.line(process) for _ in range(3)],
+                             ["Machine status 1", "Emergency button pressed", "Tinting in progress"])
+            driver.reply = envelope(status(tinting=True, stirring=True))
+            self.assertEqual([self.line(process) for _ in range(2)],
+                             ["Emergency button released", "Stirring in progress"])
+            driver.reply = envelope(0, 2, "x")
+            self.assertEqual(self.line(process), "No status: Failed! Serial answer invalid for Driver.")
+            driver.reply = envelope(status(tinting=True, stirring=True, disp_status=2))
+            self.assertEqual([self.line(process) for _ in range(2)],
+                             ["The driver answers again", "Machine status 2"])
+            driver.close()
+            self.assertRegex(self.line(process), "^No status: ")
+            driver = Driver(envelope(status(disp_status=2)), port)
+            heard = self.line(process)
+            while heard.startswith("No status: "):  # another failure while the driver was starting
+                heard = self.line(process)
+            self.assertEqual(heard, "The driver answers again")
+            self.assertEqual([self.line(process) for _ in range(2)],
+                             ["Tinting not in progress", "Stirring not in progress"])
+        finally:
+            process.kill()
+            process.wait()
+            process.stdout.close()
+            driver.close()
+
+    def test_count(self):
+        with Driver(envelope(status())) as driver:
+            out = self.done("watch", "--count", "3", "--interval", "0.01", "--port", str(driver.port))
+            self.assertEqual(len(driver.requests), 3)
+        self.assertEqual(len(out.split("\n")), 2)
+
+    def test_no_driver(self):
+        with socket.socket() as closed:
+            closed.bind(("127.0.0.1", 0))
+            code, out, _ = run("watch", "--count", "2", "--interval", "0.01", "--port", str(closed.getsockname()[1]))
+        self.assertEqual(code, 1)
+        self.assertEqual(len(out.split("\n")), 2)  # the same failure is told once
+
+
+class Completion(unittest.TestCase):
+    def complete(self, *words):
+        """What Tab offers at the end of the last word."""
+        script = ('source "$1"; shift; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _quvctl; '
+                  'printf "%s\\n" "${COMPREPLY[@]}"')
+        result = subprocess.run(["bash", "--norc", "-c", script, "bash", COMPLETION, QUVCTL, *words],
+                                capture_output=True, text=True, timeout=30, check=True)
+        self.assertEqual(result.stderr, "")
+        return result.stdout.split()
+
+    def test_completion(self):
+        self.assertEqual(self.complete("sh"), ["show"])
+        self.assertIn("watch", self.complete(""))
+        self.assertEqual(self.complete("show", "GET_STAT"), ["GET_STATUS", "GET_STATS_ERRORS"])
+        self.assertEqual(self.complete("call", "--port", "99", "TIN"), ["TINT", "TINT2"])
+        self.assertEqual(self.complete("call", "TINT", "GET"), [])
+        self.assertEqual(self.complete("call", "TINT", "--p"), ["--port"])
+        self.assertEqual(self.complete("list", "--kind", "s"), ["serial", "special", "scale"])
+        self.assertEqual(self.complete("help", "wa"), ["watch"])
+
+    def test_options_are_those_of_the_help(self):
+        for name in ["list", "show", "encode", "decode", "call", "watch", "batch"]:
+            told = re.findall(r"(?m)^  (--[a-z]+)", run("help", name)[1])
+            self.assertEqual(sorted(self.complete(name, "--")), sorted(told), name)
+
+
+if __name__ == "__main__":
+    QUVCTL = sys.argv.pop(1)
+    COMPLETION = sys.argv.pop(1)
+    unittest.main()

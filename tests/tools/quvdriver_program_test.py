@@ -1,0 +1,108 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+"""How the driver is started, and how it ends."""
+
+import os
+import signal
+import socket
+import tempfile
+import time
+import unittest
+
+import quvdriver_process
+from quvdriver_process import Driver, run
+
+
+class ProgramTest(unittest.TestCase):
+    def test_port_0_takes_a_free_port_each_time(self):
+        with Driver() as first, Driver() as second:
+            self.assertNotEqual(first.port, second.port)
+            for driver in (first, second):
+                with driver.client() as client:
+                    self.assertEqual(client.EXEC_B("GET_STATUS")["ret_code"], 0)
+
+    def test_it_ends_cleanly_on_signals(self):
+        for number in (signal.SIGTERM, signal.SIGINT):
+            with Driver() as driver:
+                idle = socket.create_connection(("127.0.0.1", driver.port), timeout=5)
+                with driver.client() as client:
+                    self.assertEqual(client.EXEC_B("GET_STATUS")["ret_code"], 0)
+                    begin = time.monotonic()
+                    driver.process.send_signal(number)
+                    self.assertEqual(driver.process.wait(5), 0)
+                    self.assertLess(time.monotonic() - begin, 2)  # whoever is connected and silent is not waited for
+                idle.close()
+                with self.assertRaises(OSError):
+                    socket.create_connection(("127.0.0.1", driver.port), timeout=5)
+
+    def test_once_answers_one_call_and_ends(self):
+        with Driver("--once") as driver:
+            with driver.client() as client:
+                self.assertEqual(client.EXEC_B("GET_STATUS")["ret_code"], 0)
+            self.assertEqual(driver.process.wait(5), 0)
+
+    def test_once_counts_only_calls(self):
+        with Driver("--once") as driver:
+            with socket.create_connection(("127.0.0.1", driver.port), timeout=5) as stranger:
+                stranger.sendall(b"GET / HTTP/1.0\r\n\r\n")
+                self.assertTrue(stranger.recv(100).startswith(b"HTTP/1.1 405 "))
+            with driver.client() as client:
+                self.assertEqual(client.EXEC_B("NOPE")["ret_code"], 1)
+            self.assertEqual(driver.process.wait(5), 0)
+
+    def test_machines_are_chosen(self):
+        with Driver("--machine", "mixer") as driver, driver.client() as client:
+            self.assertEqual(client.EXEC_B("GET_STATUS")["ret_code"], 5)
+            self.assertEqual(client.EXEC_B("RESET")["ret_code"], 0)
+        with Driver("--machine", "none") as driver, driver.client() as client:
+            self.assertEqual(client.EXEC_B("RESET")["ret_code"], 5)
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "dual.json")
+            with open(path, "w", encoding="utf-8") as file:
+                file.write('{"type": "dispenser", "heads": 2, "command_family": 2}')
+            with Driver("--machine", path) as driver, driver.client() as client:
+                self.assertTrue(client.EXEC_B("GET_STATUS")["ret_value"]["head2_can_dose"])
+                self.assertEqual(client.EXEC_B("RESET")["ret_code"], 3)
+
+    def test_speed_shortens_processes(self):
+        with Driver("--speed", "10000") as driver, driver.client() as client:
+            self.assertEqual(client.EXEC_B("RESET")["ret_code"], 0)
+            time.sleep(0.05)
+            self.assertFalse(client.EXEC_B("GET_STATUS")["ret_value"]["resetting"])
+
+    def test_a_port_that_is_taken(self):
+        with Driver() as driver:
+            second = run("--port", str(driver.port))
+            self.assertEqual(second.returncode, 1)
+            self.assertEqual(second.stdout, "")
+            self.assertIn(f"Cannot listen on 127.0.0.1:{driver.port}", second.stderr)
+
+    def test_wrong_usage(self):
+        for options, text in ((["--port", "65536"], "--port must be a number from 0 to 65535"),
+                              (["--port", "x"], "--port must be a number from 0 to 65535"),
+                              (["--speed", "0"], "--speed must be a number from 0.01 to 10000"),
+                              (["--speed", "nan"], "--speed must be a number from 0.01 to 10000"),
+                              (["--machine", "mixer", "--machine", "mixer"], "one dispenser and one mixer"),
+                              (["--nothing"], "nothing"),
+                              (["extra"], 'unexpected argument "extra"')):
+            ended = run(*options)
+            self.assertEqual(ended.returncode, 2, options)
+            self.assertEqual(ended.stdout, "", options)
+            self.assertIn(text, ended.stderr, options)
+
+    def test_a_machine_that_cannot_be_had(self):
+        ended = run("--machine", "/nowhere/machine.json")
+        self.assertEqual(ended.returncode, 1)
+        self.assertIn('Machine "/nowhere/machine.json": ', ended.stderr)
+
+    def test_help_and_version(self):
+        told = run("--help")
+        self.assertEqual(told.returncode, 0)
+        for option in ("--host", "--port", "--machine", "--speed", "--once"):
+            self.assertIn(option, told.stdout)
+        told = run("--version")
+        self.assertEqual(told.returncode, 0)
+        self.assertRegex(told.stdout, r"^quvdriver \d+\.\d+\.\d+\n$")
+
+
+if __name__ == "__main__":
+    quvdriver_process.main()

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "batch.h"
+#include "subcommands.h"
+
+#include <iostream>
+
+namespace quv {
+
+namespace {
+
+ExitStatus run(const CommandLine &)
+{
+    std::ios::sync_with_stdio(false);
+    runBatch(std::cin, std::cout);
+    return std::cout ? Done : Refused;
+}
+
+} // namespace
+
+const Subcommand batchSubcommand = {
+    "batch",
+    "",
+    "JSON requests in, JSON replies out",
+    "Reads one JSON object a line on standard input and writes one reply a line on standard output, in "
+    "order.\n"
+    "A bad request gets a reply too. Operations: catalogue, query, encode, decode, answer, setanswer,\n"
+    "envelope, supports.",
+    0,
+    0,
+    {},
+    run};
+
+} // namespace quv

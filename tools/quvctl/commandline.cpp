@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "commandline.h"
+
+namespace quv {
+
+namespace {
+
+// Keeps the parser from taking -5 for an option; nobody can type it.
+const QChar guard(1);
+
+bool looksNegative(const QString &word)
+{
+    return word.size() > 1 && word[0] == QLatin1Char('-') &&
+           (word[1].isDigit() || word[1] == QLatin1Char('.'));
+}
+
+QString guarded(const QString &word)
+{
+    return looksNegative(word) ? guard + word : word;
+}
+
+QString unguarded(const QString &word)
+{
+    return word.startsWith(guard) ? word.mid(1) : word;
+}
+
+QString latin1(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+QCommandLineOption parserOption(const OptionText &option)
+{
+    return {latin1(option.name), latin1(option.text), option.value ? latin1(option.value) : QString()};
+}
+
+QString optionHelp(const char *name, const char *value, const char *text)
+{
+    QString head = QStringLiteral("  --") + latin1(name);
+    if (value)
+        head += QLatin1Char(' ') + latin1(value);
+    return head.leftJustified(24) + latin1(text) + QLatin1Char('\n');
+}
+
+UsageError outOfRange(const char *option, double min, double max)
+{
+    return UsageError(QStringLiteral("--%1 takes a number from %2 to %3")
+                          .arg(latin1(option))
+                          .arg(min)
+                          .arg(max, 0, 'g', 12));
+}
+
+} // namespace
+
+CommandLine::CommandLine(const Subcommand &subcommand, const QStringList &words)
+{
+    m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QString()});
+    for (const OptionText &option : subcommand.options)
+        m_parser.addOption(parserOption(option));
+
+    QStringList line(latin1(subcommand.name)); // where the parser expects the program's name
+    for (const QString &word : words)
+        line.append(guarded(word));
+    if (!m_parser.parse(line))
+        throw UsageError(m_parser.errorText());
+    for (const QString &word : m_parser.positionalArguments())
+        m_words.append(unguarded(word));
+
+    if (wantsHelp())
+        return;
+    if (m_words.size() < subcommand.minWords)
+        throw UsageError(
+            QStringLiteral("%1 needs %2").arg(latin1(subcommand.name), latin1(subcommand.words)));
+    if (subcommand.maxWords >= 0 && m_words.size() > subcommand.maxWords)
+        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(m_words[subcommand.maxWords]));
+}
+
+bool CommandLine::isSet(const char *option) const
+{
+    return m_parser.isSet(latin1(option));
+}
+
+QString CommandLine::value(const char *option, const QString &otherwise) const
+{
+    return isSet(option) ? unguarded(m_parser.value(latin1(option))) : otherwise;
+}
+
+int CommandLine::number(const char *option, int otherwise, int min, int max) const
+{
+    bool ok = false;
+    const int number = value(option, QString::number(otherwise)).toInt(&ok);
+    if (!ok || number < min || number > max)
+        throw outOfRange(option, min, max);
+    return number;
+}
+
+double CommandLine::decimal(const char *option, double otherwise, double min, double max) const
+{
+    bool ok = false;
+    const double number = value(option, QString::number(otherwise)).toDouble(&ok);
+    if (!ok || !(number >= min && number <= max))
+        throw outOfRange(option, min, max);
+    return number;
+}
+
+QString CommandLine::choice(const char *option, const QString &otherwise, const QStringList &choices) const
+{
+    QString choice = value(option, otherwise);
+    if (isSet(option) && !choices.contains(choice))
+        throw UsageError(
+            QStringLiteral("--%1 is one of: %2").arg(latin1(option), choices.join(QStringLiteral(", "))));
+    return choice;
+}
+
+std::vector<OptionText> withDriverOptions(std::vector<OptionText> options)
+{
+    options.push_back({"host", "HOST", "the driver's host (127.0.0.1)"});
+    options.push_back({"port", "PORT", "the driver's port (9333)"});
+    options.push_back({"timeout", "SECONDS", "how long a call may take (60)"});
+    return options;
+}
+
+QString helpText(const Subcommand &subcommand)
+{
+    QString text = QStringLiteral("Usage: quvctl %1 [options] %2")
+                       .arg(latin1(subcommand.name), QString::fromUtf8(subcommand.words))
+                       .trimmed();
+    text += QStringLiteral("\n\n%1\n\nOptions:\n").arg(QString::fromUtf8(subcommand.details));
+    for (const OptionText &option : subcommand.options)
+        text += optionHelp(option.name, option.value, option.text);
+    text += optionHelp("help", nullptr, "this help");
+    return text;
+}
+
+} // namespace quv

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <stdexcept>
+#include <vector>
+
+namespace quv {
+
+/// What the user typed cannot be understood: exit status 2.
+class UsageError : public std::runtime_error
+{
+public:
+    explicit UsageError(const QString &text) : std::runtime_error(text.toStdString()) {}
+};
+
+enum ExitStatus { Done = 0, Refused = 1, WrongUsage = 2 };
+
+struct OptionText
+{
+    const char *name;
+    const char *value; ///< its name in the help; null for a switch
+    const char *text;
+};
+
+class CommandLine;
+
+/// One subcommand of quvctl. Its options and its help come from here.
+struct Subcommand
+{
+    const char *name;
+    const char *words; ///< of the usage line, after the name
+    const char *summary;
+    const char *details;
+    int minWords;
+    int maxWords; ///< -1: any number
+    std::vector<OptionText> options;
+    ExitStatus (*run)(const CommandLine &line);
+};
+
+/// The words and options that follow a subcommand's name. Negative numbers are words, not options.
+class CommandLine
+{
+public:
+    /// \throws UsageError
+    CommandLine(const Subcommand &subcommand, const QStringList &words);
+
+    const QStringList &words() const { return m_words; }
+    bool isSet(const char *option) const;
+    bool wantsHelp() const { return isSet("help"); }
+    QString value(const char *option, const QString &otherwise) const;
+    /// \throws UsageError for what is no number from \a min to \a max
+    int number(const char *option, int otherwise, int min, int max) const;
+    double decimal(const char *option, double otherwise, double min, double max) const;
+    /// \throws UsageError when the value is none of \a choices
+    QString choice(const char *option, const QString &otherwise, const QStringList &choices) const;
+
+private:
+    QCommandLineParser m_parser;
+    QStringList m_words;
+};
+
+/// The host, port and timeout of those who call a driver.
+std::vector<OptionText> withDriverOptions(std::vector<OptionText> options);
+
+QString helpText(const Subcommand &subcommand);
+
+} // namespace quv

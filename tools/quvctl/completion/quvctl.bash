@@ -1,0 +1,66 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+# Bash completion of quvctl: subcommands, their options, and the names of commands.
+
+_quvctl()
+{
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    local subcommands="list show encode decode call watch batch help"
+    local driver="--host --port --timeout"
+    local words=""
+    COMPREPLY=()
+
+    if ((COMP_CWORD == 1)); then
+        COMPREPLY=($(compgen -W "$subcommands --help --version" -- "$current"))
+        return
+    fi
+
+    case "${COMP_WORDS[1]} $previous" in
+    "list --machine") words="dispenser mixer none" ;;
+    "list --kind") words="serial configuration special scale" ;;
+    "list --family" | "encode --family") words="1 2" ;;
+    "encode --form") words="value list" ;;
+    "encode --machine" | "decode --machine")
+        COMPREPLY=($(compgen -W "none dispenser mixer" -- "$current") $(compgen -f -- "$current"))
+        return
+        ;;
+    *" --host" | *" --port" | *" --timeout" | *" --interval" | *" --count" | *" --args") return ;;
+    *)
+        case "${COMP_WORDS[1]}" in
+        list) words="--machine --kind --family --names --json --help" ;;
+        show) words="--json --help" ;;
+        encode) words="--family --machine --form --json --help" ;;
+        decode) words="--args --machine --json --help" ;;
+        call) words="--json $driver --help" ;;
+        watch) words="--interval --count $driver --help" ;;
+        batch) words="--help" ;;
+        help) words="${subcommands% help}" ;;
+        esac
+        # a command's name comes first, and options only when asked for
+        case "${COMP_WORDS[1]}" in
+        show | encode | decode | call)
+            if [[ $current != -* ]]; then
+                words=""
+                _quvctl_has_name || words=$("${COMP_WORDS[0]}" list --names 2>/dev/null)
+            fi
+            ;;
+        esac
+        ;;
+    esac
+    COMPREPLY=($(compgen -W "$words" -- "$current"))
+}
+
+# Whether a word between the subcommand and the cursor is no option, nor the value of one.
+_quvctl_has_name()
+{
+    local i
+    for ((i = 2; i < COMP_CWORD; ++i)); do
+        case "${COMP_WORDS[i]}" in
+        --json | --help) ;;
+        --*) ((++i)) ;;
+        *) return 0 ;;
+        esac
+    done
+    return 1
+}
+
+complete -F _quvctl quvctl

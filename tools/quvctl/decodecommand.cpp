@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "operations.h"
+#include "subcommands.h"
+#include "terminal.h"
+#include "words.h"
+
+#include "base/protoanswer.h"
+#include "base/serialprotocommand.h"
+
+#include <QuvFramework/fw_error.h>
+
+namespace quv {
+
+namespace {
+
+nlohmann::json requestOf(const CommandLine &line)
+{
+    nlohmann::json request;
+    request["op"] = "decode";
+    request["name"] = line.words().first().toStdString();
+    request["args"] = nlohmann::json::array();
+    request["tokens"] = nlohmann::json::array();
+    for (const QString &token : line.words().mid(1))
+        request["tokens"].push_back(token.toStdString());
+    try {
+        if (line.isSet("args"))
+            request["args"] = parseJson(line.value("args", QString()).toStdString());
+    } catch (const JsonError &error) {
+        throw UsageError(QStringLiteral("--args: ") + QString::fromUtf8(error.what()));
+    }
+    request["machine"] = line.value("machine", QStringLiteral("none")).toStdString();
+    return request;
+}
+
+ExitStatus run(const CommandLine &line)
+{
+    const Request request(requestOf(line));
+    if (line.isSet("json")) {
+        printLine(QString::fromStdString(writeJson(runOperation(request))));
+        return Done;
+    }
+    const auto command = decodedCommand(request);
+    printAnswer(*command->getProtoAnswer());
+    return Done;
+}
+
+} // namespace
+
+const Subcommand decodeSubcommand = {
+    "decode",
+    "NAME TOKEN...",
+    "the firmware's answer in words",
+    "Reads the hexadecimal tokens of a firmware answer, the length token first. A status is shown in words,\n"
+    "bad conditions first, any other answer as its value.",
+    2,
+    -1,
+    {{"args", "JSON", "the command's arguments, a JSON array"},
+     {"machine", "MACHINE", "none (default), dispenser, mixer or a JSON file"},
+     {"json", nullptr, "one JSON object, as from quvctl batch"}},
+    run};
+
+} // namespace quv

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "operations.h"
+#include "subcommands.h"
+#include "terminal.h"
+#include "words.h"
+
+namespace quv {
+
+namespace {
+
+nlohmann::json requestOf(const CommandLine &line)
+{
+    QStringList words = line.words();
+    nlohmann::json request;
+    request["op"] = "encode";
+    request["name"] = words.takeFirst().toStdString();
+    request["args"] = argumentsFromWords(words);
+    request["family"] = line.number("family", 1, 1, 2);
+    request["machine"] = line.value("machine", QStringLiteral("none")).toStdString();
+    request["form"] =
+        line.choice("form", QStringLiteral("value"), {QStringLiteral("value"), QStringLiteral("list")})
+            .toStdString();
+    return request;
+}
+
+/// A text as it is, anything else as JSON.
+QString cell(const OrderedJson &value)
+{
+    return QString::fromStdString(value.is_string() ? value.get<std::string>() : writeJson(value));
+}
+
+void print(const OrderedJson &reply)
+{
+    struct Field
+    {
+        const char *member;
+        const char *title;
+    };
+    constexpr Field fields[] = {{"class", "Class"},           {"request", "Request"},
+                                {"parameters", "Parameters"}, {"code", "Code"},
+                                {"module", "Module"},         {"serial", "Serial"},
+                                {"estimated_ms", "Time, ms"}, {"command", "Command"},
+                                {"action", "Action"},         {"action_detailed", "Detailed"}};
+    Columns columns;
+    for (const Field &field : fields)
+        if (reply.contains(field.member))
+            columns.add({QLatin1String(field.title), cell(reply[field.member])});
+    columns.print(false);
+}
+
+ExitStatus run(const CommandLine &line)
+{
+    const OrderedJson reply = runOperation(Request(requestOf(line)));
+    if (line.isSet("json"))
+        printLine(QString::fromStdString(writeJson(reply)));
+    else
+        print(reply);
+    return Done;
+}
+
+} // namespace
+
+const Subcommand encodeSubcommand = {
+    "encode",
+    "NAME [ARGUMENT...]",
+    "a command as it travels",
+    "Makes a command and shows its XML-RPC request and, when the firmware carries it out, its code and\n"
+    "integers. An argument is a JSON value; a word that is none is a string.",
+    1,
+    -1,
+    {{"family", "FAMILY", "the machine's command family, 1 (default) or 2"},
+     {"machine", "MACHINE", "none (default), dispenser, mixer or a JSON file"},
+     {"form", "FORM", "the arguments are given as a value (default) or a list"},
+     {"json", nullptr, "one JSON object, as from quvctl batch"}},
+    run};
+
+} // namespace quv

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "subcommands.h"
+#include "terminal.h"
+#include "xmlrpcerrors.h"
+
+#include <QuvFramework/fw_error.h>
+
+#include <xmlrpcpp/XmlRpcException.h>
+
+#include <cstdio>
+#include <exception>
+
+namespace {
+
+using namespace quv;
+
+const Subcommand *const subcommands[] = {&listSubcommand,   &showSubcommand, &encodeSubcommand,
+                                         &decodeSubcommand, &callSubcommand, &watchSubcommand,
+                                         &batchSubcommand};
+
+QString overview()
+{
+    QString text =
+        QStringLiteral("Usage: quvctl SUBCOMMAND [options] ...\n\n"
+                       "Shows, writes, reads and calls the commands of paint colorant dispensers.\n\n"
+                       "Subcommands:\n");
+    for (const Subcommand *subcommand : subcommands)
+        text += QStringLiteral("  %1%2\n")
+                    .arg(QLatin1String(subcommand->name), -10)
+                    .arg(QLatin1String(subcommand->summary));
+    text += QStringLiteral("  %1this help, or that of a subcommand\n\n").arg(QStringLiteral("help"), -10);
+    text +=
+        QStringLiteral("quvctl help SUBCOMMAND tells its options; quvctl --version prints the version.\n"
+                       "Exit status: 0 done, 1 refused (on standard error as CODE: text), 2 wrong usage.\n");
+    return text;
+}
+
+const Subcommand &subcommandOf(const QString &name)
+{
+    for (const Subcommand *subcommand : subcommands)
+        if (name == QLatin1String(subcommand->name))
+            return *subcommand;
+    throw UsageError(QStringLiteral("there is no subcommand \"%1\"").arg(name));
+}
+
+void printHelp(const QString &text)
+{
+    std::fputs(text.toUtf8().constData(), stdout);
+}
+
+ExitStatus help(const QStringList &words)
+{
+    if (words.size() > 1)
+        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(words[1]));
+    printHelp(words.isEmpty() ? overview() : helpText(subcommandOf(words.first())));
+    return Done;
+}
+
+ExitStatus run(QStringList words)
+{
+    if (words.isEmpty())
+        throw UsageError(QStringLiteral("a subcommand is missing"));
+    const QString name = words.takeFirst();
+    if (name == QLatin1String("help") || name == QLatin1String("--help") || name == QLatin1String("-h"))
+        return help(words);
+    if (name == QLatin1String("--version")) {
+        printHelp(QStringLiteral("quvctl " QUVCTL_VERSION "\n"));
+        return Done;
+    }
+    const Subcommand &subcommand = subcommandOf(name);
+    const CommandLine line(subcommand, words);
+    if (line.wantsHelp())
+        return help({name});
+    return subcommand.run(line);
+}
+
+ExitStatus runReporting(const QStringList &words)
+{
+    try {
+        return run(words);
+    } catch (const UsageError &error) {
+        printError(QStringLiteral("quvctl: %1 (see quvctl help)").arg(QString::fromUtf8(error.what())));
+        return WrongUsage;
+    } catch (const FW_DriverError &error) {
+        printError(error.toPrintableString());
+    } catch (const FaultException &error) {
+        printError(QStringLiteral("%1: %2").arg(error.fault().code).arg(error.fault().text));
+    } catch (const std::exception &error) {
+        printError(QStringLiteral("quvctl: ") + QString::fromUtf8(error.what()));
+    } catch (const XmlRpc::XmlRpcException &error) {
+        printError(QStringLiteral("quvctl: ") + QString::fromStdString(error.getMessage()));
+    }
+    return Refused;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // UTF-8 whatever the locale: a service's environment often has none
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QString::fromUtf8(argv[i]));
+    const ExitStatus status = runReporting(words);
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+        return status == Done ? Refused : status;
+    return status;
+}

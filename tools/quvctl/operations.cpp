@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "operations.h"
+
+#include "machines.h"
+#include "queries.h"
+
+#include "base/protoanswer.h"
+#include "base/serialprotocommand.h"
+#include "base/xmlrpcanswer.h"
+#include "catalogue/protocommandlist.h"
+#include "status/machinestatusanswer.h"
+
+#include <QuvFramework/fw_error.h>
+#include <QuvFramework/fw_machine.h>
+#include <QuvFramework/fw_version.h>
+#include <QuvFramework/fw_xmlrpc.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cxxabi.h>
+#include <iterator>
+#include <typeinfo>
+
+namespace quv {
+
+namespace {
+
+OrderedJson success()
+{
+    return OrderedJson::object({{"ok", true}});
+}
+
+template <class T>
+std::string className(const T &object)
+{
+    int status = 0;
+    const std::unique_ptr<char, void (*)(void *)> name(
+        abi::__cxa_demangle(typeid(object).name(), nullptr, nullptr, &status), std::free);
+    return status == 0 ? name.get() : typeid(object).name();
+}
+
+std::unique_ptr<FW_Machine> machineOf(const Request &request)
+{
+    try {
+        return machineByName(request.text("machine", QStringLiteral("none")));
+    } catch (const BadRequest &) {
+        throw;
+    } catch (const std::runtime_error &error) {
+        throw BadRequest(error.what());
+    }
+}
+
+/// A few commands take a struct in place of the array, so whatever value there is goes to the factory.
+XmlRpc::XmlRpcValue argumentsOf(const Request &request)
+{
+    if (request.has("args"))
+        return request.value("args");
+    XmlRpc::XmlRpcValue none;
+    none.setSize(0);
+    return none;
+}
+
+std::unique_ptr<ProtoCommand> makeCommand(const Request &request, const FW_Machine *machine)
+{
+    const QString name = request.text("name");
+    const QString form = request.text("form", QStringLiteral("value"));
+    ProtoCommand *command = nullptr;
+    if (form == QLatin1String("value")) {
+        XmlRpc::XmlRpcValue arguments = argumentsOf(request);
+        command = ProtoCommandList::getProtoCommand(name, arguments, machine);
+    } else if (form == QLatin1String("list")) {
+        command = ProtoCommandList::getProtoCommand(name, request.variants("args"), machine);
+    } else {
+        throw BadRequest("\"form\" must be \"value\" or \"list\"");
+    }
+    return std::unique_ptr<ProtoCommand>(command);
+}
+
+OrderedJson catalogue(const Request &)
+{
+    OrderedJson reply = success();
+    reply["rows"] = allRows();
+    return reply;
+}
+
+OrderedJson query(const Request &request)
+{
+    OrderedJson reply = success();
+    reply["value"] = askCatalogue(request);
+    return reply;
+}
+
+OrderedJson numbers(const QList<int> &list)
+{
+    OrderedJson array = OrderedJson::array();
+    for (const int number : list)
+        array.push_back(number);
+    return array;
+}
+
+OrderedJson encode(const Request &request)
+{
+    const int family = request.number("family", 1);
+    const auto machine = machineOf(request);
+    const auto command = makeCommand(request, machine.get());
+    OrderedJson reply = success();
+    reply["class"] = className(*command);
+    reply["request"] = toJson(command->toXmlRpcValue(QString()));
+    reply["parameters"] = toJson(QVariant(command->parameters()));
+    if (const auto *serial = dynamic_cast<const SerialProtoCommand *>(command.get())) {
+        reply["code"] = toJson(ProtoCommandList::cmdCode(command->command(), family));
+        reply["module"] = serial->moduleID();
+        reply["serial"] = numbers(serial->serialParameters(family));
+    }
+    reply["estimated_ms"] = command->getCmdEstimatedExecutionTime(machine.get());
+    reply["command"] = toJson(command->commandString());
+    reply["action"] = toJson(command->actionString(false).m_text);
+    reply["action_detailed"] = toJson(command->actionString(true).m_text);
+    return reply;
+}
+
+void addAnswer(OrderedJson &reply, const ProtoAnswer &answer)
+{
+    reply["class"] = className(answer);
+    reply["value"] = toJson(answer.toXmlRpcValue());
+}
+
+OrderedJson decode(const Request &request)
+{
+    return answerReply(*decodedCommand(request));
+}
+
+OrderedJson answer(const Request &request)
+{
+    const XmlRpc::XmlRpcValue value = request.value("value");
+    const auto command = makeCommand(request);
+    FW_DriverError error;
+    if (!command->buildProtoAnswer(value, &error))
+        throw FW_DriverError(error);
+    return answerReply(*command);
+}
+
+OrderedJson setAnswer(const Request &request)
+{
+    const XmlRpc::XmlRpcValue envelope = request.value("envelope");
+    const bool async = request.flag("async", false);
+    const auto command = makeCommand(request);
+    FW_DriverError error;
+    if (!command->setAnswer(envelope, async, &error))
+        throw FW_DriverError(error);
+    return envelopeReply(*command);
+}
+
+OrderedJson envelope(const Request &request)
+{
+    const int retCode = request.number("ret_code");
+    const XmlRpc::XmlRpcValue value = request.has("value") ? request.value("value") : XmlRpc::XmlRpcValue(0);
+    const XmlRpcAnswer answer(retCode, value, request.text("command", QString()),
+                              request.longNumber("time", 0));
+    OrderedJson reply = success();
+    reply["value"] = toJson(answer.toXmlRpcValue());
+    return reply;
+}
+
+OrderedJson supports(const Request &request)
+{
+    const FW_Version version(request.number("family"), request.number("revision"));
+    OrderedJson reply = success();
+    reply["supported"] = makeCommand(request)->isSupportedCommand(version);
+    return reply;
+}
+
+struct Operation
+{
+    const char *name;
+    OrderedJson (*run)(const Request &request);
+};
+
+constexpr Operation operations[] = {
+    {"catalogue", catalogue}, {"query", query},         {"encode", encode},     {"decode", decode},
+    {"answer", answer},       {"setanswer", setAnswer}, {"envelope", envelope}, {"supports", supports},
+};
+
+} // namespace
+
+OrderedJson runOperation(const Request &request)
+{
+    const std::string name = request.text("op").toStdString();
+    const auto operation = std::find_if(std::begin(operations), std::end(operations),
+                                        [&](const Operation &candidate) { return name == candidate.name; });
+    if (operation == std::end(operations))
+        throw BadRequest("\"op\" names no operation");
+    return operation->run(request);
+}
+
+std::unique_ptr<ProtoCommand> makeCommand(const Request &request)
+{
+    const auto machine = machineOf(request);
+    return makeCommand(request, machine.get());
+}
+
+std::unique_ptr<ProtoCommand> decodedCommand(const Request &request)
+{
+    const QStringList tokens = request.texts("tokens");
+    auto command = makeCommand(request);
+    auto *serial = dynamic_cast<SerialProtoCommand *>(command.get());
+    if (!serial)
+        throw BadRequest("\"name\": " + command->command().toStdString() +
+                         " is no serial command, so tokens are no answer to it");
+    FW_DriverError error;
+    if (!serial->setSerialAnswer(tokens, &error))
+        throw FW_DriverError(error);
+    return command;
+}
+
+OrderedJson answerReply(const ProtoCommand &command)
+{
+    OrderedJson reply = success();
+    const ProtoAnswer *answer = command.getProtoAnswer();
+    if (!answer)
+        return reply;
+    addAnswer(reply, *answer);
+    if (const auto *status = dynamic_cast<const MachineStatusAnswer *>(answer)) {
+        OrderedJson descriptions = OrderedJson::array();
+        for (const auto &[text, bad] : status->getStatusDescriptions(nullptr))
+            descriptions.push_back(OrderedJson::object({{"text", toJson(text)}, {"bad", bad}}));
+        reply["descriptions"] = std::move(descriptions);
+    }
+    return reply;
+}
+
+OrderedJson envelopeReply(const ProtoCommand &command)
+{
+    OrderedJson reply = success();
+    if (const XmlRpcAnswer *envelope = command.getXmlRpcAnswer()) {
+        OrderedJson printable = OrderedJson::array();
+        for (const QString &line : envelope->toPrintableString())
+            printable.push_back(toJson(line));
+        reply["envelope"] = OrderedJson::object({{"ret_code", envelope->retCode()},
+                                                 {"info", toJson(envelope->infoMsg())},
+                                                 {"printable", std::move(printable)}});
+    }
+    if (const ProtoAnswer *answer = command.getProtoAnswer())
+        addAnswer(reply, *answer);
+    return reply;
+}
+
+OrderedJson failureReply(const FW_DriverError &error)
+{
+    return OrderedJson::object({{"ok", false},
+                                {"code", toJson(error.code())},
+                                {"text", toJson(error.text())},
+                                {"function", toJson(error.function())}});
+}
+
+OrderedJson failureReply(const std::string &text)
+{
+    return OrderedJson::object({{"ok", false}, {"code", ""}, {"text", text}, {"function", ""}});
+}
+
+} // namespace quv

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "request.h"
+
+#include <memory>
+
+class FW_DriverError;
+class ProtoAnswer;
+class ProtoCommand;
+
+namespace quv {
+
+/**
+ * What a request asks for, under "ok": true.
+ * \throws BadRequest when the request is none, FW_DriverError when the library refuses it
+ */
+OrderedJson runOperation(const Request &request);
+
+/// The command that "name", "args", "form" and "machine" tell, from the factory. \throws as runOperation
+std::unique_ptr<ProtoCommand> makeCommand(const Request &request);
+
+/// The same, holding the answer that it made of "tokens". \throws as runOperation
+std::unique_ptr<ProtoCommand> decodedCommand(const Request &request);
+
+/// Class and value of the answer that \a command holds, and its descriptions when it is a status.
+OrderedJson answerReply(const ProtoCommand &command);
+/// The envelope that \a command holds, and the answer when there is one.
+OrderedJson envelopeReply(const ProtoCommand &command);
+
+OrderedJson failureReply(const FW_DriverError &error);
+OrderedJson failureReply(const std::string &text);
+
+} // namespace quv

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "commandline.h"
+
+namespace quv {
+
+extern const Subcommand listSubcommand;
+extern const Subcommand showSubcommand;
+extern const Subcommand encodeSubcommand;
+extern const Subcommand decodeSubcommand;
+extern const Subcommand callSubcommand;
+extern const Subcommand watchSubcommand;
+extern const Subcommand batchSubcommand;
+
+} // namespace quv

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "terminal.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <unistd.h>
+
+namespace quv {
+
+namespace {
+
+bool hasColours(FILE *stream)
+{
+    return isatty(fileno(stream)) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR") &&
+           qgetenv("TERM") != "dumb";
+}
+
+const char *escape(Colour colour)
+{
+    switch (colour) {
+    case Colour::Bold:
+        return "\033[1m";
+    case Colour::Red:
+        return "\033[31m";
+    case Colour::Plain:
+        break;
+    }
+    return "";
+}
+
+/// Texts come from drivers and machines, and must not steer the terminal.
+QString printable(QString text)
+{
+    for (QChar &c : text)
+        if (c.category() == QChar::Other_Control)
+            c = QChar::ReplacementCharacter;
+    return text;
+}
+
+void print(FILE *stream, const QString &text, Colour colour)
+{
+    std::string line = printable(text).toStdString();
+    if (colour != Colour::Plain && hasColours(stream))
+        line = escape(colour) + line + "\033[0m";
+    line += '\n';
+    std::fwrite(line.data(), 1, line.size(), stream);
+    std::fflush(stream);
+}
+
+} // namespace
+
+void printLine(const QString &text, Colour colour)
+{
+    print(stdout, text, colour);
+}
+
+void printError(const QString &text)
+{
+    print(stderr, text, Colour::Red);
+}
+
+void Columns::print(bool heading) const
+{
+    QList<int> widths;
+    for (const QStringList &row : m_rows)
+        for (int i = 0; i < row.size(); ++i) {
+            if (i == widths.size())
+                widths.append(0);
+            widths[i] = std::max(widths[i], row[i].size());
+        }
+    for (const QStringList &row : m_rows) {
+        QString line;
+        for (int i = 0; i < row.size(); ++i)
+            line += i + 1 < row.size() ? row[i].leftJustified(widths[i] + 2) : row[i];
+        printLine(line, heading && &row == &m_rows.first() ? Colour::Bold : Colour::Plain);
+    }
+}
+
+} // namespace quv

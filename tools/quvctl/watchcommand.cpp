@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "driver.h"
+#include "subcommands.h"
+#include "terminal.h"
+#include "words.h"
+
+#include "base/xmlrpcanswer.h"
+#include "status/dispenserstatusanswer.h"
+#include "status/dispenserstatuscmd.h"
+
+#include <QuvFramework/fw_error.h>
+
+#include <QtCore/QTime>
+
+#include <chrono>
+#include <optional>
+#include <thread>
+
+namespace quv {
+
+namespace {
+
+/// The status, or why there is none.
+struct Observation
+{
+    std::optional<DispenserStatusAnswer> status;
+    QString failure;
+};
+
+Observation observe(const Driver &driver)
+{
+    try {
+        DispenserStatusCmd command;
+        const XmlRpcAnswer &envelope = driver.execute(command);
+        if (envelope.retCode() != 0)
+            return {std::nullopt, envelope.toPrintableString().join(QStringLiteral(" "))};
+        const auto *status = dynamic_cast<const DispenserStatusAnswer *>(command.getProtoAnswer());
+        if (!status)
+            return {std::nullopt, QStringLiteral("the answer is no status")};
+        return {*status, QString()};
+    } catch (const FW_DriverError &error) {
+        return {std::nullopt, error.toPrintableString()};
+    } catch (const std::exception &error) {
+        return {std::nullopt, QString::fromUtf8(error.what())};
+    }
+}
+
+void tell(const QString &text, bool bad)
+{
+    printLine(QTime::currentTime().toString(QStringLiteral("hh:mm:ss ")) + text,
+              bad ? Colour::Red : Colour::Plain);
+}
+
+/// Tells what is new in each observation.
+class Watcher
+{
+public:
+    bool hasSeenAStatus() const { return m_last.has_value(); }
+
+    void take(const Observation &now)
+    {
+        if (!now.status) {
+            if (now.failure != m_failure)
+                tell(QStringLiteral("No status: ") + now.failure, true);
+            m_failure = now.failure;
+            return;
+        }
+        if (!m_failure.isEmpty())
+            tell(QStringLiteral("The driver answers again"), false);
+        m_failure.clear();
+        if (m_last)
+            tellChanges(*now.status);
+        else
+            tellAll(*now.status);
+        m_last = now.status;
+    }
+
+private:
+    static void tellAll(const DispenserStatusAnswer &status)
+    {
+        tell(QStringLiteral("Machine status %1").arg(status.status()), false);
+        for (const StatusLine &line : statusInWords(status))
+            tell(line.text, line.bad);
+    }
+
+    void tellChanges(const DispenserStatusAnswer &status) const
+    {
+        if (status.status() != m_last->status())
+            tell(QStringLiteral("Machine status %1").arg(status.status()), false);
+        for (const QString &text : DispenserStatusAnswer::getNewStatesDescriptions(&*m_last, &status))
+            tell(text, false);
+    }
+
+    std::optional<DispenserStatusAnswer> m_last;
+    QString m_failure;
+};
+
+ExitStatus run(const CommandLine &line)
+{
+    const Driver driver(line);
+    const std::chrono::duration<double> interval(line.decimal("interval", 1, 0.01, 86400));
+    const int count = line.number("count", 0, 0, 1000000000);
+    Watcher watcher;
+    for (int i = 1;; ++i) {
+        watcher.take(observe(driver));
+        if (i == count)
+            return watcher.hasSeenAStatus() ? Done : Refused;
+        if (count == 0)
+            i = 0;
+        std::this_thread::sleep_for(interval);
+    }
+}
+
+} // namespace
+
+const Subcommand watchSubcommand = {
+    "watch",
+    "",
+    "a dispenser's status as it changes",
+    "Asks a driver for the status of its dispenser again and again: shows what holds at first, then what\n"
+    "changes. A driver that goes away is waited for. With --count, the exit status is 1 when no status came.",
+    0,
+    0,
+    withDriverOptions({{"interval", "SECONDS", "the time between two questions (1)"},
+                       {"count", "N", "ends after N questions; 0 goes on for ever (0)"}}),
+    run};
+
+} // namespace quv

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "words.h"
+
+#include "commandline.h"
+#include "terminal.h"
+
+#include "base/protoanswer.h"
+#include "status/dispenserstatusanswer.h"
+
+#include <QuvFramework/fw_xmlrpc.h>
+
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
+
+namespace quv {
+
+namespace {
+
+nlohmann::json argumentFromWord(const QString &word)
+{
+    // who begins like this means JSON, and wants to hear of a mistake
+    static const QRegularExpression json(QStringLiteral(R"(^([\[{"]|-?\d+(\.\d+)?([eE][+-]?\d+)?$))"));
+    try {
+        return parseJson(word.toStdString());
+    } catch (const JsonError &error) {
+        if (json.match(word).hasMatch())
+            throw UsageError(QStringLiteral("argument %1: %2").arg(word, QString::fromUtf8(error.what())));
+        return word.toStdString();
+    }
+}
+
+bool told(const QList<StatusLine> &lines, const QString &text)
+{
+    return std::any_of(lines.begin(), lines.end(), [&](const StatusLine &line) { return line.text == text; });
+}
+
+/// A cleared status but for one flag.
+DispenserStatusAnswer statusOfFlag(const std::string &flag)
+{
+    XmlRpc::XmlRpcValue value = DispenserStatusAnswer().toXmlRpcValue();
+    value[flag] = true;
+    return DispenserStatusAnswer(value);
+}
+
+/// Flags that neither list of descriptions knows.
+QStringList flagsWithoutWords(const DispenserStatusAnswer &status)
+{
+    const DispenserStatusAnswer cleared;
+    QStringList flags;
+    const XmlRpc::XmlRpcValue value = status.toXmlRpcValue();
+    for (const auto &[name, member] : value) {
+        bool set = false;
+        if (!DecodeXmlRpcValue(member, set) || !set || name == "normal_wm")
+            continue;
+        const DispenserStatusAnswer alone = statusOfFlag(name);
+        if (alone.getStatusDescriptions(nullptr).isEmpty() &&
+            DispenserStatusAnswer::getNewStatesDescriptions(&cleared, &alone).isEmpty())
+            flags.append(DecodeXmlRpcText(name));
+    }
+    return flags;
+}
+
+void addDispenserOnly(const DispenserStatusAnswer &status, QList<StatusLine> &lines)
+{
+    const DispenserStatusAnswer cleared;
+    for (const QString &text : DispenserStatusAnswer::getNewStatesDescriptions(&cleared, &status))
+        if (!told(lines, text))
+            lines.append({text, false});
+    for (const QString &flag : flagsWithoutWords(status))
+        lines.append({flag, false});
+    if (status.current_position_id != 0)
+        lines.append({QStringLiteral("Position %1").arg(status.current_position_id), false});
+    if (status.current_position_id_zone != 0)
+        lines.append({QStringLiteral("Zone %1").arg(status.current_position_id_zone), false});
+}
+
+} // namespace
+
+nlohmann::json argumentsFromWords(const QStringList &words)
+{
+    nlohmann::json arguments = nlohmann::json::array();
+    for (const QString &word : words)
+        arguments.push_back(argumentFromWord(word));
+    return arguments;
+}
+
+QList<StatusLine> statusInWords(const MachineStatusAnswer &status)
+{
+    QList<StatusLine> lines;
+    for (const auto &[text, bad] : status.getStatusDescriptions(nullptr))
+        lines.append({text, bad});
+    if (const auto *dispenser = dynamic_cast<const DispenserStatusAnswer *>(&status))
+        addDispenserOnly(*dispenser, lines);
+    std::stable_partition(lines.begin(), lines.end(), [](const StatusLine &line) { return line.bad; });
+    return lines;
+}
+
+void printAnswer(const ProtoAnswer &answer)
+{
+    const auto *status = dynamic_cast<const MachineStatusAnswer *>(&answer);
+    if (!status) {
+        printLine(QString::fromStdString(writeJson(toJson(answer.toXmlRpcValue()))));
+        return;
+    }
+    printLine(QStringLiteral("Machine status %1").arg(status->status()), Colour::Bold);
+    for (const StatusLine &line : statusInWords(*status))
+        printLine(line.text, line.bad ? Colour::Red : Colour::Plain);
+}
+
+} // namespace quv

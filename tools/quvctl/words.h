@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "jsonvalue.h"
+
+#include <QtCore/QStringList>
+
+class MachineStatusAnswer;
+class ProtoAnswer;
+
+namespace quv {
+
+/// The arguments that a user typed: each is a JSON value, and a word that is none is a string. \throws UsageError
+nlohmann::json argumentsFromWords(const QStringList &words);
+
+struct StatusLine
+{
+    QString text;
+    bool bad;
+};
+
+/// All that a status tells, bad conditions first: those that have a description, the other flags that are set by the words
+/// of their change, and those without any words by their names.
+QList<StatusLine> statusInWords(const MachineStatusAnswer &status);
+
+/// An answer for people: a status in words, anything else as its value.
+void printAnswer(const ProtoAnswer &answer);
+
+} // namespace quv

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+namespace quv {
+
+/// What a firmware sends back: hexadecimal tokens in upper case, the length token first.
+struct FirmwareReply
+{
+    /// A refusal is a reply of its own kind. Its parameters are six: two masks of reasons, and four that are not read.
+    bool refused = false;
+    QStringList tokens{};
+};
+
+/// One machine's firmware, as the driver sees it: behind it stands a simulation, or a serial link.
+class Firmware
+{
+public:
+    Firmware() = default;
+    Firmware(const Firmware &) = delete;
+    Firmware &operator=(const Firmware &) = delete;
+    virtual ~Firmware() = default;
+
+    /// Carries out the command of \a code at the serial address \a module (0: the machine itself). Called by one thread
+    /// at a time. Returns when the firmware has replied, which for a process is when it has begun.
+    /// \throws std::runtime_error when no reply could be had
+    virtual FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) = 0;
+};
+
+} // namespace quv

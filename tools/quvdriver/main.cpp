@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "driver.h"
+#include "simulatedfirmware.h"
+
+#include "machines.h"
+#include "xmlrpcserver.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+
+#include <atomic>
+#include <csignal>
+#include <cstdio>
+#include <stdexcept>
+
+namespace {
+
+constexpr int Done = 0;
+constexpr int Failed = 1;
+constexpr int WrongUsage = 2;
+constexpr double MinSpeed = 0.01;
+constexpr double MaxSpeed = 10000;
+
+struct Usage : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
+struct Options
+{
+    quv::XmlRpcServerOptions server{};
+    QStringList machines{};
+    double speed = 1;
+    bool once = false;
+};
+
+const QCommandLineOption hostOption(QStringLiteral("host"),
+                                    QStringLiteral("Address to listen on (default 127.0.0.1)."),
+                                    QStringLiteral("ADDRESS"), QStringLiteral("127.0.0.1"));
+const QCommandLineOption portOption(QStringLiteral("port"),
+                                    QStringLiteral("Port to listen on, 0 for any free one (default 9333)."),
+                                    QStringLiteral("PORT"), QStringLiteral("9333"));
+const QCommandLineOption
+    machineOption(QStringLiteral("machine"),
+                  QStringLiteral("A simulated machine: dispenser, mixer, none, or a JSON file; "
+                                 "may be repeated (default dispenser and mixer)."),
+                  QStringLiteral("NAME|FILE"));
+const QCommandLineOption speedOption(QStringLiteral("speed"),
+                                     QStringLiteral("How many times faster than real the machines work "
+                                                    "(0.01 to 10000, default 1)."),
+                                     QStringLiteral("FACTOR"), QStringLiteral("1"));
+const QCommandLineOption onceOption(QStringLiteral("once"), QStringLiteral("Answer one call, then end."));
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        QStringLiteral("Owns simulated machines and carries out their commands, called by XML-RPC."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({hostOption, portOption, machineOption, speedOption, onceOption});
+}
+
+Options readOptions(const QCommandLineParser &parser)
+{
+    if (!parser.positionalArguments().isEmpty())
+        throw Usage("unexpected argument \"" + parser.positionalArguments().constFirst().toStdString() +
+                    "\"");
+    Options options;
+    bool isNumber = false;
+    options.server.host = parser.value(hostOption);
+    const uint port = parser.value(portOption).toUInt(&isNumber);
+    if (!isNumber || port > 65535)
+        throw Usage("--port must be a number from 0 to 65535");
+    options.server.port = static_cast<int>(port);
+    options.speed = parser.value(speedOption).toDouble(&isNumber);
+    if (!isNumber || !(options.speed >= MinSpeed && options.speed <= MaxSpeed))
+        throw Usage("--speed must be a number from 0.01 to 10000");
+    options.machines = parser.values(machineOption);
+    if (options.machines.isEmpty())
+        options.machines = QStringList{QStringLiteral("dispenser"), QStringLiteral("mixer")};
+    options.once = parser.isSet(onceOption);
+    return options;
+}
+
+void addMachines(quv::Driver &driver, const Options &options)
+{
+    for (const QString &name : options.machines) {
+        auto machine = quv::machineByName(name);
+        if (!machine)
+            continue;
+        auto firmware = std::make_unique<quv::SimulatedFirmware>(*machine, options.speed);
+        if (!driver.addMachine(std::move(machine), std::move(firmware)))
+            throw Usage("a driver has one dispenser and one mixer at most");
+    }
+}
+
+std::atomic<quv::XmlRpcServer *> runningServer{nullptr};
+
+void stopServer(int /*signal*/)
+{
+    if (quv::XmlRpcServer *server = runningServer)
+        server->stop();
+}
+
+void run(const Options &options)
+{
+    quv::Driver driver;
+    addMachines(driver, options);
+    std::atomic<bool> isUsed{false};
+    quv::XmlRpcServer server(
+        [&](const quv::MethodCall &call) {
+            if (options.once) {
+                if (isUsed.exchange(true))
+                    throw quv::FaultException({quv::FaultInternal, QStringLiteral("The driver is ending")});
+                // It still answers the call that it is in.
+                stopServer(0);
+            }
+            return driver.call(call);
+        },
+        options.server);
+    server.listen();
+
+    runningServer = &server;
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGTERM, stopServer);
+    std::signal(SIGINT, stopServer);
+    std::printf("listening on %s:%d\n", qPrintable(options.server.host), server.port());
+    std::fflush(stdout);
+    server.run();
+    runningServer = nullptr;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quvdriver"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUV_VERSION));
+    try {
+        QCommandLineParser parser;
+        describe(parser);
+        if (!parser.parse(QCoreApplication::arguments()))
+            throw Usage(parser.errorText().toStdString());
+        if (parser.isSet(QStringLiteral("help"))) {
+            std::fputs(qPrintable(parser.helpText()), stdout);
+            return Done;
+        }
+        if (parser.isSet(QStringLiteral("version"))) {
+            std::puts("quvdriver " QUV_VERSION);
+            return Done;
+        }
+        run(readOptions(parser));
+        return Done;
+    } catch (const Usage &error) {
+        std::fprintf(stderr, "quvdriver: %s\nTry \"quvdriver --help\".\n", error.what());
+        return WrongUsage;
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "quvdriver: %s\n", error.what());
+        return Failed;
+    }
+}
