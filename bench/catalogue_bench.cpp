@@ -2,6 +2,7 @@
 #include "base/serialprotocommand.h"
 #include "catalogue/protocommandlist.h"
 #include "ratios.h"
+#include "suites.h"
 
 #include <memory>
 #include <vector>
@@ -18,7 +19,7 @@ std::vector<QString> allNames()
 
 } // namespace
 
-void quv::registerCatalogue()
+void quv::addCatalogueRatios()
 {
     const QString last = QString::fromLatin1("PAUSE"); // not the table's own string
     addRatio("catalogue: query of the last row", 1.1,

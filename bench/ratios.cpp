@@ -65,15 +65,7 @@ private:
 
 } // namespace
 
-void quv::addRatio(const std::string &name, double aim, std::function<void(benchmark::State &)> library,
-                   std::function<void(benchmark::State &)> bare)
-{
-    ratios().push_back({name, aim});
-    benchmark::RegisterBenchmark((name + "/library").c_str(), std::move(library));
-    benchmark::RegisterBenchmark((name + "/bare").c_str(), std::move(bare));
-}
-
-int main(int argc, char **argv)
+int quv::runRatios(int argc, char **argv)
 {
     std::vector<char *> arguments(argv, argv + argc);
     std::string interleaving = "--benchmark_enable_random_interleaving=true";
@@ -84,9 +76,15 @@ int main(int argc, char **argv)
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 2;
-    quv::registerCatalogue();
-    quv::registerStatus();
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;
+}
+
+void quv::addRatio(const std::string &name, double aim, std::function<void(benchmark::State &)> library,
+                   std::function<void(benchmark::State &)> bare)
+{
+    ratios().push_back({name, aim});
+    benchmark::RegisterBenchmark((name + "/library").c_str(), std::move(library));
+    benchmark::RegisterBenchmark((name + "/bare").c_str(), std::move(bare));
 }

@@ -27,7 +27,7 @@ std::function<void(benchmark::State &)> repeat(Work work)
     };
 }
 
-void registerCatalogue();
-void registerStatus();
+/** Runs all that was added, as the command line says, and prints the ratios. The program's exit status. */
+int runRatios(int argc, char **argv);
 
 } // namespace quv

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ratios.h"
 #include "status/dispenserstatusanswer.h"
+#include "suites.h"
 
 #include <QtCore/QStringList>
 
@@ -65,7 +66,7 @@ int readByHand(const XmlRpcValue &value)
 
 } // namespace
 
-void quv::registerStatus()
+void quv::addStatusRatios()
 {
     addRatio("status: 12 words from tokens", 1.3,
              repeat([list = tokens()] { return DispenserStatusAnswer(list); }),

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "ratios.h"
+#include "suites.h"
+
+int main(int argc, char **argv)
+{
+    quv::addCatalogueRatios();
+    quv::addStatusRatios();
+    return quv::runRatios(argc, argv);
+}

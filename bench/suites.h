@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+namespace quv {
+
+void addCatalogueRatios();
+void addStatusRatios();
+
+} // namespace quv
