@@ -29,6 +29,7 @@ function(quv_install_library target)
         ${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
         ${PROJECT_SOURCE_DIR}/cmake/FindXmlRpcpp.cmake
         DESTINATION ${package_dir})
+    file(RELATIVE_PATH prefix_from_pc ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
     configure_file(${PROJECT_SOURCE_DIR}/cmake/${target}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc @ONLY)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endfunction()

@@ -257,7 +257,8 @@ bool DecodeXmlRpcValue(const XmlRpcValue &value, QMap<QString, QVariant> &out)
 
 bool DecodeXmlRpcValue(const XmlRpcValue &value, XmlRpcValue &out)
 {
-    const XmlRpcValue copy(value); // the value may be a part of the target
+    // the value may be a part of the target
+    const XmlRpcValue copy(value); // NOLINT(performance-unnecessary-copy-initialization)
     out = copy;
     return true;
 }
@@ -449,7 +450,8 @@ void EncodeXmlRpcValue(XmlRpcValue &value, const QString &key, const QHash<QStri
 
 void EncodeXmlRpcValue(XmlRpcValue &value, const QString &key, const XmlRpcValue &member)
 {
-    const XmlRpcValue copy(member); // the member may be a part of the value
+    // the member may be a part of the value
+    const XmlRpcValue copy(member); // NOLINT(performance-unnecessary-copy-initialization)
     setMember(value, key, copy.valid() ? copy : XmlRpcValue(0));
 }
 

@@ -9,7 +9,7 @@ bool reportCurrentException(const char *code, const char *text, FW_DriverError *
         throw;
     } catch (const FW_Exception &exception) {
         if (error)
-            *error = exception;
+            *error = static_cast<const FW_DriverError &>(exception);
     } catch (...) {
         FW_DriverError::D_E(code, text, error);
     }

@@ -315,6 +315,7 @@ void inThreads(int count, Work work)
 {
     std::atomic<int> waiting{count};
     std::vector<std::thread> threads;
+    threads.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         threads.emplace_back([&, i] {
             for (--waiting; waiting > 0;)

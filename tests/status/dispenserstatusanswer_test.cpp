@@ -608,7 +608,7 @@ TEST(DispenserStatusXmlRpc, carriesEachFieldThereAndBack)
     for (int number : {1, 2, 245, -7, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
         DispenserStatusAnswer answer;
         answer.setStatus(number);
-        answer.current_position_id = number - 1 < number ? number - 1 : number;
+        answer.current_position_id = ~number;
         answer.current_position_id_zone = 9;
         const DispenserStatusAnswer back(answer.toXmlRpcValue());
         EXPECT_EQ(back.disp_status, number);
@@ -904,6 +904,7 @@ TEST(DispenserStatusTexts, describeEachConditionByItself)
 TEST(DispenserStatusTexts, describeAllConditionsInTheirOrder)
 {
     std::vector<Line> lines;
+    lines.reserve(conditions.size());
     for (const auto &[flag, line] : conditions)
         lines.push_back(line);
     EXPECT_EQ(lines.size(), 38U);
