@@ -175,7 +175,6 @@ const std::vector<PendingAnswer> &pendingAnswers()
         {ConfigurationType, ProtoCommandList::GET_SCALE_STATUS, "ScaleStatusAnswer"},
         {ConfigurationType, ProtoCommandList::GET_USS_W_STATUS, "GetUssWaterStatusAnswer"},
         {ConfigurationType, ProtoCommandList::GET_MIXER_STATUS, "MixerDriverStatusAnswer"},
-        {ConfigurationType, ProtoCommandList::GET_DEVICE_PARAMS, "GetDeviceParamsAnswer"},
         {ConfigurationType, ProtoCommandList::GET_SHELF_PARAMS, "GetShelfParamsAnswer"},
     };
     return answers;

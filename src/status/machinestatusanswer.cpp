@@ -114,7 +114,7 @@ const quv::Record<MachineStatusAnswer> &quv::machineStatusRecord()
 {
     // Flags that came with later firmware are optional, so that a client understands an older driver.
     static const Record<Status> record({
-        {"disp_status", &Status::disp_status, "DE00443", ofMachine},
+        {"disp_status", &Status::disp_status, "DE00443", "MachineStatusAnswer: expected disp_status value"},
         {"offline_pressed", &Status::offline_pressed, flagCode, ofMachine},
         {"board_not_initialized", &Status::board_not_initialized, flagCode, ofMachine},
         {"startup", &Status::startup, flagCode, ofMachine},

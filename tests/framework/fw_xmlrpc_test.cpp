@@ -839,6 +839,25 @@ TEST(DecodeVariantList, readsListOfInts)
     expectDecodes<QList<int>>({{12, {1, -2}}, {13, {1, -2}}, {15, {}}}, QList<int>{5});
 }
 
+TEST(SameXmlRpcValue, holdsForTheSameKindAndContentOnly)
+{
+    for (const auto &[name, value] : everyKind()) {
+        for (const auto &[otherName, other] : everyKind())
+            EXPECT_EQ(SameXmlRpcValue(value, other), name == otherName) << name << ", " << otherName;
+    }
+}
+
+TEST(SameXmlRpcValue, looksAllTheWayDown)
+{
+    const XmlRpcValue value = structOf({{"list", arrayOf({structOf({{"a", 1}})})}});
+    EXPECT_TRUE(SameXmlRpcValue(value, structOf({{"list", arrayOf({structOf({{"a", 1}})})}})));
+    EXPECT_FALSE(
+        SameXmlRpcValue(value, structOf({{"list", arrayOf({structOf({{"b", 1}})})}}))); // another name
+    EXPECT_FALSE(SameXmlRpcValue(value, structOf({{"list", arrayOf({structOf({{"a", 2}})})}})));
+    EXPECT_FALSE(SameXmlRpcValue(value, structOf({{"list", arrayOf({structOf({{"a", 1}}), 1})}})));
+    EXPECT_FALSE(SameXmlRpcValue(value, structOf({{"list", arrayOf({structOf({{"a", 1}, {"b", 1}})})}})));
+}
+
 TEST(intListToVariant, keepsTheNumbersAsInts)
 {
     const QList<QVariant> variants = intListToVariant({1, -2, greatestInt});
