@@ -241,7 +241,10 @@ class Decode(CliTest):
         self.assertEqual(self.wrong("decode", "GET_STATUS"), "quvctl: decode needs NAME TOKEN... (see quvctl help)\n")
 
     def terminal_output(self, **environment):
-        ours, theirs = pty.openpty()
+        try:
+            ours, theirs = pty.openpty()
+        except OSError as error:
+            self.skipTest(f"this machine has no terminal to give: {error}")
         try:
             subprocess.run([QUVCTL, "decode", "GET_STATUS", "6", "0", "1", "1", "0", "0", "0"], stdout=theirs,
                            env={**os.environ, "TERM": "xterm", "NO_COLOR": "", **environment}, timeout=30, check=True)
