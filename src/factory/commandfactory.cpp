@@ -2,6 +2,8 @@
 #include "catalogue/protocommandlist.h"
 
 #include "base/confprotocommand.h"
+#include "base/getcmdestimatedexectimecmd.h"
+#include "base/getcommandstatuscmd.h"
 #include "base/guard_p.h"
 #include "base/scaleprotocommand.h"
 #include "base/serialprotocommand.h"
@@ -40,6 +42,12 @@ template <class Command, class Base, class Args>
 Base *fromArguments(const QString &, Args &args, const FW_Machine *)
 {
     return new Command(args);
+}
+
+template <class Command, class Base, class Args>
+Base *fromArgumentsAndMachine(const QString &, Args &args, const FW_Machine *machine)
+{
+    return new Command(args, machine);
 }
 
 template <class Command, class Args>
@@ -87,7 +95,9 @@ const Rows<SerialProtoCommand, Args> &mixerSerialRows()
 template <class Args>
 const Rows<ConfProtoCommand, Args> &configRows()
 {
-    static const Rows<ConfProtoCommand, Args> rows;
+    static const Rows<ConfProtoCommand, Args> rows = {
+        {Cmd::GET_CMD_STATUS, fromArguments<GetCommandStatusCmd>},
+    };
     return rows;
 }
 
@@ -97,7 +107,9 @@ const Rows<ConfProtoCommand, Args> &dispenserConfigRows();
 template <>
 const Rows<ConfProtoCommand, Value> &dispenserConfigRows<Value>()
 {
-    static const Rows<ConfProtoCommand, Value> rows;
+    static const Rows<ConfProtoCommand, Value> rows = {
+        {Cmd::GET_CMD_EST_EXEC_TIME, fromArgumentsAndMachine<GetCmdEstimatedExecTimeCmd>},
+    };
     return rows;
 }
 
@@ -106,6 +118,7 @@ const Rows<ConfProtoCommand, List> &dispenserConfigRows<List>()
 {
     static const Rows<ConfProtoCommand, List> rows = {
         {Cmd::CLOSE_SERIAL, fromNameAndAll},
+        {Cmd::GET_CMD_EST_EXEC_TIME, fromArgumentsAndMachine<GetCmdEstimatedExecTimeCmd>},
     };
     return rows;
 }
@@ -113,7 +126,9 @@ const Rows<ConfProtoCommand, List> &dispenserConfigRows<List>()
 template <class Args>
 const Rows<ConfProtoCommand, Args> &mixerConfigRows()
 {
-    static const Rows<ConfProtoCommand, Args> rows;
+    static const Rows<ConfProtoCommand, Args> rows = {
+        {Cmd::GET_CMD_EST_EXEC_TIME, fromArgumentsAndMachine<GetCmdEstimatedExecTimeCmd>},
+    };
     return rows;
 }
 

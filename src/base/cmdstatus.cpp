@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/cmdstatus.h"
+
+#include "base/guard_p.h"
+#include "base/translation_p.h"
+
+#include <QuvFramework/fw_xmlrpc.h>
+
+#include <QtCore/QTime>
+
+namespace {
+
+constexpr char statusTag[] = "status";
+constexpr char infoTag[] = "info";
+constexpr char extraInfoTag[] = "extra_info";
+constexpr char timeLeftTag[] = "time_left";
+constexpr char percentageTag[] = "percentage";
+constexpr char answerTag[] = "cmd_answer";
+
+constexpr long long dayLength = 24LL * 60 * 60 * 1000; // ms
+
+std::string latin1(const QString &text)
+{
+    return text.toLatin1().toStdString();
+}
+
+template <class T>
+void decodeMember(const XmlRpc::XmlRpcValue &value, const char *key, T &field, const char *code,
+                  const char *text, const char *function)
+{
+    if (!DecodeXmlRpcValue(value, key, field))
+        throw FW_Exception(code, text, function);
+}
+
+} // namespace
+
+CmdStatus::CmdStatus(int status, int timeLeft, int percentage, QString info)
+    : CmdStatus(status, timeLeft, percentage, XmlRpc::XmlRpcValue(), info)
+{}
+
+CmdStatus::CmdStatus(int status, int timeLeft, int percentage, XmlRpc::XmlRpcValue result, QString info)
+    : m_info(info),
+      m_resultValue(result)
+{
+    setStatus(status);
+    setTimeLeft(timeLeft);
+    setPercentage(percentage);
+}
+
+CmdStatus::CmdStatus(const XmlRpc::XmlRpcValue &value)
+{
+    const char *function = Q_FUNC_INFO;
+    decodeMember(value, statusTag, m_status, "DE00386", "CmdStatus: expected status value", function);
+    decodeMember(value, infoTag, m_info, "DE00387", "CmdStatus: expected info value", function);
+    decodeMember(value, extraInfoTag, m_extraInfo, "DE01677", "CmdStatus: expected extra info value",
+                 function);
+    decodeMember(value, timeLeftTag, m_timeLeft, "DE00388", "CmdStatus: expected time_left value", function);
+    decodeMember(value, percentageTag, m_percentage, "DE00389", "CmdStatus: expected percentage value",
+                 function);
+    decodeMember(value, answerTag, m_resultValue, "DE00390", "CmdStatus: expected cmd_answer value",
+                 function);
+    if (SameXmlRpcValue(m_resultValue, XmlRpc::XmlRpcValue(0)))
+        m_resultValue.clear(); // stands for no result
+}
+
+CmdStatus *CmdStatus::clone() const
+{
+    return new CmdStatus(*this);
+}
+
+bool CmdStatus::operator==(const CmdStatus &other) const
+{
+    return m_status == other.m_status && m_timeLeft == other.m_timeLeft &&
+           m_percentage == other.m_percentage && m_info == other.m_info && m_extraInfo == other.m_extraInfo &&
+           SameXmlRpcValue(m_resultValue, other.m_resultValue);
+}
+
+XmlRpc::XmlRpcValue CmdStatus::toXmlRpcValue() const
+{
+    XmlRpc::XmlRpcValue value;
+    value[statusTag] = m_status;
+    value[infoTag] = latin1(m_info);
+    value[extraInfoTag] = latin1(m_extraInfo);
+    value[timeLeftTag] = static_cast<int>(m_timeLeft);
+    value[percentageTag] = m_percentage;
+    value[answerTag] = resultValue();
+    return value;
+}
+
+QString CmdStatus::info() const
+{
+    return m_info.isEmpty() ? getDescription(m_status) : m_info;
+}
+
+XmlRpc::XmlRpcValue CmdStatus::resultValue() const
+{
+    return isRunning() || !m_resultValue.valid() ? XmlRpc::XmlRpcValue(0) : m_resultValue;
+}
+
+bool CmdStatus::setStatus(int status)
+{
+    if (!checkStatus(status))
+        return false;
+    m_status = status;
+    if (!isRunning()) {
+        m_timeLeft = 0;
+        m_percentage = 100;
+    }
+    return true;
+}
+
+void CmdStatus::setTimeLeft(long long timeLeft)
+{
+    if (isRunning())
+        m_timeLeft = qMax(timeLeft, 0LL);
+}
+
+void CmdStatus::setPercentage(int percentage)
+{
+    if (isRunning())
+        m_percentage = qBound(0, percentage, 99);
+}
+
+bool CmdStatus::timeTrackingAvailable() const
+{
+    return m_timeLeft != 0 || m_percentage != 0 || m_status != Executing;
+}
+
+XmlRpcAnswer CmdStatus::getXmlRpcAnswer(bool *ok) const
+{
+    XmlRpcAnswer answer;
+    const bool decoded = quv::guarded("", "", nullptr, [&] { answer = XmlRpcAnswer(resultValue()); });
+    if (ok)
+        *ok = decoded;
+    return answer;
+}
+
+QString CmdStatus::timeLeftStr(bool verbose) const
+{
+    const QTime time = QTime(0, 0).addMSecs(static_cast<int>(m_timeLeft % dayLength));
+    if (!verbose)
+        return time.toString(time.hour() < 1 ? QStringLiteral("mm:ss") : QStringLiteral("HH:mm:ss"));
+
+    const int seconds = time.second() + 1; // never says 0
+    if (time.hour() > 0)
+        return quv::translated(
+                   QT_TRANSLATE_NOOP("QuvProtocol", "About %1 hours, %2 minutes and %3 seconds remaining..."))
+            .arg(time.hour())
+            .arg(time.minute())
+            .arg(seconds);
+    const QString text = quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "About %1 seconds remaining..."));
+    return time.minute() > 0 ? text.arg(QStringLiteral("%1 minutes and %2").arg(time.minute()).arg(seconds))
+                             : text.arg(seconds);
+}
+
+bool CmdStatus::checkStatus(int status)
+{
+    return status >= TimedOut && status <= Created;
+}
+
+QString CmdStatus::getDescription(int status)
+{
+    switch (status) {
+    case Created:
+        return quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "Created..."));
+    case Queued:
+        return quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "Queued..."));
+    case Executing:
+        return quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "Executing..."));
+    case Done:
+        return quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "Done successfully!"));
+    case Failed:
+        return quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "Errors in command execution!"));
+    case Interrupted:
+        return quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "Interrupted!"));
+    case TimedOut:
+        return quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "Timeout elapsed!"));
+    default:
+        return quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "Unknown"));
+    }
+}

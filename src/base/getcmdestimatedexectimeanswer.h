@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "base/confprotoanswer.h"
+
+/** The answer to GET_CMD_EST_EXEC_TIME: a struct with the member "exec_time" (int, milliseconds). */
+class QUVPROTOCOL_EXPORT GetCmdEstimatedExecTimeAnswer : public ConfProtoAnswer
+{
+public:
+    static constexpr char EXEC_TIME[] = "exec_time";
+
+    GetCmdEstimatedExecTimeAnswer() = default;
+    explicit GetCmdEstimatedExecTimeAnswer(long long executionTime);
+    explicit GetCmdEstimatedExecTimeAnswer(
+        const XmlRpc::XmlRpcValue &value); ///< throws DE01180 without the member
+    explicit GetCmdEstimatedExecTimeAnswer(
+        QList<QVariant> &list); ///< a whole number; throws DE01178 without one
+
+    GetCmdEstimatedExecTimeAnswer *clone() const override;
+    bool equalTo(const ProtoAnswer *other) const override;
+    XmlRpc::XmlRpcValue toXmlRpcValue() const override; ///< the time is cut to 32 bits
+
+    long long executionTime() const { return m_executionTime; } ///< milliseconds
+
+private:
+    long long m_executionTime = 0;
+};

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/getcmdestimatedexectimecmd.h"
+
+#include "base/getcmdestimatedexectimeanswer.h"
+#include "base/guard_p.h"
+#include "base/replaceanswer_p.h"
+#include "catalogue/protocommandlist.h"
+
+#include <QuvFramework/fw_xmlrpc.h>
+
+namespace {
+
+constexpr char invalid[] = "Invalid parameters";
+constexpr char decodingFailed[] = "Errors during protocol command parameters decoding";
+
+QString name()
+{
+    return ProtoCommandList::cmdStr(ProtoCommandList::GET_CMD_EST_EXEC_TIME);
+}
+
+/** The array of the other command's name and arguments. */
+const XmlRpc::XmlRpcValue &commandAndParams(const XmlRpc::XmlRpcValue &value, const char *function)
+{
+    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(value, 0);
+    if (!request)
+        throw FW_Exception("DE01193", invalid, function);
+    if (request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
+        throw FW_Exception("DE01181", invalid, function);
+    const XmlRpc::XmlRpcValue *command =
+        FindXmlRpcMember(*request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS);
+    if (!command)
+        throw FW_Exception("DE01182", invalid, function);
+    if (command->getType() != XmlRpc::XmlRpcValue::TypeArray)
+        throw FW_Exception("DE01183", invalid, function);
+    if (command->size() == 0)
+        throw FW_Exception("DE01185", "Invalid parameters: command expected", function);
+    return *command;
+}
+
+std::unique_ptr<ProtoCommand> makeCommand(const XmlRpc::XmlRpcValue &command, const FW_Machine *machine,
+                                          const char *function)
+{
+    QString commandName;
+    if (!DecodeXmlRpcValue(command, 0, commandName) || !ProtoCommandList::existsCommand(commandName))
+        throw FW_Exception("DE01184", "Invalid parameters: command does not exists", function);
+    XmlRpc::XmlRpcValue arguments;
+    arguments.setSize(command.size() - 1);
+    for (int i = 1; i < command.size(); ++i)
+        arguments[i - 1] = command[i];
+    try {
+        return std::unique_ptr<ProtoCommand>(
+            ProtoCommandList::getProtoCommand(commandName, arguments, machine));
+    } catch (...) {
+        quv::rethrowCurrentException("DE01186", decodingFailed, function);
+    }
+}
+
+std::unique_ptr<ProtoCommand> makeCommand(const QList<QVariant> &list, const FW_Machine *machine,
+                                          const char *function)
+{
+    if (list.isEmpty() || list.constFirst().userType() != QMetaType::QString)
+        throw FW_Exception("DE01188", decodingFailed, function);
+    return std::unique_ptr<ProtoCommand>(
+        ProtoCommandList::getProtoCommand(list.constFirst().toString(), list.mid(1), machine));
+}
+
+} // namespace
+
+GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd() : ConfProtoCommand(name(), nullptr) {}
+
+GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(ProtoCommand *command) : GetCmdEstimatedExecTimeCmd()
+{
+    setCommandToEstimate(command);
+}
+
+GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(const XmlRpc::XmlRpcValue &value,
+                                                       const FW_Machine *machine)
+    : ConfProtoCommand(name(), value, machine)
+{
+    const char *function = Q_FUNC_INFO;
+    try {
+        m_commandToEstimate = makeCommand(commandAndParams(value, function), machine, function);
+    } catch (...) {
+        quv::rethrowCurrentException("DE01187", decodingFailed, function);
+    }
+}
+
+GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(QList<QVariant> list, const FW_Machine *machine)
+    : ConfProtoCommand(name(), list, machine)
+{
+    const char *function = Q_FUNC_INFO;
+    try {
+        m_commandToEstimate = makeCommand(list, machine, function);
+    } catch (...) {
+        quv::rethrowCurrentException("DE01189", decodingFailed, function);
+    }
+}
+
+GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(const GetCmdEstimatedExecTimeCmd &other)
+    : ConfProtoCommand(other),
+      m_commandToEstimate(other.m_commandToEstimate ? other.m_commandToEstimate->clone() : nullptr)
+{}
+
+GetCmdEstimatedExecTimeCmd::~GetCmdEstimatedExecTimeCmd() = default;
+
+GetCmdEstimatedExecTimeCmd *GetCmdEstimatedExecTimeCmd::clone() const
+{
+    return new GetCmdEstimatedExecTimeCmd(*this);
+}
+
+QList<QVariant> GetCmdEstimatedExecTimeCmd::parameters() const
+{
+    if (!m_commandToEstimate)
+        return {};
+    return QList<QVariant>{m_commandToEstimate->command()} + m_commandToEstimate->parameters();
+}
+
+XmlRpc::XmlRpcValue GetCmdEstimatedExecTimeCmd::xmlrpc_parameters(bool *ok) const
+{
+    if (ok)
+        *ok = true;
+    XmlRpc::XmlRpcValue array;
+    array.setSize(0);
+    if (m_commandToEstimate)
+        array[0][COMMAND_AND_PARAMS] = m_commandToEstimate->toXmlRpcValue(QString(), ok);
+    return array;
+}
+
+bool GetCmdEstimatedExecTimeCmd::buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error)
+{
+    return replaceProtoAnswer("DE01297", quv::answerFailed, error,
+                              [&] { return new GetCmdEstimatedExecTimeAnswer(value); });
+}
+
+bool GetCmdEstimatedExecTimeCmd::buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error)
+{
+    return replaceProtoAnswer("DE00346", quv::answerFailed, error,
+                              [&] { return new GetCmdEstimatedExecTimeAnswer(list); });
+}
+
+void GetCmdEstimatedExecTimeCmd::setCommandToEstimate(ProtoCommand *command)
+{
+    if (command)
+        m_commandToEstimate.reset(command->clone());
+}

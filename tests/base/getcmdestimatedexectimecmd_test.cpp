@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/getcmdestimatedexectimecmd.h"
+
+#include "base/basetesting.h"
+#include "base/getcmdestimatedexectimeanswer.h"
+#include "base/getcommandstatuscmd.h"
+#include "base/outofmemory.h"
+#include "catalogue/protocommandlist.h"
+
+#include <QuvFramework/fw_mixer.h>
+
+#include <memory>
+
+using namespace testing_base;
+
+namespace {
+
+constexpr char invalid[] = "Invalid parameters";
+constexpr char decodingFailed[] = "Errors during protocol command parameters decoding";
+constexpr char fromValue[] =
+    "GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(const XmlRpc::XmlRpcValue&, const FW_Machine*)";
+constexpr char fromList[] =
+    "GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(QList<QVariant>, const FW_Machine*)";
+
+/** The request for a command that travels as these elements. */
+template <class... T>
+Value requestFor(const T &...elements)
+{
+    return arrayOf(structOf({{"command", arrayOf(elements...)}}));
+}
+
+void expectValueRefusal(const char *code, const char *text, const Value &value)
+{
+    expectRefusal(code, text, fromValue, [&] { GetCmdEstimatedExecTimeCmd{value, nullptr}; });
+}
+
+void expectAsksForTicket(const ProtoCommand *command, const char *ticket)
+{
+    const auto *request = dynamic_cast<const GetCmdEstimatedExecTimeCmd *>(command);
+    ASSERT_NE(request, nullptr);
+    EXPECT_EQ(request->command(), "GET_CMD_EST_EXEC_TIME");
+    EXPECT_EQ(request->protoType(), 2);
+    const auto *inner = dynamic_cast<const GetCommandStatusCmd *>(request->commandToEstimate());
+    ASSERT_NE(inner, nullptr);
+    EXPECT_EQ(inner->ticketID(), ticket);
+}
+
+} // namespace
+
+TEST(GetCmdEstimatedExecTimeCmd, StartsWithoutACommand)
+{
+    EXPECT_STREQ(GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS, "command");
+    const GetCmdEstimatedExecTimeCmd command;
+    EXPECT_EQ(command.command(), "GET_CMD_EST_EXEC_TIME");
+    EXPECT_EQ(command.protoType(), 2);
+    EXPECT_EQ(command.commandToEstimate(), nullptr);
+    EXPECT_EQ(command.parameters(), List());
+    bool ok = false;
+    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), "[]");
+    EXPECT_TRUE(ok);
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, KeepsACloneOfTheCommand)
+{
+    GetCmdEstimatedExecTimeCmd command;
+    {
+        GetCommandStatusCmd inner(QString("T-1"));
+        command.setCommandToEstimate(&inner);
+        EXPECT_NE(command.commandToEstimate(), &inner);
+        const GetCmdEstimatedExecTimeCmd made(&inner);
+        expectAsksForTicket(&made, "T-1");
+        EXPECT_NE(made.commandToEstimate(), &inner);
+    }
+    expectAsksForTicket(&command, "T-1");
+    GetCommandStatusCmd next(QString("T-2"));
+    command.setCommandToEstimate(&next);
+    expectAsksForTicket(&command, "T-2");
+    command.setCommandToEstimate(nullptr);
+    expectAsksForTicket(&command, "T-2");
+    EXPECT_EQ(GetCmdEstimatedExecTimeCmd(nullptr).commandToEstimate(), nullptr);
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, WritesTheNameAndThenTheArguments)
+{
+    GetCommandStatusCmd inner(QString("T-1"));
+    const GetCmdEstimatedExecTimeCmd command(&inner);
+    EXPECT_EQ(command.parameters(), (List{"GET_CMD_STATUS", "T-1"}));
+    bool ok = false;
+    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), R"([{"command": ["GET_CMD_STATUS", "T-1"]}])");
+    EXPECT_TRUE(ok);
+    EXPECT_EQ(dumped(command.xmlrpc_parameters()), R"([{"command": ["GET_CMD_STATUS", "T-1"]}])");
+    EXPECT_EQ(dumped(command.toXmlRpcValue("key", &ok)),
+              R"(["key", "GET_CMD_EST_EXEC_TIME", {"command": ["GET_CMD_STATUS", "T-1"]}])");
+
+    ConfProtoCommand bare("LOGOUT", nullptr);
+    const GetCmdEstimatedExecTimeCmd withoutArguments(&bare);
+    EXPECT_EQ(withoutArguments.parameters(), List{"LOGOUT"});
+    EXPECT_EQ(dumped(withoutArguments.xmlrpc_parameters()), R"([{"command": ["LOGOUT"]}])");
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, ReadsTheCommandInBothForms)
+{
+    const GetCmdEstimatedExecTimeCmd ofValue(requestFor("GET_CMD_STATUS", "T-1"), nullptr);
+    expectAsksForTicket(&ofValue, "T-1");
+    const GetCmdEstimatedExecTimeCmd ofList(List{"GET_CMD_STATUS", "T-2"}, nullptr);
+    expectAsksForTicket(&ofList, "T-2");
+
+    const GetCmdEstimatedExecTimeCmd bare(requestFor("ERRORS_NUM"), nullptr);
+    ASSERT_NE(bare.commandToEstimate(), nullptr);
+    EXPECT_EQ(bare.commandToEstimate()->command(), "ERRORS_NUM");
+    const GetCmdEstimatedExecTimeCmd bareList(List{"ERRORS_NUM"}, nullptr);
+    EXPECT_EQ(bareList.commandToEstimate()->command(), "ERRORS_NUM");
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, PassesTheMachineOn)
+{
+    const FW_Dispenser dispenser;
+    const GetCmdEstimatedExecTimeCmd ofValue(
+        requestFor("GET_CMD_EST_EXEC_TIME", structOf({{"command", arrayOf("ERRORS_NUM")}})), &dispenser);
+    EXPECT_NE(ofValue.machine(), nullptr);
+    ASSERT_NE(ofValue.commandToEstimate(), nullptr);
+    EXPECT_NE(ofValue.commandToEstimate()->machine(), nullptr);
+    const GetCmdEstimatedExecTimeCmd ofList(List{"GET_CMD_EST_EXEC_TIME", "ERRORS_NUM"}, &dispenser);
+    EXPECT_NE(ofList.machine(), nullptr);
+    ASSERT_NE(ofList.commandToEstimate(), nullptr);
+    EXPECT_NE(ofList.commandToEstimate()->machine(), nullptr);
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, RefusesTheFormsInOrder)
+{
+    expectValueRefusal("DE01181", invalid, arrayOf("GET_CMD_STATUS"));
+    expectValueRefusal("DE01181", invalid, arrayOf(arrayOf("GET_CMD_STATUS", "T-1")));
+    expectValueRefusal("DE01182", invalid, arrayOf(structOf({})));
+    expectValueRefusal("DE01182", invalid, arrayOf(structOf({{"Command", arrayOf("ERRORS_NUM")}})));
+    expectValueRefusal("DE01183", invalid, arrayOf(structOf({{"command", "ERRORS_NUM"}})));
+    expectValueRefusal("DE01183", invalid, arrayOf(structOf({{"command", structOf({})}})));
+    expectValueRefusal("DE01185", "Invalid parameters: command expected", requestFor());
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, RefusesUnknownNames)
+{
+    for (const Value &request : {requestFor("NO_SUCH_COMMAND"), requestFor(""), requestFor(5),
+                                 requestFor("errors_num"), requestFor(arrayOf("ERRORS_NUM"))})
+        expectValueRefusal("DE01184", "Invalid parameters: command does not exists", request);
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, RefusesOtherRequestsAsAllCommandsDo)
+{
+    const char base[] =
+        "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
+    expectRefusal("DE00312",
+                  "GET_CMD_EST_EXEC_TIME command : expected at least 1 parameters, received 0 instead!", base,
+                  [] {
+                      GetCmdEstimatedExecTimeCmd{arrayOf(), nullptr};
+                  });
+    expectRefusal("DE00313",
+                  "GET_CMD_EST_EXEC_TIME command : expected at least 1 parameters, received 0 instead!",
+                  "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)", [] {
+                      GetCmdEstimatedExecTimeCmd{List(), nullptr};
+                  });
+    for (const auto &[code, value] :
+         {std::pair<const char *, Value>("DE00571", Value()), {"DE00311", Value("ERRORS_NUM")}}) {
+        try {
+            GetCmdEstimatedExecTimeCmd{value, nullptr};
+            ADD_FAILURE() << "nothing was refused";
+        } catch (const FW_Exception &refusal) {
+            EXPECT_EQ(refusal.code(), code);
+        }
+    }
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, RefusesAListWithoutAName)
+{
+    for (const List &list : {List{5}, List{QVariant()}, List{5, "GET_CMD_STATUS"}})
+        expectRefusal("DE01188", decodingFailed, fromList, [&] {
+            GetCmdEstimatedExecTimeCmd{list, nullptr};
+        });
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, PassesOnWhatTheCommandSays)
+{
+    expectRefusal("DE00371", "GetCommandStatusCmd: expected String type parameter",
+                  "GetCommandStatusCmd::GetCommandStatusCmd(const XmlRpc::XmlRpcValue&)", [] {
+                      GetCmdEstimatedExecTimeCmd{requestFor("GET_CMD_STATUS", 5), nullptr};
+                  });
+    expectRefusal("DE00312", "GET_CMD_STATUS command : expected at least 1 parameters, received 0 instead!",
+                  "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)",
+                  [] {
+                      GetCmdEstimatedExecTimeCmd{requestFor("GET_CMD_STATUS"), nullptr};
+                  });
+    expectRefusal("DE00371", "GetCommandStatusCmd: expected String type parameter",
+                  "GetCommandStatusCmd::GetCommandStatusCmd(QList<QVariant>)", [] {
+                      GetCmdEstimatedExecTimeCmd{List{"GET_CMD_STATUS", 5}, nullptr};
+                  });
+    expectRefusal("DE00441", "Command type not recognized",
+                  "static ProtoCommand* ProtoCommandList::getProtoCommand(QString, QList<QVariant>, const "
+                  "FW_Machine*)",
+                  [] {
+                      GetCmdEstimatedExecTimeCmd{List{"NO_SUCH_COMMAND"}, nullptr};
+                  });
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, HasACodeForAnythingElse)
+{
+    const Value request = requestFor("ERRORS_NUM");
+    expectRefusal("DE01187", decodingFailed, fromValue, [&] {
+        outOfMemoryOnce([&] { GetCmdEstimatedExecTimeCmd{request, nullptr}; });
+    });
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, ComesFromTheFactoryInBothForms)
+{
+    const FW_Dispenser dispenser;
+    const FW_Mixer mixer;
+    for (const FW_Machine *machine :
+         {static_cast<const FW_Machine *>(nullptr), static_cast<const FW_Machine *>(&dispenser),
+          static_cast<const FW_Machine *>(&mixer)}) {
+        Value value = requestFor("GET_CMD_STATUS", "T-1");
+        const std::unique_ptr<ProtoCommand> ofValue(
+            ProtoCommandList::getProtoCommand("GET_CMD_EST_EXEC_TIME", value, machine));
+        expectAsksForTicket(ofValue.get(), "T-1");
+        const std::unique_ptr<ProtoCommand> ofList(ProtoCommandList::getProtoCommand(
+            "GET_CMD_EST_EXEC_TIME", List{"GET_CMD_STATUS", "T-2"}, machine));
+        expectAsksForTicket(ofList.get(), "T-2");
+    }
+    Value unknown = requestFor("NO_SUCH_COMMAND");
+    expectRefusal("DE01184", "Invalid parameters: command does not exists", fromValue,
+                  [&] { ProtoCommandList::getProtoCommand("GET_CMD_EST_EXEC_TIME", unknown, nullptr); });
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, CopiesStandAlone)
+{
+    GetCommandStatusCmd inner(QString("T-1"));
+    GetCmdEstimatedExecTimeCmd command(&inner);
+    const std::unique_ptr<ProtoCommand> copy(static_cast<const ProtoCommand &>(command).clone());
+    GetCommandStatusCmd next(QString("T-2"));
+    command.setCommandToEstimate(&next);
+    expectAsksForTicket(copy.get(), "T-1");
+    expectAsksForTicket(&command, "T-2");
+    EXPECT_EQ(GetCmdEstimatedExecTimeCmd(GetCmdEstimatedExecTimeCmd()).commandToEstimate(), nullptr);
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, BuildsItsAnswer)
+{
+    GetCmdEstimatedExecTimeCmd command;
+    FW_DriverError error;
+    const auto time = [&] {
+        const auto *answer = dynamic_cast<const GetCmdEstimatedExecTimeAnswer *>(command.getProtoAnswer());
+        return answer ? answer->executionTime() : -1;
+    };
+    EXPECT_TRUE(command.buildProtoAnswer(structOf({{"exec_time", 2500}}), &error));
+    EXPECT_EQ(time(), 2500);
+    List list = {2600};
+    EXPECT_TRUE(command.buildProtoAnswer(list, &error));
+    EXPECT_EQ(time(), 2600);
+    EXPECT_TRUE(command.setAnswer(structOf({{"ret_code", 0},
+                                            {"info", ""},
+                                            {"ret_value", structOf({{"exec_time", 2700}})},
+                                            {"errors", arrayOf()}}),
+                                  false, &error));
+    EXPECT_EQ(time(), 2700);
+    EXPECT_EQ(error.code(), QString());
+
+    EXPECT_FALSE(command.buildProtoAnswer(Value(5), &error));
+    expectError(error, "DE01180", "GetCmdEstimatedExecTimeAnswer: cannot find execution time tag");
+    EXPECT_EQ(command.getProtoAnswer(), nullptr);
+    list.clear();
+    EXPECT_FALSE(command.buildProtoAnswer(list, &error));
+    expectError(error, "DE01178", "GetCmdEstimatedExecTimeAnswer decoding failed: invalid QVariant value");
+}
