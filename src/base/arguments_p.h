@@ -124,25 +124,33 @@ public:
     {}
 };
 
-/** Writes the arguments as a variant list. */
-class ListWriter
+/** What the two writers share: every argument is written, given or not. Writer appends one. */
+template <class Writer>
+class ArgumentWriter
 {
 public:
     template <class T>
     void required(const T &field, const ArgumentRefusal &, const ArgumentRefusal &)
     {
-        append(field);
+        static_cast<Writer *>(this)->append(field);
     }
 
     template <class T>
     void optional(const T &field, const ArgumentRefusal &)
     {
-        append(field);
+        static_cast<Writer *>(this)->append(field);
     }
+};
 
+/** Writes the arguments as a variant list. */
+class ListWriter : public ArgumentWriter<ListWriter>
+{
+public:
     QList<QVariant> result() const { return m_list; }
 
 private:
+    friend ArgumentWriter<ListWriter>;
+
     template <class T>
     void append(const T &field)
     {
@@ -153,22 +161,10 @@ private:
 };
 
 /** Writes the arguments as an XML-RPC array. */
-class ValueWriter
+class ValueWriter : public ArgumentWriter<ValueWriter>
 {
 public:
     ValueWriter() { m_array.setSize(0); }
-
-    template <class T>
-    void required(const T &field, const ArgumentRefusal &, const ArgumentRefusal &)
-    {
-        append(field);
-    }
-
-    template <class T>
-    void optional(const T &field, const ArgumentRefusal &)
-    {
-        append(field);
-    }
 
     /** The array; \a ok, when given, becomes true. */
     XmlRpc::XmlRpcValue result(bool *ok) const
@@ -179,6 +175,8 @@ public:
     }
 
 private:
+    friend ArgumentWriter<ValueWriter>;
+
     void append(bool field) { next() = field; }
     void append(int field) { next() = field; }
     void append(double field) { next() = field; }
