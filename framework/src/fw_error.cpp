@@ -3,9 +3,15 @@
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
+#include <QtCore/QCalendar>
+
 #include <memory>
 
 namespace {
+
+// Qt makes its calendars when the first date is written, and not safely when several threads write their first ones at
+// once: this one is made while the library is loaded.
+const QCalendar firstCalendar;
 
 const char errorTypeTag[] = "error_type";
 const char timestampTag[] = "timestamp";
