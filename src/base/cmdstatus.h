@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/quvprotocol_global.h"
 #include "base/xmlrpcanswer.h"
+#include "quvprotocol_global.h"
 
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
