@@ -2,6 +2,7 @@
 #include "base/cmdstatus.h"
 
 #include "base/guard_p.h"
+#include "base/latin1_p.h"
 #include "base/translation_p.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
@@ -18,11 +19,6 @@ constexpr char percentageTag[] = "percentage";
 constexpr char answerTag[] = "cmd_answer";
 
 constexpr long long dayLength = 24LL * 60 * 60 * 1000; // ms
-
-std::string latin1(const QString &text)
-{
-    return text.toLatin1().toStdString();
-}
 
 template <class T>
 void decodeMember(const XmlRpc::XmlRpcValue &value, const char *key, T &field, const char *code,
@@ -79,8 +75,8 @@ XmlRpc::XmlRpcValue CmdStatus::toXmlRpcValue() const
 {
     XmlRpc::XmlRpcValue value;
     value[statusTag] = m_status;
-    value[infoTag] = latin1(m_info);
-    value[extraInfoTag] = latin1(m_extraInfo);
+    value[infoTag] = quv::latin1(m_info);
+    value[extraInfoTag] = quv::latin1(m_extraInfo);
     value[timeLeftTag] = static_cast<int>(m_timeLeft);
     value[percentageTag] = m_percentage;
     value[answerTag] = resultValue();

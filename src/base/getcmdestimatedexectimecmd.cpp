@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/getcmdestimatedexectimecmd.h"
 
+#include "base/cloned_p.h"
 #include "base/getcmdestimatedexectimeanswer.h"
 #include "base/guard_p.h"
 #include "base/replaceanswer_p.h"
@@ -98,7 +99,7 @@ GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(QList<QVariant> list, con
 
 GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(const GetCmdEstimatedExecTimeCmd &other)
     : ConfProtoCommand(other),
-      m_commandToEstimate(other.m_commandToEstimate ? other.m_commandToEstimate->clone() : nullptr)
+      m_commandToEstimate(quv::cloned(other.m_commandToEstimate.get()))
 {}
 
 GetCmdEstimatedExecTimeCmd::~GetCmdEstimatedExecTimeCmd() = default;
@@ -141,5 +142,5 @@ bool GetCmdEstimatedExecTimeCmd::buildProtoAnswer(QList<QVariant> &list, FW_Driv
 void GetCmdEstimatedExecTimeCmd::setCommandToEstimate(ProtoCommand *command)
 {
     if (command)
-        m_commandToEstimate.reset(command->clone());
+        m_commandToEstimate = quv::cloned(command);
 }

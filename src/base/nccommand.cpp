@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/nccommand.h"
 
+#include "base/cloned_p.h"
 #include "base/guard_p.h"
 #include "base/protoanswer.h"
 #include "base/protocommand.h"
@@ -12,12 +13,6 @@
 namespace {
 
 constexpr char decodingFailed[] = "Errors during protocol command parameters decoding";
-
-template <class T>
-std::unique_ptr<T> cloned(const T *object)
-{
-    return std::unique_ptr<T>(object ? object->clone() : nullptr);
-}
 
 std::unique_ptr<ProtoCommand> makeCommand(const QString &name, const QList<QVariant> &arguments,
                                           const FW_Machine *machine)
@@ -69,8 +64,8 @@ NCCommand::NCCommand(ProtoCommand *command, ProtoAnswer *lastAnswer, int interva
     if (!command)
         throw FW_Exception("DE01417", decodingFailed, Q_FUNC_INFO);
     try {
-        m_protoCommand = cloned(command);
-        m_lastAnswer = cloned(lastAnswer);
+        m_protoCommand = quv::cloned(command);
+        m_lastAnswer = quv::cloned(lastAnswer);
     } catch (...) {
         quv::rethrowCurrentException("DE01418", decodingFailed, Q_FUNC_INFO);
     }
@@ -83,7 +78,7 @@ NCCommand::NCCommand(QString name, ProtoAnswer *lastAnswer, int interval, int ti
 {
     try {
         m_protoCommand = makeCommand(name, {}, machine);
-        m_lastAnswer = cloned(lastAnswer);
+        m_lastAnswer = quv::cloned(lastAnswer);
     } catch (...) {
         quv::rethrowCurrentException("DE01176", decodingFailed, Q_FUNC_INFO);
     }
@@ -96,7 +91,7 @@ NCCommand::NCCommand(QString name, QList<QVariant> arguments, ProtoAnswer *lastA
 {
     try {
         m_protoCommand = makeCommand(name, arguments, machine);
-        m_lastAnswer = cloned(lastAnswer);
+        m_lastAnswer = quv::cloned(lastAnswer);
     } catch (...) {
         quv::rethrowCurrentException("DE00772", decodingFailed, Q_FUNC_INFO);
     }
@@ -113,7 +108,7 @@ NCCommand::NCCommand(QString name, QList<QVariant> arguments, QList<QVariant> la
         FW_DriverError error;
         if (!m_protoCommand->buildProtoAnswer(lastAnswer, &error))
             throw FW_Exception(error, function);
-        m_lastAnswer = cloned(m_protoCommand->getProtoAnswer());
+        m_lastAnswer = quv::cloned(m_protoCommand->getProtoAnswer());
     } catch (...) {
         quv::rethrowCurrentException("DE00773", decodingFailed, function);
     }
@@ -140,7 +135,7 @@ NCCommand::NCCommand(QString name, XmlRpc::XmlRpcValue &args, const FW_Machine *
             FW_DriverError error;
             if (!m_protoCommand->buildProtoAnswer(*lastAnswer, &error))
                 throw FW_Exception(error, function);
-            m_lastAnswer = cloned(m_protoCommand->getProtoAnswer());
+            m_lastAnswer = quv::cloned(m_protoCommand->getProtoAnswer());
             elements.step();
         }
         elements.takeInt(m_interval);
@@ -151,8 +146,8 @@ NCCommand::NCCommand(QString name, XmlRpc::XmlRpcValue &args, const FW_Machine *
 }
 
 NCCommand::NCCommand(const NCCommand &other)
-    : m_protoCommand(cloned(other.m_protoCommand.get())),
-      m_lastAnswer(cloned(other.m_lastAnswer.get())),
+    : m_protoCommand(quv::cloned(other.m_protoCommand.get())),
+      m_lastAnswer(quv::cloned(other.m_lastAnswer.get())),
       m_interval(other.m_interval),
       m_timeout(other.m_timeout)
 {}
@@ -160,8 +155,8 @@ NCCommand::NCCommand(const NCCommand &other)
 NCCommand &NCCommand::operator=(const NCCommand &other)
 {
     if (this != &other) {
-        auto command = cloned(other.m_protoCommand.get());
-        m_lastAnswer = cloned(other.m_lastAnswer.get());
+        auto command = quv::cloned(other.m_protoCommand.get());
+        m_lastAnswer = quv::cloned(other.m_lastAnswer.get());
         m_protoCommand = std::move(command);
         m_interval = other.m_interval;
         m_timeout = other.m_timeout;
@@ -184,7 +179,7 @@ QString NCCommand::command() const
 void NCCommand::setProtoCommand(const ProtoCommand *command)
 {
     if (command)
-        m_protoCommand = cloned(command);
+        m_protoCommand = quv::cloned(command);
 }
 
 ProtoAnswer *NCCommand::getProtoAnswer(bool *ok) const

@@ -2,6 +2,8 @@
 #include "base/protocommand.h"
 
 #include "base/asyncanswer.h"
+#include "base/cloned_p.h"
+#include "base/latin1_p.h"
 #include "base/prototypes_p.h"
 #include "base/replaceanswer_p.h"
 #include "base/translation_p.h"
@@ -14,12 +16,6 @@
 #include <iterator>
 
 namespace {
-
-template <class T>
-std::unique_ptr<T> cloned(const T *object)
-{
-    return std::unique_ptr<T>(object ? object->clone() : nullptr);
-}
 
 struct NamedText
 {
@@ -101,7 +97,7 @@ ProtoCommand::ProtoCommand(int type) : m_protoType(type) {}
 
 ProtoCommand::ProtoCommand(int type, QString command, const FW_Machine *machine)
     : m_command(command),
-      m_machine(cloned(machine)),
+      m_machine(quv::cloned(machine)),
       m_protoType(type)
 {}
 
@@ -129,9 +125,9 @@ ProtoCommand::ProtoCommand(int type, QString command, QList<QVariant> parameters
 
 ProtoCommand::ProtoCommand(const ProtoCommand &other)
     : m_command(other.m_command),
-      m_protoAnswer(cloned(other.m_protoAnswer.get())),
+      m_protoAnswer(quv::cloned(other.m_protoAnswer.get())),
       m_xmlRpcAnswer(other.m_xmlRpcAnswer ? new XmlRpcAnswer(*other.m_xmlRpcAnswer) : nullptr),
-      m_machine(cloned(other.m_machine.get())),
+      m_machine(quv::cloned(other.m_machine.get())),
       m_parameters(other.m_parameters),
       m_protoType(other.m_protoType)
 {}
@@ -160,7 +156,7 @@ XmlRpc::XmlRpcValue ProtoCommand::xmlrpc_parameters(bool *ok) const
 void ProtoCommand::setProtoAnswer(ProtoAnswer *answer)
 {
     // nobody is told of a failure: what cannot be copied is no answer
-    replaceProtoAnswer("", "", nullptr, [&] { return cloned(answer).release(); });
+    replaceProtoAnswer("", "", nullptr, [&] { return quv::cloned(answer).release(); });
 }
 
 ProtoAnswer *ProtoCommand::getProtoAnswer(bool *ok) const
@@ -274,8 +270,8 @@ XmlRpc::XmlRpcValue ProtoCommand::buildXmlRpcValue(QString command, XmlRpc::XmlR
     const int head = leading.isEmpty() ? 1 : 2;
     request.setSize(head + count);
     if (!leading.isEmpty())
-        request[0] = leading.toLatin1().toStdString();
-    request[head - 1] = command.toLatin1().toStdString();
+        request[0] = quv::latin1(leading);
+    request[head - 1] = quv::latin1(command);
     for (int i = 0; i < count; ++i)
         request[head + i] = parameters[i];
     return request;

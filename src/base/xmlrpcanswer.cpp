@@ -2,6 +2,7 @@
 #include "base/xmlrpcanswer.h"
 
 #include "base/guard_p.h"
+#include "base/latin1_p.h"
 #include "base/protoanswer.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
@@ -131,7 +132,7 @@ XmlRpc::XmlRpcValue XmlRpcAnswer::toXmlRpcValue() const
 {
     XmlRpc::XmlRpcValue value;
     value[retCode_TAG] = m_retCode;
-    value[infoMsg_TAG] = m_infoMsg.toLatin1().toStdString();
+    value[infoMsg_TAG] = quv::latin1(m_infoMsg);
     value[xmlrpcRetValue_TAG] = m_retValue.valid() ? m_retValue : XmlRpc::XmlRpcValue(0);
     value[errors_TAG] = m_errors.toXmlRpcValue();
     value[executionTime_TAG] = static_cast<int>(m_executionTime);
