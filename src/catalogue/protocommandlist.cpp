@@ -315,9 +315,9 @@ QString ProtoCommandList::cmdCode(const QString &name, int family)
 QString ProtoCommandList::functionCallStr(int mode)
 {
     switch (mode) {
-    case 2:
+    case NonBlockingCall:
         return QStringLiteral("EXEC_NB");
-    case 4:
+    case ChangeCall:
         return QStringLiteral("EXEC_NC");
     default:
         return QStringLiteral("EXEC_B");

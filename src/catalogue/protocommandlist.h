@@ -228,6 +228,9 @@ public:
     };
     static constexpr int rowCount = 167;
 
+    /** How a call waits: for the answer, for a ticket only, or for an answer other than the last one. */
+    enum CallKind { BlockingCall = 1, NonBlockingCall = 2, ChangeCall = 4 };
+
     /** The one object; made on first use, never deleted. Thread safe. */
     static ProtoCommandList *instance();
 
@@ -242,7 +245,7 @@ public:
     static int cmdParamNum(const QString &name, bool mandatory);
     /** The firmware code for an FW_Dispenser::CommandFamily; a null string for any other family. */
     static QString cmdCode(const QString &name, int family);
-    /** The XML-RPC method for a call kind: 2 "EXEC_NB", 4 "EXEC_NC", anything else "EXEC_B". */
+    /** The XML-RPC method for a CallKind: 2 "EXEC_NB", 4 "EXEC_NC", anything else "EXEC_B". */
     static QString functionCallStr(int mode);
 
     static bool targetIsDispenser(const QString &name);

@@ -15,8 +15,6 @@ namespace quv {
 
 namespace {
 
-constexpr int waitForTheEnd = 1; // the call kind of functionCallStr
-
 std::chrono::milliseconds timeoutOf(const CommandLine &line)
 {
     return std::chrono::milliseconds(std::llround(line.decimal("timeout", 60, 0.001, 86400) * 1000));
@@ -31,8 +29,8 @@ Driver::Driver(const CommandLine &line)
 
 const XmlRpcAnswer &Driver::execute(ProtoCommand &command) const
 {
-    const auto reply =
-        m_client.call(ProtoCommandList::functionCallStr(waitForTheEnd), command.toXmlRpcValue(QString()));
+    const auto reply = m_client.call(ProtoCommandList::functionCallStr(ProtoCommandList::BlockingCall),
+                                     command.toXmlRpcValue(QString()));
     FW_DriverError error;
     if (!command.setAnswer(reply, false, &error))
         throw FW_DriverError(error);

@@ -13,8 +13,6 @@ namespace quv {
 
 namespace {
 
-constexpr int BlockingCall = 1;
-
 template <class T>
 OrderedJson jsonOf(const T &value)
 {
@@ -63,7 +61,7 @@ OrderedJson cmdCode(const Request &request)
 
 OrderedJson functionCallStr(const Request &request)
 {
-    return jsonOf(ProtoCommandList::functionCallStr(request.number("mode", BlockingCall)));
+    return jsonOf(ProtoCommandList::functionCallStr(request.number("mode", ProtoCommandList::BlockingCall)));
 }
 
 struct Query

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
 
+#include "base/nccommand.h"
 #include "base/protoanswer.h"
 #include "base/serialprotocommand.h"
 #include "base/xmlrpcanswer.h"
-#include "catalogue/protocommandlist.h"
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_exception.h>
@@ -93,8 +93,8 @@ bool isWaitRequest(const XmlRpcValue &arguments)
         return false;
     for (int i = 0; i < arguments.size(); ++i) {
         const XmlRpcValue &argument = *FindXmlRpcElement(arguments, i);
-        const bool fits = i < structs ? FindXmlRpcMember(argument, "cmd_parameters") ||
-                                            FindXmlRpcMember(argument, "last_answer")
+        const bool fits = i < structs ? FindXmlRpcMember(argument, NCCommand::CMD_PARAMETERS) ||
+                                            FindXmlRpcMember(argument, NCCommand::LAST_ANSWER)
                                       : argument.getType() == XmlRpcValue::TypeInt;
         if (!fits)
             return false;
@@ -174,12 +174,12 @@ bool Driver::addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Fir
 
 XmlRpcValue Driver::call(const MethodCall &call)
 {
-    const std::pair<const char *, Mode> methods[] = {
-        {"EXEC_B", Mode::Blocking}, {"EXEC_NB", Mode::Ticket}, {"EXEC_NC", Mode::Change}};
-    const auto method = std::find_if(std::begin(methods), std::end(methods), [&](const auto &candidate) {
-        return call.method == QLatin1String(candidate.first);
+    const auto kinds = {ProtoCommandList::BlockingCall, ProtoCommandList::NonBlockingCall,
+                        ProtoCommandList::ChangeCall};
+    const auto kind = std::find_if(kinds.begin(), kinds.end(), [&](int candidate) {
+        return call.method == ProtoCommandList::functionCallStr(candidate);
     });
-    if (method == std::end(methods))
+    if (kind == kinds.end())
         throw FaultException({UnknownMethod, QStringLiteral("Unknown method \"%1\"").arg(call.method)});
 
     QString name;
@@ -192,7 +192,7 @@ XmlRpcValue Driver::call(const MethodCall &call)
     try {
         const Request request(call.params);
         name = request.name;
-        return carryOut(method->second, request);
+        return carryOut(*kind, request);
     } catch (const Refusal &refusal) {
         return failure(refusal.retCode, refusal.error);
     } catch (const std::exception &error) {
@@ -202,13 +202,14 @@ XmlRpcValue Driver::call(const MethodCall &call)
     }
 }
 
-XmlRpcValue Driver::carryOut(Mode mode, const Request &request)
+XmlRpcValue Driver::carryOut(ProtoCommandList::CallKind kind, const Request &request)
 {
     const QString &name = request.name;
     Machine *machine = machineFor(name);
     XmlRpcValue arguments = request.arguments;
     // Its arguments are no plain ones, and must not be taken for them.
-    if (mode == Mode::Change && ProtoCommandList::existsCommand(name) && isWaitRequest(arguments))
+    if (kind == ProtoCommandList::ChangeCall && ProtoCommandList::existsCommand(name) &&
+        isWaitRequest(arguments))
         refuse(NotOffered, "DE03109",
                QStringLiteral("This driver does not yet wait for a change of the answer"));
 
@@ -230,7 +231,7 @@ XmlRpcValue Driver::carryOut(Mode mode, const Request &request)
     if (!serial)
         refuse(NotOffered, "DE03107",
                QStringLiteral("This driver does not yet carry out this command, which needs no firmware"));
-    if (mode == Mode::Ticket)
+    if (kind == ProtoCommandList::NonBlockingCall)
         refuse(NotOffered, "DE03108",
                QStringLiteral(
                    "This driver does not yet offer tickets; call EXEC_B, which waits for the answer"));

@@ -5,6 +5,8 @@
 
 #include "xmlrpccodec.h"
 
+#include "catalogue/protocommandlist.h"
+
 #include <QuvFramework/fw_machine.h>
 
 #include <memory>
@@ -37,11 +39,10 @@ public:
     XmlRpc::XmlRpcValue call(const MethodCall &call);
 
 private:
-    enum class Mode { Blocking, Ticket, Change };
     struct Machine;
     struct Request;
 
-    XmlRpc::XmlRpcValue carryOut(Mode mode, const Request &request);
+    XmlRpc::XmlRpcValue carryOut(ProtoCommandList::CallKind kind, const Request &request);
     XmlRpc::XmlRpcValue askFirmware(SerialProtoCommand &command, const QString &name, Machine &machine);
     Machine *machineFor(const QString &name);
 
