@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QuvFramework/fw_circuit.h>
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+/**
+ * A canister of colorant with the circuits that it feeds. Quantities are in grams or millilitres, whichever the machine is
+ * calibrated in.
+ */
+class QUVFRAMEWORK_EXPORT FW_Canister
+{
+public:
+    FW_Canister() = default;
+    explicit FW_Canister(int id) : m_id(id) {}
+
+    int id() const { return m_id; }
+    void setId(int id) { m_id = id; }
+    bool isEnabled() const { return m_enabled; }
+    void setEnabled(bool enabled) { m_enabled = enabled; }
+    QString colorantCode() const { return m_colorantCode; } ///< empty for none
+    void setColorantCode(const QString &code) { m_colorantCode = code; }
+
+    double maximumQuantity() const { return m_maximumQuantity; }
+    void setMaximumQuantity(double quantity) { m_maximumQuantity = quantity; }
+    double currentQuantity() const { return m_currentQuantity; }
+    void setCurrentQuantity(double quantity) { m_currentQuantity = quantity; }
+    /** The critical level: what lies below it is not for pouring. */
+    double reserveQuantity() const { return m_reserveQuantity; }
+    void setReserveQuantity(double quantity) { m_reserveQuantity = quantity; }
+    /** The level below which somebody should refill. */
+    double warningQuantity() const { return m_warningQuantity; }
+    void setWarningQuantity(double quantity) { m_warningQuantity = quantity; }
+
+    const QList<FW_Circuit> &circuits() const { return m_circuits; }
+    QList<FW_Circuit> &circuits() { return m_circuits; }
+    void addCircuit(const FW_Circuit &circuit) { m_circuits.append(circuit); }
+    /** Positions of all circuits, or of the enabled ones only. */
+    QList<int> getCircuitPositions(bool onlyEnabled) const;
+
+    bool operator==(const FW_Canister &other) const;
+    bool operator!=(const FW_Canister &other) const { return !(*this == other); }
+
+private:
+    int m_id = 0;
+    bool m_enabled = true;
+    QString m_colorantCode;
+    double m_maximumQuantity = 0;
+    double m_currentQuantity = 0;
+    double m_reserveQuantity = 0;
+    double m_warningQuantity = 0;
+    QList<FW_Circuit> m_circuits;
+};

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QuvFramework/fw_global.h>
+
+#include <QtCore/QString>
+
+/** A colorant of the machine's colour system. */
+class QUVFRAMEWORK_EXPORT FW_Colorant
+{
+public:
+    FW_Colorant() = default;
+    explicit FW_Colorant(const QString &code, const QString &name = QString()) : m_code(code), m_name(name) {}
+
+    QString code() const { return m_code; }
+    void setCode(const QString &code) { m_code = code; }
+    QString name() const { return m_name; }
+    void setName(const QString &name) { m_name = name; }
+    bool isEnabled() const { return m_enabled; }
+    void setEnabled(bool enabled) { m_enabled = enabled; }
+
+    bool operator==(const FW_Colorant &other) const
+    {
+        return m_code == other.m_code && m_name == other.m_name && m_enabled == other.m_enabled;
+    }
+    bool operator!=(const FW_Colorant &other) const { return !(*this == other); }
+
+private:
+    QString m_code;
+    QString m_name;
+    bool m_enabled = true;
+};

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include <QuvFramework/fw_calibration.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+// beyond it a double has no digit for the single step
+constexpr double MaxSteps = 9007199254740992.0; // 2^53
+
+using Points = QVector<FW_CalibrationPoint>;
+
+bool rises(const Points &points)
+{
+    long long steps = 0;
+    double quantity = 0;
+    for (const FW_CalibrationPoint &point : points) {
+        if (point.steps <= steps || !(point.quantity > quantity) || !std::isfinite(point.quantity))
+            return false;
+        steps = point.steps;
+        quantity = point.quantity;
+    }
+    return !points.isEmpty();
+}
+
+/** The value at \a x of the line through the points; From and To read the two coordinates of a point. */
+template <class From, class To>
+double interpolated(const Points &points, double x, From from, To to)
+{
+    const auto right = std::find_if(points.cbegin(), points.cend(),
+                                    [&](const FW_CalibrationPoint &point) { return from(point) >= x; });
+    if (right == points.cbegin())
+        return x * to(*right) / from(*right);
+    const FW_CalibrationPoint &left = *(right - 1);
+    if (right == points.cend())
+        return x * to(left) / from(left);
+    return to(left) + (x - from(left)) * (to(*right) - to(left)) / (from(*right) - from(left));
+}
+
+double stepsOf(const FW_CalibrationPoint &point)
+{
+    return double(point.steps);
+}
+
+double quantityOf(const FW_CalibrationPoint &point)
+{
+    return point.quantity;
+}
+
+template <class T>
+T result(T value, bool good, bool *ok)
+{
+    if (ok)
+        *ok = good;
+    return good ? value : T();
+}
+
+} // namespace
+
+bool FW_CalibrationPoint::operator==(const FW_CalibrationPoint &other) const
+{
+    return steps == other.steps && quantity == other.quantity && speed == other.speed &&
+           nozzleValveID == other.nozzleValveID;
+}
+
+FW_Calibration::FW_Calibration(QVector<FW_CalibrationPoint> points)
+{
+    setPoints(std::move(points));
+}
+
+void FW_Calibration::setPoints(QVector<FW_CalibrationPoint> points)
+{
+    m_points = std::move(points);
+    m_usable = rises(m_points);
+}
+
+long long FW_Calibration::steps(double quantity, bool *ok) const
+{
+    if (!m_usable)
+        return result(0LL, false, ok);
+    const double steps =
+        std::copysign(interpolated(m_points, std::abs(quantity), quantityOf, stepsOf), quantity);
+    const bool good = std::abs(steps) <= MaxSteps; // false for what is no number, too
+    return result(good ? std::llround(steps) : 0LL, good, ok);
+}
+
+double FW_Calibration::quantity(long long steps, bool *ok) const
+{
+    if (!m_usable)
+        return result(0.0, false, ok);
+    const double quantity = interpolated(m_points, std::abs(double(steps)), stepsOf, quantityOf);
+    return result(std::copysign(quantity, double(steps)), true, ok);
+}
+
+int FW_Calibration::speed(double quantity, bool *ok) const
+{
+    if (!m_usable)
+        return result(0, false, ok);
+    const int speed = pointReaching(quantity).speed;
+    return result(speed, speed > 0, ok);
+}
+
+int FW_Calibration::nozzleValveID(double quantity, bool *ok) const
+{
+    return m_usable ? result(pointReaching(quantity).nozzleValveID, true, ok) : result(0, false, ok);
+}
+
+const FW_CalibrationPoint &FW_Calibration::pointReaching(double quantity) const
+{
+    const auto point =
+        std::find_if(m_points.cbegin(), m_points.cend(), [&](const FW_CalibrationPoint &candidate) {
+            return candidate.quantity >= std::abs(quantity);
+        });
+    return point == m_points.cend() ? m_points.constLast() : *point;
+}
