@@ -29,6 +29,14 @@ int TokenReader::next(const TokenRefusal &refusal)
     return static_cast<int>(number);
 }
 
+unsigned TokenReader::nextUnsigned(const TokenRefusal &refusal)
+{
+    unsigned number = 0;
+    if (!next(number))
+        refuse(refusal);
+    return number;
+}
+
 long long TokenReader::nextNumber(int digits, const TokenRefusal &refusal)
 {
     require(digits, refusal);

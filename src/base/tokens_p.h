@@ -69,6 +69,7 @@ public:
     }
 
     int next(const TokenRefusal &refusal);
+    unsigned nextUnsigned(const TokenRefusal &refusal);
     /** A number of \a digits base-246 digits, low digit first. */
     long long nextNumber(int digits, const TokenRefusal &refusal);
     /** Refuses when fewer than \a count tokens remain. */

@@ -7,7 +7,22 @@
 #include "base/guard_p.h"
 #include "base/scaleprotocommand.h"
 #include "base/serialprotocommand.h"
+#include "dispensing/airpurgecmd.h"
+#include "dispensing/channeltintcmd.h"
+#include "dispensing/checkformulalevelscmd.h"
+#include "dispensing/genericformulacmd.h"
+#include "dispensing/getdispensedformulaconfcmd.h"
+#include "dispensing/getdispensedformulaserialcmd.h"
+#include "dispensing/getformulacircuitscmd.h"
+#include "dispensing/pack2cmd.h"
+#include "dispensing/packcmd.h"
+#include "dispensing/priming2cmd.h"
+#include "dispensing/primingcmd.h"
+#include "dispensing/purgeformulacmd.h"
+#include "dispensing/setlevelscmd.h"
+#include "dispensing/tintcmd.h"
 #include "factory/pending_p.h"
+#include "processes/autocapcmd.h"
 #include "status/dispenserstatuscmd.h"
 
 #include <QuvFramework/fw_dispenser.h>
@@ -50,6 +65,25 @@ Base *fromArgumentsAndMachine(const QString &, Args &args, const FW_Machine *mac
     return new Command(args, machine);
 }
 
+template <class Command, class Base, class Args>
+Base *fromArgumentsAndDispenser(const QString &, Args &args, const FW_Machine *machine)
+{
+    return new Command(args, dynamic_cast<const FW_Dispenser *>(machine));
+}
+
+template <class Command, class Base, class Args>
+Base *fromNameAndArguments(const QString &name, Args &args, const FW_Machine *)
+{
+    return new Command(name, args);
+}
+
+template <class Command, class Base, class Args>
+Base *fromNameArgumentsAndMachine(const QString &name, Args &args, const FW_Machine *machine)
+{
+    return new Command(name, args, machine);
+}
+
+/** The plain command of its kind, with its arguments. */
 template <class Command, class Args>
 Command *fromNameAndAll(const QString &name, Args &args, const FW_Machine *machine)
 {
@@ -80,6 +114,16 @@ const Rows<SerialProtoCommand, Args> &dispenserSerialRows()
 {
     static const Rows<SerialProtoCommand, Args> rows = {
         {Cmd::GET_STATUS, fromArguments<DispenserStatusCmd>},
+        {Cmd::AUTOCAP_MOVE, fromArguments<AutocapCmd>},
+        {Cmd::TINT, fromArgumentsAndDispenser<TintCmd>},
+        {Cmd::PRIMING, fromArgumentsAndDispenser<PrimingCmd>},
+        {Cmd::PACK, fromArgumentsAndDispenser<PackCmd>},
+        {Cmd::PURGE, fromArgumentsAndDispenser<PurgeFormulaCmd>},
+        {Cmd::CHANNEL_TINT, fromArgumentsAndDispenser<ChannelTintCmd>},
+        {Cmd::GET_DISPENSED_FORMULA, fromArguments<GetDispensedFormulaSerialCmd>},
+        {Cmd::PRIMING2, fromArgumentsAndDispenser<Priming2Cmd>},
+        {Cmd::PACK2, fromArgumentsAndDispenser<Pack2Cmd>},
+        {Cmd::AIRPURGE, fromArgumentsAndDispenser<AirpurgeCmd>},
         {Cmd::GET_TURNTABLE_POSITIONS, fromName},
     };
     return rows;
@@ -93,10 +137,29 @@ const Rows<SerialProtoCommand, Args> &mixerSerialRows()
 }
 
 template <class Args>
-const Rows<ConfProtoCommand, Args> &configRows()
+const Rows<ConfProtoCommand, Args> &configRows();
+
+template <>
+const Rows<ConfProtoCommand, Value> &configRows<Value>()
 {
-    static const Rows<ConfProtoCommand, Args> rows = {
+    static const Rows<ConfProtoCommand, Value> rows = {
         {Cmd::GET_CMD_STATUS, fromArguments<GetCommandStatusCmd>},
+        {Cmd::GET_DISPENSED_FORMULA, fromArguments<GetDispensedFormulaConfCmd>},
+    };
+    return rows;
+}
+
+template <>
+const Rows<ConfProtoCommand, List> &configRows<List>()
+{
+    static const Rows<ConfProtoCommand, List> rows = {
+        {Cmd::GET_CMD_STATUS, fromArguments<GetCommandStatusCmd>},
+        {Cmd::SET_LEVELS, fromArguments<SetLevelsCmd>},
+        {Cmd::CHECK_FORMULA_LEVELS, fromArguments<CheckFormulaLevelsCmd>},
+        {Cmd::GET_FORMULA_CIRCUITS, fromArguments<GetFormulaCircuitsCmd>},
+        {Cmd::GET_LOW_LEVEL_FORMULA, fromNameAndArguments<GenericFormulaCmd>},
+        {Cmd::GET_FORMULA_EXECUTION, fromNameAndArguments<GenericFormulaCmd>},
+        {Cmd::GET_DISPENSED_FORMULA, fromArguments<GetDispensedFormulaConfCmd>},
     };
     return rows;
 }
@@ -108,6 +171,11 @@ template <>
 const Rows<ConfProtoCommand, Value> &dispenserConfigRows<Value>()
 {
     static const Rows<ConfProtoCommand, Value> rows = {
+        {Cmd::SET_LEVELS, fromArgumentsAndMachine<SetLevelsCmd>},
+        {Cmd::CHECK_FORMULA_LEVELS, fromArgumentsAndMachine<CheckFormulaLevelsCmd>},
+        {Cmd::GET_FORMULA_CIRCUITS, fromArgumentsAndMachine<GetFormulaCircuitsCmd>},
+        {Cmd::GET_LOW_LEVEL_FORMULA, fromNameArgumentsAndMachine<GenericFormulaCmd>},
+        {Cmd::GET_FORMULA_EXECUTION, fromNameArgumentsAndMachine<GenericFormulaCmd>},
         {Cmd::GET_CMD_EST_EXEC_TIME, fromArgumentsAndMachine<GetCmdEstimatedExecTimeCmd>},
     };
     return rows;

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "dispensing/checkformulalevelscmd.h"
+
+#include "base/replaceanswer_p.h"
+#include "base/translation_p.h"
+#include "catalogue/protocommandlist.h"
+#include "dispensing/checkformulalevelsanswer.h"
+#include "dispensing/formula_p.h"
+#include "dispensing/formulaquery_p.h"
+
+#include <QuvFramework/fw_xmlrpc.h>
+
+namespace {
+
+constexpr char answerFailed[] = "Failed to create CheckFormulaLevelsAnswer";
+constexpr quv::Refusal noFormula = {
+    "DE00438", "CheckFormulaLevelsCmd failed: expected Formula type for first parameter"};
+
+QString name()
+{
+    return ProtoCommandList::cmdStr(ProtoCommandList::CHECK_FORMULA_LEVELS);
+}
+
+QList<QVariant> formulaAndFlag(Formula formula, bool isPurge)
+{
+    formula.setLevelsManagementPolicy(0);
+    return {QVariant::fromValue(formula), isPurge};
+}
+
+} // namespace
+
+CheckFormulaLevelsCmd::CheckFormulaLevelsCmd() : ConfProtoCommand(name(), nullptr) {}
+
+CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const Formula &formula, bool isPurge) : CheckFormulaLevelsCmd()
+{
+    m_parameters = formulaAndFlag(formula, isPurge);
+}
+
+CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const PurgeFormula &formula) : CheckFormulaLevelsCmd()
+{
+    m_parameters = {QVariant::fromValue(formula)};
+}
+
+CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const XmlRpc::XmlRpcValue &value, const FW_Machine *machine)
+    : ConfProtoCommand(name(), value, machine)
+{
+    bool isPurge = false;
+    if (!DecodeXmlRpcValue(value, 1, isPurge)) {
+        m_parameters = {QVariant::fromValue(quv::decodedValue<PurgeFormula>(&value, noFormula, Q_FUNC_INFO))};
+        return;
+    }
+    const auto formula = quv::decodedValue<Formula>(FindXmlRpcElement(value, 0), noFormula, Q_FUNC_INFO);
+    if (machine) {
+        const FW_Dispenser *dispenser = quv::dispenserOf(*this);
+        if (!dispenser)
+            throw FW_Exception("DE01337", "Invalid dispenser data", Q_FUNC_INFO);
+        if (formula.hasNegativeValues(dispenser))
+            throw FW_Exception("DE00552", "Bad values in formula! Values have to be positive", Q_FUNC_INFO);
+    }
+    m_parameters = formulaAndFlag(formula, isPurge);
+}
+
+CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(QList<QVariant> list) : ConfProtoCommand(name(), list, nullptr)
+{
+    m_parameters = quv::formulaParameters(list);
+}
+
+CheckFormulaLevelsCmd *CheckFormulaLevelsCmd::clone() const
+{
+    return new CheckFormulaLevelsCmd(*this);
+}
+
+bool CheckFormulaLevelsCmd::getFormula(Formula &formula, bool &isPurge) const
+{
+    if (m_parameters.size() < 2)
+        return false;
+    formula = quv::formulaIn(m_parameters.at(0)).value_or(Formula());
+    isPurge = m_parameters.at(1).toBool();
+    return true;
+}
+
+bool CheckFormulaLevelsCmd::getPurgeFormula(PurgeFormula &formula) const
+{
+    const auto held = quv::purgeFormulaIn(m_parameters.value(0));
+    if (held)
+        formula = *held;
+    return held.has_value();
+}
+
+XmlRpc::XmlRpcValue CheckFormulaLevelsCmd::xmlrpc_parameters(bool *ok) const
+{
+    return quv::formulaQueryValue(m_parameters, ok);
+}
+
+QString CheckFormulaLevelsCmd::commandString() const
+{
+    return QStringLiteral("Check formula levels");
+}
+
+TString CheckFormulaLevelsCmd::actionString(bool detailed) const
+{
+    Formula formula;
+    bool isPurge = false;
+    if (detailed && m_parameters.size() == 2 && getFormula(formula, isPurge)) {
+        TString text(QT_TRANSLATE_NOOP("QuvProtocol", "Checking levels for %1formula: %2"),
+                     quv::translationContext);
+        text.arg(isPurge ? QStringLiteral(QT_TRANSLATE_NOOP("QuvProtocol", "purge ")) : QString(), isPurge);
+        return text.arg(formula.toPrintableString(true, nullptr), false);
+    }
+    PurgeFormula purge;
+    if (detailed && m_parameters.size() == 1 && getPurgeFormula(purge)) {
+        TString text(QT_TRANSLATE_NOOP("QuvProtocol", "Checking levels for purge formula: %1"),
+                     quv::translationContext);
+        return text.arg(purge.toPrintableString(true, nullptr), false);
+    }
+    return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Checking levels for formula"), quv::translationContext);
+}
+
+bool CheckFormulaLevelsCmd::buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error)
+{
+    return replaceProtoAnswer("DE01274", answerFailed, error,
+                              [&] { return new CheckFormulaLevelsAnswer(value); });
+}
+
+bool CheckFormulaLevelsCmd::buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error)
+{
+    return replaceProtoAnswer("DE00464", answerFailed, error,
+                              [&] { return new CheckFormulaLevelsAnswer(list); });
+}
+
+bool CheckFormulaLevelsCmd::setAnswer(const XmlRpc::XmlRpcValue &value, bool async, FW_DriverError *error)
+{
+    return takeXmlRpcAnswer(value, async, "DE00463", answerFailed, error);
+}

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "base/guard_p.h"
+
+#include <QuvFramework/formula.h>
+#include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_exception.h>
+#include <QuvFramework/fw_serial.h>
+#include <QuvFramework/purgeformula.h>
+
+#include <QtCore/QList>
+#include <QtCore/QMap>
+#include <QtCore/QVariant>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
+#include <stdexcept>
+
+class ProtoCommand;
+
+// What the commands that carry a formula share.
+
+namespace quv {
+
+/** Code and text of a refusal. */
+struct Refusal
+{
+    const char *code = "";
+    const char *text = "";
+};
+
+/** The member without which a variant map is none of these. */
+template <class T>
+constexpr const char *markOf = nullptr;
+template <>
+constexpr const char *markOf<Formula> = Formula::FORMULA_TYPE;
+template <>
+constexpr const char *markOf<PurgeFormula> = PurgeFormula::PURGE_QUANTITY;
+
+/** True for a T, and for a map that is meant for one. */
+template <class T>
+bool holds(const QVariant &variant)
+{
+    // of all that converts to a map only a map converts to T
+    return variant.userType() == qMetaTypeId<T>() || (variant.userType() == QMetaType::QVariantMap &&
+                                                      variant.toMap().contains(QLatin1String(markOf<T>)));
+}
+
+/**
+ * The T that \a variant holds. Throws \a expected when it holds none, and \a incorrect when the map in it cannot be read
+ * as one.
+ */
+template <class T>
+T decodedVariant(const QVariant &variant, const Refusal &expected, const Refusal &incorrect,
+                 const char *function)
+{
+    if (!holds<T>(variant))
+        throw FW_Exception(expected.code, expected.text, function);
+    try {
+        return variant.value<T>();
+    } catch (...) {
+        rethrowCurrentException(incorrect.code, incorrect.text, function);
+    }
+}
+
+/** What \a make gives, as with a copy that needs memory. Throws \a refusal in place of anything but an FW_Exception. */
+template <class Make>
+auto madeOrRefused(const Refusal &refusal, const char *function, Make make) -> decltype(make())
+{
+    try {
+        return make();
+    } catch (...) {
+        rethrowCurrentException(refusal.code, refusal.text, function);
+    }
+}
+
+/** Runs a check of the form bool (FW_DriverError &) and throws the error that it filled when it is false. */
+template <class Check>
+void require(const char *function, Check check)
+{
+    FW_DriverError error;
+    if (!check(error))
+        throw FW_Exception(error, function);
+}
+
+/** The T that the value, which may be missing, can be read as. Throws \a refusal when it cannot. */
+template <class T>
+T decodedValue(const XmlRpc::XmlRpcValue *value, const Refusal &refusal, const char *function)
+{
+    try {
+        if (!value)
+            throw std::invalid_argument("nothing to decode");
+        return T(*value);
+    } catch (...) {
+        rethrowCurrentException(refusal.code, refusal.text, function);
+    }
+}
+
+/** A copy. Throws \a refusal when there is none to be had. */
+template <class T>
+T copied(const T &original, const Refusal &refusal, const char *function)
+{
+    return madeOrRefused(refusal, function, [&] { return original; });
+}
+
+/** Throws what the command's checkFormula says, when there is a dispenser to check the formula by. */
+template <class Command>
+void requireGoodFormula(const Command &command, const FW_Dispenser *dispenser, const char *function)
+{
+    if (dispenser)
+        require(function, [&](FW_DriverError &error) { return command.checkFormula(error); });
+}
+
+/** The command's machine, when it is a dispenser. */
+const FW_Dispenser *dispenserOf(const ProtoCommand &command);
+
+/** What the three commands that check levels call the outcomes; the texts are the same for all. */
+struct LevelsCodes
+{
+    const char *failed = "";       ///< no check was possible
+    const char *belowReserve = ""; ///< result 200
+    const char *belowZero = "";    ///< result 300
+    const char *worse = "";        ///< above 300
+};
+
+/** True when \a pour, the formula of what the canisters lose, leaves enough in them. */
+bool levelsSuffice(const Formula &pour, const FW_Dispenser *dispenser, const LevelsCodes &codes,
+                   FW_DriverError &error);
+
+/** What a pour by weight or steps is refused with; the texts are the same for a tint and a purge. */
+struct PourCodes
+{
+    const char *dispenser = "";
+    const char *negative = "";
+    LevelsCodes levels;
+    const char *empty = "";
+    const char *steps = "";
+    const char *speed = "";
+    const char *noNozzleValve = nullptr; ///< without it nozzle valves are not looked at
+    const char *nozzleValve = "";
+};
+
+/** Checks before a pour that the command's machine can do what the formula asks; stops at the first failure. */
+bool canPour(const ProtoCommand &command, const Formula &formula, const PourCodes &codes,
+             FW_DriverError &error);
+
+/** True for a command that has been renamed to TINT2, which tells the firmware more of each circuit. */
+bool isTint2(const ProtoCommand &command);
+
+/** The integers of a tint or a purge that pours \a items. */
+QList<int> pourParameters(const ProtoCommand &command, const Formula &formula,
+                          const CircuitFormulaItemList &items, bool purge);
+
+/** What a default movement of the automatic cap adds to the time of a pour. */
+long long autocapTime(const FW_Dispenser *dispenser);
+
+/** The base in which numbers travel to the firmware. */
+constexpr int serialBase = 246;
+
+/** Appends the number of digits, then the digits. */
+void appendCounted(QList<int> &parameters, const QList<int> &digits);
+
+} // namespace quv

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "dispensing/purgeformulacmd.h"
+
+#include "base/gate_p.h"
+#include "dispensing/formula_p.h"
+
+#include <QuvFramework/formulautils.h>
+#include <QuvFramework/fw_xmlrpc.h>
+
+#include <QtCore/QDebug>
+
+namespace {
+
+constexpr char noDispenser[] = "Invalid dispenser data";
+constexpr char invalidFormula[] = "PurgeFormulaCmd failed: invalid Formula type parameter";
+constexpr char invalidPurge[] = "PurgeFormulaCmd failed: invalid PurgeFormula type parameter";
+constexpr char incorrectFormula[] = "PurgeFormulaCmd failed: incorrect Formula type parameter";
+
+constexpr quv::PourCodes codes = {"DE01194", "DE01209", {"DE01210", "DE01211", "DE01217", "DE01213"},
+                                  "DE01214", "DE01215", "DE01216"};
+
+constexpr quv::FamilyGate tint2[] = {{63, 40}, {70, 2}, {72}};
+
+} // namespace
+
+template <class Asked>
+void PurgeFormulaCmd::build(const Asked &asked, const FW_Dispenser &dispenser, const char *function)
+{
+    quv::require(function, [&](FW_DriverError &error) {
+        return FormulaUtils::buildPurgeFormula(asked, m_formula, dispenser, &error);
+    });
+    quv::requireGoodFormula(*this, &dispenser, function);
+}
+
+PurgeFormulaCmd::PurgeFormulaCmd(const Formula &formula, const FW_Dispenser *dispenser) : PurgeCmd(dispenser)
+{
+    if (dispenser)
+        build(formula, *dispenser, Q_FUNC_INFO);
+    else
+        m_formula = formula;
+}
+
+// the request may be a struct, so the base is not to look at it
+PurgeFormulaCmd::PurgeFormulaCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser)
+    : PurgeCmd(dispenser)
+{
+    const char *function = Q_FUNC_INFO;
+    if (!dispenser)
+        throw FW_Exception("DE01662", noDispenser, function);
+    const XmlRpc::XmlRpcValue *first = FindXmlRpcElement(value, 0);
+    if (first && FindXmlRpcMember(*first, Formula::FORMULA_TYPE)) {
+        build(quv::decodedValue<Formula>(first, {"DE01196", invalidFormula}, function), *dispenser, function);
+        return;
+    }
+    if (!first && !FindXmlRpcMember(value, PurgeFormula::PURGE_QUANTITY))
+        throw FW_Exception("DE01255", incorrectFormula, function);
+    build(quv::decodedValue<PurgeFormula>(&value, {"DE01238", invalidPurge}, function), *dispenser, function);
+}
+
+PurgeFormulaCmd::PurgeFormulaCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
+    : PurgeCmd(list, dispenser)
+{
+    const char *function = Q_FUNC_INFO;
+    if (!dispenser)
+        throw FW_Exception("DE01663", noDispenser, function);
+    const quv::Refusal neither = {"DE01256", incorrectFormula};
+    const QVariant first = list.value(0);
+    if (quv::holds<Formula>(first))
+        build(quv::decodedVariant<Formula>(first, neither, {"DE01204", incorrectFormula}, function),
+              *dispenser, function);
+    else
+        build(quv::decodedVariant<PurgeFormula>(first, neither, {"DE01237", invalidPurge}, function),
+              *dispenser, function);
+}
+
+PurgeFormulaCmd *PurgeFormulaCmd::clone() const
+{
+    return new PurgeFormulaCmd(*this);
+}
+
+QList<QVariant> PurgeFormulaCmd::parameters() const
+{
+    return {QVariant::fromValue(m_formula)};
+}
+
+XmlRpc::XmlRpcValue PurgeFormulaCmd::xmlrpc_parameters(bool *ok) const
+{
+    XmlRpc::XmlRpcValue array;
+    array[0] = m_formula.toXmlRpcValue(ok);
+    return array;
+}
+
+QList<int> PurgeFormulaCmd::serialParameters(int) const
+{
+    const FW_Dispenser *dispenser = quv::dispenserOf(*this);
+    if (!dispenser)
+        return {};
+    qDebug().noquote() << m_formula.toPrintableString(false, dispenser);
+    CircuitFormulaItemList items;
+    if (!m_formula.getCircuitFormulaItems(items, dispenser, nullptr))
+        return {};
+    return quv::pourParameters(*this, m_formula, items, true);
+}
+
+long long PurgeFormulaCmd::getCmdEstimatedExecutionTime(const FW_Machine *) const
+{
+    const FW_Dispenser *dispenser = quv::dispenserOf(*this);
+    CircuitFormulaItemList items;
+    if (!dispenser || !m_formula.getCircuitFormulaItems(items, dispenser, nullptr))
+        return 0;
+    long long time = 0;
+    items.getEstimatedDosingTime(time); // what cannot be told takes no time
+    return time + quv::autocapTime(dispenser);
+}
+
+TString PurgeFormulaCmd::actionString(bool detailed) const
+{
+    return detailed ? purgeOf(m_formula.toPrintableString(true, nullptr)) : PurgeCmd::actionString(false);
+}
+
+bool PurgeFormulaCmd::checkFormula(FW_DriverError &error) const
+{
+    return quv::canPour(*this, m_formula, codes, error);
+}
+
+bool PurgeFormulaCmd::isTint2CmdSupported(const FW_Version &version)
+{
+    return quv::passesGate(tint2, version);
+}

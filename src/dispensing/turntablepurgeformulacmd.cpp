@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "dispensing/turntablepurgeformulacmd.h"
+
+#include "base/arguments_p.h"
+#include "dispensing/formula_p.h"
+
+#include <QtCore/QDebug>
+
+TurntablePurgeFormulaCmd::TurntablePurgeFormulaCmd(const Formula &formula, int currentPosition,
+                                                   const FW_Dispenser *dispenser)
+    : PurgeFormulaCmd(formula, dispenser),
+      m_currentPosition(currentPosition)
+{}
+
+TurntablePurgeFormulaCmd::TurntablePurgeFormulaCmd(const XmlRpc::XmlRpcValue &value, int currentPosition,
+                                                   const FW_Dispenser *dispenser)
+    : PurgeFormulaCmd(value, dispenser),
+      m_currentPosition(currentPosition)
+{}
+
+TurntablePurgeFormulaCmd::TurntablePurgeFormulaCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
+    : PurgeFormulaCmd(list, dispenser)
+{
+    if (!quv::decodeVariant(list.constLast(), m_currentPosition))
+        throw FW_Exception("DE01727", "TurntablePurgeFormulaCmd failed: expected current position parameter",
+                           Q_FUNC_INFO);
+}
+
+TurntablePurgeFormulaCmd *TurntablePurgeFormulaCmd::clone() const
+{
+    return new TurntablePurgeFormulaCmd(*this);
+}
+
+QList<QVariant> TurntablePurgeFormulaCmd::parameters() const
+{
+    return PurgeFormulaCmd::parameters() << m_currentPosition;
+}
+
+QList<int> TurntablePurgeFormulaCmd::serialParameters(int) const
+{
+    const FW_Dispenser *dispenser = quv::dispenserOf(*this);
+    if (!dispenser)
+        return {};
+    qDebug().noquote() << m_formula.toPrintableString(false, m_currentPosition, dispenser);
+    CircuitFormulaItemList items;
+    if (!m_formula.getCircuitFormulaItems(items, m_currentPosition, dispenser, nullptr))
+        return {};
+    return quv::pourParameters(*this, m_formula, items, true);
+}

@@ -1,0 +1,329 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "dispensing/channeltintcmd.h"
+
+#include "catalogue/protocommandlist.h"
+#include "dispensing/dispensertesting.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTranslator>
+
+#include <memory>
+
+namespace {
+
+using namespace testing_dispensing;
+
+/** A language in which a channel has no name. */
+class NamelessChannels : public QTranslator
+{
+public:
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return qstrcmp(text, "%1 %2 %3") == 0 ? QString("") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+constexpr char ofFormula[] = "ChannelTintCmd::ChannelTintCmd(int, const Formula&, const FW_Dispenser*)";
+constexpr char ofValue[] = "ChannelTintCmd::ChannelTintCmd(const XmlRpc::XmlRpcValue&, const FW_Dispenser*)";
+constexpr char ofList[] = "ChannelTintCmd::ChannelTintCmd(QList<QVariant>, const FW_Dispenser*)";
+constexpr char ofBaseValue[] =
+    "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
+constexpr char ofBaseList[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
+
+constexpr char noDispenser[] = "ChannelTintCmd failed: invalid dispenser decoding";
+constexpr char badChannel[] = "ChannelTintCmd failed: invalid channel ID parameter";
+constexpr char notDual[] = "ChannelTintCmd failed: command relay to DUAL dispenser";
+constexpr char badValues[] = "Bad values in formula! Values have to be positive";
+
+Formula someFormula()
+{
+    return grams({{"3", 30}, {"4", 1}});
+}
+
+ChannelTintCmd channelTint(int channel, const Formula &formula)
+{
+    const FW_Dispenser machine = dualHead();
+    return ChannelTintCmd(channel, formula, &machine);
+}
+
+void expectRefused(const char *code, const char *text, int channel, const Formula &formula,
+                   const FW_Dispenser *machine)
+{
+    expectRefusal(code, text, ofFormula, [&] { ChannelTintCmd(channel, formula, machine); });
+    expectRefusal(code, text, ofValue,
+                  [&] { ChannelTintCmd(arrayOf(channel, formula.toXmlRpcValue()), machine); });
+    expectRefusal(code, text, ofList, [&] {
+        ChannelTintCmd(List{channel, QVariant::fromValue(formula)}, machine);
+    });
+}
+
+/** A dual machine that differs in one circuit's calibration. */
+FW_Dispenser dualWith(int position, const FW_Calibration &calibration)
+{
+    FW_Dispenser machine = dualHead();
+    machine.getCircuitByPosition(position)->setCalibration(calibration);
+    return machine;
+}
+
+TEST(ChannelTintCmd, isAFormulaForAChannel)
+{
+    const FW_Dispenser machine = dualHead();
+    const Formula formula = someFormula();
+    for (int channel : {1, 2}) {
+        for (const ChannelTintCmd &command :
+             {ChannelTintCmd(channel, formula, &machine),
+              ChannelTintCmd(arrayOf(channel, formula.toXmlRpcValue()), &machine),
+              ChannelTintCmd(List{channel, QVariant::fromValue(formula)}, &machine)}) {
+            EXPECT_EQ(command.command(), "CHANNEL_TINT");
+            EXPECT_EQ(command.protoType(), 1);
+            EXPECT_EQ(command.channelID(), channel);
+            EXPECT_EQ(command.formula(), formula);
+            EXPECT_TRUE(command.machine());
+        }
+    }
+    ASSERT_TRUE(ProtoCommandList::row("CHANNEL_TINT"));
+    EXPECT_EQ(ProtoCommandList::row("CHANNEL_TINT")->id, 31);
+    EXPECT_EQ(ProtoCommandList::row("CHANNEL_TINT")->code, "0017");
+}
+
+TEST(ChannelTintCmd, isWrittenAsChannelAndFormula)
+{
+    const ChannelTintCmd command = channelTint(2, someFormula());
+    bool ok = false;
+    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)),
+              R"([2, {"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["3", "4"], )"
+              R"("levels_policy": 0, "quantities": [30.0000, 1.00000], "quantity_unit": 3}])");
+    EXPECT_TRUE(ok);
+    const List parameters = command.parameters();
+    ASSERT_EQ(parameters.size(), 2);
+    EXPECT_EQ(parameters.at(0), QVariant(2));
+    EXPECT_EQ(parameters.at(1).value<Formula>(), someFormula());
+
+    const FW_Dispenser machine = dualHead();
+    EXPECT_EQ(ChannelTintCmd(command.xmlrpc_parameters(), &machine).channelID(), 2);
+    EXPECT_EQ(ChannelTintCmd(command.xmlrpc_parameters(), &machine).formula(), someFormula());
+    EXPECT_EQ(ChannelTintCmd(parameters, &machine).channelID(), 2);
+    EXPECT_EQ(ChannelTintCmd(parameters, &machine).formula(), someFormula());
+}
+
+TEST(ChannelTintCmd, goesBackToItsDefaults)
+{
+    ChannelTintCmd command = channelTint(2, someFormula());
+    command.setDefaults();
+    EXPECT_EQ(command.channelID(), 0);
+    EXPECT_EQ(command.formula(), someFormula());
+}
+
+TEST(ChannelTintCmd, copiesDeeply)
+{
+    const ChannelTintCmd command = channelTint(2, someFormula());
+    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
+    const auto *tinting = dynamic_cast<const ChannelTintCmd *>(clone.get());
+    ASSERT_TRUE(tinting);
+    EXPECT_EQ(tinting->channelID(), 2);
+    EXPECT_EQ(tinting->formula(), someFormula());
+    EXPECT_NE(tinting->machine(), command.machine());
+    EXPECT_EQ(tinting->serialParameters(1), (QList<int>{2, 2, 3, 2, 40, 2, 54, 1, 4, 2, 40, 1, 10}));
+}
+
+// ---------------------------------------------------------------- refusals
+
+TEST(ChannelTintCmd, countsItsArgumentsFirst)
+{
+    const FW_Dispenser machine = dualHead();
+    expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBaseValue,
+                  [&] { ChannelTintCmd(Value(), &machine); });
+    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue,
+                  [&] { ChannelTintCmd(Value(2), &machine); });
+    expectRefusal("DE00312", "CHANNEL_TINT command : expected at least 2 parameters, received 1 instead!",
+                  ofBaseValue, [&] { ChannelTintCmd(arrayOf(2), &machine); });
+    expectRefusal("DE00313", "CHANNEL_TINT command : expected at least 2 parameters, received 1 instead!",
+                  ofBaseList, [&] { ChannelTintCmd(List{2}, &machine); });
+}
+
+TEST(ChannelTintCmd, refusesAChannelThatIsNoInteger)
+{
+    const FW_Dispenser machine = dualHead();
+    const Formula formula = someFormula();
+    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine}) {
+        for (const Value &bad : {Value("2"), Value(2.0), Value(true)}) {
+            expectRefusal("DE01424", "ChannelTintCmd failed: expected Int type for first parameter", ofValue,
+                          [&] { ChannelTintCmd(arrayOf(bad, formula.toXmlRpcValue()), given); });
+        }
+        for (const QVariant &bad : {QVariant(), QVariant("2"), QVariant(2.0), QVariant(true)}) {
+            expectRefusal("DE01426", badChannel, ofList, [&] {
+                ChannelTintCmd(List{bad, QVariant::fromValue(formula)}, given);
+            });
+        }
+    }
+}
+
+TEST(ChannelTintCmd, refusesWhatCannotBeReadAsAFormula)
+{
+    const FW_Dispenser machine = dualHead();
+    for (const Value &bad : {Value(1), Value("B"), unreadableFormula()}) {
+        expectRefusal("DE01425", "ChannelTintCmd failed: invalid Formula type parameter", ofValue,
+                      [&] { ChannelTintCmd(arrayOf(2, bad), &machine); });
+    }
+    for (const QVariant &other : {QVariant(), QVariant(1), QVariant(QVariantMap())}) {
+        expectRefusal("DE01428", "ChannelTintCmd failed: expected Formula type parameter", ofList, [&] {
+            ChannelTintCmd(List{2, other}, &machine);
+        });
+    }
+    expectRefusal("DE01427", "ChannelTintCmd failed: incorrect Formula type parameter", ofList, [&] {
+        ChannelTintCmd(List{2, unreadableFormulaVariant()}, &machine);
+    });
+}
+
+TEST(ChannelTintCmd, refusesAChannelThatTheMachineDoesNotHave)
+{
+    const FW_Dispenser dual = dualHead();
+    const FW_Dispenser single = dispenser();
+    FW_Dispenser parallel = dispenser();
+    parallel.setTintingParallelism(4);
+    FW_Dispenser dualOneByOne = dualHead();
+    dualOneByOne.setTintingParallelism(1);
+    const Formula formula = someFormula();
+    for (int channel : {-1, 0, 1, 2, 3})
+        expectRefused("DE01429", noDispenser, channel, formula, nullptr);
+    for (int channel : {-1, 0, 3}) {
+        expectRefused("DE01432", badChannel, channel, formula, &dual);
+        expectRefused("DE01432", badChannel, channel, formula, &parallel);
+        expectRefused("DE01432", badChannel, channel, formula, &single);
+    }
+    expectRefused("DE01430", badChannel, 2, formula, &dualOneByOne);
+    expectRefused("DE01430", badChannel, 2, formula, &single); // before the heads are looked at
+    expectRefused("DE01431", notDual, 1, formula, &single);
+    expectRefused("DE01431", notDual, 2, formula, &parallel);
+    EXPECT_NO_THROW(ChannelTintCmd(1, formula, &dualOneByOne));
+}
+
+TEST(ChannelTintCmd, checksAChannelByItself)
+{
+    const FW_Dispenser dual = dualHead();
+    FW_DriverError error;
+    EXPECT_TRUE(ChannelTintCmd::checkChannelID(1, &dual, error));
+    EXPECT_TRUE(ChannelTintCmd::checkChannelID(2, &dual, error));
+    EXPECT_EQ(error.code(), "");
+    EXPECT_FALSE(ChannelTintCmd::checkChannelID(3, &dual, error));
+    expectError(error, "DE01432", badChannel);
+    EXPECT_FALSE(ChannelTintCmd::checkChannelID(1, nullptr, error));
+    expectError(error, "DE01429", noDispenser);
+}
+
+TEST(ChannelTintCmd, looksAtTheChannelBeforeTheFormula)
+{
+    const FW_Dispenser dual = dualHead();
+    expectRefused("DE01432", badChannel, 3, grams({{"3", -30}}), &dual);
+    expectRefusal("DE01432", badChannel, ofValue,
+                  [&] { ChannelTintCmd(arrayOf(3, unreadableFormula()), &dual); });
+    expectRefusal("DE01429", noDispenser, ofList, [&] { ChannelTintCmd(List{2, 7}, nullptr); });
+}
+
+TEST(ChannelTintCmd, refusesAFormulaThatTheMachineCannotPour)
+{
+    const FW_Dispenser dual = dualHead();
+    const FW_Dispenser uncalibrated = dualWith(4, {});
+    const FW_Dispenser speedless = dualWith(4, FW_Calibration({{1000, 100, 0, 0}}));
+    FW_Dispenser disabled = dualHead();
+    disabled.getCircuitByPosition(3)->setEnabled(false);
+    expectRefused("DE01433", badValues, 2, grams({{"3", 30}, {"4", -1}}), &dual);
+    expectRefused("DE01433", badValues, 2, grams({{"3", 30}, {"4", 0}}), &dual);
+    expectRefused("DE03021", R"(Formula: the dispenser does not have "9")", 2, grams({{"9", 30}}), &dual);
+    expectRefused("DE03022", R"(Formula: "3" is disabled)", 2, someFormula(), &disabled);
+    expectRefused("DE01434", "Empty Formula found", 2, grams({}), &dual);
+    expectRefused("DE01435", "Bad steps value in formula", 2, someFormula(), &uncalibrated);
+    expectRefused("DE01436", "Bad speed value in formula", 2, someFormula(), &speedless);
+}
+
+TEST(ChannelTintCmd, checksInOneOrder)
+{
+    FW_Dispenser machine = dualWith(4, {});
+    machine.getCircuitByPosition(3)->setCalibration(FW_Calibration({{1000, 100, 0, 0}}));
+    expectRefused("DE01433", badValues, 2, grams({{"9", 30}, {"4", 0}}), &machine);
+    expectRefused("DE03021", R"(Formula: the dispenser does not have "9")", 2, grams({{"4", 1}, {"9", 30}}),
+                  &machine);
+    expectRefused("DE01436", "Bad speed value in formula", 2, grams({{"3", 30}, {"4", 1}}), &machine);
+    expectRefused("DE01435", "Bad steps value in formula", 2, grams({{"4", 1}, {"3", 30}}), &machine);
+}
+
+TEST(ChannelTintCmd, checksNeitherLevelsNorNozzleValves)
+{
+    FW_Dispenser machine = nozzleBased();
+    machine.setHeadArrangement(FW_Dispenser::HeadArrangement::Dual);
+    Formula formula = steps({{"3", 20000}, {"4", 1, 0, 99}});
+    formula.setLevelsManagementPolicy(2);
+    EXPECT_NO_THROW(ChannelTintCmd(1, formula, &machine));
+}
+
+TEST(ChannelTintCmd, fillsTheErrorOfItsCheck)
+{
+    FW_DriverError error;
+    EXPECT_TRUE(channelTint(2, someFormula()).checkFormula(error));
+    EXPECT_EQ(error.code(), "");
+}
+
+// ---------------------------------------------------------------- towards the firmware
+
+TEST(ChannelTintCmd, sendsTheChannelInTheQueuesPlace)
+{
+    EXPECT_EQ(channelTint(2, someFormula()).serialParameters(1),
+              (QList<int>{2, 2, 3, 2, 40, 2, 54, 1, 4, 2, 40, 1, 10}));
+    Formula unqueued = steps({{"1", 60516, 7}});
+    unqueued.setExecutionCriterion(1);
+    EXPECT_EQ(channelTint(1, unqueued).serialParameters(2), (QList<int>{2, 1, 1, 1, 50, 3, 0, 0, 1}));
+}
+
+TEST(ChannelTintCmd, leavesOutWhatHasNoStepsButCountsIt)
+{
+    EXPECT_EQ(channelTint(2, grams({{"3", 0.01}, {"4", 1}})).serialParameters(1),
+              (QList<int>{2, 2, 4, 2, 40, 1, 10}));
+    EXPECT_EQ(channelTint(2, grams({{"3", 0.01}})).serialParameters(1), (QList<int>{2, 1}));
+}
+
+TEST(ChannelTintCmd, takesNoTimeThatItKnows)
+{
+    const FW_Dispenser machine = dualHead();
+    EXPECT_EQ(channelTint(2, someFormula()).getCmdEstimatedExecutionTime(&machine), 0);
+    EXPECT_EQ(channelTint(2, someFormula()).getCmdEstimatedExecutionTime(nullptr), 0);
+}
+
+// ---------------------------------------------------------------- texts
+
+TEST(ChannelTintCmd, namesItsChannel)
+{
+    const ChannelTintCmd command = channelTint(1, grams({{"3", 30}}));
+    EXPECT_EQ(command.channelIDStr(), "Channel 1 dosing");
+    EXPECT_EQ(command.commandString(), "Channel 1 dosing");
+    EXPECT_EQ(command.actionString(false).m_text, "Channel 1 dosing in progress");
+    EXPECT_EQ(command.actionString(true).m_text, "Channel 1 dosing with formula: 3 30.000");
+    EXPECT_EQ(channelTint(2, someFormula()).channelIDStr(), "Channel 2 dosing");
+}
+
+TEST(ChannelTintCmd, namesItsChannelInTheRunningLanguage)
+{
+    const ChannelTintCmd command = channelTint(1, grams({{"3", 30}}));
+    const TranslatedTexts translated;
+    const QString name = translation(translation("Channel") + " 1 " + translation("dosing"));
+    EXPECT_EQ(command.channelIDStr(), name);
+    EXPECT_EQ(command.commandString(), name);
+    EXPECT_EQ(command.actionString(false).m_translated, translation(name + " in progress"));
+    EXPECT_EQ(command.actionString(true).m_translated, translation(name + " with formula: 3 30.000"));
+    EXPECT_STREQ(command.actionString(false).m_context, "QuvProtocol");
+    EXPECT_STREQ(command.actionString(true).m_context, "QuvProtocol");
+}
+
+TEST(ChannelTintCmd, isInProgressWithoutAName)
+{
+    const ChannelTintCmd command = channelTint(1, grams({{"3", 30}}));
+    const TranslatedTexts translated;
+    NamelessChannels nameless;
+    ASSERT_TRUE(QCoreApplication::installTranslator(&nameless));
+    EXPECT_EQ(command.channelIDStr(), "");
+    EXPECT_EQ(command.actionString(false).m_text, "In progress");
+    EXPECT_EQ(command.actionString(false).m_translated, translation("In progress"));
+    QCoreApplication::removeTranslator(&nameless);
+}
+
+} // namespace

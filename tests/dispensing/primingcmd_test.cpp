@@ -1,0 +1,382 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "dispensing/primingcmd.h"
+
+#include "catalogue/protocommandlist.h"
+#include "dispensing/dispensertesting.h"
+
+#include <QuvFramework/fw_exception.h>
+#include <QuvFramework/fw_version.h>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+using namespace testing_dispensing;
+
+constexpr char ofFormula[] = "PrimingCmd::PrimingCmd(const Formula&, const FW_Dispenser*)";
+constexpr char ofValue[] = "PrimingCmd::PrimingCmd(const XmlRpc::XmlRpcValue&, const FW_Dispenser*)";
+constexpr char ofList[] = "PrimingCmd::PrimingCmd(QList<QVariant>, const FW_Dispenser*)";
+constexpr char ofBase[] =
+    "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
+constexpr char ofListBase[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
+
+constexpr char badSign[] = "Formula stopped because of negative quantity values";
+constexpr char badUnit[] = "Formula stopped because of invalid quantity unit";
+constexpr char badLevels[] = "Formula interrupted because of errors in level check";
+
+Value oneStrokeValue()
+{
+    return structOf({{"formula_type", Value(1)},
+                     {"quantity_unit", Value(2)},
+                     {"exec_criterion", Value(0)},
+                     {"levels_policy", Value(0)},
+                     {"decimals", Value(3)},
+                     {"ids", arrayOf("1")},
+                     {"quantities", arrayOf(1.0)}});
+}
+
+QVariantMap oneStrokeMap()
+{
+    return {{"formula_type", 1},
+            {"quantity_unit", 2},
+            {"ids", QVariantList{"1"}},
+            {"quantities", QVariantList{1.0}}};
+}
+
+List listOf(const Formula &formula)
+{
+    return {QVariant::fromValue(formula)};
+}
+
+/** The formula with the policy to check levels. */
+Formula checkingLevels(Formula formula)
+{
+    formula.setLevelsManagementPolicy(2);
+    return formula;
+}
+
+FW_Dispenser withoutMaxSpeed(int position)
+{
+    FW_Dispenser machine = dispenser();
+    FW_DosingMotor motor = machine.getCircuitByPosition(position)->dosingMotor();
+    motor.setMaxSpeed(0);
+    machine.getCircuitByPosition(position)->setDosingMotor(motor);
+    return machine;
+}
+
+/** Expects the refusal of all three constructors. */
+void expectRefused(const Formula &formula, const FW_Dispenser &machine, const char *code, const char *text)
+{
+    expectRefusal(code, text, ofFormula, [&] { const PrimingCmd command(formula, &machine); });
+    expectRefusal(code, text, ofValue,
+                  [&] { const PrimingCmd command(arrayOf(formula.toXmlRpcValue()), &machine); });
+    expectRefusal(code, text, ofList, [&] { const PrimingCmd command(listOf(formula), &machine); });
+}
+
+void expectTaken(const Formula &formula, const FW_Dispenser &machine)
+{
+    EXPECT_EQ(PrimingCmd(formula, &machine).formula(), formula);
+    EXPECT_EQ(PrimingCmd(arrayOf(formula.toXmlRpcValue()), &machine).formula(), formula);
+    EXPECT_EQ(PrimingCmd(listOf(formula), &machine).formula(), formula);
+    FW_DriverError error;
+    EXPECT_TRUE(PrimingCmd(formula, &machine).checkFormula(error));
+    EXPECT_EQ(error.code(), "");
+}
+
+// ---------------------------------------------------------------- construction
+
+TEST(PrimingCmd, isEmptyAtFirst)
+{
+    const PrimingCmd command;
+    EXPECT_EQ(command.command(), "PRIMING");
+    EXPECT_EQ(command.protoType(), 1);
+    EXPECT_EQ(command.formula(), Formula());
+    EXPECT_FALSE(command.machine());
+    EXPECT_EQ(command.moduleID(), 0);
+}
+
+TEST(PrimingCmd, isRow15OfTheCatalogue)
+{
+    const CMD_STRUCT *row = ProtoCommandList::row(PrimingCmd().command());
+    ASSERT_TRUE(row);
+    EXPECT_EQ(row->id, 15);
+    EXPECT_EQ(row->code, "0017");
+}
+
+TEST(PrimingCmd, takesAFormulaInEveryForm)
+{
+    const Formula formula = strokes({{"1", 1}});
+    for (const PrimingCmd &command :
+         {PrimingCmd(formula, nullptr), PrimingCmd(arrayOf(oneStrokeValue()), nullptr),
+          PrimingCmd(listOf(formula), nullptr), PrimingCmd(List{oneStrokeMap()}, nullptr)}) {
+        EXPECT_EQ(command.command(), "PRIMING");
+        EXPECT_EQ(command.protoType(), 1);
+        EXPECT_EQ(command.formula(), formula);
+        EXPECT_FALSE(command.machine());
+        EXPECT_EQ(command.parameters(), listOf(formula));
+        bool ok = false;
+        EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), dumped(arrayOf(oneStrokeValue())));
+        EXPECT_TRUE(ok);
+    }
+}
+
+TEST(PrimingCmd, goesRoundInBothForms)
+{
+    const Formula formula = checkingLevels(strokes({{"1", 1, 7}, {"3", 300, 0, 2}}));
+    const PrimingCmd command(formula, nullptr);
+    EXPECT_EQ(PrimingCmd(command.xmlrpc_parameters(), nullptr).formula(), formula);
+    EXPECT_EQ(PrimingCmd(command.parameters(), nullptr).formula(), formula);
+    EXPECT_EQ(dumped(PrimingCmd(strokes({{"1", 1}}), nullptr).toXmlRpcValue(QString())),
+              dumped(arrayOf("PRIMING", oneStrokeValue())));
+}
+
+TEST(PrimingCmd, checksNothingWithoutADispenser)
+{
+    for (const Formula &formula :
+         {Formula(), grams({{"1", 10}}), strokes({{"1", -1}}), strokes({{"99", 0}})}) {
+        EXPECT_EQ(PrimingCmd(formula, nullptr).formula(), formula);
+        EXPECT_EQ(PrimingCmd(arrayOf(formula.toXmlRpcValue()), nullptr).formula(), formula);
+        EXPECT_EQ(PrimingCmd(listOf(formula), nullptr).formula(), formula);
+    }
+}
+
+TEST(PrimingCmd, keepsItsDispenser)
+{
+    const FW_Dispenser machine = dispenser();
+    const PrimingCmd command(strokes({{"1", 1}}), &machine);
+    ASSERT_TRUE(command.machine());
+    EXPECT_NE(command.machine(), &machine);
+    EXPECT_EQ(command.machine()->id(), 7);
+}
+
+TEST(PrimingCmd, copiesDeeply)
+{
+    const FW_Dispenser machine = dispenser();
+    const PrimingCmd command(strokes({{"1", 1}}), &machine);
+    const PrimingCmd copy(command);
+    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
+    const auto *cloned = dynamic_cast<const PrimingCmd *>(clone.get());
+    ASSERT_TRUE(cloned);
+    for (const PrimingCmd *same : {&copy, cloned}) {
+        EXPECT_EQ(same->command(), "PRIMING");
+        EXPECT_EQ(same->formula(), command.formula());
+        EXPECT_NE(same->machine(), command.machine());
+        EXPECT_EQ(same->serialParameters(1), (QList<int>{3, 1, 1, 0, 50, 1, 1}));
+    }
+}
+
+TEST(PrimingCmd, refusesAValueThatIsNoFormula)
+{
+    for (const Value &bad : {unreadableFormula(), Value(7), Value("formula"), arrayOf(), structOf({})}) {
+        SCOPED_TRACE(dumped(bad));
+        expectRefusal("DE00497", "PrimingCmd failed: invalid Formula type parameter", ofValue,
+                      [&] { const PrimingCmd command(arrayOf(bad), nullptr); });
+    }
+}
+
+TEST(PrimingCmd, refusesAListWithoutAFormula)
+{
+    const List others = {7,
+                         QStringLiteral("formula"),
+                         QVariant(),
+                         QVariantMap{},
+                         QVariantMap{{"ids", List{"1"}}},
+                         List{oneStrokeMap()}};
+    for (const QVariant &other : others) {
+        expectRefusal("DE00494", "PrimingCmd failed: expected Formula type parameter", ofList,
+                      [&] { const PrimingCmd command(List{other}, nullptr); });
+    }
+    expectRefusal("DE00493", "PrimingCmd failed: incorrect Formula type parameter", ofList,
+                  [] { const PrimingCmd command(List{unreadableFormulaVariant()}, nullptr); });
+}
+
+TEST(PrimingCmd, leavesTheCountToTheBase)
+{
+    constexpr char tooFew[] = "PRIMING command : expected at least 1 parameters, received 0 instead!";
+    expectRefusal("DE00312", tooFew, ofBase, [] { const PrimingCmd command(arrayOf(), nullptr); });
+    expectRefusal("DE00313", tooFew, ofListBase, [] { const PrimingCmd command(List(), nullptr); });
+    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBase,
+                  [] { const PrimingCmd command(oneStrokeValue(), nullptr); });
+}
+
+// ---------------------------------------------------------------- the check
+
+TEST(PrimingCmd, takesStrokesOfCircuitsThatTheMachineHas)
+{
+    expectTaken(strokes({{"1", 1}}), dispenser());
+    expectTaken(strokes({{"4", 300}, {"2", 1}}), dispenser());
+    expectTaken(strokes({{"1", 1}}), withoutCalibration(1)); // strokes need none
+    expectTaken(formulaOf(Formula::ColorantCodes, Formula::Strokes, {{"KX", 1}}), dispenser());
+}
+
+TEST(PrimingCmd, cannotBeCheckedWithoutADispenser)
+{
+    FW_DriverError error;
+    EXPECT_FALSE(PrimingCmd(strokes({{"1", 1}}), nullptr).checkFormula(error));
+    expectError(error, "DE01066", "Invalid dispenser data");
+    EXPECT_FALSE(PrimingCmd(strokes({{"1", -1}}), nullptr).checkFormula(error)); // comes first
+    expectError(error, "DE01066", "Invalid dispenser data");
+}
+
+TEST(PrimingCmd, needsPositiveQuantities)
+{
+    expectRefused(strokes({{"1", 1}, {"2", -1}}), dispenser(), "DE00495", badSign);
+    expectRefused(strokes({{"1", 1}, {"2", 0}}), dispenser(), "DE00495", badSign);
+    expectRefused(grams({{"1", -1}}), dispenser(), "DE00495", badSign); // before the unit
+}
+
+TEST(PrimingCmd, needsStrokes)
+{
+    for (int unit : {0, 1, 3})
+        expectRefused(formulaOf(1, unit, {{"1", 1}}), dispenser(), "DE00499", badUnit);
+    // before the levels are looked at, and before the circuits are
+    expectRefused(checkingLevels(grams({{"1", 600}})), dispenser(), "DE00499", badUnit);
+    expectRefused(grams({{"99", 1}}), dispenser(), "DE00499", badUnit);
+    expectRefused(grams({}), dispenser(), "DE00499", badUnit);
+}
+
+TEST(PrimingCmd, checksLevelsWhenItIsAsked)
+{
+    // one stroke takes 300 g, of 500 g that are there
+    const Formula oneStroke = checkingLevels(strokes({{"1", 1}}));
+    expectTaken(oneStroke, dispenser());
+    expectTaken(oneStroke, withContent(1, 350)); // 50 g are left, the reserve
+    expectRefused(oneStroke, withContent(1, 349), "DE00502",
+                  "Formula interrupted because the current amount will would below the critical level");
+    expectTaken(oneStroke, withContent(1, 1300));
+    expectRefused(oneStroke, withContent(1, 1301), "DE00535", badLevels);
+    expectRefused(checkingLevels(strokes({{"1", 2}})), dispenser(), "DE00501",
+                  "Formula interrupted because the current amount would go below zero");
+    expectTaken(strokes({{"1", 2}}), dispenser());
+
+    Formula otherPolicy = strokes({{"1", 2}});
+    otherPolicy.setLevelsManagementPolicy(5);
+    expectTaken(otherPolicy, dispenser());
+    otherPolicy.setLevelsManagementPolicy(7);
+    expectRefused(otherPolicy, dispenser(), "DE00501",
+                  "Formula interrupted because the current amount would go below zero");
+}
+
+TEST(PrimingCmd, saysOfLevelsThatItCannotTellThatTheyCannotBeChecked)
+{
+    expectRefused(checkingLevels(strokes({{"1", 1}})), withoutCalibration(1), "DE00503", badLevels);
+    expectRefused(checkingLevels(strokes({{"99", 1}})), dispenser(), "DE00503", badLevels);
+    expectRefused(checkingLevels(strokes({{"1", 1}})), withDisabledCircuit(1), "DE00503", badLevels);
+}
+
+TEST(PrimingCmd, passesOnWhatTheFormulaSaysOfTheMachine)
+{
+    expectRefused(strokes({{"1", 1}, {"99", 1}}), dispenser(), "DE03021",
+                  "Formula: the dispenser does not have \"99\"");
+    expectRefused(strokes({{"1", 1}}), withDisabledCircuit(1), "DE03022", "Formula: \"1\" is disabled");
+}
+
+TEST(PrimingCmd, needsItems)
+{
+    expectRefused(strokes({}), dispenser(), "DE00534", "Empty Formula found");
+    expectRefused(checkingLevels(strokes({})), dispenser(), "DE00534", "Empty Formula found");
+}
+
+TEST(PrimingCmd, needsStrokesAndSpeedOfEveryCircuit)
+{
+    constexpr char noStrokes[] = "Formula stopped because of errors in strokes calculus";
+    constexpr char noSpeed[] = "Formula stopped because of errors in speed calculus";
+    constexpr double tooMany = 3e9;
+    expectRefused(strokes({{"1", 1}, {"2", tooMany}}), dispenser(), "DE00504", noStrokes);
+    expectRefused(strokes({{"1", 1}, {"2", 1}}), withoutMaxSpeed(2), "DE00505", noSpeed);
+    expectRefused(strokes({{"2", tooMany}}), withoutMaxSpeed(2), "DE00504", noStrokes);
+    // circuit by circuit: the first one's speed before the second one's strokes
+    expectRefused(strokes({{"2", 1}, {"1", tooMany}}), withoutMaxSpeed(2), "DE00505", noSpeed);
+}
+
+// ---------------------------------------------------------------- towards the firmware
+
+TEST(PrimingCmd, sendsStrokesWithoutQueues)
+{
+    const FW_Dispenser machine = dispenser();
+    const PrimingCmd command(strokes({{"1", 1}, {"3", 300}, {"2", 245}, {"4", 246}}), &machine);
+    const QList<int> expected = {3, 4, 1, 0,  50, 1,   1, 3, 0,  50, 2, 54,
+                                 1, 2, 0, 50, 1,  245, 4, 0, 50, 2,  0, 1};
+    for (int family : {1, 2})
+        EXPECT_EQ(command.serialParameters(family), expected);
+}
+
+TEST(PrimingCmd, sendsNoQueueNorCriterionOfTheFormula)
+{
+    const FW_Dispenser machine = dispenser();
+    Formula formula = strokes({{"1", 2, 9}});
+    formula.setExecutionCriterion(2);
+    EXPECT_EQ(PrimingCmd(formula, &machine).serialParameters(1), (QList<int>{3, 1, 1, 0, 50, 1, 2}));
+}
+
+TEST(PrimingCmd, countsButDoesNotSendCircuitsWithoutAWholeStroke)
+{
+    const FW_Dispenser machine = dispenser();
+    const PrimingCmd command(strokes({{"1", 0.4}, {"2", 1}, {"3", 0.1}}), &machine);
+    EXPECT_EQ(command.serialParameters(1), (QList<int>{3, 3, 2, 0, 50, 1, 1}));
+    EXPECT_EQ(PrimingCmd(strokes({{"1", 0.4}}), &machine).serialParameters(1), (QList<int>{3, 1}));
+}
+
+TEST(PrimingCmd, sendsNothingWithoutADispenser)
+{
+    EXPECT_EQ(PrimingCmd().serialParameters(1), QList<int>());
+    EXPECT_EQ(PrimingCmd(strokes({{"1", 1}}), nullptr).serialParameters(1), QList<int>());
+}
+
+TEST(PrimingCmd, isKnownToEveryFirmwareAndTakesATimeThatNobodyKnows)
+{
+    const FW_Dispenser machine = dispenser();
+    const PrimingCmd command(strokes({{"1", 1}}), &machine);
+    EXPECT_TRUE(command.isSupportedCommand(FW_Version()));
+    EXPECT_TRUE(command.isSupportedCommand(FW_Version(1, 0)));
+    EXPECT_EQ(command.getCmdEstimatedExecutionTime(&machine), 0);
+    EXPECT_EQ(command.getCmdEstimatedExecutionTime(nullptr), 0);
+}
+
+// ---------------------------------------------------------------- words
+
+TEST(PrimingCmd, saysWhatItDoes)
+{
+    const PrimingCmd command(strokes({{"1", 1}, {"3", 300}}), nullptr);
+    EXPECT_EQ(command.commandString(), "Priming");
+    EXPECT_EQ(command.actionString(false).m_text, "Priming in progress");
+    EXPECT_STREQ(command.actionString(false).m_context, "QuvProtocol");
+    EXPECT_EQ(command.actionString(true).m_text, "Priming with formula: 1 1, 3 300");
+    EXPECT_STREQ(command.actionString(true).m_context, "");
+    EXPECT_EQ(PrimingCmd().actionString(true).m_text, "Priming with formula: ");
+}
+
+TEST(PrimingCmd, translatesTheShortTextAlone)
+{
+    const TranslatedTexts translated;
+    const PrimingCmd command(strokes({{"1", 1}}), nullptr);
+    EXPECT_EQ(command.commandString(), "Priming");
+    EXPECT_EQ(command.actionString(false).m_text, "Priming in progress");
+    EXPECT_EQ(command.actionString(false).m_translated, translation("Priming in progress"));
+    EXPECT_EQ(command.actionString(true).m_text, "Priming with formula: 1 1");
+    EXPECT_EQ(command.actionString(true).m_translated, "Priming with formula: 1 1");
+}
+
+// ---------------------------------------------------------------- defaults for programs
+
+TEST(PrimingCmd, suggestsStrokesAndSpeedForATypeOfCircuit)
+{
+    struct Row
+    {
+        int type;
+        int strokes;
+        int speed;
+    };
+    const std::vector<Row> rows = {
+        {-1, 20, 0},  {0, 20, 0},   {1, 20, 50},  {2, 20, 30}, {3, 20, 50}, {4, 20, 50},
+        {5, 20, 50},  {6, 20, 50},  {7, 3, 50},   {8, 20, 30}, {9, 20, 50}, {10, 20, 50},
+        {11, 20, 50}, {12, 20, 50}, {13, 20, 50}, {14, 3, 50}, {15, 20, 0}, {1000, 20, 0},
+    };
+    for (const Row &row : rows) {
+        EXPECT_EQ(PrimingCmd::defaultPrimingStrokes(row.type), row.strokes) << row.type;
+        EXPECT_EQ(PrimingCmd::defaultPrimingSpeed(row.type), row.speed) << row.type;
+    }
+}
+
+} // namespace

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "dispensing/turntablepurgeformulacmd.h"
+
+#include "dispensing/dispensertesting.h"
+
+#include <QuvFramework/purgeformula.h>
+
+#include <memory>
+
+namespace {
+
+using namespace testing_dispensing;
+
+constexpr char ofFormula[] = "PurgeFormulaCmd::PurgeFormulaCmd(const Formula&, const FW_Dispenser*)";
+constexpr char ofValue[] =
+    "PurgeFormulaCmd::PurgeFormulaCmd(const XmlRpc::XmlRpcValue&, const FW_Dispenser*)";
+constexpr char ofPurgeList[] = "PurgeFormulaCmd::PurgeFormulaCmd(QList<QVariant>, const FW_Dispenser*)";
+constexpr char ofList[] =
+    "TurntablePurgeFormulaCmd::TurntablePurgeFormulaCmd(QList<QVariant>, const FW_Dispenser*)";
+constexpr char noPosition[] = "TurntablePurgeFormulaCmd failed: expected current position parameter";
+
+/** From position 3 the table reaches them as 3, 4, 1. */
+Formula threeCircuits()
+{
+    return grams({{"1", 80}, {"3", 40}, {"4", 8}});
+}
+
+TEST(TurntablePurgeFormulaCmd, isAPurgeWithAPosition)
+{
+    const FW_Dispenser machine = withTurntable();
+    const Formula formula = threeCircuits();
+    for (const TurntablePurgeFormulaCmd &command :
+         {TurntablePurgeFormulaCmd(formula, 3, &machine),
+          TurntablePurgeFormulaCmd(arrayOf(formula.toXmlRpcValue()), 3, &machine),
+          TurntablePurgeFormulaCmd(List{QVariant::fromValue(formula), 3}, &machine)}) {
+        EXPECT_EQ(command.command(), "PURGE");
+        EXPECT_EQ(command.formula(), formula);
+        EXPECT_EQ(command.currentPosition(), 3);
+        EXPECT_TRUE(command.machine());
+    }
+    EXPECT_EQ(TurntablePurgeFormulaCmd(formula, 3, nullptr).currentPosition(), 3);
+    EXPECT_EQ(
+        TurntablePurgeFormulaCmd(List{QVariant::fromValue(PurgeFormula()), true, 2}, &machine).formula(),
+        strokes({{"1", 1}, {"2", 1}, {"3", 1}, {"4", 1}}));
+}
+
+TEST(TurntablePurgeFormulaCmd, refusesAPositionThatIsNone)
+{
+    const FW_Dispenser machine = withTurntable();
+    const QVariant formula = QVariant::fromValue(threeCircuits());
+    for (const QVariant &bad : {QVariant(), QVariant("3"), QVariant(3.0), QVariant(true)}) {
+        expectRefusal("DE01727", noPosition, ofList, [&] {
+            TurntablePurgeFormulaCmd(List{formula, bad}, &machine);
+        });
+    }
+    expectRefusal("DE01727", noPosition, ofList, [&] { TurntablePurgeFormulaCmd(List{formula}, &machine); });
+}
+
+TEST(TurntablePurgeFormulaCmd, refusesWhatAPurgeRefuses)
+{
+    const FW_Dispenser machine = withTurntable();
+    expectRefusal("DE01214", "Empty Formula found", ofFormula,
+                  [&] { TurntablePurgeFormulaCmd(grams({}), 3, &machine); });
+    expectRefusal("DE01662", "Invalid dispenser data", ofValue,
+                  [&] { TurntablePurgeFormulaCmd(arrayOf(threeCircuits().toXmlRpcValue()), 3, nullptr); });
+    expectRefusal("DE01663", "Invalid dispenser data", ofPurgeList, [&] {
+        TurntablePurgeFormulaCmd(List{QVariant::fromValue(threeCircuits()), QStringLiteral("3")}, nullptr);
+    });
+}
+
+TEST(TurntablePurgeFormulaCmd, writesThePositionOnlyForItsOwnClient)
+{
+    const FW_Dispenser machine = withTurntable();
+    const TurntablePurgeFormulaCmd command(threeCircuits(), 3, &machine);
+    EXPECT_EQ(dumped(command.xmlrpc_parameters()),
+              R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "3", "4"], )"
+              R"("levels_policy": 0, "quantities": [80.0000, 40.0000, 8.00000], "quantity_unit": 3}])");
+    const List parameters = command.parameters();
+    ASSERT_EQ(parameters.size(), 2);
+    EXPECT_EQ(parameters.at(0).value<Formula>(), threeCircuits());
+    EXPECT_EQ(parameters.at(1), QVariant(3));
+    EXPECT_EQ(TurntablePurgeFormulaCmd(parameters, &machine).currentPosition(), 3);
+}
+
+TEST(TurntablePurgeFormulaCmd, copiesThePosition)
+{
+    const FW_Dispenser machine = withTurntable();
+    const TurntablePurgeFormulaCmd command(threeCircuits(), 3, &machine);
+    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
+    const auto *purging = dynamic_cast<const TurntablePurgeFormulaCmd *>(clone.get());
+    ASSERT_TRUE(purging);
+    EXPECT_EQ(purging->currentPosition(), 3);
+    EXPECT_EQ(purging->formula(), threeCircuits());
+    EXPECT_TRUE(purging->machine());
+}
+
+TEST(TurntablePurgeFormulaCmd, poursInTheOrderOfTheTable)
+{
+    const FW_Dispenser machine = withTurntable();
+    TurntablePurgeFormulaCmd command(threeCircuits(), 3, &machine);
+    EXPECT_EQ(command.serialParameters(1),
+              (QList<int>{2, 3, 3, 33, 40, 2, 154, 1, 4, 34, 40, 1, 80, 1, 31, 40, 2, 62, 3}));
+    ASSERT_TRUE(command.setCommand("TINT2"));
+    EXPECT_EQ(command.serialParameters(1),
+              (QList<int>{66, 3, 6,  3, 33, 40, 0,  2,  154, 1, 1,  50, 4, 34, 40,
+                          0,  1, 80, 1, 50, 1,  31, 40, 0,   2, 62, 3,  1, 50}));
+    EXPECT_EQ(TurntablePurgeFormulaCmd(threeCircuits(), 3, nullptr).serialParameters(1), QList<int>());
+}
+
+TEST(TurntablePurgeFormulaCmd, logsWhatItSendsInTheOrderOfTheTable)
+{
+    const FW_Dispenser machine = withTurntable();
+    const TurntablePurgeFormulaCmd command(threeCircuits(), 3, &machine);
+    const DebugLog log;
+    command.serialParameters(1);
+    EXPECT_EQ(log.lines(), QStringList{"circuit positions: 1 80.000, 3 40.000, 4 8.000 (weight or volume): "
+                                       "circuit 3 400 steps, circuit 4 80 steps, circuit 1 800 steps"});
+}
+
+TEST(TurntablePurgeFormulaCmd, takesTheTimeOfThePoursAlone)
+{
+    const FW_Dispenser machine = withTurntable();
+    EXPECT_EQ(TurntablePurgeFormulaCmd(threeCircuits(), 3, &machine).getCmdEstimatedExecutionTime(nullptr),
+              9600);
+}
+
+TEST(TurntablePurgeFormulaCmd, speaksAsAPurge)
+{
+    const TurntablePurgeFormulaCmd command(grams({{"1", 30}}), 3, nullptr);
+    EXPECT_EQ(command.commandString(), "Purge");
+    EXPECT_EQ(command.actionString(false).m_text, "Purge in progress");
+    EXPECT_EQ(command.actionString(true).m_text, "Purge of formula: 1 30.000");
+}
+
+} // namespace
