@@ -39,7 +39,7 @@ public:
     void setQueueID(int queue) { m_queueID = queue; }
     void setCurrentCheckLevelSteps(int steps) { m_currentCheckLevelSteps = steps; }
 
-    /** Milliseconds that the motor turns; \a ok is false without steps, speed or the motor's resolution. */
+    /** Milliseconds that the motor turns; \a ok is false without steps, speed or the motor's resolution, and beyond 10^12. */
     long long dosingTime(bool *ok = nullptr) const;
 
 private:

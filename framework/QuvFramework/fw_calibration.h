@@ -6,7 +6,7 @@
 #include <QtCore/QVector>
 
 /** One measured pour: so many motor steps at this speed, through this nozzle valve, gave this quantity. */
-struct FW_CalibrationPoint
+struct QUVFRAMEWORK_EXPORT FW_CalibrationPoint
 {
     long long steps = 0;
     double quantity = 0; ///< grams or millilitres, whichever the machine is calibrated in

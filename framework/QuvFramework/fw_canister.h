@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include <QuvFramework/fw_canisterlevelsensor.h>
 #include <QuvFramework/fw_circuit.h>
 
 #include <QtCore/QList>
 #include <QtCore/QString>
+
+#include <optional>
 
 /**
  * A canister of colorant with the circuits that it feeds. Quantities are in grams or millilitres, whichever the machine is
@@ -33,6 +36,29 @@ public:
     /** The level below which somebody should refill. */
     double warningQuantity() const { return m_warningQuantity; }
     void setWarningQuantity(double quantity) { m_warningQuantity = quantity; }
+    void setAutoReserveQuantity() { m_reserveQuantity = m_maximumQuantity / 10; }
+    void setAutoReserveWarning() { m_warningQuantity = m_maximumQuantity / 5; }
+
+    /** True when the canister's circuits are in use as soon as they are configured. */
+    bool activationFlag() const { return m_activationFlag; }
+    void setActivationFlag(bool activated) { m_activationFlag = activated; }
+    /** The places in the machine's layout that the canister takes. */
+    const QList<int> &layoutPositionsId() const { return m_layoutPositionsId; }
+    // Every model, empty for none in particular, has the same places: 1 to 244.
+    void setLayoutPositionsId(const QList<int> &positions, const QString & /*model*/)
+    {
+        m_layoutPositionsId = positions;
+    }
+    void autoSetLayoutPositionsId(); ///< where the canister's circuits are
+    static bool checkLayoutPositionId(int position, const QString &model);
+
+    const FW_CanisterLevelSensor *canisterLevelSensor() const
+    {
+        return m_levelSensor ? &*m_levelSensor : nullptr;
+    }
+    FW_CanisterLevelSensor *canisterLevelSensor() { return m_levelSensor ? &*m_levelSensor : nullptr; }
+    /** Sensors that a canister then has, none or one with its defaults: 0 or 1. */
+    void setCanisterLevelSensor(int sensors);
 
     const QList<FW_Circuit> &circuits() const { return m_circuits; }
     QList<FW_Circuit> &circuits() { return m_circuits; }
@@ -51,5 +77,8 @@ private:
     double m_currentQuantity = 0;
     double m_reserveQuantity = 0;
     double m_warningQuantity = 0;
+    bool m_activationFlag = false;
+    QList<int> m_layoutPositionsId;
+    std::optional<FW_CanisterLevelSensor> m_levelSensor;
     QList<FW_Circuit> m_circuits;
 };

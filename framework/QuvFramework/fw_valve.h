@@ -16,6 +16,8 @@ public:
     void setBoardID(int id) { m_boardID = id; }
     int valveType() const { return m_valveType; }
     void setValveType(int type) { m_valveType = type; }
+    /** 0 for none, or one of the six types of valves. */
+    static bool checkValveType(int type) { return type >= 0 && type <= 6; }
 
     bool operator==(const FW_Valve &other) const
     {

@@ -12,11 +12,13 @@
 long long CircuitFormulaItem::dosingTime(bool *ok) const
 {
     constexpr double MillisecondsPerMinute = 60000;
+    constexpr double Longest = 1e12; // thirty years; sums of more could leave the numbers
     const double stepsPerMinute = double(m_speed.value) * dosingMotor().resolution();
-    const bool good = m_steps.ok && m_speed.ok && stepsPerMinute > 0;
+    const double duration = double(m_steps.value) * MillisecondsPerMinute / stepsPerMinute;
+    const bool good = m_steps.ok && m_speed.ok && stepsPerMinute > 0 && std::abs(duration) <= Longest;
     if (ok)
         *ok = good;
-    return good ? std::llround(double(m_steps.value) * MillisecondsPerMinute / stepsPerMinute) : 0;
+    return good ? std::llround(duration) : 0;
 }
 
 bool CircuitFormulaItemList::hasNullQueueID() const
@@ -26,8 +28,9 @@ bool CircuitFormulaItemList::hasNullQueueID() const
 
 bool CircuitFormulaItemList::getEstimatedDosingTime(long long &time) const
 {
-    // the least element is the place that is free next
-    std::vector<long long> places(static_cast<std::size_t>(std::max(m_parallelism, 1)), 0);
+    // the least element is the place that is free next; nobody needs more places than items
+    std::vector<long long> places(static_cast<std::size_t>(std::clamp(m_parallelism, 1, std::max(size(), 1))),
+                                  0);
     QHash<int, long long> queueEnds;
     long long end = 0;
     for (const CircuitFormulaItem &item : *this) {

@@ -8,12 +8,14 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
+#include <QtCore/QVarLengthArray>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -84,26 +86,32 @@ double decodedQuantity(const XmlRpcValue &value)
     return quantity;
 }
 
-double quantityOf(const QVariant &variant)
+/** False for a number that a formula cannot hold to its last digit, and for what is not finite. */
+bool isHeld(const QVariant &number)
 {
-    switch (variant.userType()) {
+    constexpr auto max = static_cast<long long>(MaxWholeNumber);
+    switch (number.userType()) {
     case QMetaType::Double:
     case QMetaType::Float:
+        return std::isfinite(number.toDouble());
     case QMetaType::Int:
-    case QMetaType::UInt:
     case QMetaType::Long:
-    case QMetaType::ULong:
     case QMetaType::LongLong:
+        return number.toLongLong() >= -max && number.toLongLong() <= max;
+    case QMetaType::UInt:
+    case QMetaType::ULong:
     case QMetaType::ULongLong:
-        break;
+        return number.toULongLong() <= static_cast<unsigned long long>(max);
     default:
         refuse("a quantity is no number");
     }
-    const double quantity = variant.toDouble();
-    const bool isWhole = variant.userType() != QMetaType::Double && variant.userType() != QMetaType::Float;
-    if (!std::isfinite(quantity) || (isWhole && std::abs(quantity) > MaxWholeNumber))
+}
+
+double quantityOf(const QVariant &variant)
+{
+    if (!isHeld(variant))
         refuse("a quantity is beyond the numbers that a formula holds");
-    return quantity;
+    return variant.toDouble();
 }
 
 // --- a formula against a machine
@@ -127,53 +135,105 @@ bool canPour(const Source &source)
     return source.canister->isEnabled() && source.circuit && source.circuit->isEnabled();
 }
 
-/** The machine's circuits by what the items of a formula call them, looked up once for all items. */
+/** The number that a name is, written as QString::number writes it; -1 for any other name. */
+int numberNamed(const QString &name)
+{
+    constexpr int MaxDigits = 9;
+    if (name.isEmpty() || name.size() > MaxDigits || (name.size() > 1 && name.at(0) == QLatin1Char('0')))
+        return -1;
+    int number = 0;
+    for (const QChar character : name) {
+        const int digit = character.unicode() - '0';
+        if (digit < 0 || digit > 9)
+            return -1;
+        number = number * 10 + digit;
+    }
+    return number;
+}
+
+/**
+ * The machine's circuits by what the items of a formula call them, looked up once for all items: sorted by a number that
+ * stands for the name, and in the machine's order where several have the same.
+ */
 class Sources
 {
 public:
+    struct Entry
+    {
+        int key = 0;
+        Source source;
+        double asked = 0; ///< by all items of this name; in the first entry of the name
+        int portion = -1; ///< the index of what is taken from it
+    };
+
     Sources(int formulaType, const FW_Dispenser &dispenser);
 
-    /** All that the name may mean, in the machine's order; none for a name that the machine does not know. */
-    const QVector<Source> &of(const QString &id) const;
+    /** The first entry of a name; null for a name that the machine does not know. */
+    Entry *first(const QString &name);
+    /** The next entry of the same name; null for none. */
+    Entry *next(Entry *entry);
 
 private:
-    void add(const QString &id, const Source &source) { m_sources[id].append(source); }
+    int keyOf(const QString &name) const { return m_isByCode ? m_keys.value(name, -1) : numberNamed(name); }
 
-    QHash<QString, QVector<Source>> m_sources;
-    QVector<Source> m_none;
+    std::vector<Entry> m_entries;
+    bool m_isByCode = false;
+    QHash<QString, int> m_keys; ///< of colorants
 };
 
-Sources::Sources(int formulaType, const FW_Dispenser &dispenser)
+bool isBefore(const Sources::Entry &left, const Sources::Entry &right)
 {
+    return left.key < right.key;
+}
+
+Sources::Sources(int formulaType, const FW_Dispenser &dispenser)
+    : m_isByCode(formulaType == Formula::ColorantCodes)
+{
+    m_entries.reserve(static_cast<std::size_t>(dispenser.canisters().size()));
+    for (int i = 0; m_isByCode && i < dispenser.colorants().size(); ++i)
+        m_keys.insert(dispenser.colorants().at(i).code(), i);
     for (const FW_Canister &canister : dispenser.canisters()) {
         switch (formulaType) {
         case Formula::CircuitPositions:
             for (const FW_Circuit &circuit : canister.circuits())
-                add(QString::number(circuit.positionId()), {&canister, &circuit});
+                m_entries.push_back({circuit.positionId(), {&canister, &circuit}});
             break;
         case Formula::CircuitIDs:
             for (const FW_Circuit &circuit : canister.circuits())
-                add(QString::number(circuit.id()), {&canister, &circuit});
+                m_entries.push_back({circuit.id(), {&canister, &circuit}});
             break;
         case Formula::CanisterIDs:
-            add(QString::number(canister.id()), {&canister, firstEnabledCircuit(canister)});
+            m_entries.push_back({canister.id(), {&canister, firstEnabledCircuit(canister)}});
             break;
         case Formula::ColorantCodes: {
-            const FW_Colorant *colorant = dispenser.getColorantByColCode(canister.colorantCode());
-            if (colorant && colorant->isEnabled())
-                add(canister.colorantCode(), {&canister, firstEnabledCircuit(canister)});
+            const int key = keyOf(canister.colorantCode());
+            if (key < 0)
+                break;
+            // a disabled one has a canister, but no way out of it
+            const bool isEnabled = dispenser.colorants().at(key).isEnabled();
+            m_entries.push_back({key, {&canister, isEnabled ? firstEnabledCircuit(canister) : nullptr}});
             break;
         }
         default:
             break;
         }
     }
+    if (!std::is_sorted(m_entries.cbegin(), m_entries.cend(), isBefore))
+        std::stable_sort(m_entries.begin(), m_entries.end(), isBefore);
 }
 
-const QVector<Source> &Sources::of(const QString &id) const
+Sources::Entry *Sources::first(const QString &name)
 {
-    const auto sources = m_sources.constFind(id);
-    return sources == m_sources.constEnd() ? m_none : *sources;
+    const int key = keyOf(name);
+    const auto entry = std::lower_bound(m_entries.begin(), m_entries.end(), Entry{key, {}}, isBefore);
+    return key >= 0 && entry != m_entries.end() && entry->key == key ? &*entry : nullptr;
+}
+
+Sources::Entry *Sources::next(Entry *entry)
+{
+    Entry *following = entry + 1;
+    const bool isSame = following != m_entries.data() + m_entries.size() && following->key == entry->key;
+    return isSame ? following : nullptr;
 }
 
 /** A pour of one circuit, all items that name it added up. */
@@ -287,13 +347,25 @@ bool weightOf(const Portion &portion, int unit, double &weight)
     return steps.ok && ok;
 }
 
-/** The colorant's canister: the first that holds enough of it, or else the first. */
-const Source *chosen(const QVector<const Source *> &sources, double quantity)
+bool holds(const Source &source, double quantity, int unit)
 {
-    const auto enough = std::find_if(sources.cbegin(), sources.cend(), [quantity](const Source *source) {
-        return source->canister->currentQuantity() >= quantity;
-    });
-    return enough == sources.cend() ? sources.value(0) : *enough;
+    double weight = 0;
+    return weightOf({source, quantity}, unit, weight) && source.canister->currentQuantity() >= weight;
+}
+
+/** Of all that the name means, the first that holds what is asked of it, or else the first; null when none can pour. */
+Sources::Entry *chosen(Sources &sources, Sources::Entry *first, int unit)
+{
+    Sources::Entry *able = nullptr;
+    for (Sources::Entry *entry = first; entry; entry = sources.next(entry)) {
+        if (!canPour(entry->source))
+            continue;
+        if (holds(entry->source, first->asked, unit))
+            return entry;
+        if (!able)
+            able = entry;
+    }
+    return able;
 }
 
 bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, QVector<Portion> &portions,
@@ -301,29 +373,30 @@ bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, QVector<P
 {
     if (!dispenser)
         return fail(error, "DE03020", QStringLiteral("Formula: expected a dispenser"));
-    const Sources sources(formula.formulaType(), *dispenser);
-    QHash<const FW_Circuit *, int> indexes;
-    portions.reserve(formula.items().size());
+    Sources sources(formula.formulaType(), *dispenser);
+    // one canister is to hold all that is asked of it, so all is added up before
+    QVarLengthArray<Sources::Entry *, 32> named;
     for (const FormulaItem &item : formula.items()) {
-        const QVector<Source> &all = sources.of(item.id);
-        if (all.isEmpty())
+        Sources::Entry *first = sources.first(item.id);
+        if (first)
+            first->asked += item.quantity;
+        named.append(first);
+    }
+    portions.reserve(formula.items().size());
+    for (int i = 0; i < formula.items().size(); ++i) {
+        const FormulaItem &item = formula.items().at(i);
+        if (!named[i])
             return fail(error, "DE03021",
                         QStringLiteral("Formula: the dispenser does not have \"%1\"").arg(item.id));
-        QVector<const Source *> able;
-        for (const Source &source : all) {
-            if (canPour(source))
-                able.append(&source);
-        }
-        const Source *source = chosen(able, item.quantity);
-        if (!source)
+        Sources::Entry *entry = chosen(sources, named[i], formula.quantityUnit());
+        if (!entry)
             return fail(error, "DE03022", QStringLiteral("Formula: \"%1\" is disabled").arg(item.id));
-        const auto known = indexes.constFind(source->circuit);
-        if (known != indexes.constEnd()) {
-            portions[*known].quantity += item.quantity;
+        if (entry->portion >= 0) {
+            portions[entry->portion].quantity += item.quantity;
             continue;
         }
-        indexes.insert(source->circuit, portions.size());
-        portions.append({*source, item.quantity, item.queueID, item.nozzleValveID});
+        entry->portion = portions.size();
+        portions.append({entry->source, item.quantity, item.queueID, item.nozzleValveID});
     }
     return true;
 }

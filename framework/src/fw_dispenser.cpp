@@ -3,8 +3,12 @@
 
 #include <algorithm>
 #include <iterator>
+#include <tuple>
+#include <utility>
 
 namespace {
+
+constexpr int lastModule = 31; // of as many bits as a mask has
 
 /** The first element that fits, in place; null for none. Works on constant and on changeable lists. */
 template <class List, class Fits>
@@ -36,6 +40,58 @@ auto hasId(int id)
     return [id](const T &object) { return object.id() == id; };
 }
 
+/** Runs \a visit for every circuit, in the canisters' order. */
+template <class Canisters, class Visit>
+void eachCircuit(Canisters &canisters, Visit visit)
+{
+    for (auto &canister : canisters) {
+        for (auto &circuit : canister.circuits())
+            visit(circuit);
+    }
+}
+
+using ReferenceOf = int (FW_DosingMotor::*)() const;
+
+/** The circuit whose dosing motor has the reference, when it is one. */
+template <class Canisters>
+auto circuitOfReference(Canisters &canisters, ReferenceOf referenceOf, int reference)
+{
+    return foundCircuit(canisters, [=](const FW_Circuit &circuit) {
+        return reference > 0 && (circuit.dosingMotor().*referenceOf)() == reference;
+    });
+}
+
+/** Runs \a change for every dosing motor with the reference; false when there is none. */
+template <class Change>
+bool changeMotors(QList<FW_Canister> &canisters, ReferenceOf referenceOf, int reference, Change change)
+{
+    // only then is what copies share taken apart
+    if (!circuitOfReference(qAsConst(canisters), referenceOf, reference))
+        return false;
+    eachCircuit(canisters, [&](FW_Circuit &circuit) {
+        if ((circuit.dosingMotor().*referenceOf)() == reference)
+            change(circuit.changeableDosingMotor());
+    });
+    return true;
+}
+
+int lowestFreeCircuitID(const FW_Dispenser &dispenser)
+{
+    int id = 1;
+    while (dispenser.hasCircuitID(id))
+        ++id;
+    return id;
+}
+
+bool isSameMachine(const FW_Machine &left, const FW_Machine &right)
+{
+    const auto fields = [](const FW_Machine &m) {
+        return std::make_tuple(m.id(), m.model(), m.modelName(), m.SID(), m.description(), m.productCode(),
+                               m.serialNumber(), m.connectionName(), m.confStructureName());
+    };
+    return fields(left) == fields(right);
+}
+
 bool isOfLine(const QString &modelName, QLatin1String line)
 {
     return modelName.startsWith(line, Qt::CaseInsensitive);
@@ -60,6 +116,105 @@ bool FW_Dispenser::hasGravimetricSwDosingMotors() const
            }) != nullptr;
 }
 
+int FW_Dispenser::getFirmwareConfModulesID() const
+{
+    unsigned int mask = 0;
+    for (const int module : m_modulesID) {
+        if (module >= 1 && module <= lastModule)
+            mask |= 1U << (module - 1);
+    }
+    return static_cast<int>(mask);
+}
+
+void FW_Dispenser::setFirmwareConfModulesID(int mask)
+{
+    m_modulesID.clear();
+    for (int module = 1; module <= lastModule; ++module) {
+        if (static_cast<unsigned int>(mask) & (1U << (module - 1)))
+            m_modulesID.append(module);
+    }
+}
+
+bool FW_Dispenser::canConfigureRCSProcess() const
+{
+    return foundCircuit(m_canisters, [](const FW_Circuit &circuit) {
+               return circuit.firstRecirculationMotor() || circuit.firstCleaningMotor() ||
+                      circuit.firstStirringMotor();
+           }) != nullptr;
+}
+
+bool FW_Dispenser::getReserveSensorTypeAndPolicyMask(int &type, int &policy) const
+{
+    if (m_reserveSensor)
+        std::tie(type, policy) = *m_reserveSensor;
+    return m_reserveSensor.has_value();
+}
+
+void FW_Dispenser::setReserveSensorTypeAndPolicyMask(int type, int policy, bool onlyFirst)
+{
+    if (!onlyFirst || !m_reserveSensor)
+        m_reserveSensor = {type, policy};
+}
+
+int FW_Dispenser::getCLS_MasterPositionID(int canisterID) const
+{
+    const FW_Canister *canister = getCanisterById(canisterID);
+    const QList<int> positions = canister ? canister->getCircuitPositions(false) : QList<int>();
+    return positions.isEmpty() ? 0 : *std::min_element(positions.cbegin(), positions.cend());
+}
+
+void FW_Dispenser::setINVTypeFromValve(int valveType)
+{
+    if (valveType == 3)
+        m_INVType = 1;
+    else if (valveType == 5)
+        m_INVType = 2;
+}
+
+bool FW_Dispenser::operator==(const FW_Dispenser &other) const
+{
+    const auto fields = [](const FW_Dispenser &d) {
+        return std::tie(d.m_commandFamily, d.m_headArrangement, d.m_tintingParallelism,
+                        d.m_recirculatingParallelism, d.m_stirringParallelism, d.m_nozzleBasedDosing,
+                        d.m_initialWorkingMode, d.m_powerSupply, d.m_connectivity, d.m_powerOffDelay,
+                        d.m_postTintingTime, d.m_modulesID, d.m_ledManagement, d.m_timedProcessesStartupMask,
+                        d.m_RCSProcessPause, d.m_RCSProcessesFwMask, d.m_reserveSensor, d.m_INVType,
+                        d.m_globalStirring, d.m_canisters, d.m_colorants);
+    };
+    const auto areSame = [](const auto &left, const auto &right) {
+        return left.first == right.first && *left.second == *right.second;
+    };
+    return isSameMachine(*this, other) && fields(*this) == fields(other) &&
+           std::equal(m_devices.cbegin(), m_devices.cend(), other.m_devices.cbegin(), other.m_devices.cend(),
+                      areSame);
+}
+
+bool FW_Dispenser::addCanister(const FW_Canister &canister, int index, bool replace)
+{
+    if (hasCanisterID(canister.id())) {
+        if (replace)
+            *getCanisterById(canister.id()) = canister;
+        return replace;
+    }
+    const bool atEnd = index < 0 || index > m_canisters.size();
+    m_canisters.insert(atEnd ? m_canisters.size() : index, canister);
+    return true;
+}
+
+FW_Circuit *FW_Dispenser::addNewCircuit(int canisterID, int position, int circuitID)
+{
+    const int id = circuitID == 0 ? lowestFreeCircuitID(*this) : circuitID;
+    if (!hasCanisterID(canisterID) || position < 1 || hasCircuitPosition(position, false) || hasCircuitID(id))
+        return nullptr;
+    getCanisterById(canisterID)->addCircuit(FW_Circuit(id, position));
+    return getCircuitById(id);
+}
+
+FW_Circuit *FW_Dispenser::addNewCircuit(const FW_Canister &canister, int position, int circuitID)
+{
+    return addNewCircuit(canister.id(), position, circuitID);
+}
+
 const FW_Canister *FW_Dispenser::getCanisterById(int id) const
 {
     return found(m_canisters, hasId<FW_Canister>(id));
@@ -80,10 +235,7 @@ const FW_Canister *FW_Dispenser::getCanisterOfCircuitID(int circuitID) const
 QVector<const FW_Circuit *> FW_Dispenser::getCircuits() const
 {
     QVector<const FW_Circuit *> circuits;
-    for (const FW_Canister &canister : m_canisters) {
-        for (const FW_Circuit &circuit : canister.circuits())
-            circuits.append(&circuit);
-    }
+    eachCircuit(m_canisters, [&](const FW_Circuit &circuit) { circuits.append(&circuit); });
     return circuits;
 }
 
@@ -99,6 +251,12 @@ QVector<const FW_Circuit *> FW_Dispenser::getEnabledCircuits() const
 const FW_Circuit *FW_Dispenser::getCircuitById(int id) const
 {
     return foundCircuit(m_canisters, hasId<FW_Circuit>(id));
+}
+
+FW_Circuit *FW_Dispenser::getCircuitById(int id)
+{
+    // only then is what copies share taken apart
+    return hasCircuitID(id) ? foundCircuit(m_canisters, hasId<FW_Circuit>(id)) : nullptr;
 }
 
 const FW_Circuit *FW_Dispenser::getCircuitByPosition(int position) const
@@ -133,6 +291,146 @@ bool FW_Dispenser::hasCircuitPositions(const QList<int> &positions, bool onlyEna
                        [&](int position) { return hasCircuitPosition(position, onlyEnabled); });
 }
 
+QVector<const FW_StirringMotor *> FW_Dispenser::stirringMotors() const
+{
+    QVector<const FW_StirringMotor *> motors;
+    eachCircuit(m_canisters, [&](const FW_Circuit &circuit) {
+        for (const FW_StirringMotor &motor : circuit.stirringMotors())
+            motors.append(&motor);
+    });
+    return motors;
+}
+
+const FW_StirringMotor *FW_Dispenser::firstStirringMotor() const
+{
+    const FW_Circuit *circuit =
+        foundCircuit(m_canisters, [](const FW_Circuit &c) { return c.firstStirringMotor() != nullptr; });
+    return circuit ? circuit->firstStirringMotor() : nullptr;
+}
+
+void FW_Dispenser::setStirringMotor(const FW_StirringMotor &motor)
+{
+    eachCircuit(m_canisters, [&](FW_Circuit &circuit) { circuit.setStirringMotor(motor); });
+}
+
+QVector<const FW_CleaningMotor *> FW_Dispenser::cleaningMotors() const
+{
+    QVector<const FW_CleaningMotor *> motors;
+    eachCircuit(m_canisters, [&](const FW_Circuit &circuit) {
+        for (const FW_CleaningMotor &motor : circuit.cleaningMotors())
+            motors.append(&motor);
+    });
+    return motors;
+}
+
+QVector<FW_CleaningMotor *> FW_Dispenser::changeableCleaningMotors()
+{
+    QVector<FW_CleaningMotor *> motors;
+    eachCircuit(m_canisters, [&](FW_Circuit &circuit) {
+        for (FW_CleaningMotor &motor : circuit.changeableCleaningMotors())
+            motors.append(&motor);
+    });
+    return motors;
+}
+
+const FW_CleaningMotor *FW_Dispenser::firstCleaningMotor() const
+{
+    const FW_Circuit *circuit =
+        foundCircuit(m_canisters, [](const FW_Circuit &c) { return c.firstCleaningMotor() != nullptr; });
+    return circuit ? circuit->firstCleaningMotor() : nullptr;
+}
+
+void FW_Dispenser::setCleaningMotor(const FW_CleaningMotor &motor)
+{
+    eachCircuit(m_canisters, [&](FW_Circuit &circuit) { circuit.setCleaningMotor(motor); });
+}
+
+void FW_Dispenser::removeAllCleaningMotors()
+{
+    eachCircuit(m_canisters, [](FW_Circuit &circuit) { circuit.removeCleaningMotors(); });
+}
+
+int FW_Dispenser::getRampConfigRefByCircuitID(int circuitID) const
+{
+    const FW_Circuit *circuit = getCircuitById(circuitID);
+    return circuit ? circuit->dosingMotor().rampConfigRef() : 0;
+}
+
+const FW_Ramp *FW_Dispenser::getRampByConfigRef(int reference) const
+{
+    const FW_Circuit *circuit = circuitOfReference(m_canisters, &FW_DosingMotor::rampConfigRef, reference);
+    return circuit ? circuit->dosingMotor().ramp() : nullptr;
+}
+
+bool FW_Dispenser::updateRampData(int reference, const FW_Ramp &ramp)
+{
+    FW_Ramp updated = ramp;
+    updated.setConfigRef(reference);
+    return changeMotors(m_canisters, &FW_DosingMotor::rampConfigRef, reference,
+                        [&](FW_DosingMotor &motor) { motor.setRamp(updated); });
+}
+
+int FW_Dispenser::getSingleTransmissionConfigRefByCircuitID(int circuitID) const
+{
+    const FW_Circuit *circuit = getCircuitById(circuitID);
+    return circuit ? circuit->dosingMotor().singleTransmissionConfigRef() : 0;
+}
+
+const FW_SingleTransmission *FW_Dispenser::getSingleTransmissionByConfigRef(int reference) const
+{
+    const FW_Circuit *circuit =
+        circuitOfReference(m_canisters, &FW_DosingMotor::singleTransmissionConfigRef, reference);
+    return circuit ? circuit->dosingMotor().singleTransmission() : nullptr;
+}
+
+bool FW_Dispenser::updateSingleTransmissionData(int reference, const FW_SingleTransmission &transmission)
+{
+    FW_SingleTransmission updated = transmission;
+    updated.configRef = reference;
+    return changeMotors(m_canisters, &FW_DosingMotor::singleTransmissionConfigRef, reference,
+                        [&](FW_DosingMotor &motor) { motor.setSingleTransmission(updated); });
+}
+
+QVector<const FW_DosingMotor *>
+FW_Dispenser::getDosingMotorsBySingleTransmissionConfigRef(int reference) const
+{
+    QVector<const FW_DosingMotor *> motors;
+    eachCircuit(m_canisters, [&](const FW_Circuit &circuit) {
+        if (reference > 0 && circuit.dosingMotor().singleTransmissionConfigRef() == reference)
+            motors.append(&circuit.dosingMotor());
+    });
+    return motors;
+}
+
+QVector<FW_DosingMotor *> FW_Dispenser::getDosingMotorsBySingleTransmissionConfigRef(int reference)
+{
+    QVector<FW_DosingMotor *> motors;
+    changeMotors(m_canisters, &FW_DosingMotor::singleTransmissionConfigRef, reference,
+                 [&](FW_DosingMotor &motor) { motors.append(&motor); });
+    return motors;
+}
+
+int FW_Dispenser::getFlowCorrectionConfigRefByCircuitID(int circuitID) const
+{
+    const FW_Circuit *circuit = getCircuitById(circuitID);
+    return circuit ? circuit->dosingMotor().flowCorrectionConfigRef() : 0;
+}
+
+const FW_FlowCorrection *FW_Dispenser::getFlowCorrectionByConfigRef(int reference) const
+{
+    const FW_Circuit *circuit =
+        circuitOfReference(m_canisters, &FW_DosingMotor::flowCorrectionConfigRef, reference);
+    return circuit ? circuit->dosingMotor().flowCorrection() : nullptr;
+}
+
+bool FW_Dispenser::updateFlowCorrectionData(int reference, const FW_FlowCorrection &correction)
+{
+    FW_FlowCorrection updated = correction;
+    updated.configRef = reference;
+    return changeMotors(m_canisters, &FW_DosingMotor::flowCorrectionConfigRef, reference,
+                        [&](FW_DosingMotor &motor) { motor.setFlowCorrection(updated); });
+}
+
 const FW_Colorant *FW_Dispenser::getColorantByColCode(const QString &code) const
 {
     return found(m_colorants, [&](const FW_Colorant &colorant) { return colorant.code() == code; });
@@ -142,6 +440,25 @@ const FW_Device *FW_Dispenser::getDevice(int kind) const
 {
     const auto device = m_devices.find(kind);
     return device == m_devices.end() ? nullptr : device->second.get();
+}
+
+FW_Device *FW_Dispenser::getDevice(int kind)
+{
+    const auto device = m_devices.find(kind);
+    if (device == m_devices.end())
+        return nullptr;
+    if (device->second.use_count() > 1) // a copy of the machine has it as well
+        device->second.reset(device->second->clone());
+    return device->second.get();
+}
+
+bool FW_Dispenser::createDevice(int kind)
+{
+    std::unique_ptr<FW_Device> device = hasDevice(kind) ? nullptr : FW_Device::create(kind);
+    const bool created = device != nullptr;
+    if (created)
+        m_devices[kind] = std::move(device);
+    return created;
 }
 
 void FW_Dispenser::setDevice(const FW_Device &device)

@@ -410,6 +410,8 @@ XmlRpcValue EncodeXmlRpcVariant(const QVariant &variant)
     }
     if (variant.userType() == qMetaTypeId<QList<int>>())
         return arrayOf(variant.value<QList<int>>(), [](int number) { return XmlRpcValue(number); });
+    if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantMap>())
+        return structOf(variant.value<QVariantMap>());
     return XmlRpcValue(0);
 }
 

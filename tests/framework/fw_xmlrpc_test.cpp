@@ -17,6 +17,19 @@ using values::stored;
 using values::structOf;
 using values::XmlRpcValue;
 
+struct Travelling
+{
+    int number = 0;
+};
+Q_DECLARE_METATYPE(Travelling)
+
+/** Registered, but without a way to a struct. */
+struct Foreign
+{
+    int number = 0;
+};
+Q_DECLARE_METATYPE(Foreign)
+
 namespace {
 
 constexpr int leastInt = std::numeric_limits<int>::min();
@@ -734,6 +747,18 @@ TEST(EncodeXmlRpcVariant, writesDateAndTimeInLocalTime)
         EXPECT_EQ(broken.tm_sec, 0);
         EXPECT_EQ(DecodeXmlRpcVariant(EncodeXmlRpcVariant(time)).toDateTime(), noon);
     }
+}
+
+TEST(EncodeXmlRpcVariant, writesTypesThatConvertToMembersAsTheirStruct)
+{
+    QMetaType::registerConverter<Travelling, QVariantMap>([](const Travelling &object) {
+        return QVariantMap{{"number", object.number}, {"list", QVariantList{0.5, "a"}}};
+    });
+    const QVariant variant = QVariant::fromValue(Travelling{7});
+    const XmlRpcValue expected = structOf({{"number", 7}, {"list", arrayOf({0.5, "a"})}});
+    EXPECT_TRUE(same(EncodeXmlRpcVariant(variant), expected));
+    EXPECT_TRUE(same(EncodeXmlRpcVariant(QVariantList{1, variant}), arrayOf({1, expected})));
+    EXPECT_TRUE(same(EncodeXmlRpcVariant(QVariant::fromValue(Foreign{7})), 0));
 }
 
 TEST(EncodeXmlRpcVariant, writesZeroForWhatXmlRpcCannotHold)

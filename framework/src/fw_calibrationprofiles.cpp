@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include <QuvFramework/fw_calibrationprofiles.h>
+
+const FW_DosingMotor *FW_CalibrationProfiles::getPumpByID(int motorID) const
+{
+    for (const FW_DosingMotor &pump : m_pumps) {
+        if (motorID != 0 && pump.motorID() == motorID)
+            return &pump;
+    }
+    return nullptr;
+}
+
+const FW_DosingMotor *FW_CalibrationProfiles::getDefaultPumpByType(int pumpType, int pumpValue,
+                                                                   int index) const
+{
+    for (const FW_DosingMotor &pump : m_pumps) {
+        if (pump.pumpType() == pumpType && pump.pumpValue() == pumpValue && index-- == 0)
+            return &pump;
+    }
+    return nullptr;
+}

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "pouring.h"
+
+#include <QuvFramework/fw_autocap.h>
+#include <QuvFramework/fw_turntable.h>
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+namespace {
+
+using pouring::dispenser;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+QList<int> ids(const QVector<const FW_Circuit *> &circuits)
+{
+    QList<int> ids;
+    for (const FW_Circuit *circuit : circuits)
+        ids.append(circuit->id());
+    return ids;
+}
+
+TEST(FW_Dispenser, findsCanisters)
+{
+    const FW_Dispenser machine = dispenser();
+    ASSERT_NE(machine.getCanisterById(2), nullptr);
+    EXPECT_EQ(machine.getCanisterById(2)->currentQuantity(), 800);
+    EXPECT_EQ(machine.getCanisterById(8), nullptr);
+    EXPECT_TRUE(machine.hasCanisterID(7));
+    EXPECT_FALSE(machine.hasCanisterID(0));
+    ASSERT_NE(machine.getCanisterOfCircuitID(32), nullptr);
+    EXPECT_EQ(machine.getCanisterOfCircuitID(32)->id(), 3);
+    EXPECT_EQ(machine.getCanisterOfCircuitID(5), nullptr); // a position, no circuit
+    EXPECT_EQ(FW_Dispenser().getCanisterById(1), nullptr);
+}
+
+TEST(FW_Dispenser, findsCircuitsByIdAndByPosition)
+{
+    const FW_Dispenser machine = dispenser();
+    EXPECT_THAT(ids(machine.getCircuits()), ElementsAre(11, 12, 21, 31, 32, 41, 51, 71));
+    EXPECT_THAT(ids(machine.getEnabledCircuits()), ElementsAre(11, 12, 21, 32, 41, 51, 71));
+    ASSERT_NE(machine.getCircuitById(32), nullptr);
+    EXPECT_EQ(machine.getCircuitById(32)->positionId(), 5);
+    EXPECT_TRUE(machine.hasCircuitID(31));
+    EXPECT_FALSE(machine.hasCircuitID(5));
+    ASSERT_NE(machine.getCircuitByPosition(5), nullptr);
+    EXPECT_EQ(machine.getCircuitByPosition(5)->id(), 32);
+    EXPECT_EQ(machine.getCircuitByPosition(32), nullptr);
+}
+
+TEST(FW_Dispenser, positionsAscend)
+{
+    FW_Dispenser machine;
+    FW_Circuit disabled = pouring::circuit(1, 9, 0);
+    disabled.setEnabled(false);
+    machine.addCanister(pouring::canister(1, "", 0, {pouring::circuit(3, 12, 0), disabled}));
+    machine.addCanister(pouring::canister(2, "", 0, {pouring::circuit(2, 4, 0)}));
+    EXPECT_THAT(machine.getPositionsIDList(false), ElementsAre(4, 9, 12));
+    EXPECT_THAT(machine.getPositionsIDList(true), ElementsAre(4, 12));
+    EXPECT_THAT(FW_Dispenser().getPositionsIDList(false), IsEmpty());
+}
+
+TEST(FW_Dispenser, asksForPositions)
+{
+    const FW_Dispenser machine = dispenser();
+    EXPECT_TRUE(machine.hasCircuitPosition(4, false));
+    EXPECT_FALSE(machine.hasCircuitPosition(4, true)); // disabled
+    EXPECT_FALSE(machine.hasCircuitPosition(9, false));
+    EXPECT_TRUE(machine.hasCircuitPositions({1, 4}, false));
+    EXPECT_FALSE(machine.hasCircuitPositions({1, 4}, true));
+    EXPECT_FALSE(machine.hasCircuitPositions({1, 9}, false));
+    EXPECT_TRUE(machine.hasCircuitPositions({}, true));
+}
+
+TEST(FW_Dispenser, findsColorantsByTheirWholeCode)
+{
+    const FW_Dispenser machine = dispenser();
+    EXPECT_EQ(machine.colorants().size(), 6);
+    ASSERT_NE(machine.getColorantByColCode("KX"), nullptr);
+    EXPECT_EQ(machine.getColorantByColCode("KX")->code(), "KX");
+    EXPECT_FALSE(machine.hasColorantCode("kx"));
+    EXPECT_FALSE(machine.hasColorantCode("K"));
+    EXPECT_FALSE(machine.hasColorantCode(""));
+}
+
+TEST(FW_Dispenser, whatChangesInPlaceStaysInTheMachine)
+{
+    FW_Dispenser machine = dispenser();
+    const FW_Dispenser copy = machine;
+    const std::unique_ptr<FW_Dispenser> clone(machine.clone());
+    machine.getCanisterById(1)->setCurrentQuantity(7);
+    machine.getCircuitByPosition(5)->setQueueID(9);
+    EXPECT_EQ(machine.getCircuitByPosition(99), nullptr);
+    EXPECT_EQ(machine.getCanisterById(99), nullptr);
+
+    const FW_Dispenser &changed = machine;
+    EXPECT_EQ(changed.getCanisterById(1)->currentQuantity(), 7);
+    EXPECT_EQ(changed.getCircuitById(32)->queueID(), 9);
+    for (const FW_Dispenser *untouched : {&copy, const_cast<const FW_Dispenser *>(clone.get())}) {
+        EXPECT_EQ(untouched->getCanisterById(1)->currentQuantity(), 500);
+        EXPECT_EQ(untouched->getCircuitById(32)->queueID(), 0);
+    }
+}
+
+TEST(FW_Dispenser, knowsAScaleDosedCircuit)
+{
+    FW_Dispenser machine = dispenser();
+    EXPECT_FALSE(machine.hasGravimetricSwDosingMotors());
+    FW_DosingMotor motor;
+    motor.setGravimetricSw(true);
+    machine.getCircuitByPosition(8)->setDosingMotor(motor);
+    EXPECT_TRUE(machine.hasGravimetricSwDosingMotors());
+}
+
+TEST(FW_Dispenser, poursOneCircuitAtATimeUnlessToldOtherwise)
+{
+    EXPECT_EQ(FW_Dispenser().tintingParallelism(), 1);
+    EXPECT_FALSE(FW_Dispenser().hasNozzleBasedDosing());
+    EXPECT_EQ(dispenser().tintingParallelism(), 3);
+}
+
+TEST(FW_Dispenser, hasOneDeviceOfAKind)
+{
+    FW_Dispenser machine;
+    EXPECT_FALSE(machine.hasDevice(FW_Device::Turntable));
+    EXPECT_EQ(machine.getDevice(FW_Device::Turntable), nullptr);
+    FW_Turntable table;
+    table.setRefillAngle(90);
+    machine.setDevice(table);
+    const FW_Dispenser copy = machine;
+    table.setRefillAngle(180); // the machine has a copy
+    EXPECT_EQ(dynamic_cast<const FW_Turntable &>(*machine.getDevice(10)).refillAngle(), 90);
+    machine.setDevice(table);
+    EXPECT_EQ(dynamic_cast<const FW_Turntable &>(*machine.getDevice(10)).refillAngle(), 180);
+    EXPECT_EQ(dynamic_cast<const FW_Turntable &>(*copy.getDevice(10)).refillAngle(), 90);
+    EXPECT_FALSE(machine.hasDevice(FW_Device::Autocap));
+}
+
+TEST(FW_Dispenser, movesEnabledDevicesByCommand)
+{
+    FW_Dispenser machine;
+    EXPECT_FALSE(machine.acceptCommands(0));
+    FW_Autocap autocap;
+    machine.setDevice(autocap);
+    EXPECT_TRUE(machine.acceptCommands(0));
+    autocap.setEnabled(false);
+    machine.setDevice(autocap);
+    EXPECT_FALSE(machine.acceptCommands(0));
+    EXPECT_TRUE(machine.hasDevice(0));
+    EXPECT_FALSE(machine.acceptCommands(1));
+}
+
+TEST(FW_Colorant, anyChangeMakesItAnother)
+{
+    const FW_Colorant original("B", "Black");
+    FW_Colorant changed = original;
+    EXPECT_TRUE(changed == original);
+    changed.setEnabled(false);
+    EXPECT_TRUE(changed != original);
+    EXPECT_TRUE(FW_Colorant("C", "Black") != original);
+    EXPECT_TRUE(FW_Colorant("B") != original);
+}
+
+} // namespace
