@@ -10,6 +10,12 @@
 #include <ctime>
 #include <limits>
 
+struct Travelling
+{
+    int number = 0;
+};
+Q_DECLARE_METATYPE(Travelling)
+
 namespace {
 
 using namespace quv;
@@ -257,6 +263,16 @@ TEST(JsonValue, VariantsAreWrittenByTheirTypes)
                                QVariant()};
     EXPECT_EQ(jsonOf(QVariant(list)),
               R"([1,2.0,true,"x",{"$base64":"AQ=="},4294967301,["p","q"],{"k":5},null])");
+}
+
+TEST(JsonValue, TypesThatConvertToMembersAreWrittenAsObjects)
+{
+    QMetaType::registerConverter<Travelling, QVariantMap>([](const Travelling &object) {
+        return QVariantMap{{QStringLiteral("number"), object.number}, {QStringLiteral("share"), 0.5}};
+    });
+    const QVariant variant = QVariant::fromValue(Travelling{7});
+    EXPECT_EQ(jsonOf(variant), R"({"number":7,"share":0.5})");
+    EXPECT_EQ(jsonOf(QVariant(QVariantList{variant, 1})), R"([{"number":7,"share":0.5},1])");
 }
 
 TEST(JsonValue, AnEmptyValueIsNull)

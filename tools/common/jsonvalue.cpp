@@ -383,6 +383,8 @@ OrderedJson toJson(const QVariant &variant)
     default:
         break;
     }
+    if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantMap>())
+        return mapJson(variant.value<QVariantMap>());
     if (variant.canConvert<QString>())
         return toJson(variant.toString());
     return nullptr;

@@ -1,122 +1,140 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "machines.h"
 
+#include "machinefile.h"
+
+#include <QuvFramework/fw_autocap.h>
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
+#include <QuvFramework/fw_turntable.h>
 
 #include <QtCore/QFile>
 
-#include <nlohmann/json.hpp>
-
-#include <limits>
-#include <set>
+#include <array>
 #include <stdexcept>
 
 namespace quv {
 namespace {
 
-using Json = nlohmann::json;
-
-constexpr qint64 MaxFileSize = 64 * 1024;
-
-[[noreturn]] void refuse(const QString &text)
+struct ColorantText
 {
-    throw std::runtime_error(text.toStdString());
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        refuse(QStringLiteral("no machine of this name, and no file that can be read: %1")
-                   .arg(file.errorString()));
-    QByteArray content = file.read(MaxFileSize + 1);
-    if (content.size() > MaxFileSize)
-        refuse(QStringLiteral("the file is larger than %1 bytes").arg(MaxFileSize));
-    return content;
-}
-
-/// The members of the file's object, each taken once; what nobody took is refused at the end.
-class Members
-{
-public:
-    explicit Members(const QByteArray &content);
-
-    bool has(const char *key) const { return m_object.contains(key); }
-    QString text(const char *key);
-    int integer(const char *key, int min, int max);
-    void refuseOthers() const;
-
-private:
-    const Json &take(const char *key);
-
-    Json m_object{};
-    std::set<std::string> m_taken{};
+    const char *code;
+    const char *name;
 };
 
-Members::Members(const QByteArray &content)
+constexpr std::array<ColorantText, 16> colorants = {{{"AXX", "Lemon yellow"},
+                                                     {"B", "Black"},
+                                                     {"C", "Yellow oxide"},
+                                                     {"D", "Phthalo green"},
+                                                     {"E", "Phthalo blue"},
+                                                     {"F", "Red oxide"},
+                                                     {"I", "Brown oxide"},
+                                                     {"KX", "White"},
+                                                     {"L", "Raw umber"},
+                                                     {"R", "Organic red"},
+                                                     {"S", "Orange"},
+                                                     {"T", "Medium yellow"},
+                                                     {"V", "Magenta"},
+                                                     {"WX", "Strong white"},
+                                                     {"YA", "Violet"},
+                                                     {"YB", "Ultramarine"}}};
+
+/// One point of every circuit's calibration: what a pour of this quantity takes beyond the circuit's steps per gram.
+struct PourLoss
 {
-    std::set<std::string> keys;
-    // The parser itself would let the last member of a name win.
-    const auto refuseTwice = [&keys](int depth, Json::parse_event_t event, const Json &value) {
-        if (depth == 1 && event == Json::parse_event_t::key && !keys.insert(value.get<std::string>()).second)
-            refuse(QStringLiteral("the member \"%1\" stands twice")
-                       .arg(QString::fromStdString(value.get<std::string>())));
-        return true;
-    };
-    try {
-        m_object = Json::parse(content.cbegin(), content.cend(), refuseTwice);
-    } catch (const Json::exception &error) {
-        refuse(QStringLiteral("no JSON: %1").arg(QString::fromStdString(error.what())));
-    }
-    if (!m_object.is_object())
-        refuse(QStringLiteral("the file holds no JSON object"));
+    double quantity;
+    int steps;
+    int speed;
+};
+
+constexpr PourLoss pourLosses[] = {{0.5, 10, 40}, {2, 20, 45}, {10, 40, 50}, {50, 80, 55}, {500, 160, 60}};
+
+FW_Calibration calibrationOf(int circuitId)
+{
+    const int stepsPerGram = 100 + 2 * circuitId;
+    QVector<FW_CalibrationPoint> points;
+    for (const auto &[quantity, lostSteps, speed] : pourLosses)
+        points.append({static_cast<long long>(quantity * stepsPerGram) + lostSteps, quantity, speed, 0});
+    return FW_Calibration(points);
 }
 
-const Json &Members::take(const char *key)
+FW_Circuit circuitOf(int id)
 {
-    m_taken.insert(key);
-    return m_object[key];
+    FW_DosingMotor motor;
+    motor.setMotorId(id);
+    motor.setMaxSpeed(60);
+    motor.setStepsPerStroke(6000);
+    FW_Valve valve(id);
+    valve.setBoardID(id);
+
+    FW_Circuit circuit(id, id);
+    circuit.setDosingMotor(motor);
+    circuit.setValves({valve});
+    circuit.setCalibration(calibrationOf(id));
+    return circuit;
 }
 
-QString Members::text(const char *key)
+/// The canister with one circuit of the same number and the colorant of that place in the list.
+void addCanister(FW_Dispenser &dispenser, const FW_Circuit &circuit)
 {
-    const Json &value = take(key);
-    if (!value.is_string())
-        refuse(QStringLiteral("the member \"%1\" must be a text").arg(QLatin1String(key)));
-    return QString::fromStdString(value.get<std::string>());
+    const auto &[code, name] = colorants.at(static_cast<std::size_t>(circuit.id() - 1));
+    dispenser.addColorant(FW_Colorant(QString::fromLatin1(code), QString::fromLatin1(name)));
+    FW_Canister canister(circuit.id());
+    canister.setColorantCode(QString::fromLatin1(code));
+    canister.setMaximumQuantity(3000);
+    canister.setCurrentQuantity(2000);
+    canister.setReserveQuantity(150);
+    canister.setWarningQuantity(300);
+    canister.addCircuit(circuit);
+    dispenser.addCanister(canister);
 }
 
-int Members::integer(const char *key, int min, int max)
+std::unique_ptr<FW_Dispenser> dispenserOf(int id, const char *modelName, const char *serialNumber)
 {
-    const Json &value = take(key);
-    // A number beyond 63 bits is unsigned to the parser, and out of every range here.
-    const bool isSmall = value.is_number_integer() &&
-                         (!value.is_number_unsigned() ||
-                          value.get<std::uint64_t>() <= std::uint64_t(std::numeric_limits<int>::max()));
-    if (!isSmall || value.get<std::int64_t>() < min || value.get<std::int64_t>() > max)
-        refuse(QStringLiteral("the member \"%1\" must be an integer from %2 to %3")
-                   .arg(QLatin1String(key))
-                   .arg(min)
-                   .arg(max));
-    return value.get<int>();
-}
-
-void Members::refuseOthers() const
-{
-    for (const auto &member : m_object.items()) {
-        if (m_taken.count(member.key()) == 0)
-            refuse(QStringLiteral("unknown member \"%1\"").arg(QString::fromStdString(member.key())));
-    }
+    auto dispenser = std::make_unique<FW_Dispenser>();
+    dispenser->setId(id);
+    dispenser->setModel(MachineModel::GenericDispenser);
+    dispenser->setModelName(QString::fromLatin1(modelName));
+    dispenser->setSerialNumber(QString::fromLatin1(serialNumber));
+    return dispenser;
 }
 
 std::unique_ptr<FW_Machine> builtInDispenser()
 {
-    auto dispenser = std::make_unique<FW_Dispenser>();
-    dispenser->setId(1);
-    dispenser->setModel(MachineModel::GenericDispenser);
-    dispenser->setModelName(QStringLiteral("Generic dispenser"));
-    dispenser->setSerialNumber(QStringLiteral("SIM-D-0001"));
+    auto dispenser = dispenserOf(1, "Generic dispenser", "SIM-D-0001");
+    dispenser->setTintingParallelism(4);
+    dispenser->setDevice(FW_Autocap());
+    for (int id = 1; id <= 16; ++id) {
+        FW_Circuit circuit = circuitOf(id);
+        circuit.setQueueID((id - 1) / 4 + 1); // groups of four
+        addCanister(*dispenser, circuit);
+    }
+    return dispenser;
+}
+
+std::unique_ptr<FW_Machine> builtInTurntable()
+{
+    auto dispenser = dispenserOf(3, "Generic turntable", "SIM-T-0001");
+    FW_Turntable table;
+    table.setRefillAngle(90);
+    for (int id = 1; id <= 8; ++id)
+        addCanister(*dispenser, circuitOf(id));
+    table.setPositions(dispenser->getPositionsIDList(false));
+    dispenser->setDevice(table);
+    return dispenser;
+}
+
+std::unique_ptr<FW_Machine> builtInDual()
+{
+    auto dispenser = dispenserOf(4, "Generic dual dispenser", "SIM-D-0002");
+    dispenser->setHeadArrangement(FW_Dispenser::HeadArrangement::Dual);
+    dispenser->setTintingParallelism(2);
+    for (int id = 1; id <= 16; ++id) {
+        FW_Circuit circuit = circuitOf(id);
+        circuit.setHeadId(id <= 8 ? 1 : 2);
+        circuit.setQueueID(circuit.headId()); // each head pours one after the other
+        addCanister(*dispenser, circuit);
+    }
     return dispenser;
 }
 
@@ -130,62 +148,27 @@ std::unique_ptr<FW_Machine> builtInMixer()
     return mixer;
 }
 
-void readShared(Members &members, FW_Machine &machine)
+struct BuiltIn
 {
-    constexpr int Max = std::numeric_limits<int>::max();
-    if (members.has("id"))
-        machine.setId(members.integer("id", 0, Max));
-    if (members.has("model")) {
-        machine.setModel(static_cast<MachineModel>(members.integer("model", 0, Max)));
-        if (FW_Machine::getMachineType(machine.model()) != static_cast<int>(machine.machineType()))
-            refuse(QStringLiteral("the member \"model\" is of the other kind of machine than \"type\""));
-    }
-    if (members.has("model_name"))
-        machine.setModelName(members.text("model_name"));
-    if (members.has("sid"))
-        machine.setSID(members.text("sid"));
-    if (members.has("description"))
-        machine.setDescription(members.text("description"));
-    if (members.has("product_code"))
-        machine.setProductCode(members.text("product_code"));
-    if (members.has("serial_number")) {
-        machine.setSerialNumber(members.text("serial_number"));
-        if (!FW_Machine::checkSerialNumber(machine.serialNumber()))
-            refuse(QStringLiteral("the member \"serial_number\" is no serial number"));
-    }
-}
+    const char *name;
+    std::unique_ptr<FW_Machine> (*make)();
+};
 
-std::unique_ptr<FW_Machine> readDispenser(Members &members)
-{
-    auto dispenser = std::make_unique<FW_Dispenser>();
-    readShared(members, *dispenser);
-    if (members.has("heads"))
-        dispenser->setHeadArrangement(
-            static_cast<FW_Dispenser::HeadArrangement>(members.integer("heads", 1, 2)));
-    if (members.has("command_family"))
-        dispenser->setCommandFamily(
-            static_cast<FW_Dispenser::CommandFamily>(members.integer("command_family", 1, 2)));
-    return dispenser;
-}
+constexpr BuiltIn builtIns[] = {{"dispenser", builtInDispenser},
+                                {"turntable", builtInTurntable},
+                                {"dual", builtInDual},
+                                {"mixer", builtInMixer}};
 
-std::unique_ptr<FW_Machine> readMixer(Members &members)
+QByteArray contentOf(const QString &path)
 {
-    auto mixer = std::make_unique<FW_Mixer>();
-    readShared(members, *mixer);
-    return mixer;
-}
-
-std::unique_ptr<FW_Machine> readMachine(const QByteArray &content)
-{
-    Members members(content);
-    if (!members.has("type"))
-        refuse(QStringLiteral("the member \"type\" is missing"));
-    const QString type = members.text("type");
-    if (type != QLatin1String("dispenser") && type != QLatin1String("mixer"))
-        refuse(QStringLiteral("the member \"type\" must be \"dispenser\" or \"mixer\""));
-    auto machine = type == QLatin1String("dispenser") ? readDispenser(members) : readMixer(members);
-    members.refuseOthers();
-    return machine;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("no machine of this name, and no file that can be read: " +
+                                 file.errorString().toStdString());
+    QByteArray content = file.read(MaxMachineFileSize + 1);
+    if (content.size() > MaxMachineFileSize)
+        throw std::runtime_error("the file is larger than " + std::to_string(MaxMachineFileSize) + " bytes");
+    return content;
 }
 
 } // namespace
@@ -194,14 +177,16 @@ std::unique_ptr<FW_Machine> machineByName(const QString &nameOrFile)
 {
     if (nameOrFile == QLatin1String("none"))
         return nullptr;
-    if (nameOrFile == QLatin1String("dispenser"))
-        return builtInDispenser();
-    if (nameOrFile == QLatin1String("mixer"))
-        return builtInMixer();
+    for (const BuiltIn &builtIn : builtIns) {
+        if (nameOrFile == QLatin1String(builtIn.name))
+            return builtIn.make();
+    }
     try {
-        return readMachine(contentOf(nameOrFile));
+        return readMachineFile(contentOf(nameOrFile));
     } catch (const std::runtime_error &error) {
-        refuse(QStringLiteral("Machine \"%1\": %2").arg(nameOrFile, QString::fromUtf8(error.what())));
+        throw std::runtime_error(QStringLiteral("Machine \"%1\": %2")
+                                     .arg(nameOrFile, QString::fromUtf8(error.what()))
+                                     .toStdString());
     }
 }
 

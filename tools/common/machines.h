@@ -3,17 +3,15 @@
 
 #include <QuvFramework/fw_machine.h>
 
+#include <QtCore/QString>
+
 #include <memory>
 
 namespace quv {
 
 /**
- * The machine that a user names: null for "none", the built-in "dispenser" (one head, command family 1) and "mixer", else
- * what the JSON file of that path describes.
- *
- * A file holds one object. "type" ("dispenser" or "mixer") is required; "id" and "model" (integers), "model_name", "sid",
- * "description", "product_code" and "serial_number" (texts) may follow, for a dispenser "heads" and "command_family"
- * (1 or 2) as well. Anything else in it is refused.
+ * The machine that a user names: null for "none", a built-in machine ("dispenser", "turntable", "dual", "mixer"), else what
+ * the JSON file of that path describes. docs/machine.md tells what the built-in ones are, and the form of a file.
  *
  * \throws std::runtime_error with a text for the user
  */
