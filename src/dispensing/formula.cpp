@@ -62,6 +62,8 @@ int criterionOf(const Formula &formula, const CircuitFormulaItemList &items, boo
 
 namespace quv {
 
+Q_LOGGING_CATEGORY(dispensingLog, "quvprotocol.dispensing")
+
 const FW_Dispenser *dispenserOf(const ProtoCommand &command)
 {
     return dynamic_cast<const FW_Dispenser *>(command.machine());

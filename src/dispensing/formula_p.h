@@ -10,6 +10,7 @@
 #include <QuvFramework/purgeformula.h>
 
 #include <QtCore/QList>
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QMap>
 #include <QtCore/QVariant>
 
@@ -23,6 +24,9 @@ class ProtoCommand;
 
 namespace quv {
 
+/** What the driver is about to pour, at debug level: "quvprotocol.dispensing". */
+Q_DECLARE_LOGGING_CATEGORY(dispensingLog)
+
 /** Code and text of a refusal. */
 struct Refusal
 {
@@ -32,11 +36,11 @@ struct Refusal
 
 /** The member without which a variant map is none of these. */
 template <class T>
-constexpr const char *markOf = nullptr;
+inline constexpr const char *markOf = nullptr;
 template <>
-constexpr const char *markOf<Formula> = Formula::FORMULA_TYPE;
+inline constexpr const char *markOf<Formula> = Formula::FORMULA_TYPE;
 template <>
-constexpr const char *markOf<PurgeFormula> = PurgeFormula::PURGE_QUANTITY;
+inline constexpr const char *markOf<PurgeFormula> = PurgeFormula::PURGE_QUANTITY;
 
 /** True for a T, and for a map that is meant for one. */
 template <class T>

@@ -8,7 +8,7 @@
 namespace quv {
 
 template <>
-constexpr const char *markOf<FormulaProgress> = FormulaProgress::CHANNELS;
+inline constexpr const char *markOf<FormulaProgress> = FormulaProgress::CHANNELS;
 
 } // namespace quv
 

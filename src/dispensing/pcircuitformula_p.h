@@ -7,7 +7,7 @@
 namespace quv {
 
 template <>
-constexpr const char *markOf<PCircuitFormula> = PCircuitFormula::executionCriterion_TAG;
+inline constexpr const char *markOf<PCircuitFormula> = PCircuitFormula::executionCriterion_TAG;
 
 /** A circuit that cannot be read, or no circuits where they should be. */
 constexpr Refusal badPCircuit = {"DE02317", "PCircuit: bad xml-rpc values"};

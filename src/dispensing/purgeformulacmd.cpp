@@ -7,8 +7,6 @@
 #include <QuvFramework/formulautils.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
-#include <QtCore/QDebug>
-
 namespace {
 
 constexpr char noDispenser[] = "Invalid dispenser data";
@@ -95,7 +93,7 @@ QList<int> PurgeFormulaCmd::serialParameters(int) const
     const FW_Dispenser *dispenser = quv::dispenserOf(*this);
     if (!dispenser)
         return {};
-    qDebug().noquote() << m_formula.toPrintableString(false, dispenser);
+    qCDebug(quv::dispensingLog).noquote() << m_formula.toPrintableString(false, dispenser);
     CircuitFormulaItemList items;
     if (!m_formula.getCircuitFormulaItems(items, dispenser, nullptr))
         return {};

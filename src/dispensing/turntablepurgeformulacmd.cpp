@@ -4,8 +4,6 @@
 #include "base/arguments_p.h"
 #include "dispensing/formula_p.h"
 
-#include <QtCore/QDebug>
-
 TurntablePurgeFormulaCmd::TurntablePurgeFormulaCmd(const Formula &formula, int currentPosition,
                                                    const FW_Dispenser *dispenser)
     : PurgeFormulaCmd(formula, dispenser),
@@ -41,7 +39,7 @@ QList<int> TurntablePurgeFormulaCmd::serialParameters(int) const
     const FW_Dispenser *dispenser = quv::dispenserOf(*this);
     if (!dispenser)
         return {};
-    qDebug().noquote() << m_formula.toPrintableString(false, m_currentPosition, dispenser);
+    qCDebug(quv::dispensingLog).noquote() << m_formula.toPrintableString(false, m_currentPosition, dispenser);
     CircuitFormulaItemList items;
     if (!m_formula.getCircuitFormulaItems(items, m_currentPosition, dispenser, nullptr))
         return {};
