@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
 
-#include "simulatedfirmware.h"
-
-#include <QuvFramework/fw_dispenser.h>
-#include <QuvFramework/fw_mixer.h>
-#include <QuvFramework/fw_xmlrpc.h>
+#include "drivercalls.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <chrono>
-#include <functional>
 #include <future>
 #include <stdexcept>
 #include <thread>
@@ -20,101 +15,11 @@
 namespace {
 
 using namespace std::chrono_literals;
-using quv::Driver;
 using quv::FirmwareReply;
-using XmlRpc::XmlRpcValue;
+using namespace quv::test;
 
-/// Replies as it is told, and notes what it was asked.
-class ScriptedFirmware final : public quv::Firmware
-{
-public:
-    using Script = std::function<FirmwareReply()>;
-    explicit ScriptedFirmware(Script script) : m_script(std::move(script)) {}
-
-    FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) override
-    {
-        asked.append(QStringLiteral("%1 %2 %3").arg(code).arg(module).arg(parameters.size()));
-        return m_script();
-    }
-
-    QStringList asked{};
-
-private:
-    Script m_script{};
-};
-
-const QStringList IdleTokens = QStringLiteral("E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0").split(QLatin1Char(' '));
-
-template <class... Params>
-XmlRpcValue arrayOf(const Params &...params)
-{
-    XmlRpcValue array;
-    array.setSize(0);
-    int i = 0;
-    ((array[i++] = XmlRpcValue(params)), ...);
-    return array;
-}
-
-/// The parts of an envelope that tests look at.
-struct Envelope
-{
-    explicit Envelope(const XmlRpcValue &value)
-    {
-        if (!DecodeXmlRpcValue(value, "ret_code", retCode) || !DecodeXmlRpcValue(value, "info", info) ||
-            !DecodeXmlRpcMember(value, "ret_value", answer))
-            throw std::logic_error("no envelope");
-        const XmlRpcValue *errors = FindXmlRpcMember(value, "errors");
-        for (int i = 0; i < errors->size(); ++i) {
-            QString code;
-            QString text;
-            DecodeXmlRpcValue(*FindXmlRpcElement(*errors, i), "code", code);
-            DecodeXmlRpcValue(*FindXmlRpcElement(*errors, i), "text", text);
-            failures.append(code + QLatin1Char(' ') + text);
-        }
-    }
-
-    bool flag(const char *key) const
-    {
-        bool value = false;
-        if (!DecodeXmlRpcValue(answer, key, value))
-            throw std::logic_error("no flag");
-        return value;
-    }
-    std::string error() const { return failures.join(QLatin1Char('|')).toStdString(); }
-
-    int retCode = -1;
-    QString info{};
-    XmlRpcValue answer{};
-    QStringList failures{};
-};
-
-class DriverTest : public testing::Test
-{
-protected:
-    ScriptedFirmware &addScripted(std::unique_ptr<FW_Machine> machine, ScriptedFirmware::Script script)
-    {
-        auto firmware = std::make_unique<ScriptedFirmware>(std::move(script));
-        ScriptedFirmware &added = *firmware;
-        m_driver.addMachine(std::move(machine), std::move(firmware));
-        return added;
-    }
-    ScriptedFirmware &addDispenser(const QStringList &tokens, bool refused = false)
-    {
-        return addScripted(std::make_unique<FW_Dispenser>(), [=] { return FirmwareReply{refused, tokens}; });
-    }
-    ScriptedFirmware &addMixer(const QStringList &tokens)
-    {
-        return addScripted(std::make_unique<FW_Mixer>(), [=] { return FirmwareReply{false, tokens}; });
-    }
-
-    template <class... Params>
-    Envelope call(const char *method, const Params &...params)
-    {
-        return Envelope(m_driver.call({QLatin1String(method), arrayOf(params...)}));
-    }
-
-    Driver m_driver;
-};
+class DriverTest : public DriverFixture
+{};
 
 TEST_F(DriverTest, theStatusComesAsTheStructOfItsAnswer)
 {
@@ -190,8 +95,8 @@ TEST_F(DriverTest, aMixerAloneGetsWhatIsForBothKinds)
 TEST_F(DriverTest, aSecondMachineOfAKindIsRefused)
 {
     addDispenser(IdleTokens);
-    EXPECT_FALSE(m_driver.addMachine(std::make_unique<FW_Dispenser>(),
-                                     std::make_unique<quv::SimulatedFirmware>(FW_Dispenser())));
+    EXPECT_FALSE(m_driver->addMachine(std::make_unique<FW_Dispenser>(),
+                                      std::make_unique<quv::SimulatedFirmware>(FW_Dispenser())));
 }
 
 TEST_F(DriverTest, requestsThatCannotBeUnderstood)
@@ -274,43 +179,118 @@ TEST_F(DriverTest, whatTheDriverDoesNotCarryOutYet)
     }
 }
 
-TEST_F(DriverTest, aTicketIsNotOfferedAndNothingIsCarriedOut)
+TEST_F(DriverTest, aPlainLayoutOfTheWaitingMethodDoesNotWait)
 {
     const ScriptedFirmware &firmware = addDispenser(IdleTokens);
-    const Envelope envelope = call("EXEC_NB", "RESET");
-    EXPECT_EQ(envelope.retCode, 6);
-    EXPECT_EQ(envelope.error(),
-              "DE03108 This driver does not yet offer tickets; call EXEC_B, which waits for the answer");
-    EXPECT_TRUE(firmware.asked.isEmpty());
-    EXPECT_EQ(call("EXEC_NB", "GET_STATUS", "text").retCode, 1);
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS").retCode, 0);
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", 5).retCode, 0);
+    EXPECT_EQ(firmware.asked, (QStringList{QStringLiteral("0006 0 0"), QStringLiteral("0006 5 0")}));
 }
 
-TEST_F(DriverTest, waitingForAChangeIsNotOfferedButThePlainLayoutIs)
+/// The last answer of a client that saw the machine idle.
+XmlRpcValue idleAnswer(const XmlRpcValue &status)
+{
+    XmlRpcValue last;
+    last["last_answer"] = status;
+    return last;
+}
+
+TEST_F(DriverTest, waitingEndsWhenTheAnswerIsAnotherOne)
+{
+    int asked = 0;
+    addScripted(std::make_unique<FW_Dispenser>(), [&asked] {
+        QStringList tokens = IdleTokens;
+        if (++asked > 3)
+            tokens[3] = QStringLiteral("4"); // tinting
+        return FirmwareReply{false, tokens};
+    });
+    const XmlRpcValue idle = call("EXEC_B", "GET_STATUS").answer;
+    const Envelope changed = call("EXEC_NC", "lead", "GET_STATUS", idleAnswer(idle), 10, 10000);
+    EXPECT_EQ(changed.retCode, 0);
+    EXPECT_TRUE(changed.flag("tinting"));
+    EXPECT_EQ(asked, 4);
+}
+
+TEST_F(DriverTest, waitingWithTheCommandsOwnArguments)
 {
     const ScriptedFirmware &firmware = addDispenser(IdleTokens);
     XmlRpcValue parameters;
     parameters["cmd_parameters"] = arrayOf(5);
-    XmlRpcValue last;
-    last["last_answer"] = 1;
-    for (const XmlRpcValue &request :
-         {arrayOf("GET_STATUS", 500, 10000), arrayOf("lead", "GET_STATUS", 500, 10000),
-          arrayOf("GET_STATUS", parameters, 500, 10000), arrayOf("GET_STATUS", last, 500, 10000),
-          arrayOf("GET_STATUS", parameters, last, 500, 10000)}) {
-        const Envelope envelope(m_driver.call({QStringLiteral("EXEC_NC"), request}));
-        EXPECT_EQ(envelope.retCode, 6);
-        EXPECT_EQ(envelope.error(), "DE03109 This driver does not yet wait for a change of the answer");
-    }
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", parameters, 10, 0).retCode, 0);
+    EXPECT_EQ(firmware.asked, QStringList{QStringLiteral("0006 5 0")});
+}
+
+TEST_F(DriverTest, waitingEndsWithItsTimeAndTheSameAnswer)
+{
+    const ScriptedFirmware &firmware = addDispenser(IdleTokens);
+    const XmlRpcValue idle = call("EXEC_B", "GET_STATUS").answer;
+    const auto begin = std::chrono::steady_clock::now();
+    const Envelope same = call("EXEC_NC", "GET_STATUS", idleAnswer(idle), 10, 100);
+    const auto time = std::chrono::steady_clock::now() - begin;
+    EXPECT_EQ(same.retCode, 0);
+    EXPECT_FALSE(same.flag("tinting"));
+    EXPECT_GE(time, 95ms);
+    EXPECT_LT(time, 5s);
+    EXPECT_GE(firmware.asked.size(), 3);
+}
+
+TEST_F(DriverTest, withoutALastAnswerThereIsNothingToWaitFor)
+{
+    const ScriptedFirmware &firmware = addDispenser(IdleTokens);
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", 600, 600000).retCode, 0);
+    EXPECT_EQ(firmware.asked.size(), 1);
+}
+
+TEST_F(DriverTest, whatCannotBeWaitedFor)
+{
+    const ScriptedFirmware &firmware = addDispenser(IdleTokens);
+    const std::string times = "DE03114 The interval must be at least 10 ms, the timeout 0 to 600000 ms";
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", 9, 1000).error(), times);
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", 10, 600001).error(), times);
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", 10, -1).error(), times);
+    XmlRpcValue parameters;
+    parameters["cmd_parameters"] = arrayOf(formula({}));
+    const Envelope pour = call("EXEC_NC", "PRIMING2", parameters, 10, 1000);
+    EXPECT_NE(pour.retCode, 0);
     EXPECT_TRUE(firmware.asked.isEmpty());
-    EXPECT_EQ(call("EXEC_NC", "GET_STATUS").retCode, 0);
-    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", 5).retCode, 0);
-    EXPECT_EQ(firmware.asked, (QStringList{QStringLiteral("0006 0 0"), QStringLiteral("0006 5 0")}));
+    EXPECT_EQ(call("EXEC_NC", "GET_DRIVER_INFO", 10, 1000).retCode, 6);
+    XmlRpcValue noAnswer;
+    noAnswer["last_answer"] = "idle";
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", noAnswer, 10, 1000).retCode, 1);
+}
+
+TEST_F(DriverTest, aRefusalEndsTheWaiting)
+{
+    int asked = 0;
+    addScripted(std::make_unique<FW_Dispenser>(), [&asked] {
+        if (++asked > 2)
+            return FirmwareReply{true, QStringLiteral("6 10 0 0 0 0 0").split(QLatin1Char(' '))};
+        return FirmwareReply{false, IdleTokens};
+    });
+    const XmlRpcValue idle = call("EXEC_B", "GET_STATUS").answer;
+    EXPECT_EQ(call("EXEC_NC", "GET_STATUS", idleAnswer(idle), 10, 10000).retCode, 4);
+    EXPECT_EQ(asked, 3);
+}
+
+TEST_F(DriverTest, theDriversEndInterruptsTheWaiting)
+{
+    addDispenser(IdleTokens);
+    const XmlRpcValue idle = call("EXEC_B", "GET_STATUS").answer;
+    auto waiting = std::async(
+        std::launch::async, [&] { return call("EXEC_NC", "GET_STATUS", idleAnswer(idle), 600000, 600000); });
+    EXPECT_EQ(waiting.wait_for(50ms), std::future_status::timeout);
+    m_driver->stop();
+    ASSERT_EQ(waiting.wait_for(5s), std::future_status::ready);
+    const Envelope envelope = waiting.get();
+    EXPECT_EQ(envelope.retCode, 7);
+    EXPECT_EQ(envelope.error(), "DE03116 The driver ends before the command has");
 }
 
 TEST_F(DriverTest, anUnknownMethodIsAFault)
 {
     for (const char *method : {"", "exec_b", "EXEC_", "system.listMethods"}) {
         try {
-            m_driver.call({QLatin1String(method), arrayOf("GET_STATUS")});
+            m_driver->call({QLatin1String(method), arrayOf("GET_STATUS")});
             ADD_FAILURE() << method;
         } catch (const quv::FaultException &error) {
             EXPECT_EQ(error.fault().code, -32601) << method;
@@ -323,7 +303,7 @@ TEST_F(DriverTest, aProcessShowsInTheStatusThatFollows)
     qint64 now = 0;
     auto machine = std::make_unique<FW_Dispenser>();
     auto firmware = std::make_unique<quv::SimulatedFirmware>(*machine, 1, [&now] { return now; });
-    m_driver.addMachine(std::move(machine), std::move(firmware));
+    m_driver->addMachine(std::move(machine), std::move(firmware));
     EXPECT_FALSE(call("EXEC_B", "GET_STATUS").flag("resetting"));
     EXPECT_EQ(call("EXEC_B", "RESET").retCode, 0);
     EXPECT_TRUE(call("EXEC_B", "GET_STATUS").flag("resetting"));

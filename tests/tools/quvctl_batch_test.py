@@ -270,6 +270,37 @@ class Encode(BatchTest):
         self.assertIn(path + "x", missing["text"])
 
 
+class Formulas(BatchTest):
+    """Arguments that are objects: structs in both forms, and written as such."""
+
+    def encode(self, form, name, argument):
+        reply = self.ask({"op": "encode", "name": name, "args": [argument], "form": form, "machine": "dispenser"})
+        self.assertEqual(reply["parameters"], reply["request"][1:])
+        return reply
+
+    def test_formula(self):
+        given = {"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [10]}
+        for form in ["value", "list"]:
+            reply = self.encode(form, "TINT", given)
+            self.assertEqual(reply["class"], "TintCmd")
+            self.assertEqual(reply["request"], ["TINT", {
+                **given, "quantities": [10.0], "exec_criterion": 0, "levels_policy": 0, "decimals": 3}])
+            self.assertEqual(reply["serial"], [2, 1, 2, 1, 50, 2, 96, 4])  # 1080 steps = 4 * 246 + 96
+
+    def test_circuits_with_strokes(self):
+        given = {"exec_criterion": 2,
+                 "target_circuits": [{"position_id": 3, "queue_id": 1, "speed": 40, "strokes": 2}]}
+        for form in ["value", "list"]:
+            self.assertEqual(self.encode(form, "PRIMING2", given)["request"], ["PRIMING2", given])
+
+    def test_refusals(self):
+        for form, code in [("value", "DE00437"), ("list", "DE00775")]:
+            reply = self.ask({"op": "encode", "name": "TINT", "form": form, "machine": "dispenser", "args": [
+                {"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": []}]})
+            self.assertEqual((reply["ok"], reply["code"]), (False, code))
+        self.assertEqual(self.ask({"op": "encode", "name": "TINT", "form": "list", "args": [5]})["code"], "DE00439")
+
+
 class Decode(BatchTest):
     def decode(self, tokens, reply):
         self.expect({"op": "decode", "name": "GET_STATUS", "args": [], "tokens": tokens}, reply)
@@ -471,6 +502,84 @@ class Envelopes(BatchTest):
         value = {"caf\u00e9": "\u20ac \U0001f600 \u0000 \n\"", "bytes": {"$base64": "AP8="}}
         reply = self.ask({"op": "envelope", "ret_code": 0, "value": value})
         self.assertEqual(reply["value"]["ret_value"], value)
+
+
+class Status(BatchTest):
+    def status(self, reply, struct, **request):
+        """The reply as told, but for the members that most states share."""
+        value = {"status": reply["status"], "info": "", "extra_info": "", "time_left": 0,
+                 "percentage": reply["percentage"], "cmd_answer": 0, **struct}
+        self.expect({"op": "status", **request},
+                    {"ok": True, "valid": True, "extra_info": "", "time_tracking": True, **reply, "value": value})
+
+    def test_executing(self):
+        self.status({"status": 1, "description": "Executing...", "info": "pouring", "extra_info": "circuit 3",
+                     "time_left": "About 60 seconds remaining...", "percentage": 10},
+                    {"time_left": 59400, "info": "pouring", "extra_info": "circuit 3"},
+                    status=1, time_left=59400, percentage=10, info="pouring", extra_info="circuit 3", verbose=True)
+        self.status({"status": 1, "description": "Executing...", "info": "Executing...", "time_left": "00:59",
+                     "percentage": 10}, {"time_left": 59400}, status=1, time_left=59400, percentage=10)
+
+    def test_states(self):
+        for state, text in [(3, "Created..."), (2, "Queued..."), (1, "Executing...")]:
+            self.status({"status": state, "description": text, "info": text, "time_left": "00:00", "percentage": 0,
+                         "time_tracking": state != 1}, {}, status=state)
+        for state, text in [(0, "Done successfully!"), (-1, "Errors in command execution!"), (-2, "Unknown"),
+                            (-3, "Interrupted!"), (-4, "Timeout elapsed!")]:
+            self.status({"status": state, "description": text, "info": text,
+                         "time_left": "About 1 seconds remaining...", "percentage": 100}, {},
+                        status=state, verbose=True, time_left=5000, percentage=7)
+
+    def test_states_that_there_are_not(self):
+        for state in [-5, 4, 2147483647]:
+            self.status({"status": -5, "valid": False, "description": "Unknown", "info": "Unknown",
+                         "time_left": "00:00", "percentage": 0}, {}, status=state, time_left=5000, percentage=7)
+
+    def test_limits_of_percentage_and_time(self):
+        for given, kept in [(-1, 0), (0, 0), (99, 99), (100, 99), (2147483647, 99)]:
+            self.status({"status": 2, "description": "Queued...", "info": "Queued...", "time_left": "00:00",
+                         "percentage": kept}, {}, status=2, percentage=given, time_left=-1)
+
+    def test_time_left(self):
+        def time_left(milliseconds, verbose, struct=None):
+            reply = self.ask({"op": "status", "status": 1, "time_left": milliseconds, "verbose": verbose})
+            if struct is not None:
+                self.assertEqual(reply["value"]["time_left"], struct)
+            return reply["time_left"]
+
+        hour, day = 3600000, 86400000
+        self.assertEqual(time_left(59000, False), "00:59")
+        self.assertEqual(time_left(hour - 1, False), "59:59")
+        self.assertEqual(time_left(hour, False), "01:00:00")
+        self.assertEqual(time_left(day - 1000, False), "23:59:59")
+        self.assertEqual(time_left(day, False), "00:00")
+        self.assertEqual(time_left(day + 61000, False), "01:01")
+        self.assertEqual(time_left(125000, True), "About 2 minutes and 6 seconds remaining...")
+        self.assertEqual(time_left(2 * hour + 3 * 60000, True),
+                         "About 2 hours, 3 minutes and 1 seconds remaining...")
+        self.assertEqual(time_left(day + 11000, True), "About 12 seconds remaining...")
+        # 64 bits here; the struct has 32
+        self.assertEqual(time_left(1000 * day + hour, False, 504254080), "01:00:00")
+
+    def test_result(self):
+        result = {"ret_code": 0, "info": "done", "ret_value": [1, 2.0], "errors": []}
+        self.status({"status": 0, "description": "Done successfully!", "info": "Done successfully!",
+                     "time_left": "00:00", "percentage": 100}, {"cmd_answer": result}, status=0, value=result)
+        self.status({"status": 1, "description": "Executing...", "info": "Executing...", "time_left": "00:00",
+                     "percentage": 0, "time_tracking": False}, {}, status=1, value=result)
+
+    def test_bad_requests(self):
+        self.expect({"op": "status"}, bad('"status" is missing'))
+        self.expect({"op": "status", "status": "1"}, bad('"status" must be a whole number'))
+        self.expect({"op": "status", "status": 2147483648}, bad('"status" must be a whole number of 32 bits'))
+        self.expect({"op": "status", "status": 1, "time_left": 1.5}, bad('"time_left" must be a whole number'))
+        self.expect({"op": "status", "status": 1, "percentage": 2147483648},
+                    bad('"percentage" must be a whole number of 32 bits'))
+        self.expect({"op": "status", "status": 1, "info": 5}, bad('"info" must be a string'))
+        self.expect({"op": "status", "status": 1, "extra_info": None}, bad('"extra_info" must be a string'))
+        self.expect({"op": "status", "status": 1, "verbose": 1}, bad('"verbose" must be true or false'))
+        self.expect({"op": "status", "status": 0, "value": None},
+                    bad('"value": null is no value of the protocol'))
 
 
 class Supports(BatchTest):

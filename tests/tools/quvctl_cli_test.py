@@ -1,13 +1,18 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """quvctl for people: words in, lines and exit status out. Usage: quvctl_cli_test.py QUVCTL COMPLETION_SCRIPT"""
 
+import fcntl
 import json
 import os
 import pty
 import re
+import signal
 import socket
+import struct
 import subprocess
 import sys
+import tempfile
+import termios
 import threading
 import unittest
 import xmlrpc.client
@@ -30,19 +35,27 @@ def envelope(value, ret_code=0, info="GET_STATUS command executed successfully!"
 
 
 class Driver:
-    """A driver of another make: answers EXEC_B with what it was told to, and remembers what it was asked."""
+    """A driver of another make: answers each call with what it was told to, and remembers what it was asked."""
 
     def __init__(self, reply, port=0):
         self.reply = reply
         self.requests = []
+        self.started = []  # requests that nobody waits for
         self.server = xmlrpc.server.SimpleXMLRPCServer(("127.0.0.1", port), logRequests=False)
         self.server.register_function(self.execute, "EXEC_B")
+        self.server.register_function(self.start, "EXEC_NB")
         self.port = self.server.server_address[1]
-        self.thread = threading.Thread(target=self.server.serve_forever, args=(0.01,))
+        self.thread = threading.Thread(target=self.server.serve_forever, args=(0.01,), daemon=True)
         self.thread.start()
 
     def execute(self, *params):
-        self.requests.append(list(params))
+        return self.take(self.requests, params)
+
+    def start(self, *params):
+        return self.take(self.started, params)
+
+    def take(self, requests, params):
+        requests.append(list(params))
         if isinstance(self.reply, Exception):
             raise self.reply
         return self.reply
@@ -88,7 +101,7 @@ class General(CliTest):
         overview = self.done("help")
         self.assertEqual(self.done("--help"), overview)
         self.assertEqual(self.done("-h"), overview)
-        for name in ["list", "show", "encode", "decode", "call", "watch", "batch"]:
+        for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "watch", "batch", "machine"]:
             self.assertRegex(overview, rf"(?m)^  {name} ")
             text = self.done("help", name)
             self.assertTrue(text.startswith(f"Usage: quvctl {name} [options]"), text)
@@ -206,6 +219,41 @@ class Encode(CliTest):
         self.wrong("encode", "GET_STATUS", "99999999999999999999")
 
 
+class Machine(CliTest):
+    def test_built_in_machines(self):
+        machine = json.loads(self.done("machine", "dispenser"))
+        self.assertEqual((machine["type"], machine["id"], machine["model_name"], machine["serial_number"]),
+                         ("dispenser", 1, "Generic dispenser", "SIM-D-0001"))
+        self.assertEqual([canister["colorant"] for canister in machine["canisters"]],
+                         "AXX B C D E F I KX L R S T V WX YA YB".split())
+        self.assertEqual(machine["canisters"][1]["circuits"][0]["calibration"][2],
+                         {"steps": 1080, "quantity": 10.0, "speed": 50, "nozzle_valve": 0})
+        self.assertEqual(len(json.loads(self.done("machine", "turntable"))["canisters"]), 8)
+        self.assertEqual(json.loads(self.done("machine", "dual"))["heads"], 2)
+        self.assertEqual(json.loads(self.done("machine", "mixer"))["type"], "mixer")
+
+    def test_what_it_prints_is_a_machine_file(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "machine.json")
+            text = self.done("machine", "dual").replace('"description": ""', '"description": "caf\u00e9 \\u0085"')
+            with open(path, "w", encoding="utf-8") as file:
+                file.write(text)
+            self.assertEqual(self.done("machine", path), text)
+            self.assertIn("DispenserStatusCmd", self.done("encode", "GET_STATUS", "--machine", path))
+            with open(path, "w", encoding="utf-8") as file:
+                file.write(text.replace('"position_id": 16', '"position_id": 15'))
+            self.assertEqual(self.refused("machine", path),
+                             f'quvctl: Machine "{path}": canisters[15].circuits[0].position_id: '
+                             "is that of another circuit\n")
+
+    def test_no_machine(self):
+        self.assertEqual(self.wrong("machine", "none"), 'quvctl: "none" is no machine to print (see quvctl help)\n')
+        self.assertEqual(self.wrong("machine"), "quvctl: machine needs NAME|FILE (see quvctl help)\n")
+        self.assertEqual(self.refused("machine", "/no/such/file"),
+                         'quvctl: Machine "/no/such/file": no machine of this name, and no file that can be read: '
+                         "No such file or directory\n")
+
+
 class Decode(CliTest):
     def test_bad_conditions_first(self):
         self.assertEqual(self.done("decode", "GET_STATUS", "9", "0", "1", "C", "40", "4", "8", "40", "5", "F5", "4")
@@ -321,6 +369,171 @@ class Call(CliTest):
             self.assertEqual(driver.requests, [])
 
 
+class Async(CliTest):
+    def test_ticket(self):
+        with Driver(envelope({"ticket_id": "T-1"}, info="RESET command executed successfully!")) as driver:
+            out = self.done("call", "RESET", "--async", "--port", str(driver.port))
+            self.assertEqual((driver.requests, driver.started), ([], [["RESET"]]))
+            reply = json.loads(self.done("call", "RESET", "--async", "--json", "--port", str(driver.port)))
+        self.assertEqual(out, "RESET command executed successfully!\nTicket T-1\n")
+        self.assertEqual((reply["class"], reply["value"]), ("AsyncAnswer", {"ticket_id": "T-1"}))
+
+    def test_refusals(self):
+        with Driver(envelope(0, 8, "RESET : failed")) as driver:
+            self.assertEqual(self.refused("call", "RESET", "--async", "--port", str(driver.port)),
+                             "Failed! Command not executed due to generic errors.\n")
+        with Driver(envelope(0)) as driver:
+            self.assertEqual(self.refused("call", "RESET", "--async", "--port", str(driver.port)),
+                             "DE00573: AsyncAnswer decoding failed: invalid xml-rpc value\n")
+
+
+def ticket(state, result=0, **members):
+    """What a driver tells of a ticket."""
+    return envelope({"status": state, "info": "", "extra_info": "", "time_left": 0,
+                     "percentage": 0 if state > 0 else 100, "cmd_answer": result, **members})
+
+
+class Ticket(CliTest):
+    def ask(self, reply, *options):
+        """Exit status, output and errors."""
+        with Driver(reply) as driver:
+            told = run("ticket", "T-1", "--port", str(driver.port), *options)
+            self.assertEqual(driver.requests, [["GET_CMD_STATUS", "T-1"]])
+        return told
+
+    def test_running(self):
+        for state, members, line in [
+                (3, {}, "Created..."), (2, {}, "Queued..."), (1, {}, "Executing..."),
+                (1, {"info": "warming\u009bup"}, "warming\ufffdup"), (1, {"percentage": 7}, "7 %"),
+                (1, {"percentage": 45, "time_left": 11500}, "45 %  About 12 seconds remaining...")]:
+            self.assertEqual(self.ask(ticket(state, **members)), (0, line + "\n", ""))
+
+    def test_ended(self):
+        self.assertEqual(self.ask(ticket(0, envelope([1, 2.0], info="done"))), (0, "done\n[1,2.0]\n", ""))
+        code, out, err = self.ask(ticket(0, envelope(status(tinting=True), info="done")))
+        self.assertEqual((code, out, err), (0, "done\nMachine status 1\nTinting in progress\n", ""))
+
+    def test_ended_badly(self):
+        errors = [{"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE00123", "text": "No"}]
+        self.assertEqual(self.ask(ticket(-1, envelope(0, 4, "x", errors))),
+                         (1, "", "Failed! Command not executed due to errors on firmware.Errors: \nDE00123: No\n"))
+        self.assertEqual(self.ask(ticket(-3, envelope(0, 7, "x"))), (1, "", "Command has been interrupted!\n"))
+        self.assertEqual(self.ask(ticket(-3)), (1, "", "quvctl: Interrupted!\n"))
+        self.assertEqual(self.ask(ticket(-4, envelope(0))), (1, "", "quvctl: Timeout elapsed!\n"))
+        self.assertEqual(self.ask(ticket(0)), (1, "", "quvctl: the command has ended without a result\n"))
+
+    def test_json(self):
+        code, out, err = self.ask(ticket(1, percentage=45, time_left=11500), "--json")
+        self.assertEqual((code, err, json.loads(out)), (0, "", {
+            "ok": True, "ticket": "T-1", "status": {
+                "status": 1, "description": "Executing...", "info": "Executing...", "extra_info": "",
+                "time_left": "00:11", "time_tracking": True, "percentage": 45,
+                "value": {"status": 1, "info": "", "extra_info": "", "time_left": 11500, "percentage": 45,
+                          "cmd_answer": 0}}}))
+        for state, ret_code, exit_code in [(0, 0, 0), (-1, 4, 1), (0, 4, 1), (-3, 0, 1)]:
+            code, out, err = self.ask(ticket(state, envelope({"a": 1}, ret_code, "x")), "--json")
+            self.assertEqual((code, err), (exit_code, ""))
+            reply = json.loads(out)
+            self.assertEqual(reply["status"]["status"], state)
+            self.assertEqual((reply["envelope"]["ret_code"], reply["value"]), (ret_code, {"a": 1}))
+        self.assertEqual(self.ask(ticket(-3), "--json")[0], 1)
+
+    def test_unknown_ticket(self):
+        for options in [(), ("--wait",), ("--json",)]:
+            self.assertEqual(self.ask(envelope(0, 1, "no such ticket"), *options),
+                             (1, "", "Failed! Xml-rpc command invalid for Driver.\n"))
+
+    def waiting(self, driver, *options):
+        return subprocess.Popen(
+            [QUVCTL, "ticket", "T-1", "--wait", "--interval", "10", "--port", str(driver.port), *options],
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
+            preexec_fn=lambda: signal.signal(signal.SIGINT, signal.default_int_handler))
+
+    def lines(self, process, count):
+        watchdog = threading.Timer(30, process.kill)
+        watchdog.start()
+        lines = [process.stdout.readline() for _ in range(count)]
+        watchdog.cancel()
+        return "".join(lines)
+
+    def test_waiting_tells_changes(self):
+        with Driver(ticket(2)) as driver, self.waiting(driver) as process:
+            self.assertEqual(self.lines(process, 1), "Queued...\n")
+            driver.reply = ticket(1, percentage=1, time_left=61000)
+            self.assertEqual(self.lines(process, 1), "1 %  About 1 minutes and 2 seconds remaining...\n")
+            driver.reply = ticket(1, percentage=10, time_left=50000)  # too little to be told
+            asked = len(driver.requests)
+            while len(driver.requests) < asked + 5:
+                self.assertIsNone(process.poll())
+            driver.reply = ticket(1, percentage=11, time_left=500)
+            self.assertEqual(self.lines(process, 1), "11 %  About 1 seconds remaining...\n")
+            driver.reply = ticket(0, envelope(5, info="done"))
+            out, err = process.communicate(timeout=30)
+            self.assertEqual((process.returncode, out, err), (0, "100 %  Done successfully!\ndone\n5\n", ""))
+
+    def test_waiting_for_json_is_silent(self):
+        with Driver(ticket(1)) as driver, self.waiting(driver, "--json") as process:
+            while not driver.requests:
+                self.assertIsNone(process.poll())
+            driver.reply = ticket(0, envelope(5))
+            out, _ = process.communicate(timeout=30)
+        self.assertEqual(json.loads(out)["value"], 5)
+
+    def test_interrupt(self):
+        with Driver(ticket(1)) as driver, self.waiting(driver) as process:
+            self.assertEqual(self.lines(process, 1), "Executing...\n")
+            process.send_signal(signal.SIGINT)
+            out, err = process.communicate(timeout=30)
+            self.assertEqual((process.returncode, out, err), (
+                130, "", f"the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}\n"))
+
+    def test_driver_that_goes_away(self):
+        driver = Driver(ticket(1))
+        with self.waiting(driver) as process:
+            self.assertEqual(self.lines(process, 1), "Executing...\n")
+            driver.close()
+            out, err = process.communicate(timeout=30)
+        self.assertEqual((process.returncode, out), (1, ""))
+        self.assertRegex(err, rf"^the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}\n"
+                              r"quvctl: .+\n$")
+
+    def terminal(self, replies, **environment):
+        """What a terminal gets while a driver gives these replies, one a question."""
+        try:
+            ours, theirs = pty.openpty()
+        except OSError as error:
+            self.skipTest(f"this machine has no terminal to give: {error}")
+        fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", 24, 40, 0, 0))
+        with Driver(None) as driver:
+            driver.take = lambda requests, params: replies.pop(0)
+            subprocess.run([QUVCTL, "ticket", "T-1", "--wait", "--interval", "10", "--port", str(driver.port)],
+                           stdout=theirs, env={**os.environ, "NO_COLOR": "1", **environment}, timeout=30, check=True)
+        text = os.read(ours, 65536).decode("utf-8").replace("\r\n", "\n")
+        os.close(ours)
+        os.close(theirs)
+        return text
+
+    def test_line_that_is_drawn_again(self):
+        def replies():
+            return [ticket(2), ticket(1, percentage=4, time_left=1000), ticket(1, percentage=45, time_left=11500),
+                    ticket(1, percentage=96, time_left=0, info="x"), ticket(0, envelope(5, info="done"))]
+
+        self.assertEqual(self.terminal(replies(), TERM="xterm"),
+                         "\r[..........] Queued...\033[K"
+                         "\r[..........] 4 %  About 2 seconds remai\033[K"  # the terminal has 40 columns
+                         "\r[#####.....] 45 %  About 12 seconds rem\033[K"
+                         "\r[##########] 96 %\033[K"
+                         "\r[##########] 100 %  Done successfully!\033[K\n"
+                         "done\n5\n")
+        self.assertNotIn("\r", self.terminal(replies(), TERM="dumb"))
+
+    def test_wrong_usage(self):
+        self.assertEqual(self.wrong("ticket"), "quvctl: ticket needs ID (see quvctl help)\n")
+        self.assertEqual(self.wrong("ticket", "a", "b"), 'quvctl: unexpected "b" (see quvctl help)\n')
+        self.assertEqual(self.wrong("ticket", "a", "--interval", "9"),
+                         "quvctl: --interval takes a number from 10 to 3600000 (see quvctl help)\n")
+
+
 class Watch(CliTest):
     def line(self, process):
         watchdog = threading.Timer(30, process.kill)
@@ -394,10 +607,12 @@ class Completion(unittest.TestCase):
         self.assertEqual(self.complete("call", "TINT", "--p"), ["--port"])
         self.assertEqual(self.complete("list", "--kind", "s"), ["serial", "special", "scale"])
         self.assertEqual(self.complete("help", "wa"), ["watch"])
+        self.assertEqual(self.complete("encode", "--machine", "turn"), ["turntable"])
+        self.assertEqual(self.complete("machine", "turn"), ["turntable"])
 
     def test_options_are_those_of_the_help(self):
-        for name in ["list", "show", "encode", "decode", "call", "watch", "batch"]:
-            told = re.findall(r"(?m)^  (--[a-z]+)", run("help", name)[1])
+        for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "watch", "batch", "machine"]:
+            told = re.findall(r"(?m)^  (--[a-z-]+)", run("help", name)[1])
             self.assertEqual(sorted(self.complete(name, "--")), sorted(told), name)
 
 

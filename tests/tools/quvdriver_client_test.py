@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """The driver, called by a client that knows nothing of it but XML-RPC: Python's own."""
 
+import re
+import signal
 import threading
 import time
 import unittest
@@ -26,6 +28,12 @@ STATUS_NUMBERS = {"disp_status": 1, "current_position_id": 0, "current_position_
 def request(value):
     return f"""<?xml version="1.0"?>
 <methodCall><methodName>EXEC_B</methodName><params><param><value>{value}</value></param></params></methodCall>"""
+
+
+def formula(quantities, **others):
+    """By colorants, in grams."""
+    return {"formula_type": 4, "quantity_unit": 3, "ids": list(quantities),
+            "quantities": [float(quantity) for quantity in quantities.values()], **others}
 
 
 class ClientTest(unittest.TestCase):
@@ -90,8 +98,13 @@ class ClientTest(unittest.TestCase):
         envelope = self.driver.post(request("perché").replace("?>", ' encoding="ISO-8859-1"?>').encode("latin-1"))
         self.assertEqual(envelope["info"], "perché : Failed! Xml-rpc command invalid for Driver.")
 
-    # No answer holds doubles yet, so they come back in the text that refuses them; how they are written in a value is
-    # tested with the codec.
+    def test_doubles_there_and_back_to_the_last_digit(self):
+        quantities = [0.1, 0.1 + 0.2, 1 / 3, 123456.78901234567, 5e-324]
+        answer = self.client.EXEC_B("GET_FORMULA_CIRCUITS", formula(
+            dict(zip(["AXX", "B", "C", "D", "E"], quantities))))["ret_value"]
+        self.assertEqual(answer["quantities"], quantities)
+        self.assertEqual(answer["positions"], [1, 2, 3, 4, 5])
+
     def test_doubles_are_read_to_the_last_digit(self):
         for number in (0.1, 0.1 + 0.2, 1 / 3, -2.5e-300, 1.7976931348623157e308, 5e-324, 123456789.12345679):
             text = self.client.EXEC_B(number)["errors"][0]["text"]
@@ -136,6 +149,101 @@ class ClientTest(unittest.TestCase):
             thread.join(20)
             self.assertFalse(thread.is_alive())
         self.assertEqual(failures, [])
+
+
+class PourTest(unittest.TestCase):
+    """A tint on the built-in dispenser: 10 g of B are 1080 steps, of F 1160, at 50 turns of 200 steps a minute: 6.48 s and
+    6.96 s, which overlap, since the two are of different queues; ten times faster here."""
+
+    TINT = formula({"B": 10, "F": 10}, levels_policy=2)
+
+    def setUp(self):
+        self.driver = Driver("--machine", "dispenser", "--speed", "10")
+        self.addCleanup(self.driver.kill)
+        self.client = self.driver.client()
+        self.addCleanup(self.client("close"))
+
+    def call(self, name, *arguments):
+        envelope = self.client.EXEC_B(name, *arguments)
+        self.assertEqual(envelope["ret_code"], 0, envelope)
+        return envelope["ret_value"]
+
+    def level(self, colorant):
+        """What the driver believes a canister to hold, out of the words in which it refuses to raise it."""
+        text = self.client.EXEC_B("SET_LEVELS", True, formula({colorant: 100000}))["errors"][0]["text"]
+        return float(re.fullmatch(r"Canister \d+ cannot hold (.*); it holds 0 to 3000", text).group(1)) - 100000
+
+    def dispensed(self):
+        report = self.call("GET_DISPENSED_FORMULA", 1, 1)
+        return [dict(zip(report[key]["ids"], report[key]["quantities"]))
+                for key in ("dispensed_formula", "total_formula")]
+
+    def test_a_whole_tint_with_polling(self):
+        levels = self.call("CHECK_FORMULA_LEVELS", self.TINT, False)
+        self.assertEqual(levels, {"canisters_below_critical": [], "canisters_below_warning": []})
+        self.assertEqual(self.call("GET_CMD_EST_EXEC_TIME", {"command": ["TINT", self.TINT]}), {"exec_time": 696})
+
+        begun = self.client.EXEC_NB("TINT", self.TINT)
+        self.assertEqual(begun["ret_code"], 0, begun)
+        ticket = begun["ret_value"]["ticket_id"]
+        seen = []
+        end = time.monotonic() + 20
+        while not seen or seen[-1]["status"] > 0:
+            self.assertLess(time.monotonic(), end)
+            seen.append(self.call("GET_CMD_STATUS", ticket))
+            time.sleep(0.01)
+        running = [status for status in seen if status["status"] == 1]
+        self.assertTrue(any(0 < status["percentage"] < 100 and 0 < status["time_left"] < 696 for status in running))
+        for before, after in zip(running, running[1:]):
+            self.assertLessEqual(before["percentage"], after["percentage"])
+            self.assertGreaterEqual(before["time_left"], after["time_left"])
+        last = seen[-1]
+        self.assertEqual((last["status"], last["percentage"], last["time_left"]), (0, 100, 0))
+        self.assertEqual(last["info"], "Done successfully!")
+        self.assertEqual(last["cmd_answer"]["ret_code"], 0)
+        self.assertEqual(last["cmd_answer"]["info"], "TINT command executed successfully!")
+
+        poured = {"2": 1080.0, "6": 1160.0}
+        self.assertEqual(self.dispensed(), [poured, poured])
+        self.assertEqual([self.level(colorant) for colorant in ("B", "F", "C")], [1990, 1990, 2000])
+
+    def test_while_one_pours_others_ask_and_may_not_pour(self):
+        ticket = self.client.EXEC_NB("TINT", self.TINT)["ret_value"]["ticket_id"]
+        while not self.call("GET_STATUS")["tinting"]:
+            time.sleep(0.005)
+        for method in (self.client.EXEC_B, self.client.EXEC_NB):
+            refused = method("TINT", self.TINT)
+            self.assertEqual(refused["ret_code"], 6)
+            self.assertEqual(refused["errors"][0]["code"], "DE03112")
+        self.assertFalse(self.call("GET_STATUS")["head1_can_dose"])
+        self.assertEqual(self.dispensed()[1], {"2": 1080.0, "6": 1160.0})
+        channel, = self.call("GET_FORMULA_EXECUTION", self.TINT)["frm_progress"]["channels"]
+        self.assertEqual(channel["formula"]["ids"], ["B", "F"])
+        # waits for the end without asking again and again
+        status = self.call("GET_STATUS")
+        changed = self.client.EXEC_NC("GET_STATUS", {"last_answer": status}, 20, 4000)
+        self.assertFalse(changed["ret_value"]["tinting"])
+        ended = self.client.EXEC_B("TINT", formula({"C": 0.5}))
+        while ended["ret_code"] == 6:  # the driver still reads the report
+            ended = self.client.EXEC_B("TINT", formula({"C": 0.5}))
+        self.assertEqual(ended["ret_code"], 0, ended)
+        self.assertEqual(self.call("GET_CMD_STATUS", ticket)["status"], 0)
+        self.assertEqual(self.level("C"), 1999.5)
+
+    def test_the_end_of_the_driver_does_not_wait_for_a_pour(self):
+        answers = []
+        with self.driver.client() as other:
+            caller = threading.Thread(target=lambda: answers.append(other.EXEC_B("TINT", formula({"B": 100}))))
+            caller.start()
+            while not self.call("GET_STATUS")["tinting"]:
+                time.sleep(0.005)
+            begin = time.monotonic()
+            self.driver.process.send_signal(signal.SIGTERM)
+            self.assertEqual(self.driver.process.wait(5), 0)
+            self.assertLess(time.monotonic() - begin, 2)
+            caller.join(5)
+        self.assertEqual(answers[0]["ret_code"], 7)
+        self.assertEqual(answers[0]["errors"][0]["code"], "DE03116")
 
 
 if __name__ == "__main__":

@@ -5,6 +5,7 @@
 #include "terminal.h"
 #include "words.h"
 
+#include "base/asyncanswer.h"
 #include "base/protoanswer.h"
 #include "base/protocommand.h"
 #include "base/xmlrpcanswer.h"
@@ -22,16 +23,12 @@ std::unique_ptr<ProtoCommand> commandOf(const CommandLine &line)
     return makeCommand(Request(request));
 }
 
-void printRefusal(const XmlRpcAnswer &envelope)
-{
-    for (const QString &line : envelope.toPrintableString())
-        printError(line);
-}
-
 void print(const ProtoCommand &command, const XmlRpcAnswer &envelope)
 {
     printLine(envelope.infoMsg(), Colour::Bold);
-    if (const ProtoAnswer *answer = command.getProtoAnswer())
+    if (const auto *async = dynamic_cast<const AsyncAnswer *>(command.getProtoAnswer()))
+        printLine(QStringLiteral("Ticket %1").arg(async->ticketID()));
+    else if (const ProtoAnswer *answer = command.getProtoAnswer())
         printAnswer(*answer);
 }
 
@@ -39,13 +36,11 @@ ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
     const auto command = commandOf(line);
-    const XmlRpcAnswer &envelope = driver.execute(*command);
+    const XmlRpcAnswer &envelope = line.isSet("async") ? driver.start(*command) : driver.execute(*command);
     if (line.isSet("json"))
         printLine(QString::fromStdString(writeJson(envelopeReply(*command))));
-    if (envelope.retCode() != 0) {
-        printRefusal(envelope);
-        return Refused;
-    }
+    if (envelope.retCode() != 0)
+        throw Refusal(envelope);
     if (!line.isSet("json"))
         print(*command, envelope);
     return Done;
@@ -59,10 +54,12 @@ const Subcommand callSubcommand = {
     "sends a command to a driver",
     "Sends a command to a driver, waits until it has been carried out, and shows the answer. An argument is "
     "a\n"
-    "JSON value; a word that is none is a string.",
+    "JSON value; a word that is none is a string. With --async it shows a ticket and does not wait: quvctl\n"
+    "ticket asks for the answer.",
     1,
     -1,
-    withDriverOptions({{"json", nullptr, "envelope and answer as one JSON object"}}),
+    withDriverOptions({{"async", nullptr, "do not wait for the answer, show a ticket"},
+                       {"json", nullptr, "envelope and answer as one JSON object"}}),
     run};
 
 } // namespace quv

@@ -17,7 +17,7 @@ public:
     explicit UsageError(const QString &text) : std::runtime_error(text.toStdString()) {}
 };
 
-enum ExitStatus { Done = 0, Refused = 1, WrongUsage = 2 };
+enum ExitStatus { Done = 0, Refused = 1, WrongUsage = 2, Interrupted = 130 };
 
 struct OptionText
 {

@@ -5,7 +5,6 @@
 
 #include "base/protocommand.h"
 #include "base/xmlrpcanswer.h"
-#include "catalogue/protocommandlist.h"
 
 #include <QuvFramework/fw_error.h>
 
@@ -22,6 +21,11 @@ std::chrono::milliseconds timeoutOf(const CommandLine &line)
 
 } // namespace
 
+Refusal::Refusal(const XmlRpcAnswer &envelope)
+    : std::runtime_error(envelope.infoMsg().toStdString()),
+      m_lines(envelope.toPrintableString())
+{}
+
 Driver::Driver(const CommandLine &line)
     : m_client(line.value("host", QStringLiteral("127.0.0.1")), line.number("port", 9333, 1, 65535),
                timeoutOf(line))
@@ -29,10 +33,20 @@ Driver::Driver(const CommandLine &line)
 
 const XmlRpcAnswer &Driver::execute(ProtoCommand &command) const
 {
-    const auto reply = m_client.call(ProtoCommandList::functionCallStr(ProtoCommandList::BlockingCall),
-                                     command.toXmlRpcValue(QString()));
+    return send(command, ProtoCommandList::BlockingCall);
+}
+
+const XmlRpcAnswer &Driver::start(ProtoCommand &command) const
+{
+    return send(command, ProtoCommandList::NonBlockingCall);
+}
+
+const XmlRpcAnswer &Driver::send(ProtoCommand &command, ProtoCommandList::CallKind kind) const
+{
+    const auto reply =
+        m_client.call(ProtoCommandList::functionCallStr(kind), command.toXmlRpcValue(QString()));
     FW_DriverError error;
-    if (!command.setAnswer(reply, false, &error))
+    if (!command.setAnswer(reply, kind == ProtoCommandList::NonBlockingCall, &error))
         throw FW_DriverError(error);
     return *command.getXmlRpcAnswer();
 }

@@ -3,12 +3,29 @@
 
 #include "xmlrpcclient.h"
 
+#include "catalogue/protocommandlist.h"
+
+#include <QtCore/QStringList>
+
+#include <stdexcept>
+
 class ProtoCommand;
 class XmlRpcAnswer;
 
 namespace quv {
 
 class CommandLine;
+
+/// What a driver did not carry out, in the lines of its envelope.
+class Refusal : public std::runtime_error
+{
+public:
+    explicit Refusal(const XmlRpcAnswer &envelope);
+    const QStringList &lines() const { return m_lines; }
+
+private:
+    QStringList m_lines{};
+};
 
 /// The driver that --host, --port and --timeout name.
 class Driver
@@ -21,8 +38,12 @@ public:
      * \throws FaultException, TransportError, CodecError as XmlRpcClient, and FW_DriverError for an answer of wrong form
      */
     const XmlRpcAnswer &execute(ProtoCommand &command) const;
+    /// Sends \a command, which goes on by itself, and gives it the ticket for an answer. \throws as execute
+    const XmlRpcAnswer &start(ProtoCommand &command) const;
 
 private:
+    const XmlRpcAnswer &send(ProtoCommand &command, ProtoCommandList::CallKind kind) const;
+
     XmlRpcClient m_client;
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "driver.h"
 #include "subcommands.h"
 #include "terminal.h"
 #include "xmlrpcerrors.h"
@@ -7,6 +8,8 @@
 
 #include <xmlrpcpp/XmlRpcException.h>
 
+#include <QtCore/QLoggingCategory>
+
 #include <cstdio>
 #include <exception>
 
@@ -14,9 +17,9 @@ namespace {
 
 using namespace quv;
 
-const Subcommand *const subcommands[] = {&listSubcommand,   &showSubcommand, &encodeSubcommand,
-                                         &decodeSubcommand, &callSubcommand, &watchSubcommand,
-                                         &batchSubcommand};
+const Subcommand *const subcommands[] = {
+    &listSubcommand,   &showSubcommand, &encodeSubcommand, &decodeSubcommand, &callSubcommand,
+    &ticketSubcommand, &tintSubcommand, &watchSubcommand,  &batchSubcommand,  &machineSubcommand};
 
 QString overview()
 {
@@ -31,7 +34,8 @@ QString overview()
     text += QStringLiteral("  %1this help, or that of a subcommand\n\n").arg(QStringLiteral("help"), -10);
     text +=
         QStringLiteral("quvctl help SUBCOMMAND tells its options; quvctl --version prints the version.\n"
-                       "Exit status: 0 done, 1 refused (on standard error as CODE: text), 2 wrong usage.\n");
+                       "Exit status: 0 done, 1 refused (on standard error as CODE: text), 2 wrong usage,\n"
+                       "130 after Ctrl-C.\n");
     return text;
 }
 
@@ -81,6 +85,9 @@ ExitStatus runReporting(const QStringList &words)
     } catch (const UsageError &error) {
         printError(QStringLiteral("quvctl: %1 (see quvctl help)").arg(QString::fromUtf8(error.what())));
         return WrongUsage;
+    } catch (const Refusal &refusal) {
+        for (const QString &line : refusal.lines())
+            printError(line);
     } catch (const FW_DriverError &error) {
         printError(error.toPrintableString());
     } catch (const FaultException &error) {
@@ -97,6 +104,8 @@ ExitStatus runReporting(const QStringList &words)
 
 int main(int argc, char *argv[])
 {
+    // QT_LOGGING_RULES shows them all the same
+    QLoggingCategory::setFilterRules(QStringLiteral("quvprotocol.*.debug=false"));
     // UTF-8 whatever the locale: a service's environment often has none
     QStringList words;
     for (int i = 1; i < argc; ++i)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "operations.h"
 
-#include "machines.h"
 #include "queries.h"
+#include "replies.h"
+#include "rowoperations.h"
 
+#include "base/cmdstatus.h"
 #include "base/protoanswer.h"
 #include "base/serialprotocommand.h"
 #include "base/xmlrpcanswer.h"
@@ -16,39 +18,11 @@
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <cxxabi.h>
 #include <iterator>
-#include <typeinfo>
 
 namespace quv {
 
 namespace {
-
-OrderedJson success()
-{
-    return OrderedJson::object({{"ok", true}});
-}
-
-template <class T>
-std::string className(const T &object)
-{
-    int status = 0;
-    const std::unique_ptr<char, void (*)(void *)> name(
-        abi::__cxa_demangle(typeid(object).name(), nullptr, nullptr, &status), std::free);
-    return status == 0 ? name.get() : typeid(object).name();
-}
-
-std::unique_ptr<FW_Machine> machineOf(const Request &request)
-{
-    try {
-        return machineByName(request.text("machine", QStringLiteral("none")));
-    } catch (const BadRequest &) {
-        throw;
-    } catch (const std::runtime_error &error) {
-        throw BadRequest(error.what());
-    }
-}
 
 /// A few commands take a struct in place of the array, so whatever value there is goes to the factory.
 XmlRpc::XmlRpcValue argumentsOf(const Request &request)
@@ -90,21 +64,13 @@ OrderedJson query(const Request &request)
     return reply;
 }
 
-OrderedJson numbers(const QList<int> &list)
-{
-    OrderedJson array = OrderedJson::array();
-    for (const int number : list)
-        array.push_back(number);
-    return array;
-}
-
 OrderedJson encode(const Request &request)
 {
     const int family = request.number("family", 1);
     const auto machine = machineOf(request);
     const auto command = makeCommand(request, machine.get());
     OrderedJson reply = success();
-    reply["class"] = className(*command);
+    reply["class"] = className(typeid(*command));
     reply["request"] = toJson(command->toXmlRpcValue(QString()));
     reply["parameters"] = toJson(QVariant(command->parameters()));
     if (const auto *serial = dynamic_cast<const SerialProtoCommand *>(command.get())) {
@@ -121,7 +87,7 @@ OrderedJson encode(const Request &request)
 
 void addAnswer(OrderedJson &reply, const ProtoAnswer &answer)
 {
-    reply["class"] = className(answer);
+    reply["class"] = className(typeid(answer));
     reply["value"] = toJson(answer.toXmlRpcValue());
 }
 
@@ -170,6 +136,28 @@ OrderedJson supports(const Request &request)
     return reply;
 }
 
+CmdStatus commandStatusOf(const Request &request)
+{
+    CmdStatus status;
+    status.setStatus(request.number("status"));
+    status.setTimeLeft(request.longNumber("time_left", 0));
+    status.setPercentage(request.number("percentage", 0));
+    status.setInfo(request.text("info", QString()));
+    status.setExtraInfo(request.text("extra_info", QString()));
+    if (request.has("value"))
+        status.setResultValue(request.value("value"));
+    return status;
+}
+
+OrderedJson status(const Request &request)
+{
+    const bool verbose = request.flag("verbose", false);
+    OrderedJson reply = success();
+    reply["valid"] = CmdStatus::checkStatus(request.number("status"));
+    reply.update(commandStatusReply(commandStatusOf(request), verbose));
+    return reply;
+}
+
 struct Operation
 {
     const char *name;
@@ -177,8 +165,9 @@ struct Operation
 };
 
 constexpr Operation operations[] = {
-    {"catalogue", catalogue}, {"query", query},         {"encode", encode},     {"decode", decode},
-    {"answer", answer},       {"setanswer", setAnswer}, {"envelope", envelope}, {"supports", supports},
+    {"catalogue", catalogue}, {"query", query},         {"encode", encode},        {"decode", decode},
+    {"answer", answer},       {"setanswer", setAnswer}, {"envelope", envelope},    {"supports", supports},
+    {"status", status},       {"row", rowOperation},    {"apply", applyOperation},
 };
 
 } // namespace
@@ -232,17 +221,33 @@ OrderedJson answerReply(const ProtoCommand &command)
 OrderedJson envelopeReply(const ProtoCommand &command)
 {
     OrderedJson reply = success();
-    if (const XmlRpcAnswer *envelope = command.getXmlRpcAnswer()) {
-        OrderedJson printable = OrderedJson::array();
-        for (const QString &line : envelope->toPrintableString())
-            printable.push_back(toJson(line));
-        reply["envelope"] = OrderedJson::object({{"ret_code", envelope->retCode()},
-                                                 {"info", toJson(envelope->infoMsg())},
-                                                 {"printable", std::move(printable)}});
-    }
+    if (const XmlRpcAnswer *envelope = command.getXmlRpcAnswer())
+        reply["envelope"] = envelopeJson(*envelope);
     if (const ProtoAnswer *answer = command.getProtoAnswer())
         addAnswer(reply, *answer);
     return reply;
+}
+
+OrderedJson envelopeJson(const XmlRpcAnswer &envelope)
+{
+    OrderedJson printable = OrderedJson::array();
+    for (const QString &line : envelope.toPrintableString())
+        printable.push_back(toJson(line));
+    return OrderedJson::object({{"ret_code", envelope.retCode()},
+                                {"info", toJson(envelope.infoMsg())},
+                                {"printable", std::move(printable)}});
+}
+
+OrderedJson commandStatusReply(const CmdStatus &status, bool verbose)
+{
+    return OrderedJson::object({{"status", status.status()},
+                                {"description", toJson(CmdStatus::getDescription(status.status()))},
+                                {"info", toJson(status.info())},
+                                {"extra_info", toJson(status.extraInfo())},
+                                {"time_left", toJson(status.timeLeftStr(verbose))},
+                                {"time_tracking", status.timeTrackingAvailable()},
+                                {"percentage", status.percentage()},
+                                {"value", toJson(status.toXmlRpcValue())}});
 }
 
 OrderedJson failureReply(const FW_DriverError &error)

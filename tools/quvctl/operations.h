@@ -5,9 +5,11 @@
 
 #include <memory>
 
+class CmdStatus;
 class FW_DriverError;
 class ProtoAnswer;
 class ProtoCommand;
+class XmlRpcAnswer;
 
 namespace quv {
 
@@ -27,6 +29,11 @@ std::unique_ptr<ProtoCommand> decodedCommand(const Request &request);
 OrderedJson answerReply(const ProtoCommand &command);
 /// The envelope that \a command holds, and the answer when there is one.
 OrderedJson envelopeReply(const ProtoCommand &command);
+
+/// Return code, message and lines for people.
+OrderedJson envelopeJson(const XmlRpcAnswer &envelope);
+/// State, texts and struct of a ticket's status, as members to add to a reply.
+OrderedJson commandStatusReply(const CmdStatus &status, bool verbose);
 
 OrderedJson failureReply(const FW_DriverError &error);
 OrderedJson failureReply(const std::string &text);

@@ -10,7 +10,10 @@ extern const Subcommand showSubcommand;
 extern const Subcommand encodeSubcommand;
 extern const Subcommand decodeSubcommand;
 extern const Subcommand callSubcommand;
+extern const Subcommand ticketSubcommand;
+extern const Subcommand tintSubcommand;
 extern const Subcommand watchSubcommand;
 extern const Subcommand batchSubcommand;
+extern const Subcommand machineSubcommand;
 
 } // namespace quv

@@ -3,16 +3,29 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace quv {
 
 namespace {
 
+bool understandsEscapes(FILE *stream)
+{
+    return isatty(fileno(stream)) != 0 && qgetenv("TERM") != "dumb";
+}
+
 bool hasColours(FILE *stream)
 {
-    return isatty(fileno(stream)) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR") &&
-           qgetenv("TERM") != "dumb";
+    return understandsEscapes(stream) && qEnvironmentVariableIsEmpty("NO_COLOR");
+}
+
+/// What does not fit would wrap, and stay when the line is drawn again.
+int columnsOfTerminal()
+{
+    winsize size{};
+    const bool known = ioctl(fileno(stdout), TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return known ? size.ws_col : 80;
 }
 
 const char *escape(Colour colour)
@@ -28,15 +41,6 @@ const char *escape(Colour colour)
     return "";
 }
 
-/// Texts come from drivers and machines, and must not steer the terminal.
-QString printable(QString text)
-{
-    for (QChar &c : text)
-        if (c.category() == QChar::Other_Control)
-            c = QChar::ReplacementCharacter;
-    return text;
-}
-
 void print(FILE *stream, const QString &text, Colour colour)
 {
     std::string line = printable(text).toStdString();
@@ -49,6 +53,14 @@ void print(FILE *stream, const QString &text, Colour colour)
 
 } // namespace
 
+QString printable(QString text)
+{
+    for (QChar &c : text)
+        if (c.category() == QChar::Other_Control)
+            c = QChar::ReplacementCharacter;
+    return text;
+}
+
 void printLine(const QString &text, Colour colour)
 {
     print(stdout, text, colour);
@@ -57,6 +69,18 @@ void printLine(const QString &text, Colour colour)
 void printError(const QString &text)
 {
     print(stderr, text, Colour::Red);
+}
+
+bool canRedraw()
+{
+    return understandsEscapes(stdout);
+}
+
+void redrawLine(const QString &text)
+{
+    const std::string line = "\r" + printable(text).left(columnsOfTerminal() - 1).toStdString() + "\033[K";
+    std::fwrite(line.data(), 1, line.size(), stdout);
+    std::fflush(stdout);
 }
 
 void Columns::print(bool heading) const

@@ -9,11 +9,19 @@ namespace quv {
 
 enum class Colour { Plain, Bold, Red };
 
+/// The text without its control characters: it comes from drivers and machines, and must not steer the terminal.
+QString printable(QString text);
+
 /// A line on standard output, flushed. Colours show on a terminal only, and not with NO_COLOR; control characters of the
 /// text never reach it.
 void printLine(const QString &text, Colour colour = Colour::Plain);
 /// The same on standard error.
 void printError(const QString &text);
+
+/// Whether standard output is a terminal on which a line can be drawn again.
+bool canRedraw();
+/// Draws \a text in the place of the line that was drawn last, as much of it as fits into one line; see canRedraw().
+void redrawLine(const QString &text);
 
 /// Lines of columns, each as wide as its widest cell.
 class Columns

@@ -108,4 +108,12 @@ void printAnswer(const ProtoAnswer &answer)
         printLine(line.text, line.bad ? Colour::Red : Colour::Plain);
 }
 
+void printValue(const XmlRpc::XmlRpcValue &value)
+{
+    if (FindXmlRpcMember(value, "disp_status"))
+        printAnswer(DispenserStatusAnswer(value));
+    else
+        printLine(QString::fromStdString(writeJson(toJson(value))));
+}
+
 } // namespace quv

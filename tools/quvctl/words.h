@@ -25,5 +25,7 @@ QList<StatusLine> statusInWords(const MachineStatusAnswer &status);
 
 /// An answer for people: a status in words, anything else as its value.
 void printAnswer(const ProtoAnswer &answer);
+/// The same for the value of an answer whose command nobody told.
+void printValue(const XmlRpc::XmlRpcValue &value);
 
 } // namespace quv

@@ -1,106 +1,37 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
 
+#include "commandbuilder.h"
+#include "driverqueries.h"
+#include "pouring.h"
+#include "refusal.h"
+#include "request.h"
+
+#include "base/asyncanswer.h"
 #include "base/nccommand.h"
 #include "base/protoanswer.h"
 #include "base/serialprotocommand.h"
 #include "base/xmlrpcanswer.h"
 
-#include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_exception.h>
-#include <QuvFramework/fw_xmlrpc.h>
 
 #include <xmlrpcpp/XmlRpcException.h>
 
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QLocale>
 
 #include <algorithm>
-#include <mutex>
 #include <optional>
 #include <stdexcept>
 
 namespace quv {
 namespace {
 
+using std::chrono::milliseconds;
 using XmlRpc::XmlRpcValue;
 
 constexpr int UnknownMethod = -32601;
-
-/// The return codes of the envelope that this driver gives.
-enum RetCode {
-    InvalidRequest = 1,
-    InvalidSerialAnswer = 2,
-    UnknownToFirmware = 3,
-    RefusedByFirmware = 4,
-    NotConfigured = 5,
-    NotOffered = 6,
-    OtherFailure = 8
-};
-
-/// A request that the driver itself refuses. Caught where the envelope is made.
-struct Refusal
-{
-    RetCode retCode = OtherFailure;
-    FW_DriverError error{};
-};
-
-[[noreturn]] void refuse(RetCode retCode, const char *code, const QString &text)
-{
-    throw Refusal{retCode, FW_DriverError(QLatin1String(code), text)};
-}
-
-/// A value in words, for a text that refuses it; numbers to the last digit.
-QString described(const XmlRpcValue &value)
-{
-    switch (value.getType()) {
-    case XmlRpcValue::TypeBoolean:
-        return QStringLiteral("a boolean");
-    case XmlRpcValue::TypeInt:
-        return QStringLiteral("the integer %1").arg(static_cast<const int &>(value));
-    case XmlRpcValue::TypeDouble:
-        return QStringLiteral("the double %1")
-            .arg(QString::number(static_cast<const double &>(value), 'g', QLocale::FloatingPointShortest));
-    case XmlRpcValue::TypeString:
-        return QStringLiteral("a text");
-    case XmlRpcValue::TypeDateTime:
-        return QStringLiteral("a time");
-    case XmlRpcValue::TypeBase64:
-        return QStringLiteral("binary data");
-    case XmlRpcValue::TypeArray:
-        return QStringLiteral("an array");
-    case XmlRpcValue::TypeStruct:
-        return QStringLiteral("a struct");
-    default:
-        return QStringLiteral("nothing");
-    }
-}
-
-std::optional<QString> commandName(const XmlRpcValue *value)
-{
-    QString name;
-    if (value && DecodeXmlRpcValue(*value, name) && ProtoCommandList::existsCommand(name))
-        return name;
-    return std::nullopt;
-}
-
-/// Whether the arguments are those of a request that waits for a change of the answer: at most two structs, the command's
-/// own arguments and the last answer, then interval and timeout.
-bool isWaitRequest(const XmlRpcValue &arguments)
-{
-    const int structs = arguments.size() - 2;
-    if (structs < 0 || structs > 2)
-        return false;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const XmlRpcValue &argument = *FindXmlRpcElement(arguments, i);
-        const bool fits = i < structs ? FindXmlRpcMember(argument, NCCommand::CMD_PARAMETERS) ||
-                                            FindXmlRpcMember(argument, NCCommand::LAST_ANSWER)
-                                      : argument.getType() == XmlRpcValue::TypeInt;
-        if (!fits)
-            return false;
-    }
-    return true;
-}
+constexpr milliseconds ShortestInterval(10);
+constexpr milliseconds LongestTimeout(600000);
 
 /// Bit 3 of a refusal's first mask: the firmware does not know the code.
 bool isUnknownCode(const FirmwareReply &reply)
@@ -109,66 +40,86 @@ bool isUnknownCode(const FirmwareReply &reply)
     return ((reply.tokens.value(1).toUInt(nullptr, 16) >> Bit) & 1U) != 0;
 }
 
-} // namespace
-
-struct Driver::Machine
+XmlRpcValue failure(RetCode retCode, const FW_DriverError &error, const QString &name)
 {
-    std::unique_ptr<FW_Machine> machine{};
-    std::unique_ptr<Firmware> firmware{};
-    std::mutex mutex{};
-
-    /// Mixers speak the codes of family 1.
-    int family() const
-    {
-        const auto *dispenser = dynamic_cast<const FW_Dispenser *>(machine.get());
-        return dispenser ? dispenser->commandFamily() : FW_Dispenser::CommandFamily1;
-    }
-};
-
-/// What a call asks for.
-struct Driver::Request
-{
-    explicit Request(const XmlRpcValue &params);
-
-    QString name{};
-    XmlRpcValue arguments{}; ///< an array
-};
-
-// The leading text may be anything, so it is one only when a command's name follows and it is none itself.
-Driver::Request::Request(const XmlRpcValue &params)
-{
-    const XmlRpcValue *first = FindXmlRpcElement(params, 0);
-    if (!first)
-        refuse(InvalidRequest, "DE03101", QStringLiteral("The request holds no command name"));
-    if (!DecodeXmlRpcValue(*first, name))
-        refuse(InvalidRequest, "DE03102",
-               QStringLiteral("The command name must be a text, not %1").arg(described(*first)));
-    int begin = 1;
-    if (!ProtoCommandList::existsCommand(name)) {
-        if (const auto second = commandName(FindXmlRpcElement(params, 1))) {
-            name = *second;
-            begin = 2;
-        }
-    }
-    arguments.setSize(0);
-    for (int i = begin; i < params.size(); ++i)
-        arguments[i - begin] = *FindXmlRpcElement(params, i);
+    return ErrorAnswer::getDriverErrorReturn(retCode, error, name);
 }
 
+XmlRpcValue unforeseen(const QString &text, const QString &name)
+{
+    return failure(OtherFailure, FW_DriverError(QStringLiteral("DE03110"), text), name);
+}
+
+/// What \a work gives, or the envelope of what it throws.
+template <class Work>
+XmlRpcValue enveloped(const QString &name, Work work)
+{
+    try {
+        return work();
+    } catch (const CallRefusal &refusal) {
+        return failure(refusal.retCode, refusal.error, name);
+    } catch (const FW_Exception &error) {
+        FW_ErrorList errors;
+        errors.append(error);
+        // The message of the envelope is Latin-1, so a name of any other script is told here.
+        if (!ProtoCommandList::existsCommand(name))
+            errors.append(FW_DriverError(QStringLiteral("DE03103"),
+                                         QStringLiteral("The catalogue has no command \"%1\"").arg(name)));
+        return ErrorAnswer::getErrorReturn(InvalidRequest, errors, name);
+    } catch (const std::exception &error) {
+        return unforeseen(QString::fromUtf8(error.what()), name);
+    } catch (const XmlRpc::XmlRpcException &error) { // no std::exception
+        return unforeseen(QString::fromStdString(error.getMessage()), name);
+    }
+}
+
+XmlRpcValue success(const ProtoAnswer &answer, const QString &name, qint64 time,
+                    const FW_ErrorList &errors = {})
+{
+    return XmlRpcAnswer(Done, answer.toXmlRpcValue(), errors, name, time).toXmlRpcValue();
+}
+
+void checkWaiting(const NCCommand &asked)
+{
+    if (ProtoCommandList::erogationCommand(asked.command()))
+        refuse(
+            InvalidRequest, "DE03115",
+            QStringLiteral("A command that pours cannot wait for a change: it would pour again and again"));
+    if (milliseconds(asked.interval()) < ShortestInterval || asked.timeout() < 0 ||
+        milliseconds(asked.timeout()) > LongestTimeout)
+        refuse(InvalidRequest, "DE03114",
+               QStringLiteral("The interval must be at least %1 ms, the timeout 0 to %2 ms")
+                   .arg(ShortestInterval.count())
+                   .arg(LongestTimeout.count()));
+}
+
+} // namespace
+
+/// A command on its way.
+struct Driver::Task
+{
+    QString name{};
+    DrivenMachine *machine = nullptr; ///< that the command is for; null for none
+    std::unique_ptr<ProtoCommand> command{};
+    std::shared_ptr<void> claim{}; ///< the right to pour, of a command that does
+    qint64 expected = 0;           ///< milliseconds; 0 or less when nobody knows
+};
+
 Driver::Driver() = default;
-Driver::~Driver() = default;
+
+Driver::~Driver()
+{
+    stop();
+}
 
 bool Driver::addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware)
 {
     const bool isSecond = std::any_of(m_machines.begin(), m_machines.end(), [&](const auto &other) {
-        return other->machine->machineType() == machine->machineType();
+        return other->type() == machine->machineType();
     });
     if (isSecond)
         return false;
-    auto added = std::make_unique<Machine>();
-    added->machine = std::move(machine);
-    added->firmware = std::move(firmware);
-    m_machines.push_back(std::move(added));
+    m_machines.push_back(std::make_unique<DrivenMachine>(std::move(machine), std::move(firmware)));
     return true;
 }
 
@@ -182,100 +133,147 @@ XmlRpcValue Driver::call(const MethodCall &call)
     if (kind == kinds.end())
         throw FaultException({UnknownMethod, QStringLiteral("Unknown method \"%1\"").arg(call.method)});
 
-    QString name;
-    const auto failure = [&name](RetCode retCode, const FW_DriverError &error) {
-        return ErrorAnswer::getDriverErrorReturn(retCode, error, name);
-    };
-    const auto unexpected = [&failure](const QString &text) {
-        return failure(OtherFailure, FW_DriverError(QStringLiteral("DE03110"), text));
-    };
-    try {
-        const Request request(call.params);
-        name = request.name;
-        return carryOut(*kind, request);
-    } catch (const Refusal &refusal) {
-        return failure(refusal.retCode, refusal.error);
-    } catch (const std::exception &error) {
-        return unexpected(QString::fromUtf8(error.what()));
-    } catch (const XmlRpc::XmlRpcException &error) { // no std::exception
-        return unexpected(QString::fromStdString(error.getMessage()));
-    }
+    std::optional<Request> request;
+    XmlRpcValue refused = enveloped(QString(), [&] {
+        request.emplace(call.params);
+        return XmlRpcValue();
+    });
+    return request ? enveloped(request->name, [&] { return carryOut(*kind, *request); }) : refused;
 }
 
 XmlRpcValue Driver::carryOut(ProtoCommandList::CallKind kind, const Request &request)
 {
-    const QString &name = request.name;
-    Machine *machine = machineFor(name);
-    XmlRpcValue arguments = request.arguments;
     // Its arguments are no plain ones, and must not be taken for them.
-    if (kind == ProtoCommandList::ChangeCall && ProtoCommandList::existsCommand(name) &&
-        isWaitRequest(arguments))
-        refuse(NotOffered, "DE03109",
-               QStringLiteral("This driver does not yet wait for a change of the answer"));
-
-    std::unique_ptr<ProtoCommand> command;
-    try {
-        command.reset(
-            ProtoCommandList::getProtoCommand(name, arguments, machine ? machine->machine.get() : nullptr));
-    } catch (const FW_Exception &error) {
-        FW_ErrorList errors;
-        errors.append(error);
-        // The message of the envelope is Latin-1, so a name of any other script is told here.
-        if (!ProtoCommandList::existsCommand(name))
-            errors.append(FW_DriverError(QStringLiteral("DE03103"),
-                                         QStringLiteral("The catalogue has no command \"%1\"").arg(name)));
-        return ErrorAnswer::getErrorReturn(InvalidRequest, errors, name);
-    }
-
-    auto *serial = dynamic_cast<SerialProtoCommand *>(command.get());
-    if (!serial)
-        refuse(NotOffered, "DE03107",
-               QStringLiteral("This driver does not yet carry out this command, which needs no firmware"));
-    if (kind == ProtoCommandList::NonBlockingCall)
-        refuse(NotOffered, "DE03108",
-               QStringLiteral(
-                   "This driver does not yet offer tickets; call EXEC_B, which waits for the answer"));
-    if (!machine)
-        refuse(NotConfigured, "DE03104",
-               QStringLiteral("This driver has no machine that carries out this command"));
-    return askFirmware(*serial, name, *machine);
+    if (kind == ProtoCommandList::ChangeCall && ProtoCommandList::existsCommand(request.name) &&
+        request.isWaiting())
+        return waitForChange(request);
+    std::shared_ptr<Task> task = prepare(request);
+    return kind == ProtoCommandList::NonBlockingCall ? begin(std::move(task)) : perform(*task);
 }
 
-XmlRpcValue Driver::askFirmware(SerialProtoCommand &command, const QString &name, Machine &machine)
+/// Builds the command, checks that there is somebody to carry it out, and takes the right to pour.
+std::shared_ptr<Driver::Task> Driver::prepare(const Request &request)
 {
-    const QString code = ProtoCommandList::cmdCode(name, machine.family());
-    if (code.isEmpty())
+    auto task = std::make_shared<Task>();
+    task->name = request.name;
+    task->machine = machineFor(request.name);
+    task->command = buildCommand(request.name, request.arguments, task->machine);
+    checkCarriedOut(*task);
+    if (!ProtoCommandList::erogationCommand(request.name))
+        return task;
+
+    task->claim = task->machine->claimPour();
+    if (!task->claim) {
+        const auto pour = task->machine->runningPour();
+        refuse(NotCarriedOut, "DE03112",
+               QStringLiteral("The machine is at %1 and pours once at a time")
+                   .arg(pour ? pour->command : QStringLiteral("another pour")));
+    }
+    // Only now do the levels and the turntable stand still.
+    task->command = buildCommand(request.name, request.arguments, task->machine);
+    task->expected = estimatedTime(*task->command, task->machine);
+    return task;
+}
+
+void Driver::checkCarriedOut(const Task &task)
+{
+    if (!dynamic_cast<const SerialProtoCommand *>(task.command.get())) {
+        checkDriverQuery(task.name, task.machine);
+        return;
+    }
+    if (!task.machine)
+        refuseWithoutMachine();
+    if (ProtoCommandList::cmdCode(task.name, task.machine->family()).isEmpty())
         refuse(UnknownToFirmware, "DE03105",
                QStringLiteral("The machine's firmware has no code for this command"));
+}
 
+/// Gives a ticket, and goes on behind the client's back.
+XmlRpcValue Driver::begin(std::shared_ptr<Task> task)
+{
+    const QString name = task->name;
+    const qint64 expected = task->claim ? task->expected : estimatedTime(*task->command, task->machine);
+    const auto ticket = m_tickets.add(
+        [this, task = std::move(task)] { return enveloped(task->name, [&] { return perform(*task); }); },
+        expected);
+    if (!ticket)
+        refuse(NotCarriedOut, "DE03113", QStringLiteral("Too many commands wait for their turn"));
+    return success(AsyncAnswer(*ticket), name, 0);
+}
+
+XmlRpcValue Driver::perform(Task &task)
+{
     QElapsedTimer timer;
     timer.start();
-    FirmwareReply reply;
-    {
-        const std::lock_guard<std::mutex> lock(machine.mutex);
-        reply =
-            machine.firmware->execute(code, command.moduleID(), command.serialParameters(machine.family()));
+    FW_ErrorList errors;
+    if (auto *serial = dynamic_cast<SerialProtoCommand *>(task.command.get())) {
+        askFirmware(*serial, task);
+        if (task.claim)
+            errors = finishPour(task);
+    } else {
+        const auto answer = answerDriverQuery(*task.command, {m_tickets, task.machine});
+        task.command->setProtoAnswer(answer.get());
     }
+    return success(*task.command->getProtoAnswer(), task.name, timer.elapsed(), errors);
+}
+
+void Driver::askFirmware(SerialProtoCommand &command, const Task &task)
+{
+    const int family = task.machine->family();
+    const QString code = ProtoCommandList::cmdCode(task.name, family);
+    const FirmwareReply reply =
+        task.machine->exchange(code, command.moduleID(), command.serialParameters(family));
     if (reply.refused)
         refuse(isUnknownCode(reply) ? UnknownToFirmware : RefusedByFirmware, "DE03106",
                QStringLiteral("The firmware refused the code %1; masks of the reasons: 0x%2 and 0x%3")
                    .arg(code, reply.tokens.value(1), reply.tokens.value(2)));
-
     FW_DriverError error;
     if (!command.setSerialAnswer(reply.tokens, &error))
-        return ErrorAnswer::getDriverErrorReturn(InvalidSerialAnswer, error, name);
-    return SuccessAnswer::getSuccessAnswer(command.getProtoAnswer(nullptr)->toXmlRpcValue(), name,
-                                           timer.elapsed());
+        throw CallRefusal{InvalidSerialAnswer, error};
+}
+
+/// The machine pours. Sees it to its end; what goes wrong afterwards no longer makes the pour a failure.
+FW_ErrorList Driver::finishPour(const Task &task)
+{
+    task.machine->setRunningPour(task.claim, describedPour(*task.command, task.expected));
+    waitForEndOfPour(*task.machine, task.expected, m_ending);
+    return takePourFromLevels(*task.machine);
+}
+
+XmlRpcValue Driver::waitForChange(const Request &request)
+{
+    using Clock = std::chrono::steady_clock;
+
+    Task task;
+    task.name = request.name;
+    task.machine = machineFor(request.name);
+    const std::unique_ptr<FW_Machine> copy = task.machine ? task.machine->copy() : nullptr;
+    XmlRpcValue arguments = request.arguments;
+    const NCCommand asked(request.name, arguments, copy.get());
+    checkWaiting(asked);
+    task.command.reset(asked.protoCommand()->clone());
+    checkCarriedOut(task);
+
+    const auto end = Clock::now() + milliseconds(asked.timeout());
+    while (true) {
+        const XmlRpcValue envelope = perform(task);
+        const ProtoAnswer *answer = task.command->getProtoAnswer();
+        const auto left = std::chrono::duration_cast<milliseconds>(end - Clock::now());
+        if (!asked.lastAnswer() || !answer->equalTo(asked.lastAnswer()) || left.count() <= 0)
+            return envelope;
+        if (!m_ending.wait(std::min(milliseconds(asked.interval()), left)))
+            refuse(Interrupted, "DE03116", QStringLiteral("The driver ends before the command has"));
+    }
 }
 
 /// A command that both kinds of machines know goes to the dispenser, when there is one.
-Driver::Machine *Driver::machineFor(const QString &name)
+DrivenMachine *Driver::machineFor(const QString &name)
 {
     for (const SerialDeviceType type : {SerialDeviceType::Dispenser, SerialDeviceType::Mixer}) {
         const bool isTarget = type == SerialDeviceType::Dispenser ? ProtoCommandList::targetIsDispenser(name)
                                                                   : ProtoCommandList::targetIsMixer(name);
         for (const auto &machine : m_machines) {
-            if (isTarget && machine->machine->machineType() == type)
+            if (isTarget && machine->type() == type)
                 return machine.get();
         }
     }

@@ -1,34 +1,38 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "firmware.h"
+#include "drivenmachine.h"
+#include "ending.h"
+#include "tickets.h"
 
 #include "xmlrpccodec.h"
 
 #include "catalogue/protocommandlist.h"
 
+#include <QuvFramework/fw_errorlist.h>
 #include <QuvFramework/fw_machine.h>
 
 #include <memory>
 #include <vector>
 
-class ProtoCommand;
 class SerialProtoCommand;
 
 namespace quv {
+
+struct Request;
 
 /**
  * Carries out the commands that clients send: EXEC_B, EXEC_NB and EXEC_NC, each with [leading text,] name and arguments,
  * answered by the envelope of XmlRpcAnswer. docs/driver.md tells the return codes and the driver's own error codes.
  *
- * Any number of threads may call it. Requests to one machine are handled one at a time; what needs no machine does not
- * wait for one.
+ * Any number of threads may call it. A machine's firmware is asked by one of them at a time, and a machine pours once at a
+ * time; what needs no machine does not wait for one, and nobody waits for a pour but who has asked for it.
  */
 class Driver
 {
 public:
     Driver();
-    ~Driver();
+    ~Driver(); ///< interrupts what waits
     Driver(const Driver &) = delete;
     Driver &operator=(const Driver &) = delete;
 
@@ -38,15 +42,25 @@ public:
     /// The envelope; never fails, whatever the parameters are. \throws FaultException -32601 for another method
     XmlRpc::XmlRpcValue call(const MethodCall &call);
 
+    /// Ends the calls and tickets that wait, for good. Also from a signal handler.
+    void stop() noexcept { m_ending.begin(); }
+
 private:
-    struct Machine;
-    struct Request;
+    struct Task;
 
     XmlRpc::XmlRpcValue carryOut(ProtoCommandList::CallKind kind, const Request &request);
-    XmlRpc::XmlRpcValue askFirmware(SerialProtoCommand &command, const QString &name, Machine &machine);
-    Machine *machineFor(const QString &name);
+    XmlRpc::XmlRpcValue waitForChange(const Request &request);
+    std::shared_ptr<Task> prepare(const Request &request);
+    static void checkCarriedOut(const Task &task);
+    XmlRpc::XmlRpcValue begin(std::shared_ptr<Task> task);
+    XmlRpc::XmlRpcValue perform(Task &task);
+    static void askFirmware(SerialProtoCommand &command, const Task &task);
+    FW_ErrorList finishPour(const Task &task);
+    DrivenMachine *machineFor(const QString &name);
 
-    std::vector<std::unique_ptr<Machine>> m_machines{};
+    Ending m_ending{};
+    std::vector<std::unique_ptr<DrivenMachine>> m_machines{};
+    Tickets m_tickets{}; ///< last, so that its threads end before what they use
 };
 
 } // namespace quv

@@ -28,6 +28,13 @@ public:
     /// at a time. Returns when the firmware has replied, which for a process is when it has begun.
     /// \throws std::runtime_error when no reply could be had
     virtual FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) = 0;
+
+    /// How many times faster than a machine of its kind this one works; a real one is as fast as it is.
+    virtual double speed() const { return 1; }
+
+    /// Somebody has told the driver that a canister holds so much now. A real canister was filled by a hand; a simulated one
+    /// has no other. Called like execute.
+    virtual void canisterFilled(int /*canisterID*/, double /*quantity*/) {}
 };
 
 } // namespace quv

@@ -7,6 +7,7 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLoggingCategory>
 
 #include <atomic>
 #include <csignal>
@@ -42,7 +43,7 @@ const QCommandLineOption portOption(QStringLiteral("port"),
                                     QStringLiteral("PORT"), QStringLiteral("9333"));
 const QCommandLineOption
     machineOption(QStringLiteral("machine"),
-                  QStringLiteral("A simulated machine: dispenser, mixer, none, or a JSON file; "
+                  QStringLiteral("A simulated machine: dispenser, turntable, dual, mixer, none, or a file; "
                                  "may be repeated (default dispenser and mixer)."),
                   QStringLiteral("NAME|FILE"));
 const QCommandLineOption speedOption(QStringLiteral("speed"),
@@ -95,11 +96,20 @@ void addMachines(quv::Driver &driver, const Options &options)
 }
 
 std::atomic<quv::XmlRpcServer *> runningServer{nullptr};
+std::atomic<quv::Driver *> runningDriver{nullptr};
 
-void stopServer(int /*signal*/)
+void stopServer()
 {
     if (quv::XmlRpcServer *server = runningServer)
         server->stop();
+}
+
+/// The server waits for the calls that it is in, and the driver must not keep them.
+void stopAll(int /*signal*/)
+{
+    stopServer();
+    if (quv::Driver *driver = runningDriver)
+        driver->stop();
 }
 
 void run(const Options &options)
@@ -113,21 +123,23 @@ void run(const Options &options)
                 if (isUsed.exchange(true))
                     throw quv::FaultException({quv::FaultInternal, QStringLiteral("The driver is ending")});
                 // It still answers the call that it is in.
-                stopServer(0);
+                stopServer();
             }
             return driver.call(call);
         },
         options.server);
     server.listen();
 
+    runningDriver = &driver;
     runningServer = &server;
     std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGTERM, stopServer);
-    std::signal(SIGINT, stopServer);
+    std::signal(SIGTERM, stopAll);
+    std::signal(SIGINT, stopAll);
     std::printf("listening on %s:%d\n", qPrintable(options.server.host), server.port());
     std::fflush(stdout);
     server.run();
     runningServer = nullptr;
+    runningDriver = nullptr;
 }
 
 } // namespace
@@ -135,6 +147,8 @@ void run(const Options &options)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
+    // QT_LOGGING_RULES shows them all the same
+    QLoggingCategory::setFilterRules(QStringLiteral("quvprotocol.*.debug=false"));
     QCoreApplication::setApplicationName(QStringLiteral("quvdriver"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUV_VERSION));
     try {

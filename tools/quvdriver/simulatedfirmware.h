@@ -2,10 +2,15 @@
 #pragma once
 
 #include "firmware.h"
+#include "pour.h"
+#include "pourrequest.h"
 
-#include <QuvFramework/fw_machine.h>
+#include <QuvFramework/fw_dispenser.h>
+
+#include <QtCore/QHash>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace quv {
@@ -14,8 +19,11 @@ namespace quv {
  * A machine without hardware. It keeps state: a process that takes time runs on after the command that began it, and is
  * told by the status word until it ends; meanwhile no other process can begin.
  *
- * A dispenser knows its status (code 0006, I3 in command family 2) and the reset (0001, family 1 only). A mixer knows the
- * reset.
+ * A dispenser of command family 1 knows its status (code 0006), the reset (0001), tints, purges, primings and packs (0017,
+ * 0035, 0023, 0024) and the report of the last of them (0074); one of family 2 its status (I3). A mixer knows the reset.
+ *
+ * It pours from canisters of its own, which hold what the machine that it is made of says; it knows that machine's circuits
+ * and calibrations, but nothing of how the library writes a request.
  */
 class SimulatedFirmware final : public Firmware
 {
@@ -27,6 +35,8 @@ public:
     explicit SimulatedFirmware(const FW_Machine &machine, double speed = 1, Clock clock = steadyClock());
 
     FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) override;
+    double speed() const override { return m_speed; }
+    void canisterFilled(int canisterID, double quantity) override { m_contents[canisterID] = quantity; }
 
     static Clock steadyClock();
 
@@ -35,15 +45,34 @@ private:
     using Commands = std::vector<Command>;
 
     static const Commands &commandsOf(const FW_Machine &machine);
-    FirmwareReply status();
-    FirmwareReply beginReset();
     bool isResetting() const { return m_clock() < m_resetEnd; }
+    bool isBusy() const { return isResetting() || m_pour.isRunning(m_clock()); }
+
+    // The commands. Those without parameters refuse any.
+    FirmwareReply status(const QList<int> &parameters);
+    FirmwareReply beginReset(const QList<int> &parameters);
+    FirmwareReply tint(const QList<int> &parameters);
+    FirmwareReply tint2(const QList<int> &parameters);
+    FirmwareReply pack2(const QList<int> &parameters);
+    FirmwareReply priming2(const QList<int> &parameters);
+    FirmwareReply report(const QList<int> &parameters);
+
+    enum class Movement { Steps, PouredStrokes, IdleStrokes, StrokesOrPack };
+    FirmwareReply beginPour(const std::optional<PourRequest> &request, Movement movement);
+    static bool pours(const PourPart &part, Movement movement);
+    const FW_Circuit &circuitAt(int position) const;
+    CircuitPour plan(const PourPart &part, Movement movement);
+    qint64 takeFromCanister(const FW_Circuit &circuit, qint64 steps);
+    double moveTable(int position);
 
     const Commands &m_commands;
-    int m_heads = 0;
+    FW_Dispenser m_dispenser{}; ///< without circuits for a mixer
     double m_speed = 1;
     Clock m_clock{};
     qint64 m_resetEnd = 0;
+    Pour m_pour{};
+    QHash<int, double> m_contents{}; ///< what the canisters really hold, by their IDs
+    int m_tablePosition = 0;         ///< the circuit at the dosing point of a machine with a turntable
 };
 
 } // namespace quv

@@ -4,8 +4,9 @@
 _quvctl()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-    local subcommands="list show encode decode call watch batch help"
+    local subcommands="list show encode decode call ticket tint watch batch machine help"
     local driver="--host --port --timeout"
+    local machines="dispenser turntable dual mixer"
     local words=""
     COMPREPLY=()
 
@@ -19,8 +20,11 @@ _quvctl()
     "list --kind") words="serial configuration special scale" ;;
     "list --family" | "encode --family") words="1 2" ;;
     "encode --form") words="value list" ;;
+    "tint --by") words="position circuit canister colorant" ;;
+    "tint --unit") words="steps strokes weight" ;;
+    "tint --levels-check") words="on off" ;;
     "encode --machine" | "decode --machine")
-        COMPREPLY=($(compgen -W "none dispenser mixer" -- "$current") $(compgen -f -- "$current"))
+        COMPREPLY=($(compgen -W "none $machines" -- "$current") $(compgen -f -- "$current"))
         return
         ;;
     *" --host" | *" --port" | *" --timeout" | *" --interval" | *" --count" | *" --args") return ;;
@@ -30,9 +34,18 @@ _quvctl()
         show) words="--json --help" ;;
         encode) words="--family --machine --form --json --help" ;;
         decode) words="--args --machine --json --help" ;;
-        call) words="--json $driver --help" ;;
+        call) words="--async --json $driver --help" ;;
+        ticket) words="--wait --interval --json $driver --help" ;;
+        tint) words="--by --unit --levels-check --no-wait --interval $driver --help" ;;
         watch) words="--interval --count $driver --help" ;;
         batch) words="--help" ;;
+        machine)
+            words="--help"
+            if [[ $current != -* ]]; then
+                COMPREPLY=($(compgen -W "$machines" -- "$current") $(compgen -f -- "$current"))
+                return
+            fi
+            ;;
         help) words="${subcommands% help}" ;;
         esac
         # a command's name comes first, and options only when asked for
@@ -55,7 +68,7 @@ _quvctl_has_name()
     local i
     for ((i = 2; i < COMP_CWORD; ++i)); do
         case "${COMP_WORDS[i]}" in
-        --json | --help) ;;
+        --json | --async | --help) ;;
         --*) ((++i)) ;;
         *) return 0 ;;
         esac

@@ -1,0 +1,496 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "drivercalls.h"
+#include "pouringmachine.h"
+
+#include <QuvFramework/formulaprogress.h>
+
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <thread>
+
+namespace {
+
+using namespace std::chrono_literals;
+using namespace quv::test;
+using quv::FirmwareReply;
+
+/// A driver with a machine that pours: a quantity of 10 takes 6 s at speed 1.
+class DriverPourTest : public DriverFixture
+{
+protected:
+    std::string begin(const char *name, const XmlRpcValue &argument)
+    {
+        const Envelope envelope = call("EXEC_NB", name, argument);
+        EXPECT_EQ(envelope.retCode, 0) << envelope.error();
+        return envelope.text("ticket_id");
+    }
+    Envelope ticket(const std::string &id) { return call("EXEC_B", "GET_CMD_STATUS", id); }
+    /// What the ticket gives in the end.
+    Envelope end(const std::string &id)
+    {
+        const auto until = std::chrono::steady_clock::now() + 20s;
+        while (ticket(id).number("status") > 0) {
+            if (std::chrono::steady_clock::now() > until)
+                throw std::logic_error("it never ends");
+            std::this_thread::sleep_for(5ms);
+        }
+        return Envelope(ticket(id).member("cmd_answer"));
+    }
+    void waitUntilItPours()
+    {
+        const auto until = std::chrono::steady_clock::now() + 10s;
+        while (!call("EXEC_B", "GET_STATUS").flag("tinting")) {
+            if (std::chrono::steady_clock::now() > until)
+                throw std::logic_error("it never pours");
+            std::this_thread::sleep_for(1ms);
+        }
+    }
+    /// "position quantity" of each item of one of the formulas of the report.
+    std::string reported(const char *key)
+    {
+        const Envelope report = call("EXEC_B", "GET_DISPENSED_FORMULA", 1, 1);
+        EXPECT_EQ(report.retCode, 0) << report.error();
+        const Formula reportedFormula(report.member(key));
+        QStringList items;
+        for (const FormulaItem &item : reportedFormula.items())
+            items.append(QStringLiteral("%1 %2").arg(item.id).arg(item.quantity));
+        return items.join(QStringLiteral(", ")).toStdString();
+    }
+};
+
+TEST_F(DriverPourTest, aTintIsAnsweredWhenItIsPouredAndLowersTheLevels)
+{
+    addSimulated(pouringMachine(), 50);
+    const auto begin = std::chrono::steady_clock::now();
+    const Envelope envelope = call("EXEC_B", "TINT", formula({{"A", 10}, {"C", 2.5}}));
+    const auto time = std::chrono::steady_clock::now() - begin;
+    EXPECT_EQ(envelope.retCode, 0) << envelope.error();
+    EXPECT_TRUE(envelope.failures.isEmpty());
+    EXPECT_GE(time, 149ms); // 7.5 s, 50 times faster
+    EXPECT_FALSE(call("EXEC_B", "GET_STATUS").flag("tinting"));
+    EXPECT_EQ(reported("dispensed_formula"), "1 1000, 3 250");
+    EXPECT_EQ(reported("total_formula"), "1 1000, 3 250");
+    EXPECT_EQ(level(11), "490");
+    EXPECT_EQ(level(12), "500");
+    EXPECT_EQ(level(13), "497.5");
+}
+
+TEST_F(DriverPourTest, aTintByTicketTellsItsProgressAndItsResult)
+{
+    addSimulated(pouringMachine(), 10);
+    const std::string id = begin("TINT", formula({{"A", 10}})); // 600 ms
+    int percentage = 0;
+    int timeLeft = 600;
+    bool sawMiddle = false;
+    Envelope status = ticket(id);
+    for (; status.number("status") > 0; status = ticket(id)) {
+        EXPECT_GE(status.number("percentage"), percentage);
+        EXPECT_LE(status.number("time_left"), timeLeft);
+        percentage = status.number("percentage");
+        timeLeft = status.number("time_left");
+        sawMiddle = sawMiddle || (percentage > 10 && percentage < 90 && timeLeft > 60 && timeLeft < 540);
+        EXPECT_EQ(int(status.member("cmd_answer")), 0);
+        std::this_thread::sleep_for(5ms);
+    }
+    EXPECT_TRUE(sawMiddle);
+    EXPECT_EQ(status.number("status"), 0);
+    EXPECT_EQ(status.number("percentage"), 100);
+    EXPECT_EQ(status.number("time_left"), 0);
+    EXPECT_EQ(status.text("info"), "Done successfully!");
+    const Envelope result(status.member("cmd_answer"));
+    EXPECT_EQ(result.retCode, 0);
+    EXPECT_EQ(result.info, QStringLiteral("TINT command executed successfully!"));
+    EXPECT_EQ(level(11), "490");
+    EXPECT_EQ(end(id).retCode, 0); // kept
+}
+
+TEST_F(DriverPourTest, aTicketIsRefusedAtOnceForWhatEXEC_BRefuses)
+{
+    const WatchedFirmware &firmware = addSimulated(pouringMachine(), 100);
+    const Envelope unknown = call("EXEC_NB", "TINT", formula({{"Z", 10}}));
+    EXPECT_EQ(unknown.retCode, 1);
+    EXPECT_EQ(unknown.error(), "DE03021 Formula: the dispenser does not have \"Z\"");
+    EXPECT_EQ(call("EXEC_NB", "TINT").retCode, 1);
+    EXPECT_EQ(call("EXEC_NB", "GET_DRIVER_INFO").retCode, 6);
+    EXPECT_EQ(call("EXEC_NB", "MIXER_STATUS").retCode, 5);
+    EXPECT_TRUE(firmware.received.isEmpty());
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 0.1}})).retCode, 0); // none of them keeps the machine
+}
+
+TEST_F(DriverPourTest, anyCommandCanHaveATicket)
+{
+    addDispenser(IdleTokens);
+    const Envelope envelope = call("EXEC_NB", "GET_STATUS");
+    EXPECT_EQ(envelope.retCode, 0);
+    EXPECT_EQ(envelope.info, QStringLiteral("GET_STATUS command executed successfully!"));
+    const Envelope result = end(envelope.text("ticket_id"));
+    EXPECT_EQ(result.retCode, 0);
+    EXPECT_TRUE(result.flag("head1_can_dose"));
+}
+
+TEST_F(DriverPourTest, aCommandThatTheFirmwareRefusesEndsItsTicketInErrors)
+{
+    addDispenser(QStringLiteral("6 0 8 0 0 0 0").split(QLatin1Char(' ')), true);
+    const std::string id = call("EXEC_NB", "RESET").text("ticket_id");
+    const Envelope result = end(id);
+    EXPECT_EQ(ticket(id).number("status"), -1);
+    EXPECT_EQ(result.retCode, 4);
+    EXPECT_EQ(result.error(),
+              "DE03106 The firmware refused the code 0001; masks of the reasons: 0x0 and 0x8");
+}
+
+TEST_F(DriverPourTest, anUnknownTicket)
+{
+    addDispenser(IdleTokens);
+    const Envelope envelope = ticket("17");
+    EXPECT_EQ(envelope.retCode, 1);
+    EXPECT_EQ(envelope.error(), "DE03111 There is no ticket \"17\"; the last 1000 are kept");
+}
+
+TEST_F(DriverPourTest, aMachinePoursOnceAtATime)
+{
+    const WatchedFirmware &firmware = addSimulated(pouringMachine(), 10);
+    const std::string id = begin("TINT", formula({{"A", 10}}));
+    waitUntilItPours();
+    const std::string refusal = "DE03112 The machine is at TINT and pours once at a time";
+    for (const char *method : {"EXEC_B", "EXEC_NB", "EXEC_NC"}) {
+        const Envelope second = call(method, "TINT", formula({{"B", 10}}));
+        EXPECT_EQ(second.retCode, 6) << method;
+        EXPECT_EQ(second.error(), refusal) << method;
+    }
+    EXPECT_EQ(call("EXEC_B", "PURGE", formula({{"B", 10}})).error(), refusal);
+    EXPECT_EQ(call("EXEC_B", "RESET").retCode, 4); // by the machine itself
+    EXPECT_EQ(end(id).retCode, 0);
+    EXPECT_EQ(firmware.received.size(), 1);
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"B", 1}})).retCode, 0);
+    EXPECT_EQ(level(12), "499");
+}
+
+TEST_F(DriverPourTest, aRefusedTintDoesNotKeepTheMachine)
+{
+    addSimulated(pouringMachine(), 100);
+    XmlRpcValue tooMuch = formula({{"A", 600}});
+    tooMuch["levels_policy"] = 2;
+    EXPECT_EQ(call("EXEC_B", "TINT", tooMuch).error(),
+              "DE00061 Formula interrupted because the current amount would go below zero");
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 1}})).retCode, 0);
+}
+
+TEST_F(DriverPourTest, theLevelsOfTheLastPourAreThoseThatTheNextIsCheckedBy)
+{
+    addSimulated(pouringMachine(), 10000);
+    XmlRpcValue most = formula({{"A", 300}});
+    most["levels_policy"] = 2;
+    EXPECT_EQ(call("EXEC_B", "TINT", most).retCode, 0);
+    EXPECT_EQ(level(11), "200");
+    EXPECT_EQ(call("EXEC_B", "TINT", most).error(),
+              "DE00061 Formula interrupted because the current amount would go below zero");
+}
+
+TEST_F(DriverPourTest, aPourTellsHowFarItIs)
+{
+    addSimulated(pouringMachine(), 10);
+    const std::string id = begin("TINT", formula({{"A", 10}, {"B", 10}}));
+    waitUntilItPours();
+    std::string dispensed = reported("dispensed_formula");
+    EXPECT_NE(dispensed, "1 1000, 2 1000");
+    while (dispensed.substr(0, 10) != "1 1000, 2 " || dispensed == "1 1000, 2 0") {
+        std::this_thread::sleep_for(1ms);
+        dispensed = reported("dispensed_formula");
+    }
+    EXPECT_NE(dispensed, "1 1000, 2 1000");
+    EXPECT_EQ(reported("total_formula"), "1 1000, 2 1000");
+    const XmlRpcValue progress = call("EXEC_B", "GET_FORMULA_EXECUTION", formula({})).member("frm_progress");
+    const FormulaProgress running(progress);
+    ASSERT_EQ(running.formulaChannels().size(), 1);
+    const FormulaChannel &channel = *running.formulaChannels().constFirst();
+    EXPECT_EQ(channel.channelID(), 1);
+    EXPECT_GT(channel.percentage(), 30);
+    EXPECT_LT(channel.percentage(), 100);
+    EXPECT_LT(channel.timeLeft(), 700);
+    EXPECT_EQ(channel.formula().items().size(), 2);
+    EXPECT_EQ(end(id).retCode, 0);
+    const FormulaProgress nothing(
+        call("EXEC_B", "GET_FORMULA_EXECUTION", formula({})).member("frm_progress"));
+    EXPECT_TRUE(nothing.formulaChannels().isEmpty());
+}
+
+TEST_F(DriverPourTest, levelsFallByWhatWasReallyPoured)
+{
+    FW_Dispenser real = pouringMachine();
+    real.getCanisterById(11)->setCurrentQuantity(4);
+    addSimulated(pouringMachine(), 100, &real);
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 10}})).retCode, 0);
+    EXPECT_EQ(reported("dispensed_formula"), "1 400");
+    EXPECT_EQ(reported("total_formula"), "1 1000");
+    EXPECT_EQ(level(11), "496");
+}
+
+TEST_F(DriverPourTest, aRefillFillsTheSimulatedCanister)
+{
+    FW_Dispenser machine = pouringMachine();
+    machine.getCanisterById(11)->setCurrentQuantity(4);
+    addSimulated(machine, 100);
+    EXPECT_EQ(call("EXEC_B", "SET_LEVELS", true, formula({{"A", 100}}), true).retCode, 0);
+    EXPECT_EQ(level(11), "104");
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 10}})).retCode, 0);
+    EXPECT_EQ(reported("dispensed_formula"), "1 1000");
+    EXPECT_EQ(level(11), "94");
+}
+
+TEST_F(DriverPourTest, levelsDoNotFallBelowNothing)
+{
+    FW_Dispenser believed = pouringMachine();
+    believed.getCanisterById(11)->setCurrentQuantity(4);
+    const FW_Dispenser real = pouringMachine();
+    addSimulated(believed, 100, &real);
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 10}})).retCode, 0);
+    EXPECT_EQ(level(11), "0");
+}
+
+TEST_F(DriverPourTest, purgePrimingAndPackAreWaitedForAsWell)
+{
+    addSimulated(pouringMachine(), 100);
+    EXPECT_EQ(call("EXEC_B", "PURGE", formula({{"A", 10}})).retCode, 0);
+    EXPECT_EQ(level(11), "490");
+    EXPECT_EQ(call("EXEC_B", "PRIMING", formula({{"B", 3}}, 2)).retCode, 0);
+    EXPECT_EQ(reported("dispensed_formula"), "2 1200");
+    EXPECT_EQ(level(12), "488");
+    EXPECT_EQ(call("EXEC_B", "PACK", 0, formula({{"C", 1}}, 2)).retCode, 0);
+    EXPECT_EQ(reported("dispensed_formula"), "3 0");
+    EXPECT_EQ(level(13), "500");
+    EXPECT_FALSE(call("EXEC_B", "GET_STATUS").flag("tinting"));
+}
+
+TEST_F(DriverPourTest, circuitListsAreWaitedForAsWell)
+{
+    addSimulated(pouringMachine(), 100);
+    XmlRpcValue circuits;
+    circuits["exec_criterion"] = 1;
+    circuits["target_circuits"].setSize(0);
+    for (int i = 0; i < 2; ++i) {
+        XmlRpcValue circuit;
+        circuit["position_id"] = i + 1;
+        circuit["queue_id"] = 0;
+        circuit["speed"] = 50;
+        circuit["strokes"] = 2;
+        circuits["target_circuits"][i] = circuit;
+    }
+    EXPECT_EQ(call("EXEC_B", "PRIMING2", circuits).retCode, 0);
+    EXPECT_EQ(reported("dispensed_formula"), "1 800, 2 800");
+    EXPECT_EQ(level(11), "492");
+    for (const char *name : {"PACK2", "AIRPURGE"}) {
+        EXPECT_EQ(call("EXEC_B", name, circuits).retCode, 0) << name;
+        EXPECT_EQ(reported("dispensed_formula"), "1 0, 2 0") << name;
+    }
+    EXPECT_EQ(level(11), "492");
+}
+
+TEST_F(DriverPourTest, aTint2IsATintUnderItsOwnCode)
+{
+    const WatchedFirmware &firmware = addSimulated(pouringMachine(), 1000);
+    EXPECT_EQ(call("EXEC_B", "TINT2", formula({{"A", 10}})).retCode, 0);
+    ASSERT_EQ(firmware.received.size(), 1);
+    EXPECT_EQ(firmware.received[0].first, QStringLiteral("0035"));
+    // no queue; 500 of the canister are 50000 steps, in hundreds 500 = 8 + 2 * 246
+    EXPECT_EQ(firmware.received[0].second, (QList<int>{2, 1, 6, 1, 0, 50, 0, 2, 16, 4, 2, 8, 2}));
+    EXPECT_EQ(level(11), "490");
+}
+
+TEST_F(DriverPourTest, oneChannelOfADualMachine)
+{
+    FW_Dispenser machine = pouringMachine(2);
+    machine.setHeadArrangement(FW_Dispenser::HeadArrangement::Dual);
+    const WatchedFirmware &firmware = addSimulated(machine, 10);
+    const Envelope envelope = call("EXEC_NB", "CHANNEL_TINT", 2, formula({{"A", 10}}));
+    EXPECT_EQ(envelope.retCode, 0) << envelope.error();
+    waitUntilItPours();
+    const FormulaProgress running(
+        call("EXEC_B", "GET_FORMULA_EXECUTION", formula({})).member("frm_progress"));
+    ASSERT_EQ(running.formulaChannels().size(), 1);
+    EXPECT_EQ(running.formulaChannels().constFirst()->channelID(), 2);
+    EXPECT_EQ(end(envelope.text("ticket_id")).retCode, 0);
+    EXPECT_EQ(firmware.received[0].second, (QList<int>{2, 1, 1, 2, 50, 2, 16, 4}));
+}
+
+TEST_F(DriverPourTest, aTurntablePoursInTheOrderInWhichItReachesTheCircuits)
+{
+    const WatchedFirmware &firmware = addSimulated(rotatingMachine(), 1000);
+    // the table begins at its first position, 3, and 1 is nearer to it than 2
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"B", 1}, {"A", 1}})).retCode, 0);
+    EXPECT_EQ(firmware.received[0].second, (QList<int>{0, 2, 1, 0, 50, 1, 100, 2, 0, 50, 1, 100}));
+    // and it goes on from 2, where it stopped
+    EXPECT_EQ(call("EXEC_B", "PURGE", formula({{"A", 1}, {"C", 1}, {"B", 1}})).retCode, 0);
+    EXPECT_EQ(firmware.received[1].second.value(2), 2);
+    EXPECT_EQ(firmware.received[1].second.value(7), 1);
+    EXPECT_EQ(firmware.received[1].second.value(12), 3);
+    EXPECT_EQ(level(11), "498");
+    EXPECT_EQ(level(12), "498");
+    EXPECT_EQ(level(13), "499");
+}
+
+TEST_F(DriverPourTest, theEstimateOfATurntableHoldsItsWay)
+{
+    addSimulated(rotatingMachine(), 10);
+    XmlRpcValue asked;
+    asked["command"] = arrayOf("TINT", formula({{"A", 10}, {"D", 10}}));
+    // a second to 1, 6 s, two seconds to 4, 6 s; ten times faster
+    EXPECT_EQ(call("EXEC_B", "GET_CMD_EST_EXEC_TIME", asked).number("exec_time"), 1500);
+}
+
+TEST_F(DriverPourTest, aPourCannotBeWaitedForAsAChange)
+{
+    const WatchedFirmware &firmware = addSimulated(pouringMachine(), 1000);
+    XmlRpcValue parameters;
+    parameters["cmd_parameters"] = arrayOf(formula({{"A", 1}}));
+    const Envelope envelope = call("EXEC_NC", "TINT", parameters, 100, 1000);
+    EXPECT_EQ(envelope.retCode, 1);
+    EXPECT_EQ(envelope.error(),
+              "DE03115 A command that pours cannot wait for a change: it would pour again and again");
+    EXPECT_TRUE(firmware.received.isEmpty());
+}
+
+TEST_F(DriverPourTest, waitingForATicketToEnd)
+{
+    addSimulated(pouringMachine(), 10);
+    const std::string id = begin("TINT", formula({{"A", 10}}));
+    waitUntilItPours();
+    XmlRpcValue last;
+    last["last_answer"] = call("EXEC_B", "GET_STATUS").answer;
+    const Envelope changed = call("EXEC_NC", "GET_STATUS", last, 10, 20000);
+    EXPECT_EQ(changed.retCode, 0);
+    EXPECT_FALSE(changed.flag("tinting"));
+    EXPECT_EQ(end(id).retCode, 0);
+}
+
+TEST_F(DriverPourTest, aFirmwareThatDoesNotTellWhatItPouredLeavesTheLevels)
+{
+    addScripted(std::make_unique<FW_Dispenser>(pouringMachine()), [](const QString &code) {
+        if (code == QLatin1String("0006"))
+            return FirmwareReply{false, IdleTokens};
+        if (code == QLatin1String("0074"))
+            return FirmwareReply{true, QStringLiteral("6 8 0 0 0 0 0").split(QLatin1Char(' '))};
+        return FirmwareReply{false, QStringList{QStringLiteral("0")}};
+    });
+    const Envelope envelope = call("EXEC_B", "TINT", formula({{"A", 10}}));
+    EXPECT_EQ(envelope.retCode, 0);
+    EXPECT_EQ(
+        envelope.error(),
+        "DE03117 The firmware does not tell what it poured, so the levels are as they were: it refuses to");
+    EXPECT_EQ(level(11), "500");
+}
+
+TEST_F(DriverPourTest, aReportThatCannotBeReadLeavesTheLevels)
+{
+    addScripted(std::make_unique<FW_Dispenser>(pouringMachine()), [](const QString &code) {
+        if (code == QLatin1String("0006"))
+            return FirmwareReply{false, IdleTokens};
+        return FirmwareReply{false, QStringList{QStringLiteral("0")}};
+    });
+    const Envelope envelope = call("EXEC_B", "TINT", formula({{"A", 10}}));
+    EXPECT_EQ(envelope.retCode, 0);
+    EXPECT_EQ(envelope.error(),
+              "DE03117 The firmware does not tell what it poured, so the levels are as they were: "
+              "Error during dispensed formula serial answer decoding: bad answer received");
+    EXPECT_EQ(level(11), "500");
+}
+
+TEST_F(DriverPourTest, aLinkThatFailsDuringAPourFreesTheMachine)
+{
+    int asked = 0;
+    addScripted(std::make_unique<FW_Dispenser>(pouringMachine()), [&asked](const QString &code) {
+        if (code == QLatin1String("0006"))
+            throw std::runtime_error("no reply within 2 s");
+        ++asked;
+        return FirmwareReply{false, QStringList{QStringLiteral("0")}};
+    });
+    for (int i = 1; i <= 2; ++i) {
+        const Envelope envelope = call("EXEC_B", "TINT", formula({{"A", 10}}));
+        EXPECT_EQ(envelope.retCode, 8);
+        EXPECT_EQ(envelope.error(), "DE03110 no reply within 2 s");
+        EXPECT_EQ(asked, i);
+    }
+}
+
+TEST_F(DriverPourTest, theDriversEndInterruptsWhoWaitsForAPour)
+{
+    addSimulated(pouringMachine(), 1);
+    auto waiting = std::async(std::launch::async, [&] {
+        return call("EXEC_B", "TINT", formula({{"A", 100}}));
+    });
+    waitUntilItPours();
+    m_driver->stop();
+    ASSERT_EQ(waiting.wait_for(5s), std::future_status::ready);
+    const Envelope envelope = waiting.get();
+    EXPECT_EQ(envelope.retCode, 7);
+    EXPECT_EQ(envelope.error(),
+              "DE03116 The driver ends before the command has; the machine goes on by itself");
+    EXPECT_EQ(envelope.info, QStringLiteral("TINT : Command has been interrupted!"));
+}
+
+TEST_F(DriverPourTest, aDriverGoesWithoutWaitingForAPour)
+{
+    addSimulated(pouringMachine(), 1);
+    const std::string id = begin("TINT", formula({{"A", 100}}));
+    waitUntilItPours();
+    m_driver->stop();
+    EXPECT_EQ(end(id).retCode, 7);
+    EXPECT_EQ(ticket(id).number("status"), -3);
+    begin("RESET", XmlRpcValue(0));
+    const auto begun = std::chrono::steady_clock::now();
+    m_driver.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, 2s);
+}
+
+TEST_F(DriverPourTest, manyAskWhileOnePours)
+{
+    addSimulated(pouringMachine(4), 40);
+    const std::string id = begin("TINT", formula({{"A", 20}, {"B", 20}, {"C", 10}, {"D", 10}}));
+    std::atomic<bool> isOver{false};
+    std::vector<std::thread> clients;
+    for (int i = 0; i < 8; ++i)
+        clients.emplace_back([&] {
+            for (int n = 0; !isOver; ++n) {
+                EXPECT_EQ(call("EXEC_B", "GET_STATUS").retCode, 0);
+                EXPECT_EQ(ticket(id).retCode, 0);
+                EXPECT_EQ(call("EXEC_B", "GET_DISPENSED_FORMULA", 1, 1).retCode, 0);
+                EXPECT_EQ(call("EXEC_B", "GET_FORMULA_EXECUTION", formula({})).retCode, 0);
+                EXPECT_EQ(call("EXEC_B", "CHECK_FORMULA_LEVELS", formula({{"A", 1}}), false).retCode, 0);
+                EXPECT_EQ(call("EXEC_B", "SET_LEVELS", true, formula({{"A", 0}})).retCode, 0);
+                if (n < 10) { // only so many may wait for their turn
+                    EXPECT_EQ(call("EXEC_NB", "GET_STATUS").retCode, 0);
+                }
+            }
+        });
+    EXPECT_EQ(end(id).retCode, 0);
+    isOver = true;
+    for (std::thread &client : clients)
+        client.join();
+    EXPECT_EQ(level(11), "480");
+    EXPECT_EQ(level(12), "480");
+    EXPECT_EQ(level(13), "490");
+    EXPECT_EQ(level(14), "490");
+}
+
+TEST_F(DriverPourTest, ofManyAtOnceOneMayPour)
+{
+    const WatchedFirmware &firmware = addSimulated(pouringMachine(), 10);
+    std::atomic<int> poured{0};
+    std::vector<std::thread> clients;
+    for (int i = 0; i < 8; ++i)
+        clients.emplace_back([&] {
+            const Envelope envelope = call("EXEC_B", "TINT", formula({{"A", 10}}));
+            if (envelope.retCode == 0)
+                ++poured;
+            else
+                EXPECT_EQ(envelope.retCode, 6) << envelope.error();
+        });
+    for (std::thread &client : clients)
+        client.join();
+    EXPECT_EQ(poured, 1);
+    EXPECT_EQ(firmware.received.size(), 1);
+    EXPECT_EQ(level(11), "490");
+}
+
+} // namespace

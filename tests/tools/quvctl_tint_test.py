@@ -1,0 +1,350 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+"""quvctl tint and ticket. Usage: quvctl_tint_test.py QUVDRIVER QUVCTL"""
+
+import json
+import os
+import pty
+import re
+import signal
+import subprocess
+import sys
+import threading
+import unittest
+import xmlrpc.server
+
+import quvdriver_process
+
+QUVCTL = ""
+
+
+def run(*words):
+    result = subprocess.run([QUVCTL, *words], stdin=subprocess.DEVNULL, capture_output=True, timeout=60, check=False)
+    return result.returncode, result.stdout.decode("utf-8"), result.stderr.decode("utf-8")
+
+
+def start(*words):
+    """The tool as a process of its own, which listens to Ctrl-C even when the tests do not."""
+    return subprocess.Popen([QUVCTL, *words], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                            text=True, preexec_fn=lambda: signal.signal(signal.SIGINT, signal.default_int_handler))
+
+
+def envelope(value, ret_code=0, info="TINT command executed successfully!"):
+    return {"ret_code": ret_code, "info": info, "ret_value": value, "errors": [], "exec_time": 3}
+
+
+def ticket(state, result=0, **members):
+    return envelope({"status": state, "info": "", "extra_info": "", "time_left": 0,
+                     "percentage": 0 if state > 0 else 100, "cmd_answer": result, **members})
+
+
+def steps(**positions):
+    """A formula of steps at positions: p3=120."""
+    return {"formula_type": 1, "quantity_unit": 1, "ids": [name[1:] for name in positions],
+            "quantities": [float(number) for number in positions.values()]}
+
+
+def dispensed(poured, asked):
+    return envelope({"dispensed_formula": poured, "remaining_formula": steps(), "total_formula": asked})
+
+
+def levels(critical=(), warning=()):
+    return envelope({"canisters_below_critical": list(critical), "canisters_below_warning": list(warning)})
+
+
+class ScriptedDriver:
+    """Answers a pour by its script, and remembers what it was asked."""
+
+    def __init__(self, **script):
+        self.script = {"levels": levels(), "start": envelope({"ticket_id": "T-1"}),
+                       "tickets": [ticket(0, envelope(0))],
+                       "dispensed": dispensed(steps(p2=300), steps(p2=300)), **script}
+        self.asked = []
+        self.started = []
+        self.server = xmlrpc.server.SimpleXMLRPCServer(("127.0.0.1", 0), logRequests=False)
+        self.server.register_function(self.execute, "EXEC_B")
+        self.server.register_function(self.start, "EXEC_NB")
+        self.port = str(self.server.server_address[1])
+        self.thread = threading.Thread(target=self.server.serve_forever, args=(0.01,), daemon=True)
+
+    def execute(self, name, *params):
+        self.asked.append([name, *params])
+        if name == "GET_CMD_STATUS":
+            tickets = self.script["tickets"]
+            return tickets.pop(0) if len(tickets) > 1 else tickets[0]
+        return self.script[{"CHECK_FORMULA_LEVELS": "levels", "GET_DISPENSED_FORMULA": "dispensed"}[name]]
+
+    def start(self, *params):
+        self.started.append(list(params))
+        return self.script["start"]
+
+    def __enter__(self):
+        self.thread.start()
+        return self
+
+    def __exit__(self, *_):
+        self.server.shutdown()
+        self.thread.join()
+        self.server.server_close()
+
+
+class Requests(unittest.TestCase):
+    maxDiff = None
+
+    def sent(self, *words):
+        """The formula that a driver gets."""
+        with ScriptedDriver() as driver:
+            code, _, err = run("tint", *words, "--no-wait", "--port", driver.port)
+            self.assertEqual((code, err), (0, ""))
+        self.assertEqual([request[0] for request in driver.asked], ["CHECK_FORMULA_LEVELS"])
+        self.assertEqual(len(driver.started), 1)
+        name, formula = driver.started[0]
+        self.assertEqual(name, "TINT")
+        # the question about the levels is the same formula, without a policy
+        self.assertEqual(driver.asked[0][1:], [{**formula, "levels_policy": 0}, False])
+        return formula
+
+    def test_colorants(self):
+        self.assertEqual(self.sent("B=12.5", "KX=3"), {
+            "formula_type": 4, "quantity_unit": 3, "ids": ["B", "KX"], "quantities": [12.5, 3.0],
+            "exec_criterion": 0, "levels_policy": 2, "decimals": 3})
+        self.assertEqual(self.sent("a=b=1e1")["ids"], ["a=b"])
+
+    def test_types_and_units(self):
+        for word, number in [("position", 1), ("circuit", 2), ("canister", 3), ("colorant", 4)]:
+            self.assertEqual(self.sent("--by", word, "7=5")["formula_type"], number)
+        for word, number in [("steps", 1), ("strokes", 2), ("weight", 3)]:
+            self.assertEqual(self.sent("--unit", word, "7=5")["quantity_unit"], number)
+
+    def test_levels_check(self):
+        self.assertEqual(self.sent("B=1", "--levels-check", "on")["levels_policy"], 2)
+        self.assertEqual(self.sent("B=1", "--levels-check", "off")["levels_policy"], 0)
+
+    def test_json(self):
+        formula = {"formula_type": 1, "quantity_unit": 1, "ids": ["3", "4"], "quantities": [200, 10.0],
+                   "queue_ids": [1, 0], "nozzle_valves": [0, 2], "exec_criterion": 2, "decimals": 1}
+        told = {**formula, "quantities": [200.0, 10.0]}
+        self.assertEqual(self.sent(json.dumps(formula)), {**told, "levels_policy": 2})
+        for policy in [0, 1, 2, 5]:
+            self.assertEqual(self.sent(json.dumps({**formula, "levels_policy": policy}))["levels_policy"], policy)
+        text = json.dumps({**formula, "levels_policy": 5})
+        self.assertEqual(self.sent(text, "--levels-check", "on")["levels_policy"], 7)
+        self.assertEqual(self.sent(json.dumps({**formula, "levels_policy": 7}), "--levels-check", "off")
+                         ["levels_policy"], 5)
+
+    def test_wrong_usage(self):
+        formula = '{"formula_type":4,"quantity_unit":3,"ids":["B"],"quantities":[1]}'
+        with ScriptedDriver() as driver:
+            for text, *words in [
+                    ("tint needs FORMULA | ID=QUANTITY...",),
+                    ("B is no ID=QUANTITY, such as B=12.5", "B"),
+                    ("=5 is no ID=QUANTITY, such as B=12.5", "=5"),
+                    ("B= is no ID=QUANTITY, such as B=12.5", "B="),
+                    ("B=1,5 is no ID=QUANTITY, such as B=12.5", "B=1,5"),
+                    ("B=inf is no ID=QUANTITY, such as B=12.5", "A=1", "B=inf"),
+                    ("B=1: B is no whole number", "B=1", "--by", "position"),
+                    ("--by is one of: colorant, position, circuit, canister", "B=1", "--by", "smell"),
+                    ("--unit is one of: weight, steps, strokes", "B=1", "--unit", "litres"),
+                    ("--levels-check is one of: on, off", "B=1", "--levels-check", "maybe"),
+                    ("--interval takes a number from 10 to 3600000", "B=1", "--interval", "9"),
+                    ('unexpected "B=1"', formula, "B=1"),
+                    ("a formula as JSON tells its own type and unit, without --by and --unit", formula, "--by",
+                     "colorant"),
+                    ("a formula as JSON tells its own type and unit, without --by and --unit", formula, "--unit",
+                     "steps"),
+                    ("the formula: there is no such type of formula", formula.replace("4", "5"))]:
+                self.assertEqual(run("tint", *words, "--port", driver.port),
+                                 (2, "", f"quvctl: {text} (see quvctl help)\n"))
+            for text in ["{", "{}", "{'a':1}", '{"formula_type":null}', formula.replace("[1]", "[1,2]"),
+                         formula.replace("[1]", "[2147483648]")]:
+                code, out, err = run("tint", text, "--port", driver.port)
+                self.assertEqual((code, out), (2, ""))
+                self.assertRegex(err, "^quvctl: the formula: .+\n$")
+        self.assertEqual((driver.asked, driver.started), ([], []))
+
+
+class Pouring(unittest.TestCase):
+    maxDiff = None
+
+    def tint(self, **script):
+        with ScriptedDriver(**script) as driver:
+            told = run("tint", "B=12.5", "--interval", "10", "--port", driver.port)
+        return (*told, driver)
+
+    def test_all(self):
+        code, out, err, driver = self.tint(
+            tickets=[ticket(2), ticket(1, percentage=5, time_left=20000), ticket(1, percentage=14, time_left=18000),
+                     ticket(1, percentage=45, time_left=11500), ticket(0, envelope(0))],
+            dispensed=dispensed(steps(p2=300, p14=1000000), steps(p2=300, p14=1000000)))
+        self.assertEqual((code, err), (0, ""))
+        self.assertEqual(out.split("\n"), [
+            "Ticket T-1",
+            "Queued...",
+            "5 %  About 21 seconds remaining...",
+            "45 %  About 12 seconds remaining...",
+            "100 %  Done successfully!",
+            "TINT command executed successfully!",
+            "POSITION  POURED STEPS  ASKED STEPS",
+            "2         300           300",
+            "14        1000000       1000000",
+            "poured: all",
+            ""])
+        self.assertEqual(driver.asked[1:], [["GET_CMD_STATUS", "T-1"]] * 5 + [["GET_DISPENSED_FORMULA", 1, 1]])
+
+    def test_less_than_asked(self):
+        code, out, err, _ = self.tint(dispensed=dispensed(steps(p2=300, p3=120), steps(p2=300, p3=200)))
+        self.assertEqual((code, err), (1, ""))
+        self.assertEqual(out.split("\n")[-4:],
+                         ["2         300           300", "3         120           200",
+                          "poured less than asked on circuit 3", ""])
+        code, out, err, _ = self.tint(dispensed=dispensed(steps(p2=0), steps(p2=300, p3=200)))
+        self.assertEqual((code, err), (1, ""))
+        self.assertEqual(out.split("\n")[-4:],
+                         ["2         0             300", "3         0             200",
+                          "poured less than asked on circuits 2, 3", ""])
+
+    def test_low_levels_are_told_and_stop_nothing(self):
+        code, out, err, driver = self.tint(levels=levels([3, 5], [5, 7]))
+        self.assertEqual((code, err.split("\n")), (0, [
+            "warning: canister 3 would fall below its critical level",
+            "warning: canister 5 would fall below its critical level",
+            "warning: canister 7 would fall below its warning level",
+            ""]))
+        self.assertIn("\npoured: all\n", out)
+        self.assertEqual(len(driver.started), 1)
+
+    def test_refused_before_the_pour(self):
+        errors = [{"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE00552", "text": "Bad"}]
+        code, out, err, driver = self.tint(levels={**envelope(0, 1), "errors": errors})
+        self.assertEqual((code, out, err),
+                         (1, "", "Failed! Xml-rpc command invalid for Driver.Errors: \nDE00552: Bad\n"))
+        self.assertEqual(driver.started, [])
+
+    def test_refused_pour(self):
+        code, out, err, driver = self.tint(start=envelope(0, 4))
+        self.assertEqual((code, out, err), (1, "", "Failed! Command not executed due to errors on firmware.\n"))
+        self.assertEqual(len(driver.asked), 1)
+
+    def test_failed_pour(self):
+        code, out, err, driver = self.tint(tickets=[ticket(-1, envelope(0, 4))])
+        self.assertEqual((code, out, err), (1, "Ticket T-1\n100 %  Errors in command execution!\n",
+                                            "Failed! Command not executed due to errors on firmware.\n"))
+        self.assertEqual(driver.asked[-1][0], "GET_CMD_STATUS")  # the last pour is another one
+
+    def test_interrupted_pour(self):
+        code, out, err, _ = self.tint(tickets=[ticket(-3, envelope(0, 7))],
+                                      dispensed=dispensed(steps(p2=12), steps(p2=300)))
+        self.assertEqual((code, err), (1, "Command has been interrupted!\n"))
+        self.assertEqual(out.split("\n"), ["Ticket T-1", "100 %  Interrupted!", "POSITION  POURED STEPS  ASKED STEPS",
+                                           "2         12            300", "poured less than asked on circuit 2", ""])
+
+    def test_no_wait(self):
+        with ScriptedDriver() as driver:
+            self.assertEqual(run("tint", "B=1", "--no-wait", "--port", driver.port), (0, "Ticket T-1\n", ""))
+
+
+class Simulated(unittest.TestCase):
+    """Pours on a driver's simulated dispenser."""
+
+    maxDiff = None
+    REPORT = ["POSITION  POURED STEPS  ASKED STEPS", "2         1080          1080", "3         232           232",
+              "poured: all", ""]
+
+    def tint(self, driver, *words):
+        return run("tint", *words, "--interval", "10", "--port", str(driver.port))
+
+    def test_pour(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "100") as driver:
+            code, out, err = self.tint(driver, "B=10", "C=2")
+        self.assertEqual((code, err), (0, ""))
+        lines = out.split("\n")
+        self.assertRegex(lines[0], "^Ticket .+$")
+        self.assertEqual(lines[-6:], ["TINT command executed successfully!", *self.REPORT])
+        self.assertEqual(lines[-7], "100 %  Done successfully!")
+        for line in lines[1:-7]:
+            self.assertRegex(line, r"^(Created\.\.\.|Queued\.\.\.|Executing\.\.\.|\d+ %(  About .+ remaining\.\.\.)?)$")
+
+    def test_no_wait(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "100") as driver:
+            code, out, err = run("tint", "B=10", "C=2", "--no-wait", "--port", str(driver.port))
+            self.assertEqual((code, err), (0, ""))
+            ticket_id = re.fullmatch("Ticket (.+)\n", out).group(1)
+            code, out, err = run("ticket", ticket_id, "--wait", "--interval", "10", "--port", str(driver.port))
+            self.assertEqual((code, err), (0, ""))
+            self.assertEqual(out.split("\n")[-3:], ["TINT command executed successfully!", "0", ""])
+            code, out, err = run("ticket", ticket_id, "--json", "--port", str(driver.port))
+            self.assertEqual((code, json.loads(out)["status"]["status"]), (0, 0))
+            self.assertEqual(run("ticket", "no-such-ticket", "--port", str(driver.port))[:2], (1, ""))
+
+    def test_levels(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "10000") as driver:
+            code, out, err = self.tint(driver, "B=1900")  # 2000 in the canister, 150 are critical, 300 low
+            self.assertEqual((code, out), (1, ""))
+            self.assertEqual(err.split("\n")[0], "warning: canister 2 would fall below its critical level")
+            self.assertIn("DE00060", err)
+            code, out, err = self.tint(driver, "B=1750")
+            self.assertEqual((code, err), (0, "warning: canister 2 would fall below its warning level\n"))
+            code, out, err = self.tint(driver, "B=10")  # 250 are left
+            self.assertEqual((code, err), (0, "warning: canister 2 would fall below its warning level\n"))
+            code, out, err = self.tint(driver, "B=300", "--levels-check", "off")  # more than is there
+            self.assertEqual((code, err), (1, "warning: canister 2 would fall below its critical level\n"))
+            self.assertIn("\npoured less than asked on circuit 2\n", out)
+
+    def test_refusals(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "100") as driver:
+            for words, code in [(["NOPE=1"], "DE03021"), (["B=-1"], "DE00552")]:
+                status, out, err = self.tint(driver, *words)
+                self.assertEqual((status, out), (1, ""))
+                self.assertIn(code, err)
+        with quvdriver_process.Driver("--machine", "mixer") as driver:
+            status, out, err = self.tint(driver, "B=1")
+            self.assertEqual((status, out), (1, ""))
+            self.assertIn("DE03104", err)
+
+    def test_interrupt(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "20") as driver:
+            with start("tint", "B=500", "--interval", "10", "--port", str(driver.port)) as process:  # 13 s
+                ticket_id = re.fullmatch("Ticket (.+)\n", process.stdout.readline()).group(1)
+                process.stdout.readline()  # it waits
+                process.send_signal(signal.SIGINT)
+                _, err = process.communicate(timeout=30)
+            self.assertEqual((process.returncode, err), (
+                130, f"the machine goes on; look again with: quvctl ticket {ticket_id} --port {driver.port}\n"))
+            code, out, err = run("ticket", ticket_id, "--port", str(driver.port))
+            self.assertEqual((code, err), (0, ""))
+            self.assertRegex(out, r"^\d+ %  About \d+ seconds remaining\.\.\.\n$")
+            code, out, err = self.tint(driver, "B=1")  # the machine is busy
+            self.assertEqual((code, out), (1, ""))
+
+    def test_terminal(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "20") as driver:
+            try:
+                child, terminal = pty.fork()
+            except OSError as error:
+                self.skipTest(f"this machine has no terminal to give: {error}")
+            if child == 0:
+                os.environ.update(TERM="xterm", NO_COLOR="1")
+                os.execv(QUVCTL, [QUVCTL, "tint", "B=500", "--interval", "10", "--port", str(driver.port)])
+            watchdog = threading.Timer(30, os.kill, (child, signal.SIGKILL))
+            watchdog.start()
+            text = b""
+            while b"remaining...\033[K\r[" not in text:
+                text += os.read(terminal, 4096)
+            os.write(terminal, b"\003")  # Ctrl-C
+            try:
+                while more := os.read(terminal, 4096):
+                    text += more
+            except OSError:
+                pass  # the end of a terminal
+            _, status = os.waitpid(child, 0)
+            watchdog.cancel()
+            os.close(terminal)
+        self.assertEqual(os.waitstatus_to_exitcode(status), 130)
+        text = text.decode("utf-8")
+        self.assertRegex(text, r"^Ticket .+\r\n\r\[\.{10}\] ")
+        self.assertRegex(text, r"\r\[[#.]{10}\] \d+ %  About \d+ seconds remaining\.\.\.\x1b\[K")
+        self.assertRegex(text, rf"\r\nthe machine goes on; look again with: quvctl ticket .+ --port {driver.port}\r\n$")
+
+
+if __name__ == "__main__":
+    QUVCTL = sys.argv.pop(2)
+    quvdriver_process.main()

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "formulawords.h"
+
+#include "commandline.h"
+#include "jsonvalue.h"
+
+#include <cmath>
+
+namespace quv {
+
+namespace {
+
+struct Choice
+{
+    const char *word;
+    int value;
+};
+
+constexpr Choice types[] = {{"colorant", Formula::ColorantCodes},
+                            {"position", Formula::CircuitPositions},
+                            {"circuit", Formula::CircuitIDs},
+                            {"canister", Formula::CanisterIDs}};
+constexpr Choice units[] = {
+    {"weight", Formula::WeightOrVolume}, {"steps", Formula::Steps}, {"strokes", Formula::Strokes}};
+
+/// The value of the word that \a option has; the first choice when it has none.
+template <std::size_t Count>
+int chosen(const CommandLine &line, const char *option, const Choice (&choices)[Count])
+{
+    QStringList words;
+    for (const Choice &choice : choices)
+        words.append(QLatin1String(choice.word));
+    return choices[words.indexOf(line.choice(option, words.first(), words))].value;
+}
+
+void setLevelsCheck(Formula &formula, bool check)
+{
+    const int policy = formula.levelsManagementPolicy();
+    formula.setLevelsManagementPolicy(check ? policy | Formula::CheckLevels : policy & ~Formula::CheckLevels);
+}
+
+Formula formulaFromJson(const QString &word)
+{
+    try {
+        const nlohmann::json json = parseJson(word.toStdString());
+        Formula formula(toXmlRpcValue(json));
+        if (!json.contains(Formula::LEVELS_POLICY))
+            setLevelsCheck(formula, true);
+        return formula;
+    } catch (const JsonError &error) {
+        throw UsageError(QStringLiteral("the formula: %1").arg(QString::fromUtf8(error.what())));
+    } catch (const std::invalid_argument &error) {
+        throw UsageError(QStringLiteral("the formula: %1").arg(QString::fromUtf8(error.what())));
+    }
+}
+
+FormulaItem itemFromWord(const QString &word, int type)
+{
+    const int equals = word.lastIndexOf(QLatin1Char('='));
+    FormulaItem item;
+    item.id = word.left(equals);
+    bool isNumber = false;
+    item.quantity = word.mid(equals + 1).toDouble(&isNumber);
+    if (equals < 1 || !isNumber || !std::isfinite(item.quantity))
+        throw UsageError(QStringLiteral("%1 is no ID=QUANTITY, such as B=12.5").arg(word));
+    bool isId = type == Formula::ColorantCodes;
+    if (!isId)
+        item.id.toInt(&isId);
+    if (!isId)
+        throw UsageError(QStringLiteral("%1: %2 is no whole number").arg(word, item.id));
+    return item;
+}
+
+Formula formulaFromWords(const CommandLine &line)
+{
+    Formula formula;
+    formula.setFormulaType(chosen(line, "by", types));
+    formula.setQuantityUnit(chosen(line, "unit", units));
+    for (const QString &word : line.words())
+        formula.addItem(itemFromWord(word, formula.formulaType()));
+    setLevelsCheck(formula, true);
+    return formula;
+}
+
+} // namespace
+
+Formula formulaOf(const CommandLine &line)
+{
+    const QString on = QStringLiteral("on");
+    const QString check = line.choice("levels-check", on, {on, QStringLiteral("off")});
+    const QString word = line.words().first();
+    const bool isJson = word.startsWith(QLatin1Char('{'));
+    if (isJson && line.words().size() > 1)
+        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(line.words()[1]));
+    if (isJson && (line.isSet("by") || line.isSet("unit")))
+        throw UsageError(
+            QStringLiteral("a formula as JSON tells its own type and unit, without --by and --unit"));
+    Formula formula = isJson ? formulaFromJson(word) : formulaFromWords(line);
+    if (line.isSet("levels-check"))
+        setLevelsCheck(formula, check == on);
+    return formula;
+}
+
+} // namespace quv

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "machinefile.h"
+#include "machines.h"
+#include "subcommands.h"
+#include "terminal.h"
+
+namespace quv {
+
+namespace {
+
+ExitStatus run(const CommandLine &line)
+{
+    const auto machine = machineByName(line.words().first());
+    if (!machine)
+        throw UsageError(QStringLiteral("\"none\" is no machine to print"));
+    const QStringList lines = QString::fromUtf8(machineFileOf(*machine)).split(QLatin1Char('\n'));
+    for (int i = 0; i < lines.size() - 1; ++i) // behind the last line end is nothing
+        printLine(lines[i]);
+    return Done;
+}
+
+} // namespace
+
+const Subcommand machineSubcommand = {
+    "machine",
+    "NAME|FILE",
+    "a machine as the JSON of a machine file",
+    "Prints a built-in machine (dispenser, turntable, dual, mixer), or that of a "
+    "file with all of its members.",
+    1,
+    1,
+    {},
+    run};
+
+} // namespace quv

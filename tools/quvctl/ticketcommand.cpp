@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "operations.h"
+#include "progress.h"
+#include "subcommands.h"
+#include "terminal.h"
+#include "tickets.h"
+#include "words.h"
+
+#include "base/xmlrpcanswer.h"
+
+namespace quv {
+
+namespace {
+
+ExitStatus statusOfEnd(const CmdStatus &status)
+{
+    bool ok = false;
+    return status.status() == CmdStatus::Done && status.getXmlRpcAnswer(&ok).retCode() == 0 && ok ? Done
+                                                                                                  : Refused;
+}
+
+ExitStatus printAsJson(const Ticket &ticket, const CmdStatus &status)
+{
+    OrderedJson reply = OrderedJson::object(
+        {{"ok", true}, {"ticket", toJson(ticket.id())}, {"status", commandStatusReply(status, false)}});
+    const bool running = status.status() > 0;
+    bool ok = false;
+    if (const XmlRpcAnswer envelope = status.getXmlRpcAnswer(&ok); !running && ok) {
+        reply["envelope"] = envelopeJson(envelope);
+        reply["value"] = toJson(envelope.xmlrpcRetValue());
+    }
+    printLine(QString::fromStdString(writeJson(reply)));
+    return running ? Done : statusOfEnd(status);
+}
+
+ExitStatus run(const CommandLine &line)
+{
+    const Driver driver(line);
+    const std::chrono::milliseconds interval = intervalOf(line);
+    const Ticket ticket(driver, line.words().first(), line);
+    const bool json = line.isSet("json");
+    const CmdStatus status = line.isSet("wait") ? ticket.waitForEnd(interval, !json) : ticket.status();
+    if (json)
+        return printAsJson(ticket, status);
+    if (status.status() > 0) {
+        Progress().tell(status);
+        return Done;
+    }
+    const XmlRpcAnswer envelope = resultOf(status);
+    printLine(envelope.infoMsg(), Colour::Bold);
+    printValue(envelope.xmlrpcRetValue());
+    return Done;
+}
+
+} // namespace
+
+const Subcommand ticketSubcommand = {
+    "ticket",
+    "ID",
+    "a command that was started without waiting",
+    "Asks a driver how far the command behind a ticket is (quvctl call --async, quvctl tint), and shows its\n"
+    "answer when it has ended. With --wait it asks until then. Exit status: 0 while the command goes on and\n"
+    "when it has ended well, 1 when it was refused or failed, 130 after Ctrl-C, which ends the waiting only.",
+    1,
+    1,
+    withDriverOptions({{"wait", nullptr, "ask until the command has ended"},
+                       {"interval", "MS", "the time between two questions, milliseconds (500)"},
+                       {"json", nullptr, "status, envelope and answer as one JSON object"}}),
+    run};
+
+} // namespace quv

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "tickets.h"
+
+#include "progress.h"
+#include "terminal.h"
+#include "xmlrpcerrors.h"
+
+#include "base/asyncanswer.h"
+#include "base/getcommandstatusanswer.h"
+#include "base/getcommandstatuscmd.h"
+#include "base/xmlrpcanswer.h"
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <thread>
+#include <unistd.h>
+
+namespace quv {
+
+namespace {
+
+std::atomic<const std::string *> interruptText{nullptr};
+static_assert(std::atomic<const std::string *>::is_always_lock_free, "a signal handler reads it");
+
+extern "C" void endInterrupted(int)
+{
+    if (const std::string *text = interruptText.load()) {
+        const ssize_t written = write(STDERR_FILENO, text->data(), text->size());
+        static_cast<void>(written); // it ends either way
+    }
+    _exit(Interrupted);
+}
+
+QString commandLineOf(const QString &id, const CommandLine &line)
+{
+    QString text = QStringLiteral("quvctl ticket ") + id;
+    for (const char *option : {"host", "port"})
+        if (line.isSet(option))
+            text += QStringLiteral(" --%1 %2").arg(QLatin1String(option), line.value(option, QString()));
+    return text;
+}
+
+} // namespace
+
+OnInterrupt::OnInterrupt(const QString &text)
+    : m_text((canRedraw() ? "\n" : "") + printable(text).toStdString() + '\n'),
+      m_outerText(interruptText.exchange(&m_text))
+{
+    struct sigaction action = {};
+    action.sa_handler = endInterrupted;
+    sigaction(SIGINT, nullptr, &m_outerAction);
+    if (m_outerAction.sa_handler != SIG_IGN)
+        sigaction(SIGINT, &action, nullptr);
+}
+
+OnInterrupt::~OnInterrupt()
+{
+    sigaction(SIGINT, &m_outerAction, nullptr);
+    interruptText = m_outerText;
+}
+
+Ticket::Ticket(const Driver &driver, const QString &id, const CommandLine &line)
+    : m_driver(driver),
+      m_id(id),
+      m_again(commandLineOf(id, line))
+{}
+
+CmdStatus Ticket::status() const
+{
+    GetCommandStatusCmd command(m_id);
+    const XmlRpcAnswer &envelope = m_driver.execute(command);
+    if (envelope.retCode() != 0)
+        throw Refusal(envelope);
+    const auto *answer = dynamic_cast<const GetCommandStatusAnswer *>(command.getProtoAnswer());
+    if (!answer)
+        throw std::runtime_error("the answer is no status of a ticket");
+    return answer->cmdStatus();
+}
+
+CmdStatus Ticket::waitForEnd(std::chrono::milliseconds interval, bool showProgress) const
+{
+    const QString hint = QStringLiteral("the machine goes on; look again with: %1").arg(m_again);
+    const OnInterrupt onInterrupt(hint);
+    std::optional<Progress> progress;
+    if (showProgress)
+        progress.emplace();
+    try {
+        for (int failures = 0;; std::this_thread::sleep_for(interval)) {
+            CmdStatus now = statusDespiteFailures(failures);
+            if (failures > 0)
+                continue;
+            if (progress)
+                progress->tell(now);
+            if (now.status() <= 0)
+                return now;
+        }
+    } catch (const TransportError &) {
+        progress.reset();
+        printError(hint);
+        throw;
+    }
+}
+
+CmdStatus Ticket::statusDespiteFailures(int &failures) const
+{
+    constexpr int mostFailures = 5; // in a row
+    try {
+        CmdStatus now = status();
+        failures = 0;
+        return now;
+    } catch (const TransportError &) {
+        if (++failures == mostFailures)
+            throw;
+        return CmdStatus();
+    }
+}
+
+QString ticketIn(const ProtoCommand &command)
+{
+    const auto *answer = dynamic_cast<const AsyncAnswer *>(command.getProtoAnswer());
+    if (!answer)
+        throw std::runtime_error("the driver gave no ticket");
+    return answer->ticketID();
+}
+
+std::chrono::milliseconds intervalOf(const CommandLine &line)
+{
+    return std::chrono::milliseconds(line.number("interval", 500, 10, 3600000));
+}
+
+XmlRpcAnswer resultOf(const CmdStatus &ended)
+{
+    bool ok = false;
+    XmlRpcAnswer envelope = ended.getXmlRpcAnswer(&ok);
+    if (ok && envelope.retCode() != 0)
+        throw Refusal(envelope);
+    if (ended.status() != CmdStatus::Done)
+        throw std::runtime_error(ended.info().toStdString());
+    if (!ok)
+        throw std::runtime_error("the command has ended without a result");
+    return envelope;
+}
+
+} // namespace quv

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "commandline.h"
+#include "driver.h"
+
+#include "base/cmdstatus.h"
+
+#include <chrono>
+#include <csignal>
+#include <string>
+
+namespace quv {
+
+/**
+ * While it stands, Ctrl-C ends the program at once with exit status 130 and a text on standard error, even within a call
+ * that the driver does not answer. Those that are made later come first. A Ctrl-C that is ignored stays ignored.
+ */
+class OnInterrupt
+{
+public:
+    explicit OnInterrupt(const QString &text);
+    ~OnInterrupt();
+    OnInterrupt(const OnInterrupt &) = delete;
+    OnInterrupt &operator=(const OnInterrupt &) = delete;
+
+private:
+    std::string m_text{};
+    const std::string *m_outerText = nullptr;
+    struct sigaction m_outerAction = {};
+};
+
+/// A command that a driver carries out while nobody waits for it.
+class Ticket
+{
+public:
+    Ticket(const Driver &driver, const QString &id, const CommandLine &line);
+
+    const QString &id() const { return m_id; }
+    /// The command line that asks for it again.
+    const QString &again() const { return m_again; }
+
+    /// \throws Refusal when the driver does not know the ticket, and as Driver::execute
+    CmdStatus status() const;
+    /**
+     * Asks every \a interval until the command has ended. Ctrl-C, and a driver that is gone for several questions, end the
+     * waiting, with the way to look again. \throws as status
+     */
+    CmdStatus waitForEnd(std::chrono::milliseconds interval, bool showProgress) const;
+
+private:
+    CmdStatus statusDespiteFailures(int &failures) const;
+
+    const Driver &m_driver;
+    QString m_id{};
+    QString m_again{};
+};
+
+/// The ticket of a command that has been started: Driver::start. \throws std::runtime_error when the driver gave none
+QString ticketIn(const ProtoCommand &command);
+
+/// The time between two questions, of the option --interval. \throws UsageError
+std::chrono::milliseconds intervalOf(const CommandLine &line);
+
+/**
+ * The envelope of a command that has ended. \throws Refusal when it holds a return code other than 0, std::runtime_error when
+ * the command ended without an envelope, or badly
+ */
+XmlRpcAnswer resultOf(const CmdStatus &ended);
+
+} // namespace quv

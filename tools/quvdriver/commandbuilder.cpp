@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "commandbuilder.h"
+
+#include "drivenmachine.h"
+
+#include "catalogue/protocommandlist.h"
+#include "dispensing/turntablepurgeformulacmd.h"
+#include "dispensing/turntabletintcmd.h"
+
+#include <cmath>
+
+namespace quv {
+namespace {
+
+using Catalogue = ProtoCommandList;
+
+bool isNamed(const QString &name, Catalogue::CommandListValue value)
+{
+    return name == Catalogue::cmdStr(value);
+}
+
+} // namespace
+
+std::unique_ptr<ProtoCommand> buildCommand(const QString &name, XmlRpc::XmlRpcValue arguments,
+                                           const DrivenMachine *machine)
+{
+    if (isNamed(name, Catalogue::TINT2)) {
+        auto command = buildCommand(Catalogue::cmdStr(Catalogue::TINT), arguments, machine);
+        command->setCommand(name);
+        return command;
+    }
+    const std::unique_ptr<FW_Machine> copy = machine ? machine->copy() : nullptr;
+    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(copy.get());
+    if (dispenser && dispenser->acceptCommands(FW_Device::Turntable)) {
+        if (isNamed(name, Catalogue::TINT))
+            return std::make_unique<TurntableTintCmd>(arguments, machine->tablePosition(), dispenser);
+        if (isNamed(name, Catalogue::PURGE))
+            return std::make_unique<TurntablePurgeFormulaCmd>(arguments, machine->tablePosition(), dispenser);
+    }
+    return std::unique_ptr<ProtoCommand>(Catalogue::getProtoCommand(name, arguments, copy.get()));
+}
+
+qint64 estimatedTime(const ProtoCommand &command, const DrivenMachine *machine)
+{
+    const std::unique_ptr<FW_Machine> copy = machine ? machine->copy() : nullptr;
+    const qint64 time = command.getCmdEstimatedExecutionTime(copy.get());
+    return machine && time > 0 ? std::llround(double(time) / machine->speed()) : time;
+}
+
+} // namespace quv

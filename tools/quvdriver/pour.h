@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QList>
+
+#include <vector>
+
+namespace quv {
+
+/// What one circuit does in a pour.
+struct CircuitPour
+{
+    int position = 0;
+    int queue = 0;
+    bool isQueued = false; ///< waits for the circuits of its queue that came before it
+    qint64 total = 0;      ///< steps that are to leave the nozzle
+    qint64 available = 0; ///< steps that the canister holds; when they are out the motor turns on for nothing
+    double approach =
+        0; ///< milliseconds before the motor turns, in which the circuit is brought to the dosing point
+    double duration = 0; ///< milliseconds that the motor turns
+};
+
+/**
+ * A pour under the machine's clock: when each circuit begins and ends, and what it has poured by a moment.
+ *
+ * In the order of the list each circuit takes the place that is free first, of as many as the machine pours at once, and
+ * waits there for its queue.
+ */
+class Pour
+{
+public:
+    Pour() = default; ///< one that is over and poured nothing
+    /// \a begin in the clock's milliseconds; \a criterion is the one that the report tells.
+    Pour(int criterion, const std::vector<CircuitPour> &circuits, int parallelism, qint64 begin);
+
+    bool isRunning(qint64 now) const { return double(now) < m_end; }
+
+    /// The numbers of the firmware's report: criterion, number of circuits, then of each circuit position, queue, and the
+    /// steps in all and so far, each as a count of digits and the digits.
+    QList<int> report(qint64 now) const;
+
+private:
+    struct Course
+    {
+        CircuitPour circuit{};
+        double begin = 0; ///< when the motor begins to turn
+
+        qint64 pouredBy(double now) const;
+    };
+
+    int m_criterion = 1;
+    std::vector<Course> m_courses{};
+    double m_end = 0;
+};
+
+} // namespace quv

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QString>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
+namespace quv {
+
+/// What a call asks for: [leading text,] command name, arguments.
+struct Request
+{
+    /// \throws CallRefusal DE03101 without a name, DE03102 for a name that is no text
+    explicit Request(const XmlRpc::XmlRpcValue &params);
+
+    /// Whether the arguments are those of a request that waits for a change of the answer: at most two structs, the
+    /// command's own arguments and the last answer, then interval and timeout.
+    bool isWaiting() const;
+
+    QString name{};                  ///< not looked up
+    XmlRpc::XmlRpcValue arguments{}; ///< an array
+};
+
+} // namespace quv
