@@ -4,6 +4,7 @@
 namespace quv {
 
 void addCatalogueRatios();
+void addDispensingRatios();
 void addStatusRatios();
 
 } // namespace quv

@@ -2,6 +2,7 @@
 #include "base/protocommand.h"
 #include "catalogue/protocommandlist.h"
 #include "fuzzinput.h"
+#include "requests.h"
 #include "xmlrpccodec.h"
 
 #include <QuvFramework/fw_dispenser.h>
@@ -11,16 +12,6 @@
 #include <memory>
 
 namespace {
-
-/** The arguments of a request: all elements after the name. */
-XmlRpc::XmlRpcValue argumentsOf(const XmlRpc::XmlRpcValue &request)
-{
-    XmlRpc::XmlRpcValue arguments;
-    arguments.setSize(0);
-    for (int i = 1; i < request.size(); ++i)
-        arguments[i - 1] = request[i];
-    return arguments;
-}
 
 /** A command that was built writes a request that builds it again. */
 void checkCommand(const ProtoCommand &command)
@@ -39,7 +30,7 @@ void makeCommand(const XmlRpc::XmlRpcValue &params, const FW_Machine *machine)
     QString name;
     if (!DecodeXmlRpcValue(params, 0, name))
         return;
-    XmlRpc::XmlRpcValue arguments = argumentsOf(params);
+    XmlRpc::XmlRpcValue arguments = quv::argumentsOf(params);
     const std::unique_ptr<ProtoCommand> command(ProtoCommandList::getProtoCommand(name, arguments, machine));
     checkCommand(*command);
     FW_DriverError error;
