@@ -109,6 +109,7 @@ public:
     int speedThrTempReductionGroupID() const { return m_details->speedThrTempReductionGroupID; }
     void setSpeedThrTempReductionGroupID(int group) { m_details->speedThrTempReductionGroupID = group; }
     static bool checkSpeedThrTempReductionGroupID(int group); ///< -1, 1 or 2
+    const QVector<SpeedMpxOffset> &speedMpxOffsets() const { return m_details->speedMpxOffsets; }
     void addSpeedMpxOffset(const SpeedMpxOffset &entry) { m_details->speedMpxOffsets.append(entry); }
     /** The first that was added; multiplier 1 and offset 0 when there is none. */
     SpeedMpxOffset getFirstSpeedMpxOffset() const { return m_details->speedMpxOffsets.value(0); }

@@ -7,6 +7,9 @@
 #include "base/guard_p.h"
 #include "base/scaleprotocommand.h"
 #include "base/serialprotocommand.h"
+#include "configuration/getconfigcmdscmd.h"
+#include "configuration/readconfigurationparamcmd.h"
+#include "configuration/writeconfigurationparamcmd.h"
 #include "dispensing/airpurgecmd.h"
 #include "dispensing/channeltintcmd.h"
 #include "dispensing/checkformulalevelscmd.h"
@@ -102,6 +105,9 @@ const Rows<SerialProtoCommand, Args> &serialRows()
 {
     static const Rows<SerialProtoCommand, Args> rows = {
         {Cmd::GET_ERRORS, fromName},
+        {Cmd::WRITE_CONFIG_ROW, fromArguments<WriteConfigurationParamCmd>},
+        {Cmd::READ_CONFIG_ROW, fromArguments<ReadConfigurationParamCmd>},
+        {Cmd::GET_CONFIG_CMDS, fromArguments<GetConfigCmdsCmd>},
         {Cmd::FINALIZE_CONFIG, fromName},
         {Cmd::GET_SENSORS_STATUS, fromName},
         {Cmd::CLOSE_SERIAL, fromName},

@@ -78,12 +78,14 @@ List argumentsFor(const CommandRow &row, Form form)
         {"PRIMING", {priming}},
         {"PRIMING2", {circuits}},
         {"PURGE", {formula}},
+        {"READ_CONFIG_ROW", {5, 3}},
         {"SET_LEVELS", {false, formula, true}},
         {"TINT", {formula}},
     };
     // commands whose arguments travel in another shape over XML-RPC
     static const std::map<std::string, List> values = {
         {"GET_CMD_EST_EXEC_TIME", {QVariantMap{{"command", List{"GET_STATUS", 7}}}}},
+        {"WRITE_CONFIG_ROW", {QVariantMap{{"cmd_value", 7}, {"cmd_parameters", "1,100,2,3"}}}},
     };
     const auto value = values.find(row.name);
     if (form == ValueForm && value != values.end())
@@ -621,7 +623,7 @@ TEST(PendingRows, onlyGetFewer)
     const std::size_t answers = quv::pendingAnswers().size();
     std::cout << commands << " rows of the factory still give plain commands\n"
               << answers << " answer classes are still plain answers\n";
-    EXPECT_LE(commands, 116U);
+    EXPECT_LE(commands, 113U);
     EXPECT_LE(answers, 17U);
 }
 
@@ -921,11 +923,19 @@ List argumentsOf(const Value &request)
     return list;
 }
 
+/** A row of the configuration comes from a machine or a struct: the command reads no list. */
+bool readsForm(const CommandRow &row, Form form)
+{
+    return form == ValueForm || std::string(row.name) != "WRITE_CONFIG_ROW";
+}
+
 TEST(EveryCommand, canBeMadeWrittenAndReadBack)
 {
     const Machines machines;
     for (Form form : forms) {
         for (const CommandRow &row : commandRows) {
+            if (!readsForm(row, form))
+                continue;
             SCOPED_TRACE(caption(wayOf(row), form, row.name));
             const QString name = QString::fromLatin1(row.name);
             const FW_Machine *machine = &machines.dispenser;
@@ -951,6 +961,8 @@ TEST(EveryCommand, canBeMadeWrittenAndReadBack)
             for (int i = 0; i < sent.size(); ++i)
                 EXPECT_EQ(written.value(i), sent.at(i)) << i;
             for (Form back : forms) {
+                if (!readsForm(row, back))
+                    continue;
                 const CommandPtr again =
                     makeAny(back, name, back == ValueForm ? written : command->parameters(), machine);
                 EXPECT_EQ(className(again), className(command));

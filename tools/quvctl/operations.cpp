@@ -70,7 +70,7 @@ OrderedJson encode(const Request &request)
     const auto machine = machineOf(request);
     const auto command = makeCommand(request, machine.get());
     OrderedJson reply = success();
-    reply["class"] = className(typeid(*command));
+    reply["class"] = className(*command);
     reply["request"] = toJson(command->toXmlRpcValue(QString()));
     reply["parameters"] = toJson(QVariant(command->parameters()));
     if (const auto *serial = dynamic_cast<const SerialProtoCommand *>(command.get())) {
@@ -87,7 +87,7 @@ OrderedJson encode(const Request &request)
 
 void addAnswer(OrderedJson &reply, const ProtoAnswer &answer)
 {
-    reply["class"] = className(typeid(answer));
+    reply["class"] = className(answer);
     reply["value"] = toJson(answer.toXmlRpcValue());
 }
 

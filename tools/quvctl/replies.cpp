@@ -13,7 +13,7 @@ OrderedJson success()
     return OrderedJson::object({{"ok", true}});
 }
 
-std::string className(const std::type_info &type)
+std::string typeName(const std::type_info &type)
 {
     int status = 0;
     const std::unique_ptr<char, void (*)(void *)> name(

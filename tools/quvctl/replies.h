@@ -18,8 +18,15 @@ namespace quv {
 /// A reply that says no more than that.
 OrderedJson success();
 
-/// The name of a C++ class: className(typeid(object)).
-std::string className(const std::type_info &type);
+/// The name of a C++ class.
+std::string typeName(const std::type_info &type);
+
+/// The name of the class that \a object has, which may be derived from T.
+template <class T>
+std::string className(const T &object)
+{
+    return typeName(typeid(object));
+}
 
 OrderedJson numbers(const QList<int> &list);
 

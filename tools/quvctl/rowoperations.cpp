@@ -16,7 +16,7 @@ namespace {
 OrderedJson replyTo(const ReadConfigurationParamAnswer &answer)
 {
     OrderedJson reply = success();
-    reply["class"] = className(typeid(*answer.confData()));
+    reply["class"] = className(*answer.confData());
     reply["text"] = toJson(answer.configurationDataStr());
     reply["value"] = toJson(answer.toXmlRpcValue());
     reply["serial"] = numbers(answer.confData()->serialParams());
@@ -28,7 +28,7 @@ OrderedJson replyTo(const WriteConfigurationParamCmd &command)
     constexpr int family = 1;
     OrderedJson reply = success();
     if (const ConfData *row = command.confData())
-        reply["class"] = className(typeid(*row));
+        reply["class"] = className(*row);
     reply["text"] = toJson(command.configurationDataStr());
     reply["serial"] = numbers(command.serialParameters(family));
     return reply;
