@@ -5,6 +5,7 @@
 int main(int argc, char **argv)
 {
     quv::addCatalogueRatios();
+    quv::addConfigurationRatios();
     quv::addDispensingRatios();
     quv::addStatusRatios();
     return quv::runRatios(argc, argv);

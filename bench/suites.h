@@ -4,6 +4,7 @@
 namespace quv {
 
 void addCatalogueRatios();
+void addConfigurationRatios();
 void addDispensingRatios();
 void addStatusRatios();
 

@@ -338,6 +338,14 @@ void setUp(Dosing &pump, const Dosing &local)
     pump.setSmartSpeedReduction(local.hasSmartSpeedReduction());
 }
 
+/** No row tells how long a stroke is, or whether a scale doses the circuit: that stays as it was. */
+void keepUntold(Dosing &motor, const Dosing &former)
+{
+    motor.setStepsPerStroke(former.stepsPerStroke());
+    motor.setStrokeValue(former.strokeValue());
+    motor.setGravimetricSw(former.isGravimetricSw());
+}
+
 const Dosing *pumpFor(const Dosing &local, const FW_CalibrationProfiles *profiles)
 {
     if (!profiles || !profiles->hasPumps())
@@ -431,6 +439,7 @@ void CPT_cdata::clear()
     m_singleTransmissionReference = 0;
     m_flowCorrectionReference = 0;
     m_layoutPositionsId.clear();
+    m_isOfRow = false;
 }
 
 void CPT_cdata::takeCircuit(const FW_Circuit &circuit, const FW_Dispenser &dispenser)
@@ -478,6 +487,7 @@ bool CPT_cdata::updateLocalData(QString *error)
     if (row.valve.valveType() != 0)
         m_circuit.addValve(row.valve);
     m_circuit.setDosingMotor(row.motor, FW_Circuit::ReplaceAll);
+    m_isOfRow = true;
     if (row.hasRecirculation)
         m_circuit.setRecirculationMotor(row.recirculation);
     if (row.hasCleaning)
@@ -520,7 +530,7 @@ bool CPT_cdata::updateConfiguration(FW_Machine *machine, FW_CalibrationProfiles 
     if (valve)
         circuit.addValve(*valve);
     if (m_circuit.hasDosingMotor())
-        circuit.setDosingMotor(dosingMotorFor(*dispenser, profiles), FW_Circuit::ReplaceAll);
+        circuit.setDosingMotor(dosingMotorFor(circuit, dispenser->model(), profiles), FW_Circuit::ReplaceAll);
     if (const Recirculation *motor = m_circuit.firstRecirculationMotor())
         circuit.setRecirculationMotor(*motor);
     if (const Cleaning *motor = m_circuit.firstCleaningMotor())
@@ -545,18 +555,20 @@ void CPT_cdata::updateCanister(FW_Dispenser &dispenser) const
     canister.setActivationFlag(m_activationFlag);
 }
 
-FW_DosingMotor CPT_cdata::dosingMotorFor(const FW_Dispenser &dispenser,
+FW_DosingMotor CPT_cdata::dosingMotorFor(const FW_Circuit &target, MachineModel model,
                                          const FW_CalibrationProfiles *profiles) const
 {
     Dosing local = m_circuit.dosingMotor();
+    if (m_isOfRow)
+        keepUntold(local, target.dosingMotor());
     if (local.interDispensingTime() == -1.0)
-        local.setInterDispensingTime(Dosing::defaultInterDispensingTime(dispenser.model()));
+        local.setInterDispensingTime(Dosing::defaultInterDispensingTime(model));
     Dosing motor = local;
     if (const Dosing *pump = pumpFor(local, profiles)) {
         motor = *pump;
         setUp(motor, local);
     }
-    setPouring(motor, algorithmMaskFor(local, dispenser.model()));
+    setPouring(motor, algorithmMaskFor(local, model));
 
     m_rampReference ? motor.setRamp(FW_Ramp(m_rampReference)) : motor.removeRamp();
     m_singleTransmissionReference

@@ -62,7 +62,7 @@ public:
 private:
     void takeCircuit(const FW_Circuit &circuit, const FW_Dispenser &dispenser);
     void updateCanister(FW_Dispenser &dispenser) const;
-    FW_DosingMotor dosingMotorFor(const FW_Dispenser &dispenser,
+    FW_DosingMotor dosingMotorFor(const FW_Circuit &target, MachineModel model,
                                   const FW_CalibrationProfiles *profiles) const;
     void updateLevelSensor(FW_Dispenser &dispenser, const FW_Circuit &circuit) const;
 
@@ -75,4 +75,5 @@ private:
     int m_singleTransmissionReference = 0;
     int m_flowCorrectionReference = 0;
     QList<int> m_layoutPositionsId;
+    bool m_isOfRow = false; ///< and not of a machine, which tells more than a row
 };

@@ -2,7 +2,6 @@
 #include "configuration/writeconfigurationparamcmd.h"
 
 #include "base/cloned_p.h"
-#include "base/latin1_p.h"
 #include "catalogue/protocommandlist.h"
 #include "configuration/confclasses_p.h"
 #include "configuration/confrow_p.h"
@@ -130,7 +129,7 @@ XmlRpc::XmlRpcValue WriteConfigurationParamCmd::xmlrpc_parameters(bool *ok) cons
     array.setSize(0);
     if (m_confData) {
         array[0][codeMember] = m_code;
-        array[0][rowMember] = quv::latin1(m_confData->configurationParamsStr());
+        array[0][rowMember] = EncodeXmlRpcText(m_confData->configurationParamsStr());
     }
     return array;
 }

@@ -70,31 +70,31 @@ QString rowOf(int circuitID, const FW_Dispenser &dispenser)
 
 } // namespace
 
-TEST(AGI_cdata, ReadsTheFieldsOfItsTable)
+TEST(AGI_cdata, readsTheFieldsOfItsTable)
 {
     expectTable<AGI_cdata>(structure);
 }
 
-TEST(AGI_cdata, WantsADispenser)
+TEST(AGI_cdata, wantsADispenser)
 {
     expectDispenserWanted(structure, "int, const FW_Machine*",
                           [](const FW_Machine *dispenser) { AGI_cdata row(1, dispenser); });
     expectDispenserWantedToApply<AGI_cdata>(structure);
 }
 
-TEST(AGI_cdata, WritesTheMotorOfTheCircuit)
+TEST(AGI_cdata, writesTheMotorOfTheCircuit)
 {
     EXPECT_EQ(rowOf(7, stirred(true)), QStringLiteral("1,3,12,75,20,3,800,17,130,4,6"));
     EXPECT_EQ(rowOf(7, stirred(false)), QStringLiteral("2,3,12,75,20,3,800,17,130,4,6"));
 }
 
-TEST(AGI_cdata, WritesDefaultsForWhatIsNotThere)
+TEST(AGI_cdata, writesDefaultsForWhatIsNotThere)
 {
     EXPECT_EQ(rowOf(8, stirred(true)), QStringLiteral("0,5,15,60,30,1,400,15,100,0,0"));
     EXPECT_EQ(rowOf(9, stirred(true)), QStringLiteral("0,1,111,60,30,1,400,15,100,0,0"));
 }
 
-TEST(AGI_cdata, WritesTheOneMotorOfAGlobalMachine)
+TEST(AGI_cdata, writesTheOneMotorOfAGlobalMachine)
 {
     FW_Dispenser dispenser = stirred(false);
     dispenser.setGlobalStirring(true);
@@ -105,7 +105,7 @@ TEST(AGI_cdata, WritesTheOneMotorOfAGlobalMachine)
     EXPECT_EQ(rowOf(8, without), QStringLiteral("0,5,15,60,30,1,400,15,100,0,0"));
 }
 
-TEST(AGI_cdata, ReadsEveryValue)
+TEST(AGI_cdata, readsEveryValue)
 {
     const AGI_cdata row(QStringLiteral("1,3,12,75,20,3,800,17,130,4,6"));
     EXPECT_EQ(row.canisterID(), 3);
@@ -120,7 +120,7 @@ TEST(AGI_cdata, ReadsEveryValue)
     EXPECT_EQ(row.stirringMotor().wireConnectorsIdBitMask(), 6);
 }
 
-TEST(AGI_cdata, TakesTheDefaultsOfMissingFields)
+TEST(AGI_cdata, takesTheDefaultsOfMissingFields)
 {
     const AGI_cdata row(tokens("01 01 01 03 01 0C 01 4B 01 14 01 03 01 09"), 6);
     EXPECT_EQ(row.configurationParamsStr(), QStringLiteral("1,3,12,75,20,3"));
@@ -131,7 +131,7 @@ TEST(AGI_cdata, TakesTheDefaultsOfMissingFields)
     EXPECT_EQ(row.stirringMotor().wireConnectorsIdBitMask(), 0);
 }
 
-TEST(AGI_cdata, TellsTheLastFieldThatIsMissing)
+TEST(AGI_cdata, tellsTheLastFieldThatIsMissing)
 {
     QString error;
     EXPECT_TRUE(AGI_cdata(QStringLiteral("1,3,12,75,20,3")).updateLocalData(&error));
@@ -140,7 +140,7 @@ TEST(AGI_cdata, TellsTheLastFieldThatIsMissing)
     EXPECT_EQ(error, QStringLiteral("Canister ID field not found in answer"));
 }
 
-TEST(AGI_cdata, CarriesTheMotor)
+TEST(AGI_cdata, carriesTheMotor)
 {
     const FW_Dispenser source = stirred(true);
     FW_Dispenser target = machine();
@@ -150,7 +150,7 @@ TEST(AGI_cdata, CarriesTheMotor)
     EXPECT_TRUE(target == stirred(false));
 }
 
-TEST(AGI_cdata, CarriesTheMotorToAllCircuits)
+TEST(AGI_cdata, carriesTheMotorToAllCircuits)
 {
     FW_Dispenser target = machine();
     EXPECT_TRUE(applied(AGI_cdata(QStringLiteral("1,245,245,75,20,3,800,17,130,4,6")), target));
@@ -160,7 +160,7 @@ TEST(AGI_cdata, CarriesTheMotorToAllCircuits)
     EXPECT_TRUE(target == expected);
 }
 
-TEST(AGI_cdata, HasNothingToStirOnAnEmptyMachine)
+TEST(AGI_cdata, hasNothingToStirOnAnEmptyMachine)
 {
     const AGI_cdata row(QStringLiteral("1,245,245,75,20,3,800,17,130,4,6"));
     FW_Dispenser empty;
@@ -171,7 +171,7 @@ TEST(AGI_cdata, HasNothingToStirOnAnEmptyMachine)
     EXPECT_EQ(empty.getCircuits().size(), 0);
 }
 
-TEST(AGI_cdata, MakesCanisterAndCircuit)
+TEST(AGI_cdata, makesCanisterAndCircuit)
 {
     FW_Dispenser target;
     EXPECT_TRUE(applied(AGI_cdata(QStringLiteral("1,3,12,75,20,3,800,17,130,4,6")), target));
@@ -184,21 +184,21 @@ TEST(AGI_cdata, MakesCanisterAndCircuit)
     EXPECT_TRUE(target == expected);
 }
 
-TEST(AGI_cdata, GoesByThePosition)
+TEST(AGI_cdata, goesByThePosition)
 {
     FW_Dispenser target = machine();
     EXPECT_TRUE(applied(AGI_cdata(QStringLiteral("1,5,12,75,20,3,800,17,130,4,6")), target));
     EXPECT_TRUE(target == stirred(true));
 }
 
-TEST(AGI_cdata, FailsForACircuitThatCannotBe)
+TEST(AGI_cdata, failsForACircuitThatCannotBe)
 {
     FW_Dispenser target = machine();
     EXPECT_FALSE(applied(AGI_cdata(QStringLiteral("1,3,0,75,20,3,800,17,130,4,6")), target));
     EXPECT_TRUE(target == machine());
 }
 
-TEST(AGI_cdata, ClearsToTheDefaults)
+TEST(AGI_cdata, clearsToTheDefaults)
 {
     AGI_cdata row(QStringLiteral("1,3,12,75,20,3,800,17,130,4,6"));
     const std::unique_ptr<const AGI_cdata> copy(row.clone());
@@ -210,7 +210,7 @@ TEST(AGI_cdata, ClearsToTheDefaults)
     EXPECT_EQ(copy->canisterID(), 3);
 }
 
-TEST(AGI_cdata, GivesItsXmlRpcForm)
+TEST(AGI_cdata, givesItsXmlRpcForm)
 {
     EXPECT_EQ(dumped(AGI_cdata(QStringLiteral("2,3,12,75,20,3")).toXmlRpcValue()), R"({"cmd_enabled": 2})");
 }

@@ -68,8 +68,9 @@ using Text = std::pair<int, QString>;
 
 TEST(ConfData, namesTheStructures)
 {
-    const QStringList names = tokens("@ICS @NOM @GMC @ACP @CPT @AGI @HUM @TEM @SGA @RAM @FOT @AUT @BHL @LIT @TTD @PUL "
-                                     "@HEA @NOZ @MOT @LTD @USS @PRO @ZDR @MIX @LCK @PLC");
+    const QStringList names =
+        tokens("@ICS @NOM @GMC @ACP @CPT @AGI @HUM @TEM @SGA @RAM @FOT @AUT @BHL @LIT @TTD @PUL "
+               "@HEA @NOZ @MOT @LTD @USS @PRO @ZDR @MIX @LCK @PLC");
     ASSERT_EQ(names.size(), 26);
     for (int code = 1; code <= 26; ++code) {
         EXPECT_EQ(ConfData::confCommandToString(code), names.at(code - 1));
@@ -122,7 +123,7 @@ TEST(ConfData, writesANumberAsItsDigits)
     EXPECT_EQ(serialParam(246), (QList<int>{2, 0, 1}));
     EXPECT_EQ(serialParam(300), (QList<int>{2, 54, 1}));
     EXPECT_EQ(serialParam(246 * 246), (QList<int>{3, 0, 0, 1}));
-    EXPECT_EQ(serialParam(greatest), (QList<int>{4, 163, 53, 62, 144}));
+    EXPECT_EQ(serialParam(greatest), (QList<int>{4, 79, 52, 62, 144}));
 }
 
 TEST(ConfData, writesNoNegativeNumber)
@@ -152,7 +153,7 @@ TEST(ConfData, readsANumberOfItsDigits)
     EXPECT_EQ(parsed(tokens("01 f5")), (Number{1, 245}));
     EXPECT_EQ(parsed(tokens("02 36 01")), (Number{2, 300}));
     EXPECT_EQ(parsed(tokens("02 36 01 07 08")), (Number{2, 300}));
-    EXPECT_EQ(parsed(tokens("04 A3 35 3E 90")), (Number{4, 2147483647}));
+    EXPECT_EQ(parsed(tokens("04 4F 34 3E 90")), (Number{4, 2147483647}));
     EXPECT_EQ(parsed(tokens("3 1 0 0")), (Number{3, 1}));
 }
 
@@ -167,7 +168,7 @@ TEST(ConfData, readsNoNumberOfAnythingElse)
     EXPECT_EQ(parsed(tokens("01 zz")), none);
     EXPECT_EQ(parsed({QString(), QStringLiteral("05")}), none);
     EXPECT_EQ(parsed(tokens("FFFFFFFF 05")), none);
-    EXPECT_EQ(parsed(tokens("04 A4 35 3E 90")), none); // one more than an int holds
+    EXPECT_EQ(parsed(tokens("04 50 34 3E 90")), none); // one more than an int holds
     EXPECT_EQ(parsed(tokens("09 FF FF FF FF FF FF FF FF FF")), none);
 }
 
@@ -234,7 +235,8 @@ TEST(ConfData, stepsBehindAParameter)
 TEST(ConfData, beginsCleared)
 {
     const FW_Mixer machine;
-    for (const Row &row : {Row(), Row(7), Row(7, &machine), Row(7, static_cast<const FW_Machine *>(nullptr))}) {
+    for (const Row &row :
+         {Row(), Row(7), Row(7, &machine), Row(7, static_cast<const FW_Machine *>(nullptr))}) {
         EXPECT_EQ(row.commandEnable(), -1);
         EXPECT_EQ(row.enabledFieldLength(), 0);
         EXPECT_EQ(row.parameters(), QList<int>());
@@ -252,9 +254,9 @@ TEST(ConfData, isClearedAgain)
     EXPECT_EQ(row.commandEnable(), -1);
     EXPECT_EQ(row.enabledFieldLength(), 0);
     EXPECT_EQ(row.commandCode(), 0);
-    Row ofText(7, QStringLiteral("1,2"));
-    ofText.confData_clear();
-    EXPECT_EQ(ofText.parameters(), QList<int>());
+    Row written(7, QStringLiteral("1,2"));
+    written.confData_clear();
+    EXPECT_EQ(written.parameters(), QList<int>());
 }
 
 TEST(ConfData, isEnabledOrDisabledButNotAbsent)
@@ -273,7 +275,8 @@ TEST(ConfData, isWrittenForTheLink)
     bool ok = true;
     Row(1, QList<int>{1, -1, 2}).serialParams(&ok);
     EXPECT_FALSE(ok);
-    Row(-1, QList<int>{1}).serialParams(&ok = true);
+    ok = true;
+    Row(-1, QList<int>{1}).serialParams(&ok);
     EXPECT_FALSE(ok);
     EXPECT_EQ(Row(1, QList<int>{5}).serialParams(), (QList<int>{1, 1, 1, 5}));
 }

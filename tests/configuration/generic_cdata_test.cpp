@@ -7,12 +7,12 @@ using namespace testing_configuration;
 
 namespace {
 
-const Structure structure = {
-    0, "GENERIC_cdata", "DE00284", "Invalid Dispenser data", "DE02805", "DE00286", "", {}};
+const Structure structure = {0,         "GENERIC_cdata", "DE00284", "Invalid Dispenser data",
+                             "DE02805", "DE00286",       "",        {}};
 
 } // namespace
 
-TEST(GENERIC_cdata, KeepsTheRowAsItCame)
+TEST(GENERIC_cdata, keepsTheRowAsItCame)
 {
     expectTable<GENERIC_cdata>(structure);
     const GENERIC_cdata row(tokens("01 02 01 05 02 0A 01"), 3);
@@ -21,7 +21,7 @@ TEST(GENERIC_cdata, KeepsTheRowAsItCame)
     EXPECT_EQ(row.numOfConfigurationParams(), 2);
 }
 
-TEST(GENERIC_cdata, WantsADispenser)
+TEST(GENERIC_cdata, wantsADispenser)
 {
     expectDispenserWanted(structure, "const FW_Machine*",
                           [](const FW_Machine *machine) { GENERIC_cdata row(machine); });
@@ -30,7 +30,7 @@ TEST(GENERIC_cdata, WantsADispenser)
     EXPECT_EQ(GENERIC_cdata(&dispenser).commandCode(), 0);
 }
 
-TEST(GENERIC_cdata, KeepsTheCodeOfItsOwner)
+TEST(GENERIC_cdata, keepsTheCodeOfItsOwner)
 {
     GENERIC_cdata row(QStringLiteral("1,7"));
     row.setCommandCode(12);
@@ -39,7 +39,7 @@ TEST(GENERIC_cdata, KeepsTheCodeOfItsOwner)
     EXPECT_EQ(copy->configurationParamsStr(), QStringLiteral("1,7"));
 }
 
-TEST(GENERIC_cdata, ChangesNoMachine)
+TEST(GENERIC_cdata, changesNoMachine)
 {
     FW_Dispenser dispenser;
     EXPECT_TRUE(applied(GENERIC_cdata(QStringLiteral("1,5")), dispenser));
@@ -47,7 +47,7 @@ TEST(GENERIC_cdata, ChangesNoMachine)
     EXPECT_TRUE(GENERIC_cdata().updateConfiguration(nullptr, nullptr, nullptr));
 }
 
-TEST(GENERIC_cdata, GivesItsXmlRpcForm)
+TEST(GENERIC_cdata, givesItsXmlRpcForm)
 {
     EXPECT_EQ(dumped(GENERIC_cdata(QStringLiteral("2,5")).toXmlRpcValue()), R"({"cmd_enabled": 2})");
 }

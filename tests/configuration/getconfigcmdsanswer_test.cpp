@@ -75,8 +75,8 @@ TEST(GetConfigCmdsAnswer, isEqualToTheSameAlone)
     const std::unique_ptr<ProtoAnswer> copy(answer.clone());
     EXPECT_EQ(className(copy.get()), "GetConfigCmdsAnswer");
     EXPECT_TRUE(answer.equalTo(copy.get()));
-    for (const char *other :
-         {"05 03 0A 01 01 04", "05 02 0B 01 01 04", "05 02 0A 01 02 04", "05 02 0A 01 01 05", "03 02 0A 00"}) {
+    for (const char *other : {"05 03 0A 01 01 04", "05 02 0B 01 01 04", "05 02 0A 01 02 04",
+                              "05 02 0A 01 01 05", "03 02 0A 00"}) {
         const GetConfigCmdsAnswer different(tokens(other));
         EXPECT_FALSE(answer.equalTo(&different)) << other;
     }

@@ -63,3 +63,12 @@ TEST(GetConfigCmdsCmd, takesAStructForAnEmptyAnswer)
     ASSERT_TRUE(answerOf(command));
     EXPECT_EQ(answerOf(command)->version(), 0U);
 }
+
+TEST(GetConfigCmdsCmd, saysThatAnAnswerCouldNotBeMade)
+{
+    GetConfigCmdsCmd command;
+    FW_DriverError error;
+    const QStringList answer = tokens("05 02 0A 01 01 04");
+    EXPECT_FALSE(outOfMemoryOnce([&] { return command.setSerialAnswer(answer, &error); }));
+    expectError(error, "DE01648", "Failed to create ProtoAnswer");
+}

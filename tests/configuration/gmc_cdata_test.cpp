@@ -92,25 +92,25 @@ int easyOnTimeOf(const FW_Dispenser &dispenser)
 
 } // namespace
 
-TEST(GMC_cdata, ReadsTheFieldsOfItsTable)
+TEST(GMC_cdata, readsTheFieldsOfItsTable)
 {
     expectTable<GMC_cdata>(structure);
 }
 
-TEST(GMC_cdata, WantsADispenser)
+TEST(GMC_cdata, wantsADispenser)
 {
     expectDispenserWanted(structure, "const FW_Machine*",
                           [](const FW_Machine *machine) { GMC_cdata row(machine); });
     expectDispenserWantedToApply<GMC_cdata>(structure);
 }
 
-TEST(GMC_cdata, WritesTheMachine)
+TEST(GMC_cdata, writesTheMachine)
 {
     EXPECT_EQ(rowOf(configured()), QLatin1String(configuredRow));
     EXPECT_EQ(rowOf(FW_Dispenser()), QStringLiteral("1,1,1,1,1,1,1,60,0,0,0,30,90,0,0,0,0,0"));
 }
 
-TEST(GMC_cdata, TellsNoProcessesThatNoMotorCarriesOut)
+TEST(GMC_cdata, tellsNoProcessesThatNoMotorCarriesOut)
 {
     FW_Dispenser dispenser;
     dispenser.setRCSProcesses(3);
@@ -119,7 +119,7 @@ TEST(GMC_cdata, TellsNoProcessesThatNoMotorCarriesOut)
     EXPECT_EQ(GMC_cdata(&dispenser).parameters().at(12), 3);
 }
 
-TEST(GMC_cdata, WritesPolicyAndTypeOfTheSensors)
+TEST(GMC_cdata, writesPolicyAndTypeOfTheSensors)
 {
     EXPECT_EQ(reserveSensorOf(1, 3), 19);
     EXPECT_EQ(reserveSensorOf(2, 3), 3);
@@ -127,7 +127,7 @@ TEST(GMC_cdata, WritesPolicyAndTypeOfTheSensors)
     EXPECT_EQ(reserveSensorOf(1, 0), 16);
 }
 
-TEST(GMC_cdata, ReadsEveryValue)
+TEST(GMC_cdata, readsEveryValue)
 {
     const GMC_cdata row(QStringLiteral("1,2,3,4,5,6,7,80,9,21,99,45,120,3,98,13,18,14"));
     const FW_Dispenser &dispenser = row.dispenser();
@@ -148,7 +148,7 @@ TEST(GMC_cdata, ReadsEveryValue)
     EXPECT_EQ(dispenser.timedProcessesStartupMask(), 14);
 }
 
-TEST(GMC_cdata, KeepsItsDefaultsWithoutTheOptionalFields)
+TEST(GMC_cdata, keepsItsDefaultsWithoutTheOptionalFields)
 {
     const GMC_cdata row(QStringLiteral("1,2,3,4,5,6,7,80"));
     EXPECT_EQ(row.dispenser().postTintingTime(), 0);
@@ -158,7 +158,7 @@ TEST(GMC_cdata, KeepsItsDefaultsWithoutTheOptionalFields)
     EXPECT_EQ(row.reserveSensor(), 0);
 }
 
-TEST(GMC_cdata, PassesOverPauseAndTimeoutOfZero)
+TEST(GMC_cdata, passesOverPauseAndTimeoutOfZero)
 {
     const GMC_cdata none(QStringLiteral("1,2,3,4,5,6,7,80,9,21,0,0,0"));
     EXPECT_EQ(none.dispenser().RCSProcessPause(FW_TimeSpan::Minutes), 30);
@@ -168,7 +168,7 @@ TEST(GMC_cdata, PassesOverPauseAndTimeoutOfZero)
     EXPECT_EQ(least.easyOnTimeout(), 1);
 }
 
-TEST(GMC_cdata, TellsTheLastFieldThatIsMissing)
+TEST(GMC_cdata, tellsTheLastFieldThatIsMissing)
 {
     QString error;
     EXPECT_TRUE(GMC_cdata(QLatin1String(configuredRow)).updateLocalData(&error));
@@ -179,7 +179,7 @@ TEST(GMC_cdata, TellsTheLastFieldThatIsMissing)
     EXPECT_EQ(error, QStringLiteral("Working Mode field not found in answer"));
 }
 
-TEST(GMC_cdata, CarriesTheMachine)
+TEST(GMC_cdata, carriesTheMachine)
 {
     const FW_Dispenser source = configured();
     FW_Dispenser target;
@@ -193,7 +193,7 @@ TEST(GMC_cdata, CarriesTheMachine)
     EXPECT_EQ(extra, (QList<int>{18}));
 }
 
-TEST(GMC_cdata, CarriesTheMachineThatItWasMadeOf)
+TEST(GMC_cdata, carriesTheMachineThatItWasMadeOf)
 {
     const FW_Dispenser source = configured();
     FW_Dispenser target;
@@ -203,7 +203,7 @@ TEST(GMC_cdata, CarriesTheMachineThatItWasMadeOf)
     EXPECT_EQ(extra, (QList<int>{7, 18}));
 }
 
-TEST(GMC_cdata, ReplacesTheWaysToTheMachine)
+TEST(GMC_cdata, replacesTheWaysToTheMachine)
 {
     FW_Dispenser target;
     target.setConnectivity(3, false);
@@ -211,18 +211,19 @@ TEST(GMC_cdata, ReplacesTheWaysToTheMachine)
     EXPECT_EQ(target.connectivity(), 4);
 }
 
-TEST(GMC_cdata, ChangesNothingUnlessItIsEnabled)
+TEST(GMC_cdata, changesNothingUnlessItIsEnabled)
 {
     FW_Dispenser target;
     QList<int> extra;
-    for (const char *row : {"0,2,3,4,5,6,7,80,9,21,0,45,120,3,0,13,18,14", "2,2,3,4,5,6,7,80,9,21,0,45,120,3,0,13,18,14"})
+    for (const char *row :
+         {"0,2,3,4,5,6,7,80,9,21,0,45,120,3,0,13,18,14", "2,2,3,4,5,6,7,80,9,21,0,45,120,3,0,13,18,14"})
         EXPECT_TRUE(GMC_cdata(QString::fromLatin1(row)).updateConfiguration(&target, nullptr, &extra));
     EXPECT_TRUE(target == FW_Dispenser());
     EXPECT_EQ(extra, QList<int>());
     EXPECT_TRUE(GMC_cdata(QStringLiteral("2,2,3,4,5,6,7,80")).updateConfiguration(nullptr, nullptr, nullptr));
 }
 
-TEST(GMC_cdata, LosesTheSensorsWithoutAPlaceForThem)
+TEST(GMC_cdata, losesTheSensorsWithoutAPlaceForThem)
 {
     FW_Dispenser target;
     EXPECT_TRUE(applied(GMC_cdata(QLatin1String(configuredRow)), target));
@@ -231,7 +232,7 @@ TEST(GMC_cdata, LosesTheSensorsWithoutAPlaceForThem)
     EXPECT_FALSE(target.getReserveSensorTypeAndPolicyMask(type, policy));
 }
 
-TEST(GMC_cdata, GivesTheMachineAnEasyOnTime)
+TEST(GMC_cdata, givesTheMachineAnEasyOnTime)
 {
     FW_Dispenser target;
     EXPECT_TRUE(applied(GMC_cdata(QStringLiteral("1,2,3,4,5,6,7,80")), target));
@@ -242,9 +243,9 @@ TEST(GMC_cdata, GivesTheMachineAnEasyOnTime)
     EXPECT_EQ(easyOnTimeOf(target), 120);
 }
 
-TEST(GMC_cdata, ClearsToTheDefaults)
+TEST(GMC_cdata, clearsToTheDefaults)
 {
-    GMC_cdata row(QLatin1String(configuredRow));
+    GMC_cdata row{QLatin1String(configuredRow)};
     const std::unique_ptr<const GMC_cdata> copy(row.clone());
     row.clear();
     EXPECT_TRUE(row.dispenser() == FW_Dispenser());
@@ -255,7 +256,7 @@ TEST(GMC_cdata, ClearsToTheDefaults)
     EXPECT_EQ(copy->reserveSensor(), 18);
 }
 
-TEST(GMC_cdata, GivesItsXmlRpcForm)
+TEST(GMC_cdata, givesItsXmlRpcForm)
 {
     EXPECT_EQ(dumped(GMC_cdata(QLatin1String(configuredRow)).toXmlRpcValue()),
               R"({"cmd_enabled": 1, "working_mode": 2})");

@@ -11,12 +11,12 @@ const Structure structure = {1, "ICS_cdata", "", "", "", "DE00177", "", {}};
 
 } // namespace
 
-TEST(ICS_cdata, HasNoFieldsOfItsOwn)
+TEST(ICS_cdata, hasNoFieldsOfItsOwn)
 {
     expectTable<ICS_cdata>(structure);
 }
 
-TEST(ICS_cdata, IsEnabledForAnyMachine)
+TEST(ICS_cdata, isEnabledForAnyMachine)
 {
     const FW_Dispenser dispenser;
     const FW_Mixer mixer;
@@ -26,7 +26,7 @@ TEST(ICS_cdata, IsEnabledForAnyMachine)
     EXPECT_EQ(ICS_cdata(nullptr).numOfConfigurationParams(), 0);
 }
 
-TEST(ICS_cdata, ChangesNoMachine)
+TEST(ICS_cdata, changesNoMachine)
 {
     FW_Dispenser dispenser;
     EXPECT_TRUE(applied(ICS_cdata(QStringLiteral("1,5")), dispenser));
@@ -35,7 +35,7 @@ TEST(ICS_cdata, ChangesNoMachine)
     EXPECT_TRUE(ICS_cdata().updateLocalData(nullptr));
 }
 
-TEST(ICS_cdata, GivesItsXmlRpcForm)
+TEST(ICS_cdata, givesItsXmlRpcForm)
 {
     EXPECT_EQ(dumped(ICS_cdata(QStringLiteral("2,5")).toXmlRpcValue()), R"({"cmd_enabled": 2})");
 }

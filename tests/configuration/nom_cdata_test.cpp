@@ -24,7 +24,7 @@ void expectNewDataMissing(const char *received, int fieldCount)
 
 } // namespace
 
-TEST(NOM_cdata, BeginsWithoutAName)
+TEST(NOM_cdata, beginsWithoutAName)
 {
     const NOM_cdata row;
     EXPECT_EQ(row.commandCode(), 2);
@@ -33,7 +33,7 @@ TEST(NOM_cdata, BeginsWithoutAName)
     EXPECT_EQ(row.numOfConfigurationParams(), 1);
 }
 
-TEST(NOM_cdata, WritesTheNameOfAnyMachine)
+TEST(NOM_cdata, writesTheNameOfAnyMachine)
 {
     FW_Dispenser dispenser;
     dispenser.setConfStructureName(QStringLiteral("Line 7"));
@@ -45,17 +45,17 @@ TEST(NOM_cdata, WritesTheNameOfAnyMachine)
     mixer.setConfStructureName(QStringLiteral("M"));
     EXPECT_EQ(sent(NOM_cdata(&mixer)), (QList<int>{1, 1, 1, 77}));
     expectRefusal("DE00178", "Invalid Machine data", "NOM_cdata::NOM_cdata(const FW_Machine*)",
-                  [] { NOM_cdata row(static_cast<const FW_Machine *>(nullptr)); });
+                  [] { NOM_cdata(static_cast<const FW_Machine *>(nullptr)); });
 }
 
-TEST(NOM_cdata, WritesAnEmptyName)
+TEST(NOM_cdata, writesAnEmptyName)
 {
     const FW_Dispenser dispenser;
     EXPECT_EQ(sent(NOM_cdata(&dispenser)), (QList<int>{1, 1, 0}));
     EXPECT_EQ(NOM_cdata(&dispenser).configurationParamsStr(), QStringLiteral("1,"));
 }
 
-TEST(NOM_cdata, TakesAllTokensBehindTheCount)
+TEST(NOM_cdata, takesAllTokensBehindTheCount)
 {
     EXPECT_EQ(nameOf("01 01 03 41 42 63", 1), QStringLiteral("ABc"));
     EXPECT_EQ(nameOf("01 01 03 41 42 63", 2), QStringLiteral("ABc"));
@@ -65,7 +65,7 @@ TEST(NOM_cdata, TakesAllTokensBehindTheCount)
     EXPECT_EQ(NOM_cdata(tokens("01 02 03 41 42 63"), 2).numOfConfigurationParams(), 1);
 }
 
-TEST(NOM_cdata, LosesANameThatIsNoText)
+TEST(NOM_cdata, losesANameThatIsNoText)
 {
     EXPECT_EQ(nameOf("01 01 02 41 1F", 1), QString());
     EXPECT_EQ(nameOf("01 01 02 41 7F", 1), QString());
@@ -74,7 +74,7 @@ TEST(NOM_cdata, LosesANameThatIsNoText)
     EXPECT_EQ(nameOf("01 01 00", 1), QString());
 }
 
-TEST(NOM_cdata, ReadsTheNameOnceMoreAsANumber)
+TEST(NOM_cdata, readsTheNameOnceMoreAsANumber)
 {
     expectNewDataMissing("01 01 00", 2);
     expectNewDataMissing("01 01 03 41 42", 2);
@@ -83,7 +83,7 @@ TEST(NOM_cdata, ReadsTheNameOnceMoreAsANumber)
               QStringLiteral("AAAAAAAAAAAAAAAAAAAA"));
 }
 
-TEST(NOM_cdata, RefusesTokensWithoutAName)
+TEST(NOM_cdata, refusesTokensWithoutAName)
 {
     expectRefusal("DE00180", nameMissing, ofTokens, [] { NOM_cdata(tokens("01 01"), 2); });
     expectRefusal("DE00180", nameMissing, ofTokens, [] { NOM_cdata(tokens("02 01 01"), 2); });
@@ -93,7 +93,7 @@ TEST(NOM_cdata, RefusesTokensWithoutAName)
                   "ConfData::ConfData(int, QStringList)", [] { NOM_cdata(tokens("00 01"), 2); });
 }
 
-TEST(NOM_cdata, TakesTheSecondPartOfTheText)
+TEST(NOM_cdata, takesTheSecondPartOfTheText)
 {
     EXPECT_EQ(NOM_cdata(QStringLiteral("1,Line 7")).structureName(), QStringLiteral("Line 7"));
     EXPECT_EQ(NOM_cdata(QStringLiteral("2,Line,7")).structureName(), QStringLiteral("Line"));
@@ -104,7 +104,7 @@ TEST(NOM_cdata, TakesTheSecondPartOfTheText)
                   "ConfData::ConfData(int, QString)", [] { NOM_cdata(QStringLiteral("x,Line 7")); });
 }
 
-TEST(NOM_cdata, NamesTheMachine)
+TEST(NOM_cdata, namesTheMachine)
 {
     const NOM_cdata row(QStringLiteral("2,Line 7"));
     FW_Dispenser dispenser;
@@ -116,7 +116,7 @@ TEST(NOM_cdata, NamesTheMachine)
     EXPECT_FALSE(row.updateConfiguration(nullptr, nullptr, nullptr));
 }
 
-TEST(NOM_cdata, CopiesAndClearsItsName)
+TEST(NOM_cdata, copiesAndClearsItsName)
 {
     NOM_cdata row(QStringLiteral("1,Line 7"));
     const std::unique_ptr<const NOM_cdata> copy(row.clone());
@@ -126,7 +126,7 @@ TEST(NOM_cdata, CopiesAndClearsItsName)
     EXPECT_EQ(sentAndReceived(*copy).structureName(), QStringLiteral("Line 7"));
 }
 
-TEST(NOM_cdata, GivesItsXmlRpcForm)
+TEST(NOM_cdata, givesItsXmlRpcForm)
 {
     EXPECT_EQ(dumped(NOM_cdata(QStringLiteral("1,Line 7")).toXmlRpcValue()), R"({"cmd_enabled": 1})");
 }

@@ -22,7 +22,7 @@ struct Field
     const char *code = "";
     Kind kind = Mandatory;
     const char *textLabel = nullptr; ///< in the refusal of a text; null: the same
-    int gate = 0; ///< the position that decides for an optional field; 0 for its own
+    int gate = 0;                    ///< the position that decides for an optional field; 0 for its own
 };
 
 struct Structure
