@@ -76,34 +76,7 @@ void expectEqual(const FW_Machine &left, const FW_Machine &right)
     EXPECT_EQ(left.confStructureName(), right.confStructureName());
 }
 
-void expectEqualTables(const FW_Dispenser &left, const FW_Dispenser &right)
-{
-    const auto *one = dynamic_cast<const FW_Turntable *>(left.getDevice(FW_Device::Turntable));
-    const auto *other = dynamic_cast<const FW_Turntable *>(right.getDevice(FW_Device::Turntable));
-    ASSERT_EQ(one == nullptr, other == nullptr);
-    if (!one)
-        return;
-    EXPECT_EQ(one->isEnabled(), other->isEnabled());
-    EXPECT_EQ(one->refillAngle(), other->refillAngle());
-    EXPECT_EQ(one->stepTime(), other->stepTime());
-    EXPECT_EQ(one->positions(), other->positions());
-}
-
-void expectEqual(const FW_Dispenser &left, const FW_Dispenser &right)
-{
-    expectEqual(static_cast<const FW_Machine &>(left), right);
-    EXPECT_EQ(left.headArrangement(), right.headArrangement());
-    EXPECT_EQ(left.commandFamily(), right.commandFamily());
-    EXPECT_EQ(left.tintingParallelism(), right.tintingParallelism());
-    EXPECT_EQ(left.hasNozzleBasedDosing(), right.hasNozzleBasedDosing());
-    EXPECT_TRUE(left.colorants() == right.colorants());
-    EXPECT_TRUE(left.canisters() == right.canisters());
-    EXPECT_EQ(left.hasDevice(FW_Device::Autocap), right.hasDevice(FW_Device::Autocap));
-    EXPECT_EQ(left.acceptCommands(FW_Device::Autocap), right.acceptCommands(FW_Device::Autocap));
-    expectEqualTables(left, right);
-}
-
-/// Every member other than its default.
+/// Members other than their defaults.
 constexpr char FullDispenser[] = R"({"type": "dispenser", "id": 7, "model": 20, "model_name": "LUMINA 16",
     "sid": "00123", "description": "perché no", "product_code": "P-1", "serial_number": "A12-4/5",
     "connection_name": "ttyUSB0", "conf_structure_name": "structure 3",
@@ -343,12 +316,13 @@ TEST(Machines, whatIsWrittenReadsBack)
                              R"({"type": "dispenser", "devices": {"autocap": {}}})"}) {
         const auto machine = readMachineFile(json);
         const auto again = readMachineFile(machineFileOf(*machine));
-        expectEqual(dynamic_cast<const FW_Dispenser &>(*machine), dynamic_cast<const FW_Dispenser &>(*again));
+        EXPECT_TRUE(dynamic_cast<const FW_Dispenser &>(*machine) ==
+                    dynamic_cast<const FW_Dispenser &>(*again));
     }
     for (const char *name : {"dispenser", "turntable", "dual"}) {
         const BuiltIn machine(name);
         const auto again = readMachineFile(machineFileOf(*machine));
-        expectEqual(*machine, dynamic_cast<const FW_Dispenser &>(*again));
+        EXPECT_TRUE(*machine == dynamic_cast<const FW_Dispenser &>(*again));
     }
     const auto mixer = machineByName(QStringLiteral("mixer"));
     expectEqual(*mixer, *readMachineFile(machineFileOf(*mixer)));
@@ -371,32 +345,21 @@ TEST(Machines, aFileIsWrittenInLinesThatAPersonReads)
 {
     const auto machine = fromJson(R"({"type": "dispenser", "id": 5, "model": 0, "model_name": "a\"b\u0085c",
         "colorants": [{"code": "B"}, {"code": "C"}, {"code": "D", "name": "Green"}],
-        "canisters": [{"id": 1, "colorant": "B", "maximum": 2}],
-        "devices": {"autocap": {}}})");
+        "canisters": [{"id": 1, "colorant": "B", "maximum": 2, "current": 0,
+                       "circuits": [{"id": 1, "position_id": 1, "stirring_motor": {"pause": "90 s"}}]},
+                      {"id": 2, "circuits": [{"id": 2, "position_id": 2, "dosing_motor": null}]}],
+        "devices": {"autocap": {"enabled": true}}})");
     EXPECT_EQ(machineFileOf(*machine), R"({
   "type": "dispenser",
   "id": 5,
   "model": 0,
   "model_name": "a\"b\u0085c",
-  "sid": "",
-  "description": "",
-  "product_code": "",
-  "serial_number": "",
-  "connection_name": "",
-  "conf_structure_name": "",
-  "heads": 1,
-  "command_family": 1,
-  "tinting_parallelism": 1,
-  "nozzle_based_dosing": false,
-  "colorants": [
-    {"code":"B","name":"","enabled":true},
-    {"code":"C","name":"","enabled":true},
-    {"code":"D","name":"Green","enabled":true}
-  ],
+  "colorants": [{"code":"B"},{"code":"C"},{"code":"D","name":"Green"}],
   "canisters": [
-    {"id":1,"enabled":true,"colorant":"B","maximum":2.0,"current":0.0,"reserve":0.0,"warning":0.0,"circuits":[]}
+    {"id":1,"colorant":"B","maximum":2.0,"circuits":[{"id":1,"position_id":1,"stirring_motor":{"pause":"90 s"}}]},
+    {"id":2,"circuits":[{"id":2,"position_id":2,"dosing_motor":null}]}
   ],
-  "devices": {"autocap":{"enabled":true}}
+  "devices": {"autocap":{}}
 }
 )");
     EXPECT_EQ(readMachineFile(machineFileOf(*machine))->modelName(), QString::fromUtf8("a\"b\xC2\x85"
@@ -502,7 +465,7 @@ TEST(Machines, whatMustBeSingleIsNotThereTwice)
          "devices.turntable.positions[1]: is that of another place of the table"},
         {R"("devices": {"turntable": {"refill_angle": 361}})",
          "devices.turntable.refill_angle: must be an integer from 0 to 360"},
-        {R"("devices": {"shelf": {}})", "devices.shelf: unknown member"},
+        {R"("devices": {"scale": {}})", "devices.scale: unknown member"},
     };
     for (const auto &[members, text] : refusals)
         EXPECT_EQ(refusalOf(R"({"type": "dispenser", )" + QByteArray(members) + "}"), text) << members;

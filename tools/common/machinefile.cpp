@@ -2,17 +2,15 @@
 #include "machinefile.h"
 
 #include "jsonvalue.h"
+#include "machinemembers_p.h"
 
-#include <QuvFramework/fw_autocap.h>
-#include <QuvFramework/fw_dispenser.h>
-#include <QuvFramework/fw_mixer.h>
-#include <QuvFramework/fw_turntable.h>
-
+#include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
 
+#include <algorithm>
 #include <functional>
-#include <limits>
+#include <map>
 #include <optional>
 #include <set>
 #include <stdexcept>
@@ -22,18 +20,6 @@ namespace quv {
 namespace {
 
 using nlohmann::json;
-
-constexpr int MaxInt = std::numeric_limits<int>::max();
-constexpr int MaxPosition = 245; // addresses beyond it are not one parameter on the serial link
-constexpr double MaxQuantity = 1e9;
-constexpr long long MaxSteps = 1LL << 53; // beyond it a double has no digit for the single step
-
-/// What an integer may be; a number with a fraction has 0 to MaxQuantity.
-struct Range
-{
-    long long min = 0;
-    long long max = MaxInt;
-};
 
 [[noreturn]] void refuse(const QString &path, const QString &text)
 {
@@ -111,6 +97,18 @@ public:
             std::invoke(set, m_object, readValue<Value>(*value, joined(m_path, QLatin1String(key)), range));
     }
 
+    template <class Get, class Set, class Remove>
+    void removable(const char *key, Get get, Set set, Remove remove)
+    {
+        const auto member = m_source.find(key);
+        if (member == m_source.end() || !member->is_null()) {
+            optional(key, get, set);
+            return;
+        }
+        take(key);
+        std::invoke(remove, m_object);
+    }
+
     /// Members of the object that stand in an object of their own.
     template <class Describe>
     void group(const char *key, Describe describeGroup)
@@ -146,7 +144,7 @@ private:
     std::set<std::string> m_taken{};
 };
 
-/// Runs a description to write an object, all of its members.
+/// Runs a description to write an object, without what is as in any other.
 template <class T>
 class Writer
 {
@@ -156,21 +154,23 @@ public:
     void constant(const char *key, const char *text) { m_written[key] = text; }
 
     template <class Get, class Set>
-    void required(const char *key, Get get, Set set, Range range = {})
+    void required(const char *key, Get get, Set /*set*/, Range /*range*/ = {})
     {
-        optional(key, get, set, range);
+        m_written[key] = writtenValue(std::invoke(get, m_object));
     }
 
     template <class Get, class Set>
     void optional(const char *key, Get get, Set /*set*/, Range /*range*/ = {})
     {
         const auto &value = std::invoke(get, m_object);
-        if constexpr (IsOptional<std::decay_t<decltype(value)>>::value) {
-            if (value)
-                m_written[key] = writtenValue(*value);
-        } else {
+        if (!(value == std::invoke(get, m_default)))
             m_written[key] = writtenValue(value);
-        }
+    }
+
+    template <class Get, class Set, class Remove>
+    void removable(const char *key, Get get, Set set, Remove /*remove*/)
+    {
+        optional(key, get, set);
     }
 
     template <class Describe>
@@ -178,174 +178,17 @@ public:
     {
         Writer members(m_object);
         describeGroup(members);
-        m_written[key] = members.written();
+        if (!members.written().empty())
+            m_written[key] = members.written();
     }
 
     const OrderedJson &written() const { return m_written; }
 
 private:
     const T &m_object;
+    const T m_default{};
     OrderedJson m_written = OrderedJson::object();
 };
-
-// --- what a file holds, a line a member
-
-template <template <class> class Archive>
-void describe(Archive<FW_CalibrationPoint> &point)
-{
-    // a pointer to a data member gets; setting it needs a word more
-    using Point = FW_CalibrationPoint;
-    point.required("steps", &Point::steps, [](Point &p, long long steps) { p.steps = steps; }, {0, MaxSteps});
-    point.required("quantity", &Point::quantity, [](Point &p, double quantity) { p.quantity = quantity; });
-    point.required("speed", &Point::speed, [](Point &p, int speed) { p.speed = speed; });
-    point.optional("nozzle_valve", &Point::nozzleValveID, [](Point &p, int id) { p.nozzleValveID = id; });
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_DosingMotor> &motor)
-{
-    motor.optional("id", &FW_DosingMotor::motorID, &FW_DosingMotor::setMotorId);
-    motor.optional("resolution", &FW_DosingMotor::resolution, &FW_DosingMotor::setResolution, {1, MaxInt});
-    motor.optional("max_speed", &FW_DosingMotor::maxSpeed,
-                   [](FW_DosingMotor &m, int speed) { m.setMaxSpeed(speed); });
-    motor.optional("steps_per_stroke", &FW_DosingMotor::stepsPerStroke, &FW_DosingMotor::setStepsPerStroke);
-    motor.optional("gravimetric", &FW_DosingMotor::isGravimetricSw, &FW_DosingMotor::setGravimetricSw);
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_Valve> &valve)
-{
-    valve.required("id", &FW_Valve::id, &FW_Valve::setId);
-    valve.optional("board_id", &FW_Valve::boardID, &FW_Valve::setBoardID);
-    valve.optional("type", &FW_Valve::valveType, &FW_Valve::setValveType);
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_Circuit> &circuit)
-{
-    circuit.required("id", &FW_Circuit::id, &FW_Circuit::setId, {1, MaxInt});
-    circuit.required("position_id", &FW_Circuit::positionId,
-                     [](FW_Circuit &c, int position) { c.setPositionId(position); }, {1, MaxPosition});
-    circuit.optional("enabled", &FW_Circuit::isEnabled, &FW_Circuit::setEnabled);
-    circuit.optional("head", &FW_Circuit::headId, &FW_Circuit::setHeadId, {1, 2});
-    circuit.optional("queue_id", &FW_Circuit::queueID, &FW_Circuit::setQueueID);
-    circuit.optional("nozzle_valves", &FW_Circuit::nozzleValvesID, &FW_Circuit::setNozzleValvesID,
-                     {1, MaxInt});
-    circuit.optional("valves", &FW_Circuit::valves, &FW_Circuit::setValves);
-    circuit.optional("dosing_motor", &FW_Circuit::dosingMotor,
-                     [](FW_Circuit &c, const FW_DosingMotor &motor) { c.setDosingMotor(motor); });
-    circuit.optional(
-        "calibration", [](const FW_Circuit &c) { return c.calibration().points(); },
-        [](FW_Circuit &c, const QVector<FW_CalibrationPoint> &points) {
-            c.setCalibration(FW_Calibration(points));
-        });
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_Canister> &canister)
-{
-    using Circuits = QList<FW_Circuit>;
-    canister.required("id", &FW_Canister::id, &FW_Canister::setId, {1, MaxInt});
-    canister.optional("enabled", &FW_Canister::isEnabled, &FW_Canister::setEnabled);
-    canister.optional("colorant", &FW_Canister::colorantCode, &FW_Canister::setColorantCode);
-    canister.optional("maximum", &FW_Canister::maximumQuantity, &FW_Canister::setMaximumQuantity);
-    canister.optional("current", &FW_Canister::currentQuantity, &FW_Canister::setCurrentQuantity);
-    canister.optional("reserve", &FW_Canister::reserveQuantity, &FW_Canister::setReserveQuantity);
-    canister.optional("warning", &FW_Canister::warningQuantity, &FW_Canister::setWarningQuantity);
-    canister.optional(
-        "circuits", [](const FW_Canister &c) { return c.circuits(); },
-        [](FW_Canister &c, const Circuits &circuits) { c.circuits() = circuits; });
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_Colorant> &colorant)
-{
-    colorant.required("code", &FW_Colorant::code, &FW_Colorant::setCode);
-    colorant.optional("name", &FW_Colorant::name, &FW_Colorant::setName);
-    colorant.optional("enabled", &FW_Colorant::isEnabled, &FW_Colorant::setEnabled);
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_Autocap> &autocap)
-{
-    autocap.optional("enabled", &FW_Autocap::isEnabled, &FW_Autocap::setEnabled);
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_Turntable> &table)
-{
-    table.optional("enabled", &FW_Turntable::isEnabled, &FW_Turntable::setEnabled);
-    table.optional("refill_angle", &FW_Turntable::refillAngle, &FW_Turntable::setRefillAngle, {0, 360});
-    table.optional("step_time", &FW_Turntable::stepTime, &FW_Turntable::setStepTime);
-    table.optional("positions", &FW_Turntable::positions, &FW_Turntable::setPositions, {1, MaxPosition});
-}
-
-template <class Archive>
-void describeShared(Archive &machine)
-{
-    // a machine without a model has no such member
-    const auto model = [](const FW_Machine &m) {
-        return m.model() == MachineModel::None ? std::nullopt : std::make_optional(m.model());
-    };
-    machine.optional("id", &FW_Machine::id, &FW_Machine::setId);
-    machine.optional("model", model,
-                     [](FW_Machine &m, std::optional<MachineModel> number) { m.setModel(*number); });
-    machine.optional("model_name", &FW_Machine::modelName, &FW_Machine::setModelName);
-    machine.optional("sid", &FW_Machine::SID, &FW_Machine::setSID);
-    machine.optional("description", &FW_Machine::description, &FW_Machine::setDescription);
-    machine.optional("product_code", &FW_Machine::productCode, &FW_Machine::setProductCode);
-    machine.optional("serial_number", &FW_Machine::serialNumber, &FW_Machine::setSerialNumber);
-    machine.optional("connection_name", &FW_Machine::connectionName, &FW_Machine::setConnectionName);
-    machine.optional("conf_structure_name", &FW_Machine::confStructureName,
-                     &FW_Machine::setConfStructureName);
-}
-
-/// A device of the dispenser, left out when it has none.
-template <class Device, class Archive>
-void describeDevice(Archive &dispenser, const char *key)
-{
-    const auto get = [](const FW_Dispenser &d) {
-        const auto *device = dynamic_cast<const Device *>(d.getDevice(Device().kind()));
-        return device ? std::make_optional(*device) : std::nullopt;
-    };
-    dispenser.optional(key, get,
-                       [](FW_Dispenser &d, const std::optional<Device> &device) { d.setDevice(*device); });
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_Dispenser> &dispenser)
-{
-    const auto addCanisters = [](FW_Dispenser &d, const QList<FW_Canister> &canisters) {
-        for (const FW_Canister &canister : canisters)
-            d.addCanister(canister);
-    };
-    const auto addColorants = [](FW_Dispenser &d, const QList<FW_Colorant> &colorants) {
-        for (const FW_Colorant &colorant : colorants)
-            d.addColorant(colorant);
-    };
-    dispenser.constant("type", "dispenser");
-    describeShared(dispenser);
-    dispenser.optional("heads", &FW_Dispenser::headArrangement, &FW_Dispenser::setHeadArrangement, {1, 2});
-    dispenser.optional("command_family", &FW_Dispenser::commandFamily, &FW_Dispenser::setCommandFamily,
-                       {1, 2});
-    dispenser.optional("tinting_parallelism", &FW_Dispenser::tintingParallelism,
-                       &FW_Dispenser::setTintingParallelism, {1, MaxPosition});
-    dispenser.optional("nozzle_based_dosing", &FW_Dispenser::hasNozzleBasedDosing,
-                       &FW_Dispenser::setNozzleBasedDosing);
-    dispenser.optional("colorants", &FW_Dispenser::colorants, addColorants);
-    dispenser.optional("canisters", &FW_Dispenser::canisters, addCanisters);
-    dispenser.group("devices", [](auto &devices) {
-        describeDevice<FW_Autocap>(devices, "autocap");
-        describeDevice<FW_Turntable>(devices, "turntable");
-    });
-}
-
-template <template <class> class Archive>
-void describe(Archive<FW_Mixer> &mixer)
-{
-    mixer.constant("type", "mixer");
-    describeShared(mixer);
-}
 
 // --- values, by their types
 
@@ -358,12 +201,30 @@ long long readInteger(const json &value, const QString &path, Range range)
     return number;
 }
 
-double readQuantity(const json &value, const QString &path)
+double readNumber(const json &value, const QString &path, Range range)
 {
-    const double number = value.is_number() ? value.get<double>() : -1;
-    if (!(number >= 0 && number <= MaxQuantity))
-        refuse(path, QStringLiteral("must be a number from 0 to %1").arg(MaxQuantity, 0, 'f', 0));
+    const auto min = static_cast<int>(range.min);
+    const auto max = static_cast<int>(std::min<long long>(range.max, MaxQuantity));
+    const double number = value.is_number() ? value.get<double>() : min - 1.0;
+    if (!(number >= min && number <= max))
+        refuse(path, QStringLiteral("must be a number from %1 to %2").arg(min).arg(max));
     return number;
+}
+
+constexpr const char *UnitNames[] = {"ms", "s", "min"}; // by FW_TimeSpan::Unit
+
+MachineTime readTime(const json &value, const QString &path)
+{
+    static const QRegularExpression pattern(
+        QRegularExpression::anchoredPattern(QStringLiteral("([0-9]+) (ms|s|min)")));
+    const QString text = value.is_string() ? QString::fromStdString(value.get<std::string>()) : QString();
+    const QRegularExpressionMatch match = pattern.match(text);
+    bool fits = false;
+    const int number = match.captured(1).toInt(&fits);
+    if (!fits)
+        refuse(path, QStringLiteral("must be a time, as \"30 min\", \"90 s\" or \"1500 ms\""));
+    const auto unit = std::find(std::begin(UnitNames), std::end(UnitNames), match.captured(2));
+    return {number, static_cast<int>(unit - std::begin(UnitNames))};
 }
 
 QString readText(const json &value, const QString &path)
@@ -399,9 +260,11 @@ T readValue(const json &value, const QString &path, Range range)
     } else if constexpr (std::is_integral_v<T> || std::is_enum_v<T>) {
         return static_cast<T>(readInteger(value, path, range));
     } else if constexpr (std::is_same_v<T, double>) {
-        return readQuantity(value, path);
+        return readNumber(value, path, range);
     } else if constexpr (std::is_same_v<T, QString>) {
         return readText(value, path);
+    } else if constexpr (std::is_same_v<T, MachineTime>) {
+        return readTime(value, path);
     } else if constexpr (IsOptional<T>::value) {
         return readValue<typename T::value_type>(value, path, range);
     } else if constexpr (IsList<T>::value) {
@@ -424,6 +287,10 @@ OrderedJson writtenValue(const T &value)
         return value;
     } else if constexpr (std::is_same_v<T, QString>) {
         return value.toStdString();
+    } else if constexpr (std::is_same_v<T, MachineTime>) {
+        return std::to_string(value.value) + ' ' + UnitNames[value.unit];
+    } else if constexpr (IsOptional<T>::value) {
+        return value ? writtenValue(*value) : OrderedJson();
     } else if constexpr (IsList<T>::value) {
         OrderedJson list = OrderedJson::array();
         for (const auto &element : value)
@@ -468,6 +335,29 @@ void checkShared(const FW_Machine &machine)
                QStringLiteral("must be 1 to 20 letters, digits, blanks, dots, slashes and hyphens"));
 }
 
+/// Refuses two parts of one reference that differ: whoever reads one by its reference reads them all.
+template <class Part>
+class Shared
+{
+public:
+    explicit Shared(const char *key) : m_key(QLatin1String(key)) {}
+
+    /// \a part is null for a motor without; 0 is no reference.
+    void add(const Part *part, int reference, const QString &motorPath)
+    {
+        if (!part || reference == 0)
+            return;
+        const auto known = m_parts.emplace(reference, *part).first;
+        if (known->second != *part)
+            refuse(joined(motorPath, m_key),
+                   QStringLiteral("is not equal to another of reference %1").arg(reference));
+    }
+
+private:
+    QString m_key;
+    std::map<int, Part> m_parts{};
+};
+
 Unique<QString> checkedColorantCodes(const FW_Dispenser &dispenser)
 {
     Unique<QString> codes("colorant");
@@ -501,6 +391,23 @@ void checkCanisters(const FW_Dispenser &dispenser, const Unique<QString> &colora
     }
 }
 
+void checkSharedParts(const FW_Dispenser &dispenser)
+{
+    Shared<FW_Ramp> ramps("ramp");
+    Shared<FW_SingleTransmission> transmissions("single_transmission");
+    Shared<FW_FlowCorrection> corrections("flow_correction");
+    for (int i = 0; i < dispenser.canisters().size(); ++i) {
+        const QString circuits = elementPath(QStringLiteral("canisters"), i) + QStringLiteral(".circuits");
+        for (int j = 0; j < dispenser.canisters().at(i).circuits().size(); ++j) {
+            const FW_DosingMotor &motor = dispenser.canisters().at(i).circuits().at(j).dosingMotor();
+            const QString path = joined(elementPath(circuits, j), QStringLiteral("dosing_motor"));
+            ramps.add(motor.ramp(), motor.rampConfigRef(), path);
+            transmissions.add(motor.singleTransmission(), motor.singleTransmissionConfigRef(), path);
+            corrections.add(motor.flowCorrection(), motor.flowCorrectionConfigRef(), path);
+        }
+    }
+}
+
 void checkTurntable(const FW_Dispenser &dispenser)
 {
     const auto *table = dynamic_cast<const FW_Turntable *>(dispenser.getDevice(FW_Device::Turntable));
@@ -520,6 +427,7 @@ void check(const FW_Dispenser &dispenser)
 {
     checkShared(dispenser);
     checkCanisters(dispenser, checkedColorantCodes(dispenser));
+    checkSharedParts(dispenser);
     checkTurntable(dispenser);
 }
 

@@ -26,7 +26,7 @@ const Subcommand machineSubcommand = {
     "NAME|FILE",
     "a machine as the JSON of a machine file",
     "Prints a built-in machine (dispenser, turntable, dual, mixer), or that of a "
-    "file with all of its members.",
+    "file, without the members that have their defaults.",
     1,
     1,
     {},
