@@ -124,7 +124,7 @@ public:
         m_details->gravimetricSettings = settings;
     }
     void setDefaultGravimetricSettings() { m_details->gravimetricSettings = GravimetricSettings(); }
-    void removeGravimetricSettings() { m_details->gravimetricSettings.reset(); }
+    void removeGravimetricSettings();
 
     // What it is wired to.
     int headRefID() const { return m_details->headRefID; }
@@ -138,7 +138,7 @@ public:
     const FW_Ramp *ramp() const { return pointerTo(m_details->ramp); }
     int rampConfigRef() const { return ramp() ? ramp()->configRef() : 0; }
     void setRamp(const FW_Ramp &ramp) { m_details->ramp = ramp; }
-    void removeRamp() { m_details->ramp.reset(); }
+    void removeRamp();
     const FW_SingleTransmission *singleTransmission() const
     {
         return pointerTo(m_details->singleTransmission);
@@ -148,11 +148,11 @@ public:
         return singleTransmission() ? singleTransmission()->configRef : 0;
     }
     void setSingleTransmission(const FW_SingleTransmission &part) { m_details->singleTransmission = part; }
-    void removeSingleTransmission() { m_details->singleTransmission.reset(); }
+    void removeSingleTransmission();
     const FW_FlowCorrection *flowCorrection() const { return pointerTo(m_details->flowCorrection); }
     int flowCorrectionConfigRef() const { return flowCorrection() ? flowCorrection()->configRef : 0; }
     void setFlowCorrection(const FW_FlowCorrection &part) { m_details->flowCorrection = part; }
-    void removeFlowCorrection() { m_details->flowCorrection.reset(); }
+    void removeFlowCorrection();
 
     bool operator==(const FW_DosingMotor &other) const;
     bool operator!=(const FW_DosingMotor &other) const { return !(*this == other); }

@@ -75,6 +75,7 @@ FormulaProgress::FormulaProgress(const XmlRpcValue &value)
     if (array.getType() != XmlRpcValue::TypeArray)
         throw std::invalid_argument("the channels of the progress are no array");
     std::vector<std::unique_ptr<FormulaChannel>> channels; // one of the next may be refused
+    channels.reserve(static_cast<std::size_t>(array.size()));
     for (int i = 0; i < array.size(); ++i)
         channels.push_back(std::make_unique<FormulaChannel>(array[i]));
     for (auto &channel : channels)

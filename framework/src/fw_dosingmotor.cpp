@@ -145,3 +145,23 @@ bool FW_FlowCorrection::operator==(const FW_FlowCorrection &other) const
     };
     return fields(*this) == fields(other);
 }
+
+void FW_DosingMotor::removeGravimetricSettings()
+{
+    m_details->gravimetricSettings.reset();
+}
+
+void FW_DosingMotor::removeRamp()
+{
+    m_details->ramp.reset();
+}
+
+void FW_DosingMotor::removeSingleTransmission()
+{
+    m_details->singleTransmission.reset();
+}
+
+void FW_DosingMotor::removeFlowCorrection()
+{
+    m_details->flowCorrection.reset();
+}

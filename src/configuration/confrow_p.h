@@ -215,7 +215,7 @@ template <class Row>
 void updateLocalDataOrThrow(Row &row, const char *code, const char *function)
 {
     QString error;
-    if (!row.updateLocalData(&error))
+    if (!row.Row::updateLocalData(&error)) // not a derived one's, which is not there yet
         throw FW_Exception(code, error, function);
 }
 

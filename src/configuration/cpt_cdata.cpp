@@ -318,7 +318,7 @@ QList<int> written(const Row &row)
 }
 
 /** What \a local tells beyond that which makes a pump becomes what \a pump tells. */
-void setUp(Dosing &pump, const Dosing &local)
+Dosing setUp(Dosing pump, const Dosing &local)
 {
     pump.setResolution(local.resolution());
     pump.setSuctionSpeed(local.suctionSpeed());
@@ -336,6 +336,7 @@ void setUp(Dosing &pump, const Dosing &local)
     pump.setPressureSensorWireConnectorId(local.pressureSensorWireConnectorId());
     pump.setSpeedThrTempReductionGroupID(local.speedThrTempReductionGroupID());
     pump.setSmartSpeedReduction(local.hasSmartSpeedReduction());
+    return pump;
 }
 
 /** No row tells how long a stroke is, or whether a scale doses the circuit: that stays as it was. */
@@ -563,11 +564,8 @@ FW_DosingMotor CPT_cdata::dosingMotorFor(const FW_Circuit &target, MachineModel 
         keepUntold(local, target.dosingMotor());
     if (local.interDispensingTime() == -1.0)
         local.setInterDispensingTime(Dosing::defaultInterDispensingTime(model));
-    Dosing motor = local;
-    if (const Dosing *pump = pumpFor(local, profiles)) {
-        motor = *pump;
-        setUp(motor, local);
-    }
+    const Dosing *pump = pumpFor(local, profiles);
+    Dosing motor = pump ? setUp(*pump, local) : local;
     setPouring(motor, algorithmMaskFor(local, model));
 
     m_rampReference ? motor.setRamp(FW_Ramp(m_rampReference)) : motor.removeRamp();

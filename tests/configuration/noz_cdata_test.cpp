@@ -75,3 +75,14 @@ TEST(NOZ_cdata, countsWholeSeconds)
     EXPECT_EQ(textOfDevice<NOZ_cdata>(valve, true), QStringLiteral("1,1,2"));
     EXPECT_EQ(NOZ_cdata(QStringLiteral("1,1,90")).device().timeout(0), 90000);
 }
+
+TEST(NOZ_cdata, givesAllThatItTookFromAMachine)
+{
+    FW_NozzleValve valve = configured();
+    valve.setTimeout(2999, 0);
+    FW_Dispenser source;
+    source.setDevice(valve);
+    FW_Dispenser target;
+    EXPECT_TRUE(applied(NOZ_cdata(&source), target));
+    EXPECT_TRUE(*target.getDevice(13) == valve);
+}

@@ -76,3 +76,14 @@ TEST(PLC_cdata, cutsTimesOffAtTenths)
     board.setErrDispSignalActivationTime(0.29);
     EXPECT_EQ(textOfDevice<PLC_cdata>(board, true), QStringLiteral("1,3,11,2"));
 }
+
+TEST(PLC_cdata, givesAllThatItTookFromAMachine)
+{
+    FW_PLCBoard board = configured();
+    board.setEndDispSignalActivationTime(1.19);
+    FW_Dispenser source;
+    source.setDevice(board);
+    FW_Dispenser target;
+    EXPECT_TRUE(applied(PLC_cdata(&source), target));
+    EXPECT_TRUE(*target.getDevice(19) == board);
+}

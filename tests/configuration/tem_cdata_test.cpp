@@ -106,3 +106,14 @@ TEST(TEM_cdata, readsTheSameTwice)
     EXPECT_EQ(row.device().erogationSpeeds(1), (QList<int>{0, 80, 70}));
     EXPECT_EQ(row.device().erogationSpeeds(2), (QList<int>{0, 90, 91}));
 }
+
+TEST(TEM_cdata, givesAllThatItTookFromAMachine)
+{
+    FW_TemperatureSensor sensor = configured();
+    sensor.addTemperatureThreshold(34); // no row carries a fourth
+    FW_Dispenser source;
+    source.setDevice(sensor);
+    FW_Dispenser target;
+    EXPECT_TRUE(applied(TEM_cdata(&source), target));
+    EXPECT_TRUE(*target.getDevice(7) == sensor);
+}

@@ -104,3 +104,14 @@ TEST(USS_cdata, keepsPumpsAndValveInARowOnly)
     EXPECT_TRUE(applied(received, machine));
     EXPECT_EQ(USS_cdata(&machine).configurationParamsStr(), QStringLiteral("1,12,3,4,15,5,6,2,0,0,0,0"));
 }
+
+TEST(USS_cdata, givesAllThatItTookFromAMachine)
+{
+    FW_UltrasoundCleaning cleaning = configured();
+    cleaning.setEmptyingTime(0.69);
+    FW_Dispenser source;
+    source.setDevice(cleaning);
+    FW_Dispenser target;
+    EXPECT_TRUE(applied(USS_cdata(&source), target));
+    EXPECT_TRUE(*target.getDevice(16) == cleaning);
+}
