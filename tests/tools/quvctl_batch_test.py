@@ -633,6 +633,125 @@ class Lines(BatchTest):
         self.expect({"op": "query", "what": "existsCommand", "name": "TINT"}, {"ok": True, "value": True})
 
 
+class Rows(BatchTest):
+    WRITE_VALUE = "WriteConfigurationParamCmd::WriteConfigurationParamCmd(const XmlRpc::XmlRpcValue&)"
+    WRITE_MACHINE = "WriteConfigurationParamCmd::WriteConfigurationParamCmd(int, const FW_Machine*, int)"
+    ONCE = [1, 2, 3, 4, 7, 8, 9, 11, 13, 14, 15, 16, 17, 18, 20, 21, 25, 26]  # structures of a dispenser
+
+    def row(self, reply, **request):
+        self.expect({"op": "row", **request}, reply)
+
+    def test_of_an_answer(self):
+        self.row({"ok": True, "class": "HUM_cdata", "text": "@HUM 1,300,2,3",
+                  "value": {"cmd_code": "@HUM", "cmd_value": 7, "cmd_parameters": "1,300,2,3"},
+                  "serial": [1, 1, 2, 54, 1, 1, 2, 1, 3]},
+                 tokens=["C", "7", "1", "4", "1", "1", "2", "36", "1", "1", "2", "1", "3"])
+        # a field that nobody knows stays: 5 + 1 * 246
+        self.row({"ok": True, "class": "HUM_cdata", "text": "@HUM 1,0,2,3,251",
+                  "value": {"cmd_code": "@HUM", "cmd_value": 7, "cmd_parameters": "1,0,2,3,251"},
+                  "serial": [1, 1, 1, 0, 1, 2, 1, 3, 2, 5, 1]},
+                 tokens=["E", "7", "1", "5", "1", "1", "1", "0", "1", "2", "1", "3", "2", "5", "1"])
+        self.row({"ok": True, "class": "NOM_cdata", "text": "@NOM 1,Abc",
+                  "value": {"cmd_code": "@NOM", "cmd_value": 2, "cmd_parameters": "1,Abc"},
+                  "serial": [1, 1, 3, 65, 98, 99]},
+                 tokens=["9", "2", "1", "2", "1", "1", "3", "41", "62", "63"])
+        for code, name in [("C", "@AUT"), ("1F", "")]:
+            self.row({"ok": True, "class": "GENERIC_cdata", "text": name + " 2",
+                      "value": {"cmd_code": name, "cmd_value": int(code, 16), "cmd_parameters": "2"}, "serial": [1, 2]},
+                     tokens=["5", code, "1", "1", "1", "2"])
+
+    def test_answers_that_are_none(self):
+        answer = "ReadConfigurationParamAnswer::ReadConfigurationParamAnswer(QStringList)"
+        self.row(refused("DE00078", "Command code not found in answer", answer), tokens=["0"])
+        self.row(refused("DE00083", "Invalid fields number type found in answer", answer), tokens=["3", "7", "1", "x"])
+        self.row(refused("DE00085", "Command enabled field not found in answer",
+                         "ConfData::ConfData(int, QStringList)"), tokens=["3", "7", "1", "4"])
+        self.row(refused("DE00249", "Multiplier Coefficient field not found in answer",
+                         "HUM_cdata::HUM_cdata(QStringList, int)"),
+                 tokens=["7", "7", "1", "4", "1", "1", "1", "0"])
+        self.row(bad('"tokens" must be an array of strings'), tokens=[7])
+
+    def test_of_a_struct(self):
+        self.row({"ok": True, "class": "HUM_cdata", "text": "@HUM 2,300,2,3", "serial": [7, 4, 1, 2, 2, 54, 1, 1, 2, 1, 3]},
+                 cmd_value=7, cmd_parameters="2,300,2,3")
+        self.row({"ok": True, "class": "GENERIC_cdata", "text": "@AUT 1,7", "serial": [12, 2, 1, 1, 1, 7]},
+                 cmd_value=12, cmd_parameters="1,7")
+        for without in [{"cmd_value": 7}, {"cmd_parameters": "1,2"}, {"cmd_value": 0, "cmd_parameters": "1"}]:
+            self.row({"ok": True, "text": "", "serial": [0, 1]}, **without)
+        self.row(refused("DE00169", "Invalid configuration parameters. Expected Int type for attribute 'cmd_value'",
+                         self.WRITE_VALUE), cmd_value="7", cmd_parameters="1")
+        self.row(refused("DE00170", "Invalid configuration parameters. Expected String type for attribute "
+                                    "'cmd_parameters'", self.WRITE_VALUE), cmd_value=7, cmd_parameters=1)
+        self.row(refused("DE00152", "Invalid configuration parameter field in answer",
+                         "ConfData::ConfData(int, QString)"), cmd_value=7, cmd_parameters="1,2,x,4")
+        self.row(refused("DE00253", "Low Humidity Warning Threshold field not found in answer",
+                         "HUM_cdata::HUM_cdata(QString)"), cmd_value=7, cmd_parameters="1,2,3")
+
+    def test_of_a_machine(self):
+        self.row({"ok": True, "class": "ICS_cdata", "text": "@ICS 1", "serial": [1, 1, 1, 1]}, code=1, machine="mixer")
+        # a humidifier that the machine does not have has its defaults
+        self.row({"ok": True, "class": "HUM_cdata", "text": "@HUM 0,60,10,40",
+                  "serial": [7, 4, 1, 0, 1, 60, 1, 10, 1, 40]}, code=7, id=1, machine="dispenser")
+        # circuit 3 has position 3
+        circuit = self.ask({"op": "row", "code": 5, "id": 3, "machine": "dispenser"})
+        self.assertEqual((circuit["class"], circuit["text"].split(",")[3], circuit["serial"][:2]), ("CPT_cdata", "3", [5, 53]))
+        self.row(refused("DE00246", "Invalid Dispenser data", "HUM_cdata::HUM_cdata(const FW_Machine*)"), code=7)
+        self.row(refused("DE02791", "Invalid data", "HUM_cdata::HUM_cdata(const FW_Machine*)"), code=7, machine="mixer")
+        self.row(refused("DE00172", "Unknown command code", self.WRITE_MACHINE), code=27, machine="dispenser")
+        self.row(refused("DE00582", "Write configuration row parameters: unknown command", self.WRITE_MACHINE),
+                 code=12, machine="dispenser")
+        self.row(bad('"code" must be a whole number'), code="7", machine="dispenser")
+
+    def test_of_nothing(self):
+        self.row(bad('a row needs "tokens", "code" or "cmd_value"'), machine="dispenser")
+
+    def test_apply(self):
+        self.expect({"op": "apply", "machine": "mixer", "rows": [
+            {"code": 1, "text": "1"}, {"code": 2, "text": "1,Blend"}, {"code": 7, "text": "1,2,3,4"}]},
+                    {"ok": True, "applied": [True, True, False], "rows": [
+                        {"code": 1, "name": "@ICS", "text": "1"}, {"code": 2, "name": "@NOM", "text": "1,Blend"}]})
+        self.expect({"op": "apply", "rows": [{"code": 1, "text": "1"}, {"code": 2, "text": "1,Blend"}]},
+                    {"ok": True, "applied": [True, False], "rows": []})
+
+    def test_apply_to_a_dispenser(self):
+        circuit = ["1", "2", "30", "2", "1", *["0"] * 48]
+        circuit[17], circuit[34], circuit[40] = "4", "5", "6"  # ramp, transmission, flow correction
+        reply = self.ask({"op": "apply", "machine": "dispenser", "rows": [
+            {"code": 3, "text": "1,2,1,3,5,2,3,90"}, {"code": 7, "text": "2,120,20,35"}, {"code": 7, "text": "0,1,1,1"},
+            {"code": 5, "text": ",".join(circuit)}, {"code": 10, "text": "1,4,11,12,13,14"}, {"code": 10, "text": "1,9,1,1,1,1"},
+            {"code": 12, "text": "1"}, {"code": 7, "text": ""}]})
+        self.assertEqual(reply["applied"], [True, True, True, True, True, False, True, False])
+        circuits = list(range(1, 17))
+        self.assertEqual([(row["code"], row.get("id")) for row in reply["rows"]],
+                         sorted([*((code, None) for code in self.ONCE),
+                                 *((code, number) for code in [5, 6] for number in circuits),
+                                 (10, 4), (19, 5), (22, 6)], key=lambda row: (row[0], row[1] or 0)))
+        texts = {(row["name"], row.get("id", 1)): row["text"] for row in reply["rows"]}
+        self.assertTrue(texts["@GMC", 1].startswith("1,2,1,3,5,2,3,90,0,"), texts["@GMC", 1])
+        self.assertEqual(texts["@HUM", 1], "2,120,20,35")
+        self.assertEqual(texts["@RAM", 4], "1,4,11,12,13,14")
+        self.assertEqual(texts["@CPT", 2].split(",")[17], "4")
+
+    def test_what_the_machine_tells_goes_on_to_its_circuits(self):
+        circuit = ",".join(["1", "1", "30", "1", "1", *["0"] * 48])
+        machine = "1,1,1,1,1,1,1,60,0,0,0,30,90,0,0,0,{},0"
+        for rows, policy in [([(3, 19), 5], 19), ([(3, 3), 5], 0), ([5, (3, 19)], 0), ([(3, 19)], 0)]:
+            reply = self.ask({"op": "apply", "machine": "dispenser", "rows": [
+                {"code": 5, "text": circuit} if row == 5 else {"code": 3, "text": machine.format(row[1])} for row in rows]})
+            self.assertEqual(reply["applied"], [True] * len(rows))
+            told = next(row["text"] for row in reply["rows"] if row["name"] == "@GMC")
+            self.assertEqual(told.split(",")[16], str(policy))
+
+    def test_rows_that_cannot_be_applied(self):
+        self.expect({"op": "apply", "machine": "dispenser", "rows": [{"code": 7, "text": "1"}]},
+                    refused("DE00253", "Sensor Reading Period field not found in answer", "HUM_cdata::HUM_cdata(QString)"))
+        self.expect({"op": "apply", "machine": "dispenser"}, bad('"rows" is missing'))
+        for rows in [7, [7]]:
+            self.expect({"op": "apply", "machine": "dispenser", "rows": rows}, bad('"rows" must be an array of objects'))
+        self.expect({"op": "apply", "rows": [{"code": 7}]}, bad('"text" is missing'))
+        self.expect({"op": "apply", "rows": [{"text": "1"}]}, bad('"code" is missing'))
+
+
 class Stream(unittest.TestCase):
     def run_batch(self, data):
         return subprocess.run([QUVCTL, "batch"], input=data, stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=60)

@@ -101,7 +101,8 @@ class General(CliTest):
         overview = self.done("help")
         self.assertEqual(self.done("--help"), overview)
         self.assertEqual(self.done("-h"), overview)
-        for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "watch", "batch", "machine"]:
+        for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "config", "watch", "batch",
+                     "machine"]:
             self.assertRegex(overview, rf"(?m)^  {name} ")
             text = self.done("help", name)
             self.assertTrue(text.startswith(f"Usage: quvctl {name} [options]"), text)
@@ -322,6 +323,14 @@ class Call(CliTest):
                                              "printable": ["Success!"]})
         self.assertEqual(reply["class"], "DispenserStatusAnswer")
         self.assertIs(reply["value"]["stirring"], True)
+
+    def test_answers_of_which_the_library_keeps_nothing(self):
+        row = {"cmd_code": "@ICS", "cmd_value": 1, "cmd_parameters": "1"}
+        with Driver(envelope(row, info="done")) as driver:
+            out = self.done("call", "READ_CONFIG_ROW", "1", "1", "--port", str(driver.port))
+            self.assertEqual(out, 'done\n{"cmd_code":"@ICS","cmd_parameters":"1","cmd_value":1}\n')
+            reply = json.loads(self.done("call", "READ_CONFIG_ROW", "1", "1", "--json", "--port", str(driver.port)))
+        self.assertEqual((reply["class"], reply["value"]), ("ReadConfigurationParamAnswer", row))
 
     def test_refusal_of_the_driver(self):
         errors = [{"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE00123", "text": "No caf\u00e9"}]
@@ -609,9 +618,13 @@ class Completion(unittest.TestCase):
         self.assertEqual(self.complete("help", "wa"), ["watch"])
         self.assertEqual(self.complete("encode", "--machine", "turn"), ["turntable"])
         self.assertEqual(self.complete("machine", "turn"), ["turntable"])
+        self.assertEqual(self.complete("config", "pu"), ["pull", "push"])
+        self.assertEqual(self.complete("config", "--yes", "d"), ["diff"])
+        self.assertEqual(self.complete("config", "push", COMPLETION[:-1]), [COMPLETION])
 
     def test_options_are_those_of_the_help(self):
-        for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "watch", "batch", "machine"]:
+        for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "config", "watch", "batch",
+                     "machine"]:
             told = re.findall(r"(?m)^  (--[a-z-]+)", run("help", name)[1])
             self.assertEqual(sorted(self.complete(name, "--")), sorted(told), name)
 

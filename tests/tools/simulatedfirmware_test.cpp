@@ -6,7 +6,12 @@
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
 
+#include <QtCore/QTemporaryDir>
+
 #include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
 
 namespace {
 
@@ -374,6 +379,130 @@ TEST_F(SimulatedPourTest, onlyDispensersOfFamily1Pour)
     for (const char *code : {"0017", "0035", "0023", "0024", "0074"}) {
         EXPECT_EQ(begin(family2, code, {}), "refused 6 8 0 0 0 0 0") << code;
         EXPECT_EQ(begin(mixer, code, {}), "refused 6 8 0 0 0 0 0") << code;
+    }
+}
+
+const char *const Finalising = "E 0 1 0 20 0 0 0 F5 F5 0 0 0 0 0";
+
+TEST_F(SimulatedFirmwareTest, rowsOfTheConfigurationAreReadAndWritten)
+{
+    SimulatedFirmware firmware(m_dispenser, 1, clock());
+    const auto exchange = [&firmware](const char *code, const QList<int> &parameters) {
+        const FirmwareReply reply = firmware.execute(QLatin1String(code), 0, parameters);
+        return (reply.refused ? "refused " : "") + tokens(reply);
+    };
+    EXPECT_EQ(exchange("0066", {7, 1}), "B 7 1 4 1 0 1 3C 1 A 1 28");
+    EXPECT_EQ(exchange("0065", {7, 3, 1, 1, 1, 30, 2, 10, 1}), "0");
+    EXPECT_EQ(exchange("0066", {7, 1}), "C 7 1 4 1 1 1 1E 2 A 1 1 28");
+    EXPECT_EQ(exchange("0066", {0}).substr(0, 21), "31 2 0 17 1 1 2 2 3 1");
+    EXPECT_EQ(exchange("0066", {0, 1}), exchange("0066", {0}));
+
+    EXPECT_EQ(exchange("0065", {7, 1, 1, 3}), "refused 6 1 0 0 0 0 0"); // out of range
+    EXPECT_EQ(exchange("0065", {7, 5, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}), "refused 6 20 0 0 0 0 0");
+    for (const QList<int> &wrong : {QList<int>{}, {7}, {7, 1, 1}, {12, 1}, {7, 256}, {0, 1, 1}})
+        EXPECT_EQ(exchange("0066", wrong), "refused 6 20 0 0 0 0 0");
+    EXPECT_EQ(exchange("0067", {1}), "refused 6 20 0 0 0 0 0");
+}
+
+TEST_F(SimulatedFirmwareTest, finalisingTakesThreeSecondsInWhichNothingElseBegins)
+{
+    SimulatedFirmware firmware(pouringMachine(), 2, clock());
+    EXPECT_EQ(ask(firmware, "0067"), "0");
+    EXPECT_EQ(ask(firmware, "0006"), Finalising);
+    m_now += 1499;
+    EXPECT_EQ(ask(firmware, "0006"), Finalising);
+    const QList<int> tint{0, 1, 1, 0, 50, 1, 100};
+    for (const auto &[code, parameters] : {std::pair<const char *, QList<int>>{"0001", {}},
+                                           {"0017", tint},
+                                           {"0065", {7, 1, 1, 1}},
+                                           {"0067", {}}})
+        EXPECT_EQ(tokens(firmware.execute(QLatin1String(code), 0, parameters)), "6 0 8 0 0 0 0") << code;
+    EXPECT_FALSE(firmware.execute(QStringLiteral("0066"), 0, {7, 1}).refused);
+    m_now += 1;
+    EXPECT_EQ(ask(firmware, "0006"), Idle);
+    EXPECT_FALSE(firmware.execute(QStringLiteral("0065"), 0, {7, 1, 1, 1}).refused);
+    EXPECT_FALSE(firmware.execute(QStringLiteral("0017"), 0, tint).refused);
+    EXPECT_EQ(ask(firmware, "0067"), "6 0 8 0 0 0 0"); // not during a pour
+}
+
+TEST_F(SimulatedFirmwareTest, aMixerHasFinalisedWhenItReplies)
+{
+    SimulatedFirmware firmware(FW_Mixer(), 1, clock());
+    EXPECT_EQ(tokens(firmware.execute(QStringLiteral("0066"), 0, {0})), "7 2 0 2 1 1 2 2");
+    EXPECT_EQ(tokens(firmware.execute(QStringLiteral("0065"), 0, {2, 2, 1, 1, 1, 65})), "0");
+    EXPECT_EQ(ask(firmware, "0067"), "0");
+    EXPECT_EQ(tokens(firmware.execute(QStringLiteral("0066"), 0, {2, 1})), "7 2 1 2 1 1 1 41");
+    EXPECT_EQ(ask(firmware, "0067"), "0");
+}
+
+TEST_F(SimulatedFirmwareTest, aFinalisedParallelismHoldsForThePour)
+{
+    SimulatedFirmware firmware(pouringMachine(1), 1, clock());
+    const QList<int> tint{0, 2, 1, 0, 50, 2, 8, 2, 2, 0, 50, 2, 8, 2}; // two circuits, 500 steps each
+    firmware.execute(QStringLiteral("0065"), 0, {3, 5, 1, 1, 1, 1, 1, 1, 1, 1, 1, 2});
+    ask(firmware, "0067");
+    m_now += 3000;
+    firmware.execute(QStringLiteral("0017"), 0, tint);
+    m_now += 2999; // 3 s each, at once
+    EXPECT_NE(ask(firmware, "0006"), Idle);
+    m_now += 1;
+    EXPECT_EQ(ask(firmware, "0006"), Idle);
+}
+
+/// Firmware whose power comes and goes.
+class PowerCycleTest : public SimulatedFirmwareTest
+{
+protected:
+    std::unique_ptr<SimulatedFirmware> powered(quv::FirmwareAge age = quv::FirmwareAge::Equal)
+    {
+        return std::make_unique<SimulatedFirmware>(
+            m_dispenser, 1, clock(),
+            quv::SimulatedConfiguration{age, std::make_shared<quv::FirmwareState>(m_path)});
+    }
+    static std::string humidifier(SimulatedFirmware &firmware)
+    {
+        return tokens(firmware.execute(QStringLiteral("0066"), 0, {7, 1}));
+    }
+
+    QTemporaryDir m_folder{};
+    QString m_path = m_folder.filePath(QStringLiteral("state.json"));
+};
+
+TEST_F(PowerCycleTest, whatWasFinalisedIsKeptAndWhatWasNotIsForgotten)
+{
+    auto firmware = powered();
+    firmware->execute(QStringLiteral("0065"), 0, {7, 2, 1, 1, 1, 31});
+    EXPECT_EQ(humidifier(*powered()), "B 7 1 4 1 0 1 3C 1 A 1 28"); // not yet finalised
+    ask(*firmware, "0067");
+    m_now += 3000;
+    firmware->execute(QStringLiteral("0065"), 0, {7, 2, 1, 1, 1, 32});
+    EXPECT_EQ(humidifier(*firmware), "B 7 1 4 1 1 1 20 1 A 1 28");
+    firmware = powered();
+    EXPECT_EQ(humidifier(*firmware), "B 7 1 4 1 1 1 1F 1 A 1 28");
+    EXPECT_EQ(firmware->changedRows(), (quv::RowKeys{{7, 1}}));
+}
+
+TEST_F(PowerCycleTest, aStateThatCannotBeWrittenRefusesTheFinalisation)
+{
+    m_path = m_folder.filePath(QStringLiteral("nowhere/state.json"));
+    const auto firmware = powered();
+    EXPECT_EQ(ask(*firmware, "0067"), "6 0 2 0 0 0 0"); // writing the configuration failed
+    EXPECT_EQ(ask(*firmware, "0006"), Idle);
+}
+
+TEST_F(PowerCycleTest, aNewerFirmwareTakesTheStateOfAnOlderOneAndNotTheOtherWayRound)
+{
+    auto firmware = powered(quv::FirmwareAge::Older);
+    ask(*firmware, "0067");
+    firmware = powered(quv::FirmwareAge::Newer);
+    EXPECT_EQ(humidifier(*firmware), "D 7 1 5 1 0 1 3C 1 A 1 28 1 7");
+    ask(*firmware, "0067");
+    try {
+        powered(quv::FirmwareAge::Older);
+        FAIL() << "the state has fields that the firmware does not";
+    } catch (const std::runtime_error &error) {
+        EXPECT_EQ(error.what(), "State file \"" + m_path.toStdString() +
+                                    "\": the firmware has no such row: structure 1 with 2 fields");
     }
 }
 

@@ -17,7 +17,7 @@ namespace quv {
 namespace {
 
 /// A configuration without a name cannot be read from a firmware.
-constexpr QLatin1String BuiltInConfiguration("BUILT-IN");
+constexpr char BuiltInConfiguration[] = "BUILT-IN";
 
 struct ColorantText
 {
@@ -99,7 +99,7 @@ std::unique_ptr<FW_Dispenser> dispenserOf(int id, const char *modelName, const c
     dispenser->setModel(MachineModel::GenericDispenser);
     dispenser->setModelName(QString::fromLatin1(modelName));
     dispenser->setSerialNumber(QString::fromLatin1(serialNumber));
-    dispenser->setConfStructureName(BuiltInConfiguration);
+    dispenser->setConfStructureName(QLatin1String(BuiltInConfiguration));
     return dispenser;
 }
 
@@ -149,7 +149,7 @@ std::unique_ptr<FW_Machine> builtInMixer()
     mixer->setModel(MachineModel::GenericMixer);
     mixer->setModelName(QStringLiteral("Generic mixer"));
     mixer->setSerialNumber(QStringLiteral("SIM-M-0001"));
-    mixer->setConfStructureName(BuiltInConfiguration);
+    mixer->setConfStructureName(QLatin1String(BuiltInConfiguration));
     return mixer;
 }
 

@@ -9,6 +9,7 @@
 #include "base/protoanswer.h"
 #include "base/protocommand.h"
 #include "base/xmlrpcanswer.h"
+#include "status/machinestatusanswer.h"
 
 namespace quv {
 
@@ -28,8 +29,18 @@ void print(const ProtoCommand &command, const XmlRpcAnswer &envelope)
     printLine(envelope.infoMsg(), Colour::Bold);
     if (const auto *async = dynamic_cast<const AsyncAnswer *>(command.getProtoAnswer()))
         printLine(QStringLiteral("Ticket %1").arg(async->ticketID()));
-    else if (const ProtoAnswer *answer = command.getProtoAnswer())
-        printAnswer(*answer);
+    else if (dynamic_cast<const MachineStatusAnswer *>(command.getProtoAnswer()))
+        printAnswer(*command.getProtoAnswer());
+    else if (command.getProtoAnswer())
+        printValue(envelope.xmlrpcRetValue()); // not all answers keep what the driver told
+}
+
+void printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope)
+{
+    OrderedJson reply = envelopeReply(command);
+    if (reply.contains("value"))
+        reply["value"] = toJson(envelope.xmlrpcRetValue());
+    printLine(QString::fromStdString(writeJson(reply)));
 }
 
 ExitStatus run(const CommandLine &line)
@@ -38,7 +49,7 @@ ExitStatus run(const CommandLine &line)
     const auto command = commandOf(line);
     const XmlRpcAnswer &envelope = line.isSet("async") ? driver.start(*command) : driver.execute(*command);
     if (line.isSet("json"))
-        printLine(QString::fromStdString(writeJson(envelopeReply(*command))));
+        printAsJson(*command, envelope);
     if (envelope.retCode() != 0)
         throw Refusal(envelope);
     if (!line.isSet("json"))

@@ -21,10 +21,13 @@ std::chrono::milliseconds timeoutOf(const CommandLine &line)
 
 } // namespace
 
-Refusal::Refusal(const XmlRpcAnswer &envelope)
+Refusal::Refusal(const XmlRpcAnswer &envelope, const QString &what)
     : std::runtime_error(envelope.infoMsg().toStdString()),
       m_lines(envelope.toPrintableString())
-{}
+{
+    if (!what.isEmpty())
+        m_lines.prepend(what);
+}
 
 Driver::Driver(const CommandLine &line)
     : m_client(line.value("host", QStringLiteral("127.0.0.1")), line.number("port", 9333, 1, 65535),

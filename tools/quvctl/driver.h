@@ -20,7 +20,8 @@ class CommandLine;
 class Refusal : public std::runtime_error
 {
 public:
-    explicit Refusal(const XmlRpcAnswer &envelope);
+    /// \a what, if any, is told before the envelope's lines.
+    explicit Refusal(const XmlRpcAnswer &envelope, const QString &what = QString());
     const QStringList &lines() const { return m_lines; }
 
 private:

@@ -12,6 +12,7 @@ extern const Subcommand decodeSubcommand;
 extern const Subcommand callSubcommand;
 extern const Subcommand ticketSubcommand;
 extern const Subcommand tintSubcommand;
+extern const Subcommand configSubcommand;
 extern const Subcommand watchSubcommand;
 extern const Subcommand batchSubcommand;
 extern const Subcommand machineSubcommand;

@@ -60,6 +60,26 @@ void DrivenMachine::change(const std::function<void(FW_Dispenser &)> &changes)
         changes(*dispenser);
 }
 
+void DrivenMachine::rowWritten(const RowKey &key)
+{
+    const Lock lock(m_state);
+    m_writtenRows.insert(key);
+}
+
+RowKeys DrivenMachine::takeWrittenRows()
+{
+    const Lock lock(m_state);
+    return std::exchange(m_writtenRows, {});
+}
+
+void DrivenMachine::configure(const std::function<void(FW_Machine &)> &changes)
+{
+    const Lock lock(m_state);
+    std::unique_ptr<FW_Machine> changed(m_machine->clone());
+    changes(*changed);
+    m_machine = std::move(changed);
+}
+
 int DrivenMachine::tablePosition() const
 {
     const Lock lock(m_state);

@@ -3,6 +3,7 @@
 
 #include "firmware.h"
 #include "progress.h"
+#include "rowstore.h"
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
@@ -44,6 +45,13 @@ public:
     /// Changes the machine's dispenser while nobody copies it; does nothing on a mixer.
     void change(const std::function<void(FW_Dispenser &)> &changes);
 
+    /// Notes a row of the configuration that was written to the firmware.
+    void rowWritten(const RowKey &key);
+    /// Those noted since the last call.
+    RowKeys takeWrittenRows();
+    /// Changes the machine as a whole; when \a changes throws, it stays as it is.
+    void configure(const std::function<void(FW_Machine &)> &changes);
+
     /// The circuit at the dosing point of a machine with a turntable: the table's first, later the one poured last.
     int tablePosition() const;
     void setTablePosition(int position);
@@ -68,6 +76,7 @@ private:
     int m_tablePosition = 0;
     std::weak_ptr<void> m_claim{};
     RunningPour m_pour{};
+    RowKeys m_writtenRows{};
 };
 
 } // namespace quv

@@ -3,6 +3,8 @@
 
 #include "commandbuilder.h"
 #include "driverqueries.h"
+#include "machineconfiguration.h"
+#include "machinewatch.h"
 #include "pouring.h"
 #include "refusal.h"
 #include "request.h"
@@ -12,6 +14,7 @@
 #include "base/protoanswer.h"
 #include "base/serialprotocommand.h"
 #include "base/xmlrpcanswer.h"
+#include "configuration/writeconfigurationparamcmd.h"
 
 #include <QuvFramework/fw_exception.h>
 
@@ -208,8 +211,7 @@ XmlRpcValue Driver::perform(Task &task)
     FW_ErrorList errors;
     if (auto *serial = dynamic_cast<SerialProtoCommand *>(task.command.get())) {
         askFirmware(*serial, task);
-        if (task.claim)
-            errors = finishPour(task);
+        errors = finish(task);
     } else {
         const auto answer = answerDriverQuery(*task.command, {m_tickets, task.machine});
         task.command->setProtoAnswer(answer.get());
@@ -232,12 +234,45 @@ void Driver::askFirmware(SerialProtoCommand &command, const Task &task)
         throw CallRefusal{InvalidSerialAnswer, error};
 }
 
+/// What the driver does when the firmware has taken the command.
+FW_ErrorList Driver::finish(const Task &task)
+{
+    if (task.claim)
+        return finishPour(task);
+    if (task.name == ProtoCommandList::cmdStr(ProtoCommandList::FINALIZE_CONFIG))
+        return finishConfiguration(task);
+    const auto *write = dynamic_cast<const WriteConfigurationParamCmd *>(task.command.get());
+    if (write && write->confData())
+        task.machine->rowWritten(writtenRow(*write->confData()));
+    return {};
+}
+
 /// The machine pours. Sees it to its end; what goes wrong afterwards no longer makes the pour a failure.
 FW_ErrorList Driver::finishPour(const Task &task)
 {
     task.machine->setRunningPour(task.claim, describedPour(*task.command, task.expected));
-    waitForEndOfPour(*task.machine, task.expected, m_ending);
+    waitWhile(&DispenserStatusAnswer::tinting, *task.machine, task.expected, m_ending);
     return takePourFromLevels(*task.machine);
+}
+
+/// The firmware makes its configuration permanent. The driver's machine follows it when it has.
+FW_ErrorList Driver::finishConfiguration(const Task &task)
+{
+    DrivenMachine &machine = *task.machine;
+    waitWhile(&DispenserStatusAnswer::conf_writing, machine, estimatedTime(*task.command, &machine),
+              m_ending);
+    QStringList problems;
+    const auto ask = [&machine](const QString &code, const QList<int> &parameters) {
+        return machine.exchange(code, 0, parameters);
+    };
+    const ToldRows rows = readRows(machine.takeWrittenRows(), ask, problems);
+    machine.configure([&](FW_Machine &changed) { applyRows(changed, rows, problems); });
+    FW_ErrorList errors;
+    for (const QString &problem : problems)
+        errors.append(FW_DriverError(
+            QStringLiteral("DE03120"),
+            QStringLiteral("The driver's machine does not follow the configuration: %1").arg(problem)));
+    return errors;
 }
 
 XmlRpcValue Driver::waitForChange(const Request &request)

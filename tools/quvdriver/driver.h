@@ -55,7 +55,9 @@ private:
     XmlRpc::XmlRpcValue begin(std::shared_ptr<Task> task);
     XmlRpc::XmlRpcValue perform(Task &task);
     static void askFirmware(SerialProtoCommand &command, const Task &task);
+    FW_ErrorList finish(const Task &task);
     FW_ErrorList finishPour(const Task &task);
+    FW_ErrorList finishConfiguration(const Task &task);
     DrivenMachine *machineFor(const QString &name);
 
     Ending m_ending{};

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
+#include "machineconfiguration.h"
 #include "simulatedfirmware.h"
 
 #include "machines.h"
@@ -32,6 +33,8 @@ struct Options
     quv::XmlRpcServerOptions server{};
     QStringList machines{};
     double speed = 1;
+    QString state{};
+    quv::FirmwareAge age = quv::FirmwareAge::Equal;
     bool once = false;
 };
 
@@ -50,6 +53,15 @@ const QCommandLineOption speedOption(QStringLiteral("speed"),
                                      QStringLiteral("How many times faster than real the machines work "
                                                     "(0.01 to 10000, default 1)."),
                                      QStringLiteral("FACTOR"), QStringLiteral("1"));
+const QCommandLineOption
+    stateOption(QStringLiteral("state"),
+                QStringLiteral("The file in which the machines keep the configuration that was finalised."),
+                QStringLiteral("FILE"));
+const QCommandLineOption firmwareOption(
+    QStringLiteral("firmware"),
+    QStringLiteral("What the firmware knows of configurations: older, equal (default) or newer "
+                   "than this program."),
+    QStringLiteral("AGE"), QStringLiteral("equal"));
 const QCommandLineOption onceOption(QStringLiteral("once"), QStringLiteral("Answer one call, then end."));
 
 void describe(QCommandLineParser &parser)
@@ -58,7 +70,8 @@ void describe(QCommandLineParser &parser)
         QStringLiteral("Owns simulated machines and carries out their commands, called by XML-RPC."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({hostOption, portOption, machineOption, speedOption, onceOption});
+    parser.addOptions(
+        {hostOption, portOption, machineOption, speedOption, stateOption, firmwareOption, onceOption});
 }
 
 Options readOptions(const QCommandLineParser &parser)
@@ -76,6 +89,13 @@ Options readOptions(const QCommandLineParser &parser)
     options.speed = parser.value(speedOption).toDouble(&isNumber);
     if (!isNumber || !(options.speed >= MinSpeed && options.speed <= MaxSpeed))
         throw Usage("--speed must be a number from 0.01 to 10000");
+    const auto age = quv::firmwareAgeOf(parser.value(firmwareOption));
+    if (!age)
+        throw Usage("--firmware must be older, equal or newer");
+    options.age = *age;
+    options.state = parser.value(stateOption);
+    if (parser.isSet(stateOption) && options.state.isEmpty())
+        throw Usage("--state must be a file");
     options.machines = parser.values(machineOption);
     if (options.machines.isEmpty())
         options.machines = QStringList{QStringLiteral("dispenser"), QStringLiteral("mixer")};
@@ -83,13 +103,33 @@ Options readOptions(const QCommandLineParser &parser)
     return options;
 }
 
+/// The driver knows its machine as it was left, not as it was built.
+void followConfiguration(FW_Machine &machine, quv::SimulatedFirmware &firmware)
+{
+    QStringList problems;
+    const auto ask = [&firmware](const QString &code, const QList<int> &parameters) {
+        return firmware.execute(code, 0, parameters);
+    };
+    const quv::ToldRows rows = quv::readRows(firmware.changedRows(), ask, problems);
+    quv::applyRows(machine, rows, problems);
+    for (const QString &problem : problems)
+        std::fprintf(stderr, "quvdriver: the machine does not follow its configuration: %s\n",
+                     qPrintable(problem));
+}
+
 void addMachines(quv::Driver &driver, const Options &options)
 {
+    quv::SimulatedConfiguration configuration;
+    configuration.age = options.age;
+    if (!options.state.isEmpty())
+        configuration.state = std::make_shared<quv::FirmwareState>(options.state);
     for (const QString &name : options.machines) {
         auto machine = quv::machineByName(name);
         if (!machine)
             continue;
-        auto firmware = std::make_unique<quv::SimulatedFirmware>(*machine, options.speed);
+        auto firmware = std::make_unique<quv::SimulatedFirmware>(
+            *machine, options.speed, quv::SimulatedFirmware::steadyClock(), configuration);
+        followConfiguration(*machine, *firmware);
         if (!driver.addMachine(std::move(machine), std::move(firmware)))
             throw Usage("a driver has one dispenser and one mixer at most");
     }

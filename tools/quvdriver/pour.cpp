@@ -8,22 +8,12 @@
 #include <algorithm>
 
 namespace quv {
-namespace {
-
-void appendNumber(QList<int> &numbers, qint64 number)
-{
-    const QList<int> digits = wireDigits(number);
-    numbers.append(digits.size());
-    numbers.append(digits);
-}
-
-} // namespace
-
 Pour::Pour(int criterion, const std::vector<CircuitPour> &circuits, int parallelism, qint64 begin)
     : m_criterion(criterion),
       m_end(double(begin))
 {
-    std::vector<double> freeFrom(static_cast<std::size_t>(std::max(parallelism, 1)), double(begin));
+    const int places = std::clamp(parallelism, 1, std::max(static_cast<int>(circuits.size()), 1));
+    std::vector<double> freeFrom(static_cast<std::size_t>(places), double(begin));
     QHash<int, double> queueFreeFrom;
     for (const CircuitPour &circuit : circuits) {
         double &place = *std::min_element(freeFrom.begin(), freeFrom.end());
@@ -53,8 +43,8 @@ QList<int> Pour::report(qint64 now) const
     for (const Course &course : m_courses) {
         numbers.append(course.circuit.position);
         numbers.append(course.circuit.queue);
-        appendNumber(numbers, course.circuit.total);
-        appendNumber(numbers, course.pouredBy(double(now)));
+        appendWireNumber(numbers, course.circuit.total);
+        appendWireNumber(numbers, course.pouredBy(double(now)));
     }
     return numbers;
 }

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "pouring.h"
 
-#include "refusal.h"
+#include "machinewatch.h"
 
 #include "base/protocommand.h"
 #include "catalogue/protocommandlist.h"
 #include "dispensing/getdispensedformulaanswer.h"
-#include "status/dispenserstatusanswer.h"
 
 #include <QuvFramework/fw_exception.h>
 
@@ -14,24 +13,6 @@
 
 namespace quv {
 namespace {
-
-FirmwareReply ask(DrivenMachine &machine, ProtoCommandList::CommandListValue question)
-{
-    return machine.exchange(ProtoCommandList::cmdCode(ProtoCommandList::cmdStr(question), machine.family()),
-                            0, {});
-}
-
-bool isPouring(DrivenMachine &machine)
-{
-    const FirmwareReply reply = ask(machine, ProtoCommandList::GET_STATUS);
-    if (reply.refused)
-        return false; // it pours nothing that anybody could be told of
-    try {
-        return DispenserStatusAnswer(reply.tokens).tinting;
-    } catch (const FW_Exception &error) {
-        throw CallRefusal{InvalidSerialAnswer, FW_DriverError(error.code(), error.text())};
-    }
-}
 
 /// Takes the steps of one circuit from its canister. What a circuit without a calibration poured, nobody can tell.
 void takeSteps(FW_Dispenser &dispenser, const FormulaItem &item)
@@ -73,18 +54,6 @@ RunningPour describedPour(const ProtoCommand &command, qint64 expected)
     if (pour.command == ProtoCommandList::cmdStr(ProtoCommandList::CHANNEL_TINT))
         pour.channel = parameters.value(0).toInt();
     return pour;
-}
-
-void waitForEndOfPour(DrivenMachine &machine, qint64 expected, const Ending &ending)
-{
-    constexpr qint64 Shortest = 5;
-    constexpr qint64 Longest = 100;
-    const std::chrono::milliseconds interval(std::clamp(expected / 50, Shortest, Longest));
-    while (isPouring(machine)) {
-        if (!ending.wait(interval))
-            refuse(Interrupted, "DE03116",
-                   QStringLiteral("The driver ends before the command has; the machine goes on by itself"));
-    }
 }
 
 FW_ErrorList takePourFromLevels(DrivenMachine &machine)

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "drivenmachine.h"
-#include "ending.h"
 
 #include <QuvFramework/fw_errorlist.h>
 
@@ -12,10 +11,6 @@ namespace quv {
 
 /// What others can be told of the pour of \a command, which should take \a expected milliseconds.
 RunningPour describedPour(const ProtoCommand &command, qint64 expected);
-
-/// Waits until the machine pours no more, asking its status again and again. \throws CallRefusal DE03116 when the driver ends
-/// before, and what an exchange throws
-void waitForEndOfPour(DrivenMachine &machine, qint64 expected, const Ending &ending);
 
 /// Asks the firmware what the pour really took, and lowers the levels of the canisters by it. Gives DE03117 when the firmware
 /// does not tell; the levels are then as they were.

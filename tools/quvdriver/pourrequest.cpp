@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "pourrequest.h"
 
-#include "wiredigits.h"
+#include "wirereader.h"
 
 #include <QtCore/QSet>
 
@@ -12,50 +12,13 @@
 namespace quv {
 namespace {
 
-constexpr int MaxDigits = 6;     // 2.2e14 steps, far more than any canister gives
 constexpr int MaxCircuits = 255; // as many as there are serial addresses
 constexpr int PurgeMark = 64;
 constexpr int FieldsOfTint2 = 6;
 constexpr int AnyNumber = std::numeric_limits<int>::max();
 constexpr int FieldsBeforeStrokes = 3; // position, queue, speed
 
-/// Walks the integers. The first that is missing or out of its range spoils it for good.
-class Reader
-{
-public:
-    explicit Reader(const QList<int> &numbers, int first = 0) : m_numbers(numbers), m_next(first) {}
-
-    bool isGood() const { return m_good; }
-    bool atEnd() const { return !m_good || m_next >= m_numbers.size(); }
-    int place() const { return m_next; }
-
-    int next(int min, int max);
-    /// A number of at least so many digits, after their count.
-    qint64 nextCounted(int minDigits);
-
-private:
-    const QList<int> &m_numbers;
-    int m_next = 0;
-    bool m_good = true;
-};
-
-int Reader::next(int min, int max)
-{
-    m_good =
-        m_good && m_next < m_numbers.size() && m_numbers.at(m_next) >= min && m_numbers.at(m_next) <= max;
-    return m_good ? m_numbers.at(m_next++) : 0;
-}
-
-qint64 Reader::nextCounted(int minDigits)
-{
-    qint64 number = 0;
-    qint64 weight = 1;
-    for (int left = next(minDigits, MaxDigits); left > 0; --left) {
-        number += weight * next(0, WireBase - 1);
-        weight *= WireBase;
-    }
-    return m_good ? number : 0;
-}
+using Reader = WireReader;
 
 PourPart readCircuit(Reader &reader)
 {

@@ -7,12 +7,14 @@
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <stdexcept>
 
 namespace quv {
 namespace {
 
 constexpr qint64 ResetDuration = 6000; // milliseconds
-constexpr int MaxModule = 255;         // the address is one byte
+constexpr qint64 FinalisingDuration = 3000;
+constexpr int MaxModule = 255; // the address is one byte
 constexpr int NoPosition = 245;
 constexpr int StrokesCriterion = 3;  // of a tint's code: the amounts are strokes
 constexpr int UnqueuedCriterion = 1; // all circuits as they come, whatever their queues
@@ -24,9 +26,11 @@ struct Reason
     int mask;
     int bit;
 };
+constexpr Reason FieldOutOfRange{0, 0};
 constexpr Reason UnknownCode{0, 3};
 constexpr Reason WrongModule{0, 4};
 constexpr Reason WrongParameters{0, 5};
+constexpr Reason ConfigurationNotWritten{1, 1};
 constexpr Reason NotAvailable{1, 3};
 
 template <class Numbers>
@@ -75,6 +79,9 @@ const SimulatedFirmware::Commands &SimulatedFirmware::commandsOf(const FW_Machin
 {
     static const Commands mixer{
         {QStringLiteral("0001"), &SimulatedFirmware::beginReset},
+        {QStringLiteral("0065"), &SimulatedFirmware::writeRow, true},
+        {QStringLiteral("0066"), &SimulatedFirmware::readRow, true},
+        {QStringLiteral("0067"), &SimulatedFirmware::finalise},
     };
     static const Commands dispenser1{
         {QStringLiteral("0001"), &SimulatedFirmware::beginReset},
@@ -83,6 +90,9 @@ const SimulatedFirmware::Commands &SimulatedFirmware::commandsOf(const FW_Machin
         {QStringLiteral("0023"), &SimulatedFirmware::pack2, true},
         {QStringLiteral("0024"), &SimulatedFirmware::priming2, true},
         {QStringLiteral("0035"), &SimulatedFirmware::tint2, true},
+        {QStringLiteral("0065"), &SimulatedFirmware::writeRow, true},
+        {QStringLiteral("0066"), &SimulatedFirmware::readRow, true},
+        {QStringLiteral("0067"), &SimulatedFirmware::finalise},
         {QStringLiteral("0074"), &SimulatedFirmware::report},
     };
     static const Commands dispenser2{
@@ -94,11 +104,16 @@ const SimulatedFirmware::Commands &SimulatedFirmware::commandsOf(const FW_Machin
     return dispenser->commandFamily() == FW_Dispenser::CommandFamily2 ? dispenser2 : dispenser1;
 }
 
-SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Clock clock)
+SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Clock clock,
+                                     SimulatedConfiguration configuration)
     : m_commands(commandsOf(machine)),
       m_speed(speed),
       m_clock(std::move(clock)),
-      m_resetEnd(m_clock())
+      m_resetEnd(m_clock()),
+      m_finalisingEnd(m_resetEnd),
+      m_type(machine.machineType()),
+      m_rows(machine, configuration.age),
+      m_state(std::move(configuration.state))
 {
     if (const auto *dispenser = dynamic_cast<const FW_Dispenser *>(&machine))
         m_dispenser = *dispenser;
@@ -106,6 +121,14 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
         m_contents[canister.id()] = canister.currentQuantity();
     if (const FW_Turntable *table = tableOf(m_dispenser))
         m_tablePosition = table->positions().value(0);
+    if (!m_state)
+        return;
+    try {
+        m_rows.restore(m_state->rows(m_type));
+    } catch (const std::runtime_error &error) {
+        throw std::runtime_error("State file \"" + m_state->path().toStdString() + "\": " + error.what());
+    }
+    followRows();
 }
 
 SimulatedFirmware::Clock SimulatedFirmware::steadyClock()
@@ -133,13 +156,15 @@ FirmwareReply SimulatedFirmware::execute(const QString &code, int module, const 
 FirmwareReply SimulatedFirmware::status(const QList<int> & /*parameters*/)
 {
     const bool resetting = isResetting();
+    const bool finalising = isFinalising();
     const bool tinting = m_pour.isRunning(m_clock());
     // A head cannot begin to dispense while it searches its origin or dispenses.
     const int heads = m_dispenser.hasMultipleHead() ? 2 : 1;
-    const int readyHeads = resetting || tinting ? 0 : (1 << heads) - 1;
+    const int readyHeads = resetting || finalising || tinting ? 0 : (1 << heads) - 1;
     std::array<int, 14> parameters{};
     parameters[1] = 1; // at work
     parameters[2] = int(resetting) << 6 | int(tinting) << 2;
+    parameters[3] = int(finalising) << 5;
     parameters[7] = NoPosition;
     parameters[8] = NoPosition;
     parameters[9] = readyHeads << 2;
@@ -179,6 +204,57 @@ FirmwareReply SimulatedFirmware::priming2(const QList<int> &parameters)
 FirmwareReply SimulatedFirmware::report(const QList<int> & /*parameters*/)
 {
     return {false, tokensOf(m_pour.report(m_clock()))};
+}
+
+FirmwareReply SimulatedFirmware::writeRow(const QList<int> &parameters)
+{
+    if (isFinalising())
+        return refusal(NotAvailable);
+    switch (m_rows.write(parameters)) {
+    case RowStore::Outcome::FieldOutOfRange:
+        return refusal(FieldOutOfRange);
+    case RowStore::Outcome::BadParameters:
+        return refusal(WrongParameters);
+    case RowStore::Outcome::Taken:
+        break;
+    }
+    return begun();
+}
+
+FirmwareReply SimulatedFirmware::readRow(const QList<int> &parameters)
+{
+    constexpr int StructureAndID = 2;
+    const int structure = parameters.value(0, -1);
+    if (structure == 0 && parameters.size() <= StructureAndID)
+        return {false, tokensOf(m_rows.listing())};
+    const auto row =
+        parameters.size() == StructureAndID ? m_rows.reply(structure, parameters.at(1)) : std::nullopt;
+    return row ? FirmwareReply{false, tokensOf(*row)} : refusal(WrongParameters);
+}
+
+FirmwareReply SimulatedFirmware::finalise(const QList<int> & /*parameters*/)
+{
+    if (isBusy())
+        return refusal(NotAvailable);
+    try {
+        if (m_state)
+            m_state->keep(m_type, m_rows.rows());
+    } catch (const std::runtime_error &) {
+        return refusal(ConfigurationNotWritten);
+    }
+    followRows();
+    // Nobody can ask a mixer's status, so that it is ready when it replies.
+    if (m_type == SerialDeviceType::Dispenser)
+        m_finalisingEnd = m_clock() + std::llround(double(FinalisingDuration) / m_speed);
+    return begun();
+}
+
+/// What of the configuration changes how it pours.
+void SimulatedFirmware::followRows()
+{
+    constexpr int TintingParallelism = 4; // its place in "@GMC"
+    if (const auto parallelism = m_rows.value(MachineStructure, TintingParallelism))
+        m_dispenser.setTintingParallelism(*parallelism);
 }
 
 FirmwareReply SimulatedFirmware::beginPour(const std::optional<PourRequest> &request, Movement movement)

@@ -21,4 +21,12 @@ inline QList<int> wireDigits(qint64 number)
     return digits;
 }
 
+/// A number as a request or a reply has it: the count of its digits, then the digits.
+inline void appendWireNumber(QList<int> &numbers, qint64 number)
+{
+    const QList<int> digits = wireDigits(number);
+    numbers.append(digits.size());
+    numbers.append(digits);
+}
+
 } // namespace quv

@@ -4,7 +4,7 @@
 _quvctl()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-    local subcommands="list show encode decode call ticket tint watch batch machine help"
+    local subcommands="list show encode decode call ticket tint config watch batch machine help"
     local driver="--host --port --timeout"
     local machines="dispenser turntable dual mixer"
     local words=""
@@ -37,6 +37,18 @@ _quvctl()
         call) words="--async --json $driver --help" ;;
         ticket) words="--wait --interval --json $driver --help" ;;
         tint) words="--by --unit --levels-check --no-wait --interval $driver --help" ;;
+        config)
+            words="--yes $driver --help"
+            if [[ $current != -* ]]; then
+                words=""
+                if ! _quvctl_has_name; then
+                    words="pull push diff"
+                else
+                    COMPREPLY=($(compgen -f -- "$current"))
+                    return
+                fi
+            fi
+            ;;
         watch) words="--interval --count $driver --help" ;;
         batch) words="--help" ;;
         machine)
@@ -68,7 +80,7 @@ _quvctl_has_name()
     local i
     for ((i = 2; i < COMP_CWORD; ++i)); do
         case "${COMP_WORDS[i]}" in
-        --json | --async | --help) ;;
+        --json | --async | --yes | --help) ;;
         --*) ((++i)) ;;
         *) return 0 ;;
         esac
