@@ -234,7 +234,7 @@ TEST(ConfClasses, takeOrRefuseAnyTokens)
             const QStringList tokens = randomTokens(chance);
             const int fieldCount = randomFieldCount(chance);
             SCOPED_TRACE(tokens.join(QLatin1Char(' ')).toStdString());
-            SCOPED_TRACE(code * 1000 + fieldCount);
+            SCOPED_TRACE("structure " + std::to_string(code) + ", fields " + std::to_string(fieldCount));
             const Row row = made(code, [&] { return quv::confDataOfTokens(code, tokens, fieldCount); });
             ++(row ? taken : refused);
             if (!row)
