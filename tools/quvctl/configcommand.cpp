@@ -129,8 +129,7 @@ ConfigComparison compareShowing(const std::vector<ConfigRow> &file, const Firmwa
 {
     // elsewhere the differences are all that is wanted
     TransferProgress progress(TransferProgress::OnTerminalOnly);
-    const ConfigComparison comparison =
-        compare(file, firmware, [&](int percentage) { progress.tell(percentage); });
+    ConfigComparison comparison = compare(file, firmware, [&](int percentage) { progress.tell(percentage); });
     progress.end();
     show(comparison);
     if (comparison.changes.empty())
@@ -174,6 +173,7 @@ void write(const std::vector<RowChange> &changes, const FirmwareConfiguration &f
 ExitStatus verify(const std::vector<RowChange> &changes, const FirmwareConfiguration &firmware)
 {
     std::vector<ConfigRow> written;
+    written.reserve(changes.size());
     for (const RowChange &change : changes)
         written.push_back(change.row);
     const ConfigComparison comparison = compare(written, firmware, [](int) {});

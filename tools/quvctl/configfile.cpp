@@ -180,8 +180,7 @@ private:
 QString decoded(const QByteArray &text)
 {
     QTextCodec::ConverterState state;
-    const QString decoded =
-        QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
+    QString decoded = QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
     if (state.invalidChars > 0 || state.remainingChars > 0)
         throw ConfigFileError(1, QStringLiteral("this is no UTF-8"));
     return decoded;
