@@ -1,36 +1,26 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/pack2cmd.h"
 
-#include "dispensing/circuitlisttesting.h"
-
-#include <QuvFramework/fw_version.h>
-
-#include <vector>
+#include "dispensing/pack2priming2testing.h"
 
 namespace {
 
 using namespace testing_dispensing;
 
-const CircuitListRefusals refusals = {"Pack2Cmd", "", "", "", ""};
-
-void expectRefused(const PCircuitFormula &formula, const FW_Dispenser &machine, const char *code)
+struct Pack2
 {
-    expectCheckRefused<Pack2Cmd>(refusals, formula, machine, code);
-}
-
-TEST(Pack2Cmd, goesBackToItsDefaults)
-{
-    Pack2Cmd command(oneCircuit(1), nullptr);
-    command.setDefaults();
-    EXPECT_EQ(command.formula(), PCircuitFormula());
-    EXPECT_EQ(command.command(), "PACK2");
-}
-
-TEST(Pack2Cmd, takesCircuitsThatTheMachineHas)
-{
-    expectCheckPassed<Pack2Cmd>({2, {{1, 0, 50, 1}, {4, 0, 50, 300}}}, dispenser());
-    expectCheckPassed<Pack2Cmd>(oneCircuit(1), withDisabledCircuit(2));
-}
+    using Command = Pack2Cmd;
+    static constexpr char className[] = "Pack2Cmd";
+    static constexpr char name[] = "PACK2";
+    static PCircuitFormula defaults() { return PCircuitFormula(); }
+    static constexpr char withoutDispenser[] = "DE02325";
+    static constexpr char withoutCircuits[] = "DE02326";
+    static constexpr char unknownCircuit[] = "DE02327";
+    static constexpr char words[] = "Pack in progress";
+    static constexpr char wordsOfThree[] = "Pack in progress on positions 1,3,4";
+    static constexpr char wordsOfNone[] = "Pack in progress on positions ";
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Pack2Cmd, CircuitWorkCommand, Pack2);
 
 TEST(Pack2Cmd, needsNoStrokes)
 {
@@ -38,62 +28,6 @@ TEST(Pack2Cmd, needsNoStrokes)
     expectCheckPassed<Pack2Cmd>(oneCircuit(1, 0), machine);
     expectCheckPassed<Pack2Cmd>(oneCircuit(1, -1), machine);
     EXPECT_EQ(Pack2Cmd(oneCircuit(1, 0), &machine).serialParameters(1), (QList<int>{2, 1, 1, 0, 50}));
-}
-
-TEST(Pack2Cmd, cannotBeCheckedWithoutADispenser)
-{
-    FW_DriverError error;
-    EXPECT_FALSE(Pack2Cmd(oneCircuit(1), nullptr).checkFormula(error));
-    expectError(error, "DE02325", "Invalid data");
-    EXPECT_FALSE(Pack2Cmd().checkFormula(error)); // comes before the circuits
-    expectError(error, "DE02325", "Invalid data");
-}
-
-TEST(Pack2Cmd, needsCircuits)
-{
-    expectRefused({2, {}}, dispenser(), "DE02326");
-}
-
-TEST(Pack2Cmd, needsCircuitsThatTheMachineHas)
-{
-    expectRefused(oneCircuit(99), dispenser(), "DE02327");
-    expectRefused(oneCircuit(0), dispenser(), "DE02327");
-    expectRefused(oneCircuit(1), withDisabledCircuit(1), "DE02327");
-    expectRefused({2, {{1, 0, 50, 1}, {2, 0, 50, 1}, {99, 0, 50, 1}}}, dispenser(), "DE02327");
-}
-
-TEST(Pack2Cmd, isKnownToNewFirmware)
-{
-    struct Row
-    {
-        FW_Version version;
-        bool supported;
-    };
-    const std::vector<Row> rows = {{{63, 0}, false},  {{63, 32}, false}, {{63, 33}, true},  {{68, 0}, false},
-                                   {{68, 99}, false}, {{70, 0}, true},   {{70, 5}, true},   {{72, 0}, true},
-                                   {{72, 5}, true},   {{1, 99}, false},  {{64, 99}, false}, {{71, 99}, false},
-                                   {{}, false}};
-    for (const Row &row : rows) {
-        EXPECT_EQ(Pack2Cmd().isSupportedCommand(row.version), row.supported)
-            << row.version.m_family << ' ' << row.version.m_revision;
-    }
-}
-
-TEST(Pack2Cmd, saysWhatItDoes)
-{
-    const Pack2Cmd command(threeCircuits(2), nullptr);
-    EXPECT_EQ(command.actionString(false).m_text, "Pack in progress");
-    EXPECT_EQ(command.actionString(true).m_text, "Pack in progress on positions 1,3,4");
-    EXPECT_EQ(Pack2Cmd().actionString(true).m_text, "Pack in progress on positions ");
-}
-
-TEST(Pack2Cmd, translatesItsWords)
-{
-    const TranslatedTexts translated;
-    const Pack2Cmd command(threeCircuits(2), nullptr);
-    EXPECT_EQ(command.actionString(false).m_translated, translation("Pack in progress"));
-    EXPECT_EQ(command.actionString(true).m_text, "Pack in progress on positions 1,3,4");
-    EXPECT_EQ(command.actionString(true).m_translated, translation("Pack in progress on positions 1,3,4"));
 }
 
 } // namespace
