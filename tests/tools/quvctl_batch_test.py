@@ -713,6 +713,16 @@ class Rows(BatchTest):
         self.expect({"op": "apply", "rows": [{"code": 1, "text": "1"}, {"code": 2, "text": "1,Blend"}]},
                     {"ok": True, "applied": [True, False], "rows": []})
 
+    def test_apply_of_a_machines_own_rows_changes_nothing(self):
+        for machine, count in (("dispenser", 50), ("turntable", 34), ("dual", 50), ("mixer", 2)):
+            with self.subTest(machine):
+                rows = self.ask({"op": "apply", "machine": machine, "rows": []})["rows"]
+                self.assertEqual(len(rows), count)
+                own = [{"code": row["code"], "text": row["text"]} for row in rows]
+                reply = self.ask({"op": "apply", "machine": machine, "rows": own})
+                self.assertEqual(reply["applied"], [True] * count)
+                self.assertEqual(reply["rows"], rows)
+
     def test_apply_to_a_dispenser(self):
         circuit = ["1", "2", "30", "2", "1", *["0"] * 48]
         circuit[17], circuit[34], circuit[40] = "4", "5", "6"  # ramp, transmission, flow correction

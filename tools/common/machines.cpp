@@ -89,6 +89,7 @@ void addCanister(FW_Dispenser &dispenser, const FW_Circuit &circuit)
     canister.setReserveQuantity(150);
     canister.setWarningQuantity(300);
     canister.addCircuit(circuit);
+    canister.autoSetLayoutPositionsId();
     dispenser.addCanister(canister);
 }
 
