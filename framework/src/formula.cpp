@@ -463,6 +463,13 @@ QStringList itemTexts(const CircuitFormulaItemList &items)
     return texts;
 }
 
+/** The formula, and the circuits that it comes down to when they are known. */
+QString printable(const Formula &formula, bool brief, const CircuitFormulaItemList *circuits)
+{
+    const QString text = framed(formula, brief, itemTexts(formula));
+    return circuits ? text + QStringLiteral(": ") + itemTexts(*circuits).join(QStringLiteral(", ")) : text;
+}
+
 } // namespace
 
 bool FormulaItem::operator==(const FormulaItem &other) const
@@ -672,19 +679,15 @@ bool Formula::convertToCircuitPositions(Formula &converted, const FW_Dispenser *
 QString Formula::toPrintableString(bool brief, const FW_Dispenser *dispenser) const
 {
     CircuitFormulaItemList items;
-    if (dispenser && getCircuitFormulaItems(items, dispenser, nullptr))
-        return framed(*this, brief, itemTexts(*this)) + QStringLiteral(": ") +
-               itemTexts(items).join(QStringLiteral(", "));
-    return framed(*this, brief, itemTexts(*this));
+    const bool known = dispenser && getCircuitFormulaItems(items, dispenser, nullptr);
+    return printable(*this, brief, known ? &items : nullptr);
 }
 
 QString Formula::toPrintableString(bool brief, int position, const FW_Dispenser *dispenser) const
 {
     CircuitFormulaItemList items;
-    if (dispenser && getCircuitFormulaItems(items, position, dispenser, nullptr))
-        return framed(*this, brief, itemTexts(*this)) + QStringLiteral(": ") +
-               itemTexts(items).join(QStringLiteral(", "));
-    return framed(*this, brief, itemTexts(*this));
+    const bool known = dispenser && getCircuitFormulaItems(items, position, dispenser, nullptr);
+    return printable(*this, brief, known ? &items : nullptr);
 }
 
 QString Formula::formulaTypeStr() const

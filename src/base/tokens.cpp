@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/tokens_p.h"
 
+#include "base/wire_p.h"
+
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_serial.h>
 
 #include <limits>
 
 namespace quv {
-
-namespace {
-
-constexpr int numberBase = 246;
-
-} // namespace
 
 bool parseAnyHex(const QString &token, unsigned &number)
 {
@@ -21,7 +17,7 @@ bool parseAnyHex(const QString &token, unsigned &number)
     return ok;
 }
 
-int TokenReader::next(const TokenRefusal &refusal)
+int TokenReader::next(const Refusal &refusal)
 {
     unsigned number = 0;
     if (!next(number) || number > static_cast<unsigned>(std::numeric_limits<int>::max()))
@@ -29,7 +25,7 @@ int TokenReader::next(const TokenRefusal &refusal)
     return static_cast<int>(number);
 }
 
-unsigned TokenReader::nextUnsigned(const TokenRefusal &refusal)
+unsigned TokenReader::nextUnsigned(const Refusal &refusal)
 {
     unsigned number = 0;
     if (!next(number))
@@ -37,24 +33,24 @@ unsigned TokenReader::nextUnsigned(const TokenRefusal &refusal)
     return number;
 }
 
-long long TokenReader::nextNumber(int digits, const TokenRefusal &refusal)
+long long TokenReader::nextNumber(int digits, const Refusal &refusal)
 {
     require(digits, refusal);
     bool ok = false;
-    const long long number = joinValues(m_tokens.mid(m_index, digits), numberBase, true, &ok);
+    const long long number = joinValues(m_tokens.mid(m_index, digits), serialBase, true, &ok);
     if (!ok)
         refuse(refusal);
     m_index += digits;
     return number;
 }
 
-void TokenReader::require(int count, const TokenRefusal &refusal) const
+void TokenReader::require(int count, const Refusal &refusal) const
 {
     if (remaining() < count)
         refuse(refusal);
 }
 
-void TokenReader::refuse(const TokenRefusal &refusal) const
+void TokenReader::refuse(const Refusal &refusal) const
 {
     throw FW_Exception(refusal.code, refusal.text, m_function);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/refusal_p.h"
+
 #include <QtCore/QStringList>
 
 namespace quv {
@@ -35,13 +37,6 @@ inline bool parseHex(const QString &token, unsigned &number)
     return parseAnyHex(token, number);
 }
 
-/** Why a token was refused. */
-struct TokenRefusal
-{
-    const char *code = "";
-    const char *text = "";
-};
-
 /**
  * Walks the hexadecimal tokens of a firmware answer. The throwing readers raise FW_Exception with the refusal that they
  * are handed when the tokens have run out or one is no number.
@@ -68,15 +63,15 @@ public:
         return next(number) ? number : 0;
     }
 
-    int next(const TokenRefusal &refusal);
-    unsigned nextUnsigned(const TokenRefusal &refusal);
+    int next(const Refusal &refusal);
+    unsigned nextUnsigned(const Refusal &refusal);
     /** A number of \a digits base-246 digits, low digit first. */
-    long long nextNumber(int digits, const TokenRefusal &refusal);
+    long long nextNumber(int digits, const Refusal &refusal);
     /** Refuses when fewer than \a count tokens remain. */
-    void require(int count, const TokenRefusal &refusal) const;
+    void require(int count, const Refusal &refusal) const;
 
 private:
-    [[noreturn]] void refuse(const TokenRefusal &refusal) const;
+    [[noreturn]] void refuse(const Refusal &refusal) const;
 
     const QStringList &m_tokens;
     int m_index = 0;

@@ -2,6 +2,7 @@
 #include "configuration/confdata.h"
 
 #include "base/tokens_p.h"
+#include "base/wire_p.h"
 #include "configuration/confclasses_p.h"
 #include "configuration/confrow_p.h"
 
@@ -65,7 +66,7 @@ int confField(const QStringList &tokens, int begin, int &value)
         unsigned digit = 0;
         if (!parseHex(tokens.at(begin + i), digit) || digit > greatest)
             return 0;
-        number = number * confBase + digit;
+        number = number * serialBase + digit;
         if (number > greatest)
             return 0;
     }
@@ -190,12 +191,12 @@ bool ConfData::createSerialParam(int value, QList<int> *out)
 {
     if (!out)
         return false;
-    if (value >= 0 && value < quv::confBase) { // nearly all there are
+    if (value >= 0 && value < quv::serialBase) { // nearly all there are
         out->append(1);
         out->append(value);
         return true;
     }
-    const QList<int> digits = splitValue(value, quv::confBase);
+    const QList<int> digits = splitValue(value, quv::serialBase);
     out->append(digits.size());
     out->append(digits);
     return !digits.isEmpty();

@@ -21,9 +21,6 @@
 
 namespace quv {
 
-/** The base in which numbers of a row travel. */
-constexpr int confBase = 246;
-
 constexpr QLatin1String newDataLabel("NEW_DATA", 8); ///< of a field that no class knows
 
 /** The number of digits of the field that begins at \a begin; 0 for none, and for more than there are tokens. */

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "base/guard_p.h"
+#include "base/refusal_p.h"
+#include "base/wire_p.h"
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
@@ -27,13 +29,6 @@ namespace quv {
 /** What the driver is about to pour, at debug level: "quvprotocol.dispensing". */
 Q_DECLARE_LOGGING_CATEGORY(dispensingLog)
 
-/** Code and text of a refusal. */
-struct Refusal
-{
-    const char *code = "";
-    const char *text = "";
-};
-
 /** The member without which a variant map is none of these. */
 template <class T>
 inline constexpr const char *markOf = nullptr;
@@ -51,6 +46,17 @@ bool holds(const QVariant &variant)
                                                       variant.toMap().contains(QLatin1String(markOf<T>)));
 }
 
+/** What \a make gives, as with a copy that needs memory. Throws \a refusal in place of anything but an FW_Exception. */
+template <class Make>
+auto madeOrRefused(const Refusal &refusal, const char *function, Make make) -> decltype(make())
+{
+    try {
+        return make();
+    } catch (...) {
+        rethrowCurrentException(refusal.code, refusal.text, function);
+    }
+}
+
 /**
  * The T that \a variant holds. Throws \a expected when it holds none, and \a incorrect when the map in it cannot be read
  * as one.
@@ -61,22 +67,7 @@ T decodedVariant(const QVariant &variant, const Refusal &expected, const Refusal
 {
     if (!holds<T>(variant))
         throw FW_Exception(expected.code, expected.text, function);
-    try {
-        return variant.value<T>();
-    } catch (...) {
-        rethrowCurrentException(incorrect.code, incorrect.text, function);
-    }
-}
-
-/** What \a make gives, as with a copy that needs memory. Throws \a refusal in place of anything but an FW_Exception. */
-template <class Make>
-auto madeOrRefused(const Refusal &refusal, const char *function, Make make) -> decltype(make())
-{
-    try {
-        return make();
-    } catch (...) {
-        rethrowCurrentException(refusal.code, refusal.text, function);
-    }
+    return madeOrRefused(incorrect, function, [&] { return variant.value<T>(); });
 }
 
 /** Runs a check of the form bool (FW_DriverError &) and throws the error that it filled when it is false. */
@@ -92,13 +83,11 @@ void require(const char *function, Check check)
 template <class T>
 T decodedValue(const XmlRpc::XmlRpcValue *value, const Refusal &refusal, const char *function)
 {
-    try {
+    return madeOrRefused(refusal, function, [value] {
         if (!value)
             throw std::invalid_argument("nothing to decode");
         return T(*value);
-    } catch (...) {
-        rethrowCurrentException(refusal.code, refusal.text, function);
-    }
+    });
 }
 
 /** A copy. Throws \a refusal when there is none to be had. */
@@ -158,9 +147,6 @@ QList<int> pourParameters(const ProtoCommand &command, const Formula &formula,
 
 /** What a default movement of the automatic cap adds to the time of a pour. */
 long long autocapTime(const FW_Dispenser *dispenser);
-
-/** The base in which numbers travel to the firmware. */
-constexpr int serialBase = 246;
 
 /** Appends the number of digits, then the digits. */
 void appendCounted(QList<int> &parameters, const QList<int> &digits);

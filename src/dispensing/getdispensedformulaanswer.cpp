@@ -12,7 +12,7 @@ namespace {
 
 constexpr int tokensOfCircuit = 3; // what a firmware sends of one at the least
 
-constexpr quv::TokenRefusal badAnswer(const char *code)
+constexpr quv::Refusal badAnswer(const char *code)
 {
     return {code, "Error during dispensed formula serial answer decoding: bad answer received"};
 }

@@ -87,7 +87,7 @@ constexpr quv::MaskBit<Status> bits[] = {
 struct Word
 {
     int number = 0;
-    quv::TokenRefusal refusal{};
+    quv::Refusal refusal{};
     int Status::*position = nullptr;
 };
 
@@ -274,7 +274,7 @@ DispenserStatusAnswer::DispenserStatusAnswer(QStringList tokens)
     : MachineStatusAnswer(tokens),
       SerialProtoAnswer(std::move(tokens))
 {
-    if (const quv::TokenRefusal *refusal = decodeWords(m_parameters, 2))
+    if (const quv::Refusal *refusal = decodeWords(m_parameters, 2))
         throw FW_Exception(refusal->code, refusal->text, Q_FUNC_INFO);
 }
 
@@ -285,20 +285,20 @@ DispenserStatusAnswer *DispenserStatusAnswer::clone() const
 
 bool DispenserStatusAnswer::decodeSerialStatus(QStringList tokens, FW_DriverError *error)
 {
-    const quv::TokenRefusal *refusal = decodeWords(tokens, 0);
+    const quv::Refusal *refusal = decodeWords(tokens, 0);
     return refusal ? FW_DriverError::D_E(refusal->code, refusal->text, error) : true;
 }
 
-const quv::TokenRefusal *DispenserStatusAnswer::decodeWords(const QStringList &tokens, int first)
+const quv::Refusal *DispenserStatusAnswer::decodeWords(const QStringList &tokens, int first)
 {
-    static constexpr quv::TokenRefusal tooFew = {"DE02666", "Error during command answer decoding"};
+    static constexpr quv::Refusal tooFew = {"DE02666", "Error during command answer decoding"};
 
     quv::TokenReader reader(tokens, first, "");
     if (reader.remaining() < requiredWords)
         return &tooFew;
     std::array<unsigned, lastWordNumber + 1> masks{};
     int decoded = 0;
-    const quv::TokenRefusal *refusal = nullptr;
+    const quv::Refusal *refusal = nullptr;
     for (const Word &word : words) {
         if (reader.atEnd())
             break; // older firmware sends fewer words

@@ -7,7 +7,7 @@
 struct FW_Version;
 
 namespace quv {
-struct TokenRefusal;
+struct Refusal;
 }
 
 /**
@@ -101,5 +101,5 @@ public:
 
 private:
     /** Reads the words from \a first on; null, or why not. */
-    const quv::TokenRefusal *decodeWords(const QStringList &tokens, int first);
+    const quv::Refusal *decodeWords(const QStringList &tokens, int first);
 };

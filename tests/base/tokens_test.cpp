@@ -8,7 +8,7 @@ using namespace testing_base;
 namespace {
 
 constexpr char signature[] = "Answer::Answer(QStringList)";
-constexpr quv::TokenRefusal refusal = {"DE7", "Bad token"};
+constexpr quv::Refusal refusal = {"DE7", "Bad token"};
 
 } // namespace
 
