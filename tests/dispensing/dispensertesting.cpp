@@ -4,8 +4,6 @@
 #include <QuvFramework/fw_autocap.h>
 #include <QuvFramework/fw_turntable.h>
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QTranslator>
 #include <QtCore/QtGlobal>
 
 namespace testing_dispensing {
@@ -49,16 +47,6 @@ FW_Dispenser changed(int position, Change change)
     change(*machine.getCircuitByPosition(position));
     return machine;
 }
-
-class QuotingTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return qstrcmp(context, "QuvProtocol") == 0 ? translation(QString::fromUtf8(text)) : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 QStringList debugLines;
 QtMessageHandler formerHandler = nullptr;
@@ -208,30 +196,6 @@ QVariant unreadableFormulaVariant()
                        {"quantity_unit", 3},
                        {"ids", QVariantList{"1"}},
                        {"quantities", QVariantList{"much"}}};
-}
-
-QString translation(const QString &text)
-{
-    return QChar(0xAB) + text + QChar(0xBB);
-}
-
-struct TranslatedTexts::Private
-{
-    int argumentCount = 1;
-    char programName[11] = "dispensing";
-    char *arguments[2] = {programName, nullptr};
-    QCoreApplication application{argumentCount, arguments};
-    QuotingTranslator translator;
-};
-
-TranslatedTexts::TranslatedTexts() : d(std::make_unique<Private>())
-{
-    QCoreApplication::installTranslator(&d->translator);
-}
-
-TranslatedTexts::~TranslatedTexts()
-{
-    QCoreApplication::removeTranslator(&d->translator);
 }
 
 DebugLog::DebugLog()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/basetesting.h"
+#include "base/translatedtexts.h"
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
@@ -9,7 +10,6 @@
 #include <QtCore/QStringList>
 
 #include <initializer_list>
-#include <memory>
 
 // What the tests of dispensing share: a small dispenser in plain numbers, what can be wrong with it, and formulas.
 
@@ -66,23 +66,6 @@ Formula strokes(std::initializer_list<Pour> items); ///< by circuit positions
 // What is meant for a formula and cannot be read as one.
 Value unreadableFormula(); ///< the struct of a formula with a quantity that is a text
 QVariant unreadableFormulaVariant();
-
-/** While it lives, every text of the library's context is translated to the same text between angle quotes. */
-class TranslatedTexts
-{
-public:
-    TranslatedTexts();
-    ~TranslatedTexts();
-    TranslatedTexts(const TranslatedTexts &) = delete;
-    TranslatedTexts &operator=(const TranslatedTexts &) = delete;
-
-private:
-    struct Private;
-    std::unique_ptr<Private> d;
-};
-
-/** The text as TranslatedTexts translates it. */
-QString translation(const QString &text);
 
 /** While it lives, catches what is logged at debug level. */
 class DebugLog

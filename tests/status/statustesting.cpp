@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "status/statustesting.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QTranslator>
-
 #include <stdexcept>
 
 namespace testing_status {
@@ -12,17 +9,6 @@ namespace {
 
 using Dispenser = DispenserStatusAnswer;
 using Machine = MachineStatusAnswer;
-
-class QuotingTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        return qstrcmp(context, "QuvProtocol") == 0 ? translation(sourceText) : QString();
-    }
-};
 
 } // namespace
 
@@ -166,30 +152,6 @@ Lines linesOf(const std::vector<Line> &lines)
     for (const Line &line : lines)
         list.append({QString::fromLatin1(line.text), line.bad});
     return list;
-}
-
-QString translation(const char *text)
-{
-    return QChar(0xAB) + QString::fromLatin1(text) + QChar(0xBB);
-}
-
-struct TranslatedTexts::Private
-{
-    int argumentCount = 1;
-    char programName[7] = "status";
-    char *arguments[2] = {programName, nullptr};
-    QCoreApplication application{argumentCount, arguments};
-    QuotingTranslator translator;
-};
-
-TranslatedTexts::TranslatedTexts() : d(std::make_unique<Private>())
-{
-    QCoreApplication::installTranslator(&d->translator);
-}
-
-TranslatedTexts::~TranslatedTexts()
-{
-    QCoreApplication::removeTranslator(&d->translator);
 }
 
 } // namespace testing_status

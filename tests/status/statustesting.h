@@ -2,16 +2,16 @@
 #pragma once
 
 #include "base/basetesting.h"
+#include "base/translatedtexts.h"
 #include "status/dispenserstatusanswer.h"
 
 #include <QtCore/QStringList>
 
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
-// What the tests of status answers share: the flags by name, a whole answer in both forms, translated texts.
+// What the tests of status answers share: the flags by name, a whole answer in both forms.
 
 namespace testing_status {
 
@@ -53,22 +53,5 @@ struct Line
 };
 using Lines = QList<QPair<QString, bool>>;
 Lines linesOf(const std::vector<Line> &lines);
-
-/** While it lives, every text of the library's context is translated to the same text between angle quotes. */
-class TranslatedTexts
-{
-public:
-    TranslatedTexts();
-    ~TranslatedTexts();
-    TranslatedTexts(const TranslatedTexts &) = delete;
-    TranslatedTexts &operator=(const TranslatedTexts &) = delete;
-
-private:
-    struct Private;
-    std::unique_ptr<Private> d;
-};
-
-/** The text as TranslatedTexts translates it. */
-QString translation(const char *text);
 
 } // namespace testing_status
