@@ -51,7 +51,7 @@ ExitStatus run(const CommandLine &line)
     if (line.isSet("json"))
         printAsJson(*command, envelope);
     if (envelope.retCode() != 0)
-        throw Refusal(envelope);
+        throw RequestRefused(envelope);
     if (!line.isSet("json"))
         print(*command, envelope);
     return Done;

@@ -33,7 +33,7 @@ XmlRpc::XmlRpcValue valueOf(const Driver &driver, ProtoCommand &command, const Q
 {
     const XmlRpcAnswer &envelope = driver.execute(command);
     if (envelope.retCode() != 0)
-        throw Refusal(envelope, failed);
+        throw RequestRefused(envelope, failed);
     return envelope.xmlrpcRetValue();
 }
 
@@ -149,7 +149,7 @@ ConfigRow FirmwareConfiguration::row(int code, int id) const
         return row;
     }
     if (envelope.retCode() != 0)
-        throw Refusal(envelope, QStringLiteral("%1 cannot be read").arg(headingOf(row)));
+        throw RequestRefused(envelope, QStringLiteral("%1 cannot be read").arg(headingOf(row)));
     const XmlRpc::XmlRpcValue &value = envelope.xmlrpcRetValue();
     int answered = 0;
     QString text;

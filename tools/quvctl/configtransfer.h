@@ -16,7 +16,7 @@ struct OfferedStructures
     QList<int> codes{}; ///< ascending, each once
 };
 
-/// The configuration of the machine behind a driver. All operations throw Refusal, and as Driver::execute.
+/// The configuration of the machine behind a driver. All operations throw RequestRefused, and as Driver::execute.
 class FirmwareConfiguration
 {
 public:

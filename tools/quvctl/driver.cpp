@@ -21,7 +21,7 @@ std::chrono::milliseconds timeoutOf(const CommandLine &line)
 
 } // namespace
 
-Refusal::Refusal(const XmlRpcAnswer &envelope, const QString &what)
+RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what)
     : std::runtime_error(envelope.infoMsg().toStdString()),
       m_lines(envelope.toPrintableString())
 {

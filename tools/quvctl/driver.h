@@ -17,11 +17,11 @@ namespace quv {
 class CommandLine;
 
 /// What a driver did not carry out, in the lines of its envelope.
-class Refusal : public std::runtime_error
+class RequestRefused : public std::runtime_error
 {
 public:
     /// \a what, if any, is told before the envelope's lines.
-    explicit Refusal(const XmlRpcAnswer &envelope, const QString &what = QString());
+    explicit RequestRefused(const XmlRpcAnswer &envelope, const QString &what = QString());
     const QStringList &lines() const { return m_lines; }
 
 private:

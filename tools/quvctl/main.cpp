@@ -86,7 +86,7 @@ ExitStatus runReporting(const QStringList &words)
     } catch (const UsageError &error) {
         printError(QStringLiteral("quvctl: %1 (see quvctl help)").arg(QString::fromUtf8(error.what())));
         return WrongUsage;
-    } catch (const Refusal &refusal) {
+    } catch (const RequestRefused &refusal) {
         for (const QString &line : refusal.lines())
             printError(line);
     } catch (const FW_DriverError &error) {

@@ -71,7 +71,7 @@ CmdStatus Ticket::status() const
     GetCommandStatusCmd command(m_id);
     const XmlRpcAnswer &envelope = m_driver.execute(command);
     if (envelope.retCode() != 0)
-        throw Refusal(envelope);
+        throw RequestRefused(envelope);
     const auto *answer = dynamic_cast<const GetCommandStatusAnswer *>(command.getProtoAnswer());
     if (!answer)
         throw std::runtime_error("the answer is no status of a ticket");
@@ -134,7 +134,7 @@ XmlRpcAnswer resultOf(const CmdStatus &ended)
     bool ok = false;
     XmlRpcAnswer envelope = ended.getXmlRpcAnswer(&ok);
     if (ok && envelope.retCode() != 0)
-        throw Refusal(envelope);
+        throw RequestRefused(envelope);
     if (ended.status() != CmdStatus::Done)
         throw std::runtime_error(ended.info().toStdString());
     if (!ok)

@@ -40,7 +40,7 @@ public:
     /// The command line that asks for it again.
     const QString &again() const { return m_again; }
 
-    /// \throws Refusal when the driver does not know the ticket, and as Driver::execute
+    /// \throws RequestRefused when the driver does not know the ticket, and as Driver::execute
     CmdStatus status() const;
     /**
      * Asks every \a interval until the command has ended. Ctrl-C, and a driver that is gone for several questions, end the
@@ -63,7 +63,7 @@ QString ticketIn(const ProtoCommand &command);
 std::chrono::milliseconds intervalOf(const CommandLine &line);
 
 /**
- * The envelope of a command that has ended. \throws Refusal when it holds a return code other than 0, std::runtime_error when
+ * The envelope of a command that has ended. \throws RequestRefused when it holds a return code other than 0, std::runtime_error when
  * the command ended without an envelope, or badly
  */
 XmlRpcAnswer resultOf(const CmdStatus &ended);

@@ -17,13 +17,13 @@ namespace quv {
 
 namespace {
 
-/// The answer of a command that was carried out. \throws Refusal, std::runtime_error for an answer of another class
+/// The answer of a command that was carried out. \throws RequestRefused, std::runtime_error for an answer of another class
 template <class Answer>
 const Answer &executed(const Driver &driver, ProtoCommand &command)
 {
     const XmlRpcAnswer &envelope = driver.execute(command);
     if (envelope.retCode() != 0)
-        throw Refusal(envelope);
+        throw RequestRefused(envelope);
     const auto *answer = dynamic_cast<const Answer *>(command.getProtoAnswer());
     if (!answer)
         throw std::runtime_error("the answer to " + command.command().toStdString() + " is another one");
@@ -56,7 +56,7 @@ Ticket begin(const Driver &driver, const Formula &formula, const CommandLine &li
     TintCmd command(formula, nullptr);
     const XmlRpcAnswer &envelope = driver.start(command);
     if (envelope.retCode() != 0)
-        throw Refusal(envelope);
+        throw RequestRefused(envelope);
     return {driver, ticketIn(command), line};
 }
 
