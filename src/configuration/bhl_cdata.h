@@ -13,7 +13,7 @@ public:
     /** Throws DE00326 without a machine, DE02795 for one that is no dispenser. */
     explicit BHL_cdata(const FW_Machine *machine);
     /**
-     * \a fieldCount counts `cmd_enabled`. Throws DE00328 without data, DE00329 to DE00521 for a field, DE00702 for a further
+     * \a fieldCount counts `cmd_enabled`. Throws DE00328 without data, DE00329 or DE00521 for a field, DE00702 for a further
      * one, DE00703, and what ConfData throws.
      */
     BHL_cdata(QStringList tokens, int fieldCount);

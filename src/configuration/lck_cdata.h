@@ -13,7 +13,7 @@ public:
     /** Throws DE02435 without a machine, DE02804 for one that is no dispenser. */
     explicit LCK_cdata(const FW_Machine *machine);
     /**
-     * \a fieldCount counts `cmd_enabled`. Throws DE02436 without data, DE02437 to DE02437 for a field, DE02438 for a further
+     * \a fieldCount counts `cmd_enabled`. Throws DE02436 without data, DE02437 for the field, DE02438 for a further
      * one, DE02439, and what ConfData throws.
      */
     LCK_cdata(QStringList tokens, int fieldCount);

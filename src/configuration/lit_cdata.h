@@ -13,7 +13,7 @@ public:
     /** Throws DE00705 without a machine, DE02796 for one that is no dispenser. */
     explicit LIT_cdata(const FW_Machine *machine);
     /**
-     * \a fieldCount counts `cmd_enabled`. Throws DE00707 without data, DE00708 to DE00522 for a field, DE00709 for a further
+     * \a fieldCount counts `cmd_enabled`. Throws DE00707 without data, DE00708 or DE00522 for a field, DE00709 for a further
      * one, DE00710, and what ConfData throws.
      */
     LIT_cdata(QStringList tokens, int fieldCount);

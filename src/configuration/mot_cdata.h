@@ -6,7 +6,7 @@
 #include <QuvFramework/fw_singletransmission.h>
 
 /** A transmission, with what its row tells of the dosing motors behind it. */
-struct SharedTransmission : SharedPart<FW_SingleTransmission>
+struct QUVPROTOCOL_EXPORT SharedTransmission : SharedPart<FW_SingleTransmission>
 {
     bool smartSpeed = false; ///< of all motors that share the transmission
 };

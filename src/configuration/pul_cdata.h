@@ -9,7 +9,7 @@
 class FW_Dispenser;
 
 /** What "@PUL" tells: the brushes, and the accurate cleaning that the cleaning motors of all circuits do alike. */
-struct CleaningConf
+struct QUVPROTOCOL_EXPORT CleaningConf
 {
     FW_Brush brush;
     FW_Brush2 secondBrush;

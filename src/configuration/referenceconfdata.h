@@ -5,7 +5,7 @@
 
 /** A part that dosing motors share, and the reference by which they do. */
 template <class Part>
-struct SharedPart
+struct QUVPROTOCOL_EXPORT SharedPart
 {
     Part part;
     int reference = 0;
