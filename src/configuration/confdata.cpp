@@ -143,11 +143,6 @@ int ConfData::numOfConfigurationParams() const
     return m_parameters.size();
 }
 
-bool ConfData::updateLocalData(QString *)
-{
-    return true;
-}
-
 void ConfData::setCommandEnable(bool enabled)
 {
     m_cmdEnabled = enabled ? Enabled : Disabled;
@@ -223,16 +218,15 @@ int ConfData::parseConfigurationParam(QString *value, QStringList tokens)
 {
     value->clear();
     const int length = quv::confFieldLength(tokens, 0);
-    QString text;
+    if (length == 0)
+        return 0;
     for (int i = 1; i < tokens.size(); ++i) {
         bool isNumber = false;
         const int code = tokens.at(i).toInt(&isNumber, 16);
         if (!isNumber || !isValidAsciiValue(code))
             return 0;
-        text.append(QLatin1Char(static_cast<char>(code)));
+        value->append(QLatin1Char(static_cast<char>(code)));
     }
-    if (length != 0)
-        *value = text;
     return length;
 }
 

@@ -28,6 +28,14 @@ public:
     /** What `cmd_enabled` says of a structure or of the device that it describes. */
     enum CommandEnable { Cleared = -1, Absent = 0, Enabled = 1, Disabled = 2 };
 
+    ConfData() = default;
+    explicit ConfData(int code) : m_commandCode(code) {}
+    ConfData(int code, const FW_Machine *machine); ///< the machine is the structure's
+    /** From the text form. Throws DE00834, DE00151 or DE00152. */
+    ConfData(int code, QString row);
+    /** From a received row. Throws DE00085 or DE00086. */
+    ConfData(int code, QStringList tokens);
+    ConfData(const ConfData &) = default;
     virtual ~ConfData();
     virtual ConfData *clone() const = 0; ///< owned by the caller
 
@@ -46,7 +54,7 @@ public:
      * Moves the parameters into the typed object; false when a mandatory one is missing. \a error tells the last one that is not
      * there, so that it is filled for an optional one as well.
      */
-    virtual bool updateLocalData(QString *error);
+    virtual bool updateLocalData(QString *error) = 0;
 
     int commandEnable() const { return m_cmdEnabled; }
     /** Enabled or Disabled; Absent is for what the machine does not have. */
@@ -72,7 +80,7 @@ public:
     static bool createSerialParam(QString value, QList<int> *out);
     // Read the field at the beginning of the tokens: the number of its digits, 0 for a failure.
     static int parseConfigurationParam(int *value, QStringList tokens);
-    /** A text is a row's last field: it takes all tokens behind the count, each a printable character. */
+    /** A text is a row's last field: all tokens behind the count, of which it holds those before one that cannot be printed. */
     static int parseConfigurationParam(QString *value, QStringList tokens);
     // Read one field and step behind it; false, and the label in the error, when it is not there.
     static bool parseNextConfigurationParam(QString label, int *value, QStringList tokens, int *position,
@@ -84,14 +92,6 @@ public:
     void confData_clear();
 
 protected:
-    ConfData() = default;
-    explicit ConfData(int code) : m_commandCode(code) {}
-    ConfData(int code, const FW_Machine *machine);
-    /** From the text form. Throws DE00834, DE00151 or DE00152. */
-    ConfData(int code, QString row);
-    /** From a received row. Throws DE00085 or DE00086. */
-    ConfData(int code, QStringList tokens);
-    ConfData(const ConfData &) = default;
     ConfData &operator=(const ConfData &) = default;
 
     int m_cmdEnabled = Cleared;

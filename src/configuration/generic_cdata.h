@@ -17,6 +17,7 @@ public:
     GENERIC_cdata *clone() const override;
     void clear() {} ///< there is no object to a row that nobody knows
 
+    bool updateLocalData(QString *) override { return true; } ///< there is nothing to move
     bool updateConfiguration(FW_Machine *machine, FW_CalibrationProfiles *profiles,
                              QList<int> *extra) const override; ///< does nothing; true
     XmlRpc::XmlRpcValue toXmlRpcValue() const override;

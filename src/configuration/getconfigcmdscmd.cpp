@@ -29,11 +29,6 @@ GetConfigCmdsCmd *GetConfigCmdsCmd::clone() const
     return new GetConfigCmdsCmd(*this);
 }
 
-QList<QVariant> GetConfigCmdsCmd::parameters() const
-{
-    return {};
-}
-
 QList<int> GetConfigCmdsCmd::serialParameters(int) const
 {
     return {0};

@@ -12,12 +12,11 @@ class QUVPROTOCOL_EXPORT GetConfigCmdsCmd : public SerialProtoCommand
 public:
     GetConfigCmdsCmd();
     explicit GetConfigCmdsCmd(const XmlRpc::XmlRpcValue &value); ///< nothing is read of the value
-    explicit GetConfigCmdsCmd(QList<QVariant> list);             ///< nothing is read of the list
+    explicit GetConfigCmdsCmd(QList<QVariant> list);             ///< kept, and not read
     GetConfigCmdsCmd(const GetConfigCmdsCmd &) = default;
 
     GetConfigCmdsCmd *clone() const override;
 
-    QList<QVariant> parameters() const override; ///< none
     QList<int> serialParameters(int family) const override;
 
     using SerialProtoCommand::buildProtoAnswer;

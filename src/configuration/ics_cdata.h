@@ -16,6 +16,7 @@ public:
     ICS_cdata *clone() const override;
     void clear() {} ///< the structure has no object
 
+    bool updateLocalData(QString *) override { return true; } ///< there is nothing to move
     bool updateConfiguration(FW_Machine *machine, FW_CalibrationProfiles *profiles,
                              QList<int> *extra) const override; ///< does nothing; true
     XmlRpc::XmlRpcValue toXmlRpcValue() const override;

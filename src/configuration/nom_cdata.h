@@ -19,6 +19,7 @@ public:
     void clear();                ///< empties the name
     QString structureName() const { return m_name; }
 
+    bool updateLocalData(QString *) override { return true; } ///< there is nothing to move
     bool updateConfiguration(
         FW_Machine *machine, FW_CalibrationProfiles *profiles,
         QList<int> *extra) const override; ///< names the machine's configuration; false for null

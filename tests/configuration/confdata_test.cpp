@@ -19,11 +19,7 @@ constexpr int greatest = std::numeric_limits<int>::max();
 class Row : public ConfData
 {
 public:
-    Row() = default;
-    explicit Row(int code) : ConfData(code) {}
-    Row(int code, const FW_Machine *machine) : ConfData(code, machine) {}
-    Row(int code, const QString &text) : ConfData(code, text) {}
-    Row(int code, const QStringList &tokens) : ConfData(code, tokens) {}
+    using ConfData::ConfData;
     Row(int enabled, const QList<int> &parameters)
     {
         m_cmdEnabled = enabled;
@@ -36,6 +32,7 @@ public:
         return true;
     }
     Value toXmlRpcValue() const override { return confData_toXmlRpcValue(); }
+    bool updateLocalData(QString *) override { return true; }
 };
 
 QList<int> serialParam(int value)
@@ -190,8 +187,14 @@ TEST(ConfData, readsNoTextOfAnythingElse)
     EXPECT_EQ(parsedText(tokens("01 zz")), none);
     EXPECT_EQ(parsedText(tokens("01 1F")), none);
     EXPECT_EQ(parsedText(tokens("01 7F")), none);
-    EXPECT_EQ(parsedText(tokens("01 41 0A")), none); // behind the count as well
     EXPECT_EQ(parsedText(tokens("01 -1")), none);
+}
+
+TEST(ConfData, keepsWhatStandsBeforeACharacterThatIsNone)
+{
+    EXPECT_EQ(parsedText(tokens("03 41 42 0A")), (Text{0, QStringLiteral("AB")}));
+    EXPECT_EQ(parsedText(tokens("01 41 zz")), (Text{0, QStringLiteral("A")})); // behind the count as well
+    EXPECT_EQ(parsedText(tokens("04 41 7F 42 43")), (Text{0, QStringLiteral("A")}));
 }
 
 TEST(ConfData, stepsBehindAFieldOfTokens)

@@ -24,13 +24,19 @@ TEST(GetConfigCmdsCmd, asksForTheRowOfNoStructure)
          {GetConfigCmdsCmd(), GetConfigCmdsCmd(List{5}), GetConfigCmdsCmd(arrayOf(5))}) {
         EXPECT_EQ(command.command(), "GET_CONFIG_CMDS");
         EXPECT_EQ(command.protoType(), 1);
-        EXPECT_EQ(command.parameters(), List());
         EXPECT_EQ(dumped(command.xmlrpc_parameters()), "[]");
         EXPECT_EQ(command.serialParameters(1), (QList<int>{0}));
         EXPECT_EQ(command.serialParameters(2), (QList<int>{0}));
         const std::unique_ptr<ProtoCommand> copy(command.clone());
         EXPECT_NE(dynamic_cast<GetConfigCmdsCmd *>(copy.get()), nullptr);
     }
+}
+
+TEST(GetConfigCmdsCmd, keepsTheListThatItWasGiven)
+{
+    EXPECT_EQ(GetConfigCmdsCmd().parameters(), List());
+    EXPECT_EQ(GetConfigCmdsCmd(arrayOf(5)).parameters(), List());
+    EXPECT_EQ(GetConfigCmdsCmd(List{5}).parameters(), List{5});
 }
 
 TEST(GetConfigCmdsCmd, takesTheFirmwaresAnswer)

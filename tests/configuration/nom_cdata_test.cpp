@@ -65,11 +65,12 @@ TEST(NOM_cdata, takesAllTokensBehindTheCount)
     EXPECT_EQ(NOM_cdata(tokens("01 02 03 41 42 63"), 2).numOfConfigurationParams(), 1);
 }
 
-TEST(NOM_cdata, losesANameThatIsNoText)
+TEST(NOM_cdata, cutsItsNameAtWhatIsNoText)
 {
-    EXPECT_EQ(nameOf("01 01 02 41 1F", 1), QString());
-    EXPECT_EQ(nameOf("01 01 02 41 7F", 1), QString());
-    EXPECT_EQ(nameOf("01 01 02 41 x", 1), QString());
+    EXPECT_EQ(nameOf("01 01 02 41 1F", 1), QStringLiteral("A"));
+    EXPECT_EQ(nameOf("01 01 03 41 42 7F", 2), QStringLiteral("AB"));
+    EXPECT_EQ(nameOf("01 01 02 41 x", 1), QStringLiteral("A"));
+    EXPECT_EQ(nameOf("01 01 02 1F 41", 2), QString());
     EXPECT_EQ(nameOf("01 01 03 41 42", 1), QString());
     EXPECT_EQ(nameOf("01 01 00", 1), QString());
 }
