@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/arguments_p.h"
 
+#include <cmath>
+#include <limits>
+
 namespace quv {
 
 namespace {
@@ -56,6 +59,22 @@ bool decodeVariant(const QVariant &variant, QStringList &out)
 bool decodeVariant(const QVariant &variant, QList<int> &out)
 {
     return decodeByFramework(variant, out);
+}
+
+bool convertVariant(const QVariant &variant, int &out)
+{
+    if (decodeVariant(variant, out))
+        return true;
+    double number = 0;
+    bool converts = true;
+    if (decodeVariant(variant, number)) // QVariant itself wraps what an int does not hold
+        number = std::round(number);
+    else
+        number = variant.toInt(&converts);
+    if (!converts || !(std::abs(number) <= std::numeric_limits<int>::max()))
+        return false;
+    out = static_cast<int>(number);
+    return true;
 }
 
 } // namespace quv

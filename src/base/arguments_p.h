@@ -34,6 +34,9 @@ bool decodeVariant(const QVariant &variant, QString &out);
 bool decodeVariant(const QVariant &variant, QStringList &out);
 bool decodeVariant(const QVariant &variant, QList<int> &out);
 
+/** Whatever converts to an int that holds it: also a fraction, which is rounded, a bool, and the digits of a text. */
+bool convertVariant(const QVariant &variant, int &out);
+
 /** What the two readers share; Source tells how many arguments there are and decodes one. */
 template <class Source>
 class ArgumentReader

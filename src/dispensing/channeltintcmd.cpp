@@ -30,6 +30,8 @@ bool canPourItem(const CircuitFormulaItem &item, FW_DriverError &error)
 
 } // namespace
 
+ChannelTintCmd::ChannelTintCmd() : SerialProtoCommand(name(), nullptr) {}
+
 ChannelTintCmd::ChannelTintCmd(int channel, const Formula &formula, const FW_Dispenser *dispenser)
     : SerialProtoCommand(name(), dispenser),
       m_channelID(channel)
@@ -57,7 +59,7 @@ ChannelTintCmd::ChannelTintCmd(QList<QVariant> list, const FW_Dispenser *dispens
     : SerialProtoCommand(name(), list, dispenser)
 {
     const char *function = Q_FUNC_INFO;
-    if (!quv::decodeVariant(list.value(0), m_channelID))
+    if (!quv::convertVariant(list.value(0), m_channelID))
         throw FW_Exception("DE01426", invalidChannel, function);
     requireChannel(dispenser, function);
     m_formula = quv::decodedVariant<Formula>(

@@ -7,11 +7,15 @@
 
 class FW_Dispenser;
 
-/** CHANNEL_TINT: one of the two channels of a dual machine pours a formula. Cannot be built without its dispenser. */
+/**
+ * CHANNEL_TINT: one of the two channels of a dual machine pours a formula. Only an empty one can be built without its
+ * dispenser.
+ */
 class QUVPROTOCOL_EXPORT ChannelTintCmd : public SerialProtoCommand
 {
 public:
-    // All throw what checkChannelID and then checkFormula fail with.
+    ChannelTintCmd(); ///< channel 0, which no machine has
+    // The others throw what checkChannelID and then checkFormula fail with.
     /** Throws DE01423 when the formula cannot be copied. */
     ChannelTintCmd(int channel, const Formula &formula, const FW_Dispenser *dispenser);
     /** Channel (int) and formula. Throws DE01424 for another channel type, DE01425 for no formula. */

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/packcmd.h"
 
+#include "base/arguments_p.h"
 #include "base/translation_p.h"
 #include "catalogue/protocommandlist.h"
 #include "dispensing/formula_p.h"
@@ -68,7 +69,7 @@ PackCmd::PackCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser
 PackCmd::PackCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
     : SerialProtoCommand(name(), list, dispenser)
 {
-    if (!DecodeVariantList(list, 0, m_pumpMovementType))
+    if (!quv::convertVariant(list.value(0), m_pumpMovementType))
         throw FW_Exception("DE00863", invalidMovement, Q_FUNC_INFO);
     requireMovement(m_pumpMovementType, "DE00992", Q_FUNC_INFO);
     m_formula = quv::decodedVariant<Formula>(list.value(1), expectedType, incorrectType, Q_FUNC_INFO);

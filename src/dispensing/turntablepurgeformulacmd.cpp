@@ -19,7 +19,7 @@ TurntablePurgeFormulaCmd::TurntablePurgeFormulaCmd(const XmlRpc::XmlRpcValue &va
 TurntablePurgeFormulaCmd::TurntablePurgeFormulaCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
     : PurgeFormulaCmd(list, dispenser)
 {
-    if (!quv::decodeVariant(list.constLast(), m_currentPosition))
+    if (!quv::convertVariant(list.constLast(), m_currentPosition))
         throw FW_Exception("DE01727", "TurntablePurgeFormulaCmd failed: expected current position parameter",
                            Q_FUNC_INFO);
 }

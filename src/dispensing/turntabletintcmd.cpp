@@ -18,7 +18,7 @@ TurntableTintCmd::TurntableTintCmd(const XmlRpc::XmlRpcValue &value, int current
 TurntableTintCmd::TurntableTintCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
     : TintCmd(list, dispenser)
 {
-    if (!quv::decodeVariant(list.constLast(), m_currentPosition))
+    if (!quv::convertVariant(list.constLast(), m_currentPosition))
         throw FW_Exception("DE01697", "TurntableTintCmd failed: expected current position parameter",
                            Q_FUNC_INFO);
 }

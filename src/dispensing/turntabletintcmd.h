@@ -10,7 +10,8 @@
 class QUVPROTOCOL_EXPORT TurntableTintCmd : public TintCmd
 {
 public:
-    // All throw what the constructors of TintCmd throw.
+    TurntableTintCmd() = default;
+    // The others throw what the constructors of TintCmd throw.
     TurntableTintCmd(const Formula &formula, int currentPosition, const FW_Dispenser *dispenser);
     TurntableTintCmd(const XmlRpc::XmlRpcValue &value, int currentPosition, const FW_Dispenser *dispenser);
     /** The formula first, the position last. Throws DE01697 when that is no int. */

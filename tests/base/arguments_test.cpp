@@ -202,3 +202,28 @@ TEST(Arguments, WrittenTextIsUtf8)
     EXPECT_EQ(dumped(values.result(nullptr)[1]), "\"Gr\xC3\xB6\xC3\x9F"
                                                  "e\"");
 }
+
+TEST(Arguments, convertsWhatAnIntCanHold)
+{
+    struct
+    {
+        QVariant variant;
+        int number;
+    } const rows[] = {{7, 7}, {-7LL, -7}, {2.5, 3}, {"-12", -12}, {2147483647.0, 2147483647}, {true, 1}};
+    for (const auto &row : rows) {
+        int number = 99;
+        EXPECT_TRUE(quv::convertVariant(row.variant, number)) << row.number;
+        EXPECT_EQ(number, row.number);
+    }
+}
+
+TEST(Arguments, convertsNothingElseAndLeavesTheNumberAlone)
+{
+    for (const QVariant &variant :
+         {QVariant(), QVariant("seven"), QVariant("2147483648"), QVariant(2147483648LL),
+          QVariant(2147483648.0), QVariant(qQNaN()), QVariant(List{7})}) {
+        int number = 99;
+        EXPECT_FALSE(quv::convertVariant(variant, number)) << variant.typeName();
+        EXPECT_EQ(number, 99);
+    }
+}

@@ -66,6 +66,21 @@ FW_Dispenser dualWith(int position, const FW_Calibration &calibration)
     return machine;
 }
 
+TEST(ChannelTintCmd, isEmptyAtFirst)
+{
+    const ChannelTintCmd command;
+    EXPECT_EQ(command.command(), "CHANNEL_TINT");
+    EXPECT_EQ(command.protoType(), 1);
+    EXPECT_EQ(command.channelID(), 0);
+    EXPECT_EQ(command.formula(), Formula());
+    EXPECT_FALSE(command.machine());
+    EXPECT_EQ(command.channelIDStr(), "Channel 0 dosing");
+    EXPECT_EQ(command.serialParameters(1), QList<int>());
+    FW_DriverError error;
+    EXPECT_FALSE(command.checkFormula(error));
+    expectError(error, "DE01109", "Invalid dispenser data");
+}
+
 TEST(ChannelTintCmd, isAFormulaForAChannel)
 {
     const FW_Dispenser machine = dualHead();
@@ -151,7 +166,7 @@ TEST(ChannelTintCmd, refusesAChannelThatIsNoInteger)
             expectRefusal("DE01424", "ChannelTintCmd failed: expected Int type for first parameter", ofValue,
                           [&] { ChannelTintCmd(arrayOf(bad, formula.toXmlRpcValue()), given); });
         }
-        for (const QVariant &bad : {QVariant(), QVariant("2"), QVariant(2.0), QVariant(true)}) {
+        for (const QVariant &bad : {QVariant(), QVariant("second"), QVariant(1e10), QVariant(List{2})}) {
             expectRefusal("DE01426", badChannel, ofList, [&] {
                 ChannelTintCmd(List{bad, QVariant::fromValue(formula)}, given);
             });

@@ -179,12 +179,18 @@ TEST(PackCmd, refusesAMovementThatIsNoInteger)
         expectRefusal("DE00988", "PackCmd failed: expected Int type for first parameter", ofValue,
                       [&] { const PackCmd command(arrayOf(other, unreadableFormula()), nullptr); });
     }
-    const List others = {true, 1.0, QStringLiteral("1"), QVariant(), List{1}, tenGramsMap()};
+    const List others = {QStringLiteral("in"), 4294967296LL, QVariant(), List{1}, tenGramsMap()};
     for (const QVariant &other : others) {
         expectRefusal("DE00863", badMovement, ofList, [&] {
             const PackCmd command(List{other, QVariant()}, nullptr);
         });
     }
+}
+
+TEST(PackCmd, takesAMovementThatConvertsInAList)
+{
+    for (const QVariant &movement : {QVariant(true), QVariant(1.0), QVariant("1")})
+        EXPECT_EQ(PackCmd(List{movement, tenGramsMap()}, nullptr).pumpMovementType(), 1);
 }
 
 TEST(PackCmd, refusesAValueThatIsNoFormula)

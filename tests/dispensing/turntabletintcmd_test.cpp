@@ -21,6 +21,20 @@ Formula threeCircuits()
     return grams({{"1", 80}, {"3", 40}, {"4", 8}});
 }
 
+TEST(TurntableTintCmd, isEmptyAtFirst)
+{
+    const TurntableTintCmd command;
+    EXPECT_EQ(command.command(), "TINT");
+    EXPECT_EQ(command.formula(), Formula());
+    EXPECT_EQ(command.currentPosition(), 0);
+    EXPECT_FALSE(command.machine());
+    EXPECT_EQ(command.serialParameters(1), QList<int>());
+    EXPECT_EQ(command.getCmdEstimatedExecutionTime(nullptr), 0);
+    FW_DriverError error;
+    EXPECT_FALSE(command.checkFormula(error));
+    expectError(error, "DE01103", "Invalid dispenser data");
+}
+
 TEST(TurntableTintCmd, isATintWithAPosition)
 {
     const Formula formula = threeCircuits();
@@ -49,10 +63,17 @@ TEST(TurntableTintCmd, refusesAPositionThatIsNone)
 {
     const QVariant formula = QVariant::fromValue(threeCircuits());
     for (const QVariant &bad :
-         {QVariant(), QVariant("3"), QVariant(3.0), QVariant(true), QVariant(4294967296LL)}) {
+         {QVariant(), QVariant("here"), QVariant(1e10), QVariant(List{3}), QVariant(4294967296LL)}) {
         expectRefusal("DE01697", noPosition, ofList, [&] { TurntableTintCmd(List{formula, bad}, nullptr); });
     }
     expectRefusal("DE01697", noPosition, ofList, [&] { TurntableTintCmd(List{formula}, nullptr); });
+}
+
+TEST(TurntableTintCmd, takesAPositionThatConverts)
+{
+    const QVariant formula = QVariant::fromValue(threeCircuits());
+    for (const QVariant &position : {QVariant("3"), QVariant(2.7), QVariant(3LL)})
+        EXPECT_EQ(TurntableTintCmd(List{formula, position}, nullptr).currentPosition(), 3);
 }
 
 TEST(TurntableTintCmd, refusesWhatATintRefuses)
