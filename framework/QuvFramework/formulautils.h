@@ -15,7 +15,10 @@ public:
     FormulaUtils() = delete;
 
     // Fill \a built, or give false and fill \a error when it is given.
-    /** The same pour by circuit positions. Fails as Formula::getCircuitFormulaItems does. */
+    /**
+     * The same pour by circuit positions; a formula with negative quantities, which nothing can pour, stays as it is. Fails as
+     * Formula::getCircuitFormulaItems does.
+     */
     static bool buildPurgeFormula(const Formula &asked, Formula &built, const FW_Dispenser &dispenser,
                                   FW_DriverError *error);
     /** The quantity for each circuit that the purge chooses. Fails with DE03024 when there is none. */

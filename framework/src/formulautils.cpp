@@ -8,7 +8,12 @@
 bool FormulaUtils::buildPurgeFormula(const Formula &asked, Formula &built, const FW_Dispenser &dispenser,
                                      FW_DriverError *error)
 {
-    return asked.convertToCircuitPositions(built, &dispenser, error);
+    Formula byPosition;
+    if (!asked.convertToCircuitPositions(byPosition, &dispenser, error))
+        return false;
+    // what names a circuit twice is added up there, where a negative quantity would escape whoever checks the purge
+    built = asked.hasNegativeValues(&dispenser) ? asked : byPosition;
+    return true;
 }
 
 bool FormulaUtils::buildPurgeFormula(const PurgeFormula &asked, Formula &built, const FW_Dispenser &dispenser,

@@ -81,10 +81,10 @@ bool CheckFormulaLevelsCmd::getFormula(Formula &formula, bool &isPurge) const
 
 bool CheckFormulaLevelsCmd::getPurgeFormula(PurgeFormula &formula) const
 {
-    const auto held = quv::purgeFormulaIn(m_parameters.value(0));
-    if (held)
-        formula = *held;
-    return held.has_value();
+    if (m_parameters.isEmpty())
+        return false;
+    formula = quv::purgeFormulaIn(m_parameters.constFirst()).value_or(PurgeFormula());
+    return true;
 }
 
 XmlRpc::XmlRpcValue CheckFormulaLevelsCmd::xmlrpc_parameters(bool *ok) const

@@ -32,7 +32,7 @@ public:
 
     /** The first form; false with fewer than two arguments. What is no formula gives an empty one. */
     bool getFormula(Formula &formula, bool &isPurge) const;
-    /** The second form; false, and \a formula as it was, when the first argument is none. */
+    /** The second form; false without arguments. What is no purge gives a default one: the count tells the forms apart. */
     bool getPurgeFormula(PurgeFormula &formula) const;
 
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;

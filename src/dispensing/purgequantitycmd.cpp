@@ -3,9 +3,21 @@
 
 #include "dispensing/formula_p.h"
 
+#include <QuvFramework/fw_xmlrpc.h>
+
 namespace {
 
 constexpr char invalidPurge[] = "PurgeQuantityCmd failed: invalid PurgeFormula type parameter";
+
+/** A purge formula may be the whole request: the base is then to count it as the one argument that it is. */
+XmlRpc::XmlRpcValue requestOf(const XmlRpc::XmlRpcValue &value)
+{
+    if (!FindXmlRpcMember(value, PurgeFormula::PURGE_QUANTITY))
+        return value;
+    XmlRpc::XmlRpcValue array;
+    array[0] = value;
+    return array;
+}
 
 } // namespace
 
@@ -24,7 +36,7 @@ PurgeQuantityCmd::PurgeQuantityCmd(double quantity, int head, int quantityUnit)
 {}
 
 PurgeQuantityCmd::PurgeQuantityCmd(const XmlRpc::XmlRpcValue &value)
-    : PurgeCmd(value, nullptr),
+    : PurgeCmd(requestOf(value), nullptr),
       m_purgeFormula(quv::decodedValue<PurgeFormula>(&value, {"DE01241", invalidPurge}, Q_FUNC_INFO))
 {}
 

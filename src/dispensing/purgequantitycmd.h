@@ -17,7 +17,7 @@ public:
     // The parameters are those of PurgeFormula.
     PurgeQuantityCmd(double quantity, bool onlyFilled, int quantityUnit); ///< throws DE01258
     PurgeQuantityCmd(double quantity, int head, int quantityUnit);        ///< throws DE01257
-    /** A purge formula. Throws DE01241 when it cannot be read. */
+    /** A purge formula, alone or in an array. Throws DE01241 when it cannot be read. */
     explicit PurgeQuantityCmd(const XmlRpc::XmlRpcValue &value);
     /** What PurgeFormula::parameters() gives. Throws DE01259 when it cannot be read. */
     explicit PurgeQuantityCmd(QList<QVariant> list);

@@ -57,8 +57,8 @@ TEST(CheckFormulaLevelsCmd, takesAFormula)
                   std::string("[") + formulaWritten + (isPurge ? ", true]" : ", false]"));
         EXPECT_TRUE(ok);
         PurgeFormula none(7.0, 0, 3);
-        EXPECT_FALSE(command.getPurgeFormula(none));
-        EXPECT_EQ(none, PurgeFormula(7.0, 0, 3));
+        EXPECT_TRUE(command.getPurgeFormula(none));
+        EXPECT_EQ(none, PurgeFormula()) << "not the other form";
     }
 }
 
@@ -224,10 +224,19 @@ TEST(CheckFormulaLevelsCmd, givesAnEmptyFormulaForWhatIsNone)
     EXPECT_TRUE(CheckFormulaLevelsCmd(List{7, false}).getFormula(held, flag));
     EXPECT_EQ(held, Formula());
     EXPECT_FALSE(flag);
-    PurgeFormula none;
     EXPECT_FALSE(CheckFormulaLevelsCmd().getFormula(held, flag));
-    EXPECT_FALSE(CheckFormulaLevelsCmd().getPurgeFormula(none));
-    EXPECT_FALSE(CheckFormulaLevelsCmd(List{7}).getPurgeFormula(none));
+}
+
+TEST(CheckFormulaLevelsCmd, givesADefaultPurgeForWhatIsNone)
+{
+    for (const QVariant &first : {QVariant(7), QVariant(), QVariant(QVariantMap{{"purge_quantity", -1.0}})}) {
+        PurgeFormula held = purge();
+        EXPECT_TRUE(CheckFormulaLevelsCmd(List{first}).getPurgeFormula(held));
+        EXPECT_EQ(held, PurgeFormula());
+    }
+    PurgeFormula untouched = purge();
+    EXPECT_FALSE(CheckFormulaLevelsCmd().getPurgeFormula(untouched));
+    EXPECT_EQ(untouched, purge());
 }
 
 TEST(CheckFormulaLevelsCmd, comesBackAsItWasWritten)
@@ -256,8 +265,12 @@ TEST(CheckFormulaLevelsCmd, saysWhatItDoes)
               "Checking levels for purge formula: 1 2.500, 3 0.125");
     EXPECT_EQ(CheckFormulaLevelsCmd(purge()).actionString(true).m_text,
               "Checking levels for purge formula: 2 strokes of each circuit");
-    for (const List &list : {List{7}, List{variantOf(formula()), true, 1}})
-        EXPECT_EQ(CheckFormulaLevelsCmd(list).actionString(true).m_text, "Checking levels for formula");
+    EXPECT_EQ(CheckFormulaLevelsCmd(List{7}).actionString(true).m_text,
+              "Checking levels for purge formula: 1 strokes of each circuit");
+    EXPECT_EQ(CheckFormulaLevelsCmd(List{7, false}).actionString(true).m_text,
+              "Checking levels for formula: ");
+    EXPECT_EQ(CheckFormulaLevelsCmd(List{variantOf(formula()), true, 1}).actionString(true).m_text,
+              "Checking levels for formula");
     EXPECT_EQ(CheckFormulaLevelsCmd().actionString(true).m_text, "Checking levels for formula");
 }
 

@@ -251,6 +251,7 @@ TEST(PurgeFormulaCmd, needsADispenserForItsCheck)
 TEST(PurgeFormulaCmd, refusesAFormulaThatTheMachineCannotPour)
 {
     expectRefused("DE01209", negative, grams({{"1", 30}, {"2", -0.1}}), dispenser());
+    expectRefused("DE01209", negative, grams({{"1", 30}, {"1", -0.1}}), dispenser()); // 29.9 in all
     expectRefused("DE01211", belowReserve, checkingLevels(grams({{"1", 60}})), withContent(1, 100));
     expectRefused("DE01217", belowZero, checkingLevels(grams({{"1", 100.5}})), withContent(1, 100));
     expectRefused("DE01213", levelErrors, checkingLevels(grams({{"1", 1}})), withContent(1, 2000));

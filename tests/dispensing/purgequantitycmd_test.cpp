@@ -43,6 +43,21 @@ TEST(PurgeQuantityCmd, isBuiltInAnyForm)
     EXPECT_EQ(PurgeQuantityCmd(2.5, 2, 3).purgeFormula(), PurgeFormula(2.5, 2, 3));
 }
 
+TEST(PurgeQuantityCmd, takesAPurgeThatIsTheWholeRequest)
+{
+    const PurgeQuantityCmd command(
+        structOf({{"purge_quantity", Value(2.5)}, {"quantity_unit", Value(1)}, {"head", Value(2)}}));
+    EXPECT_EQ(command.command(), "PURGE");
+    EXPECT_EQ(command.parameters(), (List{2.5, 1, false, 2}));
+    EXPECT_EQ(dumped(command.xmlrpc_parameters()),
+              R"([{"head": 2, "only_filled": false, "purge_quantity": 2.50000, "quantity_unit": 1}])");
+    for (const Value &bad : {Value("much"), Value(0)}) {
+        expectRefusal("DE01241", invalid, ofValue, [&] {
+            const PurgeQuantityCmd none(structOf({{"purge_quantity", bad}}));
+        });
+    }
+}
+
 TEST(PurgeQuantityCmd, isWrittenAsOneStruct)
 {
     const PurgeQuantityCmd command(2.5, true, 3);
@@ -79,8 +94,10 @@ TEST(PurgeQuantityCmd, countsItsArgumentsFirst)
     expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBaseValue,
                   [] { const PurgeQuantityCmd command{Value()}; });
     expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue, [] {
-        const PurgeQuantityCmd command(structOf({{"purge_quantity", Value(1)}}));
+        const PurgeQuantityCmd command(structOf({{"head", Value(1)}}));
     });
+    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue,
+                  [] { const PurgeQuantityCmd command(Value(2.5)); });
     expectRefusal("DE00312", "PURGE command : expected at least 1 parameters, received 0 instead!",
                   ofBaseValue, [] { const PurgeQuantityCmd command(arrayOf()); });
     expectRefusal("DE00313", "PURGE command : expected at least 1 parameters, received 0 instead!",

@@ -76,4 +76,25 @@ TEST(FormulaUtils, aFormulaIsPurgedByCircuitPositions)
     EXPECT_EQ(built.items().size(), 2); // as it was
 }
 
+TEST(FormulaUtils, aNegativeQuantityIsNotAddedUp)
+{
+    Formula asked;
+    asked.setFormulaType(Formula::ColorantCodes);
+    asked.setQuantityUnit(Formula::Strokes);
+    asked.setItems({{"B", 3}, {"B", -1}});
+    Formula built;
+    FW_DriverError error;
+    ASSERT_TRUE(FormulaUtils::buildPurgeFormula(asked, built, machine(), &error));
+    EXPECT_TRUE(built.hasNegativeValues());
+    EXPECT_TRUE((built.items() == QVector<FormulaItem>{{"B", 3}, {"B", -1}}));
+
+    asked.setItems({{"B", 3}, {"B", 1}});
+    ASSERT_TRUE(FormulaUtils::buildPurgeFormula(asked, built, machine(), &error));
+    EXPECT_TRUE((built.items() == QVector<FormulaItem>{{"1", 4}}));
+
+    asked.setItems({{"R", -1}});
+    EXPECT_FALSE(FormulaUtils::buildPurgeFormula(asked, built, machine(), &error));
+    EXPECT_EQ(error.code(), "DE03022");
+}
+
 } // namespace
