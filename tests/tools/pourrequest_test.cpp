@@ -157,6 +157,26 @@ TEST(PourRequestTest, mixedStrokesAreDividedSoThatAllFits)
               (Parts{part(3, 0, 50, 0), part(4, 0, 30, 300), part(5, 0, 10, 0)}));
 }
 
+TEST(PourRequestTest, mixedStrokesAreDividedIntoCircuitsThatThereAre)
+{
+    const auto toSixteen = [](int position) { return position <= 16; };
+    // circuit 5 with one stroke would leave a circuit 200
+    const QList<int> numbers{1, 2, 5, 1, 200, 1, 1, 200, 1, 5};
+    const auto request = readPourRequest(PourLayout::Strokes, numbers, toSixteen);
+    ASSERT_TRUE(request);
+    EXPECT_EQ(request->parts, (Parts{part(5, 1, 200, 0), part(1, 1, 200, 5)}));
+    // where nothing else fits it is for the machine to say that it has no such circuit
+    const auto unknown = readPourRequest(PourLayout::Strokes, {1, 2, 30, 0, 50, 1, 20, 40, 0, 30}, toSixteen);
+    ASSERT_TRUE(unknown);
+    EXPECT_EQ(unknown->parts, (Parts{part(30, 0, 50, 20), part(40, 0, 30, 0)}));
+}
+
+TEST(PourRequestTest, mixedStrokesAreDividedSoThatNoCircuitComesTwice)
+{
+    // circuit 5 with seven strokes would leave a circuit 5
+    EXPECT_EQ(strokes({1, 2, 5, 0, 50, 1, 7, 5, 1, 20}), (Parts{part(5, 0, 50, 0), part(1, 7, 5, 20)}));
+}
+
 TEST(PourRequestTest, whatAreNoStrokes)
 {
     expectRefused(PourLayout::Strokes, {{},

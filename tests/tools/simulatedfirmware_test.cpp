@@ -320,6 +320,13 @@ TEST_F(SimulatedPourTest, aPackMovesAPumpAndPoursNothing)
     EXPECT_EQ(ask(firmware, "0074"), "8 9 1 1 0 1 0 1 0");
 }
 
+TEST_F(SimulatedPourTest, aPackWithStrokesForOneOfTwoCircuitsIsReadByTheCircuitsThatThereAre)
+{
+    SimulatedFirmware firmware(pouringMachine(), 1, clock());
+    EXPECT_EQ(begin(firmware, "0023", {1, 2, 2, 1, 50, 1, 1, 50, 1, 5}), "0");
+    EXPECT_EQ(ask(firmware, "0074"), "E 1 2 2 1 1 0 1 0 1 1 1 0 1 0");
+}
+
 TEST_F(SimulatedPourTest, whatIsNoRequestIsRefused)
 {
     SimulatedFirmware firmware(pouringMachine(), 1, clock());

@@ -46,6 +46,7 @@ PourPart readTint2Circuit(Reader &reader)
 }
 
 using Parts = std::vector<PourPart>;
+using PositionTest = std::function<bool(int)>;
 
 std::optional<Parts> readTintCircuits(Reader &reader, int counted, PourPart (*readOne)(Reader &))
 {
@@ -62,22 +63,27 @@ std::optional<Parts> readTintCircuits(Reader &reader, int counted, PourPart (*re
 class StrokesList
 {
 public:
-    StrokesList(const QList<int> &numbers, int first, int circuits)
+    StrokesList(const QList<int> &numbers, int first, int circuits, const PositionTest &isThere)
         : m_numbers(numbers),
           m_first(first),
-          m_circuits(circuits)
+          m_circuits(circuits),
+          m_isThere(isThere)
     {}
 
     std::optional<Parts> divided();
 
 private:
     std::optional<Parts> dividedAlike(bool withStrokes) const;
+    bool dividesMixed(bool onlyKnown);
     bool divide(int place);
+    bool isRefused(const PourPart &part) const;
     std::optional<PourPart> circuitAt(int place, bool withStrokes, int &end) const;
 
     const QList<int> &m_numbers;
     int m_first = 0;
     int m_circuits = 0;
+    const PositionTest &m_isThere;
+    bool m_onlyKnown = false;
     Parts m_parts{};
     QSet<QPair<int, int>>
         m_deadEnds{}; ///< circuits found and place from which nothing fits, so that none is tried twice
@@ -108,6 +114,20 @@ std::optional<Parts> StrokesList::dividedAlike(bool withStrokes) const
     return place == m_numbers.size() ? std::optional<Parts>(std::move(parts)) : std::nullopt;
 }
 
+/// True for a circuit that the machine would refuse after those found so far.
+bool StrokesList::isRefused(const PourPart &part) const
+{
+    const auto isThis = [&part](const PourPart &other) { return other.position == part.position; };
+    return (m_isThere && !m_isThere(part.position)) || std::any_of(m_parts.begin(), m_parts.end(), isThis);
+}
+
+bool StrokesList::dividesMixed(bool onlyKnown)
+{
+    m_onlyKnown = onlyKnown;
+    m_deadEnds.clear();
+    return divide(m_first);
+}
+
 /// Divides what begins at \a place, and appends it to the parts; leaves them as they are when nothing fits.
 bool StrokesList::divide(int place)
 {
@@ -119,7 +139,7 @@ bool StrokesList::divide(int place)
     for (const bool withStrokes : {true, false}) {
         int end = 0;
         const auto part = circuitAt(place, withStrokes, end);
-        if (!part)
+        if (!part || (m_onlyKnown && isRefused(*part)))
             continue;
         m_parts.push_back(*part);
         if (divide(end))
@@ -138,7 +158,7 @@ std::optional<Parts> StrokesList::divided()
         if (auto parts = dividedAlike(withStrokes))
             return parts;
     }
-    return divide(m_first) ? std::optional<Parts>(m_parts) : std::nullopt;
+    return dividesMixed(true) || dividesMixed(false) ? std::optional<Parts>(m_parts) : std::nullopt;
 }
 
 bool isCriterion(PourLayout layout, int criterion)
@@ -152,7 +172,8 @@ bool isCriterion(PourLayout layout, int criterion)
         .contains(criterion);
 }
 
-std::optional<Parts> readParts(PourLayout layout, const QList<int> &numbers, Reader &reader, int counted)
+std::optional<Parts> readParts(PourLayout layout, const QList<int> &numbers, Reader &reader, int counted,
+                               const PositionTest &isThere)
 {
     switch (layout) {
     case PourLayout::Tint:
@@ -163,7 +184,7 @@ std::optional<Parts> readParts(PourLayout layout, const QList<int> &numbers, Rea
     case PourLayout::Strokes:
         break;
     }
-    return StrokesList(numbers, reader.place(), counted).divided();
+    return StrokesList(numbers, reader.place(), counted, isThere).divided();
 }
 
 bool hasTwice(const Parts &parts)
@@ -187,7 +208,8 @@ bool PourPart::operator==(const PourPart &other) const
     return all(*this) == all(other);
 }
 
-std::optional<PourRequest> readPourRequest(PourLayout layout, const QList<int> &numbers)
+std::optional<PourRequest> readPourRequest(PourLayout layout, const QList<int> &numbers,
+                                           const std::function<bool(int)> &isThere)
 {
     Reader reader(numbers);
     PourRequest request;
@@ -198,7 +220,7 @@ std::optional<PourRequest> readPourRequest(PourLayout layout, const QList<int> &
     const int counted = reader.next(1, MaxCircuits);
     if (!reader.isGood() || !isCriterion(layout, request.criterion))
         return std::nullopt;
-    auto parts = readParts(layout, numbers, reader, counted);
+    auto parts = readParts(layout, numbers, reader, counted, isThere);
     if (!parts || parts->empty() || hasTwice(*parts))
         return std::nullopt;
     request.parts = std::move(*parts);

@@ -3,6 +3,7 @@
 
 #include <QtCore/QList>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -41,8 +42,10 @@ struct PourRequest
  * its range, no circuit, a circuit twice. A tint may name more circuits than follow, since senders count those that they skip.
  *
  * Nothing in a list of strokes tells whether a circuit has any. It is divided into circuits without strokes when that uses it
- * up, else with strokes each, else in the first mixed way that fits.
+ * up, else with strokes each, else in the first mixed way that fits and names each circuit once and none but those that
+ * \a isThere, given their position, knows; or else in the first mixed way at all.
  */
-std::optional<PourRequest> readPourRequest(PourLayout layout, const QList<int> &numbers);
+std::optional<PourRequest> readPourRequest(PourLayout layout, const QList<int> &numbers,
+                                           const std::function<bool(int)> &isThere = {});
 
 } // namespace quv

@@ -191,14 +191,20 @@ FirmwareReply SimulatedFirmware::tint2(const QList<int> &parameters)
     return beginPour(readPourRequest(PourLayout::Tint2, parameters), Movement::Steps);
 }
 
+std::optional<PourRequest> SimulatedFirmware::readStrokes(const QList<int> &parameters) const
+{
+    return readPourRequest(PourLayout::Strokes, parameters,
+                           [this](int position) { return m_dispenser.hasCircuitPosition(position, true); });
+}
+
 FirmwareReply SimulatedFirmware::pack2(const QList<int> &parameters)
 {
-    return beginPour(readPourRequest(PourLayout::Strokes, parameters), Movement::IdleStrokes);
+    return beginPour(readStrokes(parameters), Movement::IdleStrokes);
 }
 
 FirmwareReply SimulatedFirmware::priming2(const QList<int> &parameters)
 {
-    return beginPour(readPourRequest(PourLayout::Strokes, parameters), Movement::PouredStrokes);
+    return beginPour(readStrokes(parameters), Movement::PouredStrokes);
 }
 
 FirmwareReply SimulatedFirmware::report(const QList<int> & /*parameters*/)

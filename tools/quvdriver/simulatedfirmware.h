@@ -79,6 +79,7 @@ private:
     FirmwareReply finalise(const QList<int> &parameters);
 
     enum class Movement { Steps, PouredStrokes, IdleStrokes, StrokesOrPack };
+    std::optional<PourRequest> readStrokes(const QList<int> &parameters) const;
     FirmwareReply beginPour(const std::optional<PourRequest> &request, Movement movement);
     static bool pours(const PourPart &part, Movement movement);
     const FW_Circuit &circuitAt(int position) const;
