@@ -300,6 +300,16 @@ class Simulated(unittest.TestCase):
             self.assertEqual((status, out), (1, ""))
             self.assertIn("DE03104", err)
 
+    def test_queries_that_know_the_machine(self):
+        formula = json.dumps({"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [5.0]})
+        with quvdriver_process.Driver("--machine", "dispenser") as driver:
+            query = ["call", "GET_LOW_LEVEL_FORMULA", formula, "--json", "--port", str(driver.port)]
+            self.assertEqual(run(*query), (1, "", "DE00334: Invalid dispenser data\n"))
+            code, out, _ = run(*query, "--machine", "dispenser")
+        self.assertEqual(code, 0)
+        built = json.loads(out)["value"]["low_level_formula"]
+        self.assertEqual((built["ids"], built["quantities"]), (["2"], [548.0]))
+
     def test_interrupt(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "20") as driver:
             with start("tint", "B=500", "--interval", "10", "--port", str(driver.port)) as process:  # 13 s

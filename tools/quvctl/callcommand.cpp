@@ -21,6 +21,7 @@ std::unique_ptr<ProtoCommand> commandOf(const CommandLine &line)
     nlohmann::json request;
     request["name"] = words.takeFirst().toStdString();
     request["args"] = argumentsFromWords(words);
+    request["machine"] = line.value("machine", QStringLiteral("none")).toStdString();
     return makeCommand(Request(request));
 }
 
@@ -66,10 +67,12 @@ const Subcommand callSubcommand = {
     "Sends a command to a driver, waits until it has been carried out, and shows the answer. An argument is "
     "a\n"
     "JSON value; a word that is none is a string. With --async it shows a ticket and does not wait: quvctl\n"
-    "ticket asks for the answer.",
+    "ticket asks for the answer. The driver has the machine; a few commands read their formula by one here\n"
+    "too, and --machine tells them which.",
     1,
     -1,
-    withDriverOptions({{"async", nullptr, "do not wait for the answer, show a ticket"},
+    withDriverOptions({machineOption,
+                       {"async", nullptr, "do not wait for the answer, show a ticket"},
                        {"json", nullptr, "envelope and answer as one JSON object"}}),
     run};
 

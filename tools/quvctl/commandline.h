@@ -26,6 +26,10 @@ struct OptionText
     const char *text;
 };
 
+/// The machine that an operation is to know, as the batch operations take it.
+constexpr OptionText machineOption = {"machine", "MACHINE",
+                                      "none (default), dispenser, turntable, dual, mixer or a file"};
+
 class CommandLine;
 
 /// One subcommand of quvctl. Its options and its help come from here.

@@ -55,7 +55,7 @@ const Subcommand decodeSubcommand = {
     2,
     -1,
     {{"args", "JSON", "the command's arguments, a JSON array"},
-     {"machine", "MACHINE", "none (default), dispenser, turntable, dual, mixer or a file"},
+     machineOption,
      {"json", nullptr, "one JSON object, as from quvctl batch"}},
     run};
 

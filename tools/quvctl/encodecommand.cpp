@@ -69,7 +69,7 @@ const Subcommand encodeSubcommand = {
     1,
     -1,
     {{"family", "FAMILY", "the machine's command family, 1 (default) or 2"},
-     {"machine", "MACHINE", "none (default), dispenser, turntable, dual, mixer or a file"},
+     machineOption,
      {"form", "FORM", "the arguments are given as a value (default) or a list"},
      {"json", nullptr, "one JSON object, as from quvctl batch"}},
     run};

@@ -23,7 +23,7 @@ _quvctl()
     "tint --by") words="position circuit canister colorant" ;;
     "tint --unit") words="steps strokes weight" ;;
     "tint --levels-check") words="on off" ;;
-    "encode --machine" | "decode --machine")
+    "encode --machine" | "decode --machine" | "call --machine")
         COMPREPLY=($(compgen -W "none $machines" -- "$current") $(compgen -f -- "$current"))
         return
         ;;
@@ -34,7 +34,7 @@ _quvctl()
         show) words="--json --help" ;;
         encode) words="--family --machine --form --json --help" ;;
         decode) words="--args --machine --json --help" ;;
-        call) words="--async --json $driver --help" ;;
+        call) words="--machine --async --json $driver --help" ;;
         ticket) words="--wait --interval --json $driver --help" ;;
         tint) words="--by --unit --levels-check --no-wait --interval $driver --help" ;;
         config)
