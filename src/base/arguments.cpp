@@ -63,15 +63,13 @@ bool decodeVariant(const QVariant &variant, QList<int> &out)
 
 bool convertVariant(const QVariant &variant, int &out)
 {
-    if (decodeVariant(variant, out))
-        return true;
     double number = 0;
     bool converts = true;
-    if (decodeVariant(variant, number)) // QVariant itself wraps what an int does not hold
-        number = std::round(number);
-    else
-        number = variant.toInt(&converts);
-    if (!converts || !(std::abs(number) <= std::numeric_limits<int>::max()))
+    if (!decodeVariant(variant, number)) // toInt would wrap what an int does not hold
+        number = static_cast<double>(variant.toLongLong(&converts));
+    number = std::round(number);
+    using Int = std::numeric_limits<int>;
+    if (!converts || !(number >= Int::min() && number <= Int::max()))
         return false;
     out = static_cast<int>(number);
     return true;

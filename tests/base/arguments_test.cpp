@@ -3,6 +3,8 @@
 
 #include "base/basetesting.h"
 
+#include <climits>
+
 using namespace testing_base;
 
 namespace {
@@ -209,7 +211,15 @@ TEST(Arguments, convertsWhatAnIntCanHold)
     {
         QVariant variant;
         int number;
-    } const rows[] = {{7, 7}, {-7LL, -7}, {2.5, 3}, {"-12", -12}, {2147483647.0, 2147483647}, {true, 1}};
+    } const rows[] = {{7, 7},
+                      {-7LL, -7},
+                      {2.5, 3},
+                      {"-12", -12},
+                      {-2147483648.0, INT_MIN},
+                      {"-2147483648", INT_MIN},
+                      {2147483647.4, INT_MAX},
+                      {2147483647.0, 2147483647},
+                      {true, 1}};
     for (const auto &row : rows) {
         int number = 99;
         EXPECT_TRUE(quv::convertVariant(row.variant, number)) << row.number;
@@ -220,8 +230,9 @@ TEST(Arguments, convertsWhatAnIntCanHold)
 TEST(Arguments, convertsNothingElseAndLeavesTheNumberAlone)
 {
     for (const QVariant &variant :
-         {QVariant(), QVariant("seven"), QVariant("2147483648"), QVariant(2147483648LL),
-          QVariant(2147483648.0), QVariant(qQNaN()), QVariant(List{7})}) {
+         {QVariant(), QVariant("seven"), QVariant("2147483648"), QVariant("4294967297"),
+          QVariant("99999999999999999999"), QVariant(2147483648LL), QVariant(2147483648.0),
+          QVariant(-2147483649.0), QVariant(qQNaN()), QVariant(List{7})}) {
         int number = 99;
         EXPECT_FALSE(quv::convertVariant(variant, number)) << variant.typeName();
         EXPECT_EQ(number, 99);
