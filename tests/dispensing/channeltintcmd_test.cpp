@@ -34,7 +34,6 @@ constexpr char ofBaseList[] = "ProtoCommand::ProtoCommand(int, QString, QList<QV
 constexpr char noDispenser[] = "ChannelTintCmd failed: invalid dispenser decoding";
 constexpr char badChannel[] = "ChannelTintCmd failed: invalid channel ID parameter";
 constexpr char notDual[] = "ChannelTintCmd failed: command relay to DUAL dispenser";
-constexpr char badValues[] = "Bad values in formula! Values have to be positive";
 
 Formula someFormula()
 {
@@ -243,8 +242,8 @@ TEST(ChannelTintCmd, refusesAFormulaThatTheMachineCannotPour)
     const FW_Dispenser speedless = dualWith(4, FW_Calibration({{1000, 100, 0, 0}}));
     FW_Dispenser disabled = dualHead();
     disabled.getCircuitByPosition(3)->setEnabled(false);
-    expectRefused("DE01433", badValues, 2, grams({{"3", 30}, {"4", -1}}), &dual);
-    expectRefused("DE01433", badValues, 2, grams({{"3", 30}, {"4", 0}}), &dual);
+    expectRefused("DE01433", notPositive, 2, grams({{"3", 30}, {"4", -1}}), &dual);
+    expectRefused("DE01433", notPositive, 2, grams({{"3", 30}, {"4", 0}}), &dual);
     expectRefused("DE03021", R"(Formula: the dispenser does not have "9")", 2, grams({{"9", 30}}), &dual);
     expectRefused("DE03022", R"(Formula: "3" is disabled)", 2, someFormula(), &disabled);
     expectRefused("DE01434", "Empty Formula found", 2, grams({}), &dual);
@@ -256,7 +255,7 @@ TEST(ChannelTintCmd, checksInOneOrder)
 {
     FW_Dispenser machine = dualWith(4, {});
     machine.getCircuitByPosition(3)->setCalibration(FW_Calibration({{1000, 100, 0, 0}}));
-    expectRefused("DE01433", badValues, 2, grams({{"9", 30}, {"4", 0}}), &machine);
+    expectRefused("DE01433", notPositive, 2, grams({{"9", 30}, {"4", 0}}), &machine);
     expectRefused("DE03021", R"(Formula: the dispenser does not have "9")", 2, grams({{"4", 1}, {"9", 30}}),
                   &machine);
     expectRefused("DE01436", "Bad speed value in formula", 2, grams({{"3", 30}, {"4", 1}}), &machine);

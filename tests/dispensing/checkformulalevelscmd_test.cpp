@@ -131,7 +131,7 @@ TEST(CheckFormulaLevelsCmd, checksAFormulaOnlyByAMachine)
     const Value negative = arrayOf(negativeFormulaStruct(), false);
     const CheckFormulaLevelsCmd unchecked(negative, nullptr);
     EXPECT_EQ(unchecked.parameters(), (List{variantOf(grams({{"1", -2.5}})), false}));
-    expectRefusal("DE00552", "Bad values in formula! Values have to be positive", ofValue,
+    expectRefusal("DE00552", notPositive, ofValue,
                   [&] { const CheckFormulaLevelsCmd command(negative, &machine); });
     expectRefusal("DE01337", "Invalid dispenser data", ofValue,
                   [&] { const CheckFormulaLevelsCmd command(arrayOf(formulaStruct(), false), &mixer); });

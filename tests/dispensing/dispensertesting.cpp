@@ -182,6 +182,12 @@ Formula strokes(std::initializer_list<Pour> items)
     return formulaOf(Formula::CircuitPositions, Formula::Strokes, items);
 }
 
+Formula checkingLevels(Formula formula, int policy)
+{
+    formula.setLevelsManagementPolicy(policy);
+    return formula;
+}
+
 Value unreadableFormula()
 {
     return structOf({{"formula_type", Value(1)},

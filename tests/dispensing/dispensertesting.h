@@ -63,6 +63,18 @@ Formula grams(std::initializer_list<Pour> items);   ///< by circuit positions
 Formula steps(std::initializer_list<Pour> items);   ///< by circuit positions
 Formula strokes(std::initializer_list<Pour> items); ///< by circuit positions
 
+/** The formula with a policy by which levels are checked before it is poured, as 2 and 3 are. */
+Formula checkingLevels(Formula formula, int policy = 2);
+
+// What a formula is refused with, by several commands with codes of their own.
+constexpr char notPositive[] = "Bad values in formula! Values have to be positive";
+constexpr char belowReserve[] =
+    "Formula interrupted because the current amount will would below the critical level";
+constexpr char belowZero[] = "Formula interrupted because the current amount would go below zero";
+constexpr char badLevels[] = "Formula interrupted because of errors in level check";
+constexpr char badSteps[] = "Formula stopped because of errors in steps calculus due to bad calibration";
+constexpr char badSpeed[] = "Formula stopped because of errors in speed calculus due to bad calibration";
+
 // What is meant for a formula and cannot be read as one.
 Value unreadableFormula(); ///< the struct of a formula with a quantity that is a text
 QVariant unreadableFormulaVariant();

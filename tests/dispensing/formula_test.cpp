@@ -50,7 +50,7 @@ TEST(SharedFormula, cannotCheckLevelsOfAnotherMachinesCanisters)
     FW_DriverError error;
     EXPECT_FALSE(quv::levelsSuffice(formulaOf(Formula::CanisterIDs, Formula::WeightOrVolume, {{"199", -1}}),
                                     &machine, codes, error));
-    expectError(error, "DE09001", "Formula interrupted because of errors in level check");
+    expectError(error, "DE09001", badLevels);
 }
 
 TEST(SharedFormula, knowsAFormulaInAVariant)

@@ -108,7 +108,7 @@ TEST(GenericFormulaCmd, refusesWhatIsNoFormula)
          {arrayOf(7), arrayOf(unreadableFormula()), arrayOf(purgeStruct()), arrayOf(true, formulaStruct())})
         expectRefusal("DE00898", "GenericFormulaCmd failed: expected Formula type for first parameter",
                       ofValue, [&] { const GenericFormulaCmd command(names[1], request, &machine); });
-    expectRefusal("DE00905", "Bad values in formula! Values have to be positive", ofValue, [&] {
+    expectRefusal("DE00905", notPositive, ofValue, [&] {
         const GenericFormulaCmd command(names[1], arrayOf(negativeFormulaStruct()), &machine);
     });
 }

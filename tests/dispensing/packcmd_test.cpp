@@ -22,7 +22,6 @@ constexpr char ofBase[] =
 constexpr char ofListBase[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
 
 constexpr char badMovement[] = "PackCmd failed: invalid pump movement type parameter";
-constexpr char badSign[] = "Bad values in formula! Values have to be positive";
 
 Value tenGramsValue()
 {
@@ -253,9 +252,9 @@ TEST(PackCmd, cannotBeCheckedWithoutADispenser)
 
 TEST(PackCmd, needsPositiveQuantities)
 {
-    expectRefused(grams({{"1", 1}, {"2", -1}}), dispenser(), "DE00990", badSign);
-    expectRefused(grams({{"1", 1}, {"2", 0}}), dispenser(), "DE00990", badSign);
-    expectRefused(grams({{"99", -1}}), dispenser(), "DE00990", badSign); // before the circuits
+    expectRefused(grams({{"1", 1}, {"2", -1}}), dispenser(), "DE00990", notPositive);
+    expectRefused(grams({{"1", 1}, {"2", 0}}), dispenser(), "DE00990", notPositive);
+    expectRefused(grams({{"99", -1}}), dispenser(), "DE00990", notPositive); // before the circuits
 }
 
 TEST(PackCmd, passesOnWhatTheFormulaSaysOfTheMachine)

@@ -23,7 +23,6 @@ constexpr char ofListBase[] = "ProtoCommand::ProtoCommand(int, QString, QList<QV
 
 constexpr char badSign[] = "Formula stopped because of negative quantity values";
 constexpr char badUnit[] = "Formula stopped because of invalid quantity unit";
-constexpr char badLevels[] = "Formula interrupted because of errors in level check";
 
 Value oneStrokeValue()
 {
@@ -47,13 +46,6 @@ QVariantMap oneStrokeMap()
 List listOf(const Formula &formula)
 {
     return {QVariant::fromValue(formula)};
-}
-
-/** The formula with the policy to check levels. */
-Formula checkingLevels(Formula formula)
-{
-    formula.setLevelsManagementPolicy(2);
-    return formula;
 }
 
 FW_Dispenser withoutMaxSpeed(int position)
@@ -242,20 +234,17 @@ TEST(PrimingCmd, checksLevelsWhenItIsAsked)
     const Formula oneStroke = checkingLevels(strokes({{"1", 1}}));
     expectTaken(oneStroke, dispenser());
     expectTaken(oneStroke, withContent(1, 350)); // 50 g are left, the reserve
-    expectRefused(oneStroke, withContent(1, 349), "DE00502",
-                  "Formula interrupted because the current amount will would below the critical level");
+    expectRefused(oneStroke, withContent(1, 349), "DE00502", belowReserve);
     expectTaken(oneStroke, withContent(1, 1300));
     expectRefused(oneStroke, withContent(1, 1301), "DE00535", badLevels);
-    expectRefused(checkingLevels(strokes({{"1", 2}})), dispenser(), "DE00501",
-                  "Formula interrupted because the current amount would go below zero");
+    expectRefused(checkingLevels(strokes({{"1", 2}})), dispenser(), "DE00501", belowZero);
     expectTaken(strokes({{"1", 2}}), dispenser());
 
     Formula otherPolicy = strokes({{"1", 2}});
     otherPolicy.setLevelsManagementPolicy(5);
     expectTaken(otherPolicy, dispenser());
     otherPolicy.setLevelsManagementPolicy(7);
-    expectRefused(otherPolicy, dispenser(), "DE00501",
-                  "Formula interrupted because the current amount would go below zero");
+    expectRefused(otherPolicy, dispenser(), "DE00501", belowZero);
 }
 
 TEST(PrimingCmd, saysOfLevelsThatItCannotTellThatTheyCannotBeChecked)

@@ -24,19 +24,6 @@ constexpr char noDispenser[] = "Invalid dispenser data";
 constexpr char invalidFormula[] = "PurgeFormulaCmd failed: invalid Formula type parameter";
 constexpr char invalidPurge[] = "PurgeFormulaCmd failed: invalid PurgeFormula type parameter";
 constexpr char incorrectFormula[] = "PurgeFormulaCmd failed: incorrect Formula type parameter";
-constexpr char negative[] = "Bad values in formula! Values have to be positive";
-constexpr char belowReserve[] =
-    "Formula interrupted because the current amount will would below the critical level";
-constexpr char belowZero[] = "Formula interrupted because the current amount would go below zero";
-constexpr char levelErrors[] = "Formula interrupted because of errors in level check";
-constexpr char badSteps[] = "Formula stopped because of errors in steps calculus due to bad calibration";
-constexpr char badSpeed[] = "Formula stopped because of errors in speed calculus due to bad calibration";
-
-Formula checkingLevels(Formula formula, int policy = 2)
-{
-    formula.setLevelsManagementPolicy(policy);
-    return formula;
-}
 
 PurgeFormulaCmd purge(const Formula &formula, const FW_Dispenser &machine)
 {
@@ -250,11 +237,11 @@ TEST(PurgeFormulaCmd, needsADispenserForItsCheck)
 
 TEST(PurgeFormulaCmd, refusesAFormulaThatTheMachineCannotPour)
 {
-    expectRefused("DE01209", negative, grams({{"1", 30}, {"2", -0.1}}), dispenser());
-    expectRefused("DE01209", negative, grams({{"1", 30}, {"1", -0.1}}), dispenser()); // 29.9 in all
+    expectRefused("DE01209", notPositive, grams({{"1", 30}, {"2", -0.1}}), dispenser());
+    expectRefused("DE01209", notPositive, grams({{"1", 30}, {"1", -0.1}}), dispenser()); // 29.9 in all
     expectRefused("DE01211", belowReserve, checkingLevels(grams({{"1", 60}})), withContent(1, 100));
     expectRefused("DE01217", belowZero, checkingLevels(grams({{"1", 100.5}})), withContent(1, 100));
-    expectRefused("DE01213", levelErrors, checkingLevels(grams({{"1", 1}})), withContent(1, 2000));
+    expectRefused("DE01213", badLevels, checkingLevels(grams({{"1", 1}})), withContent(1, 2000));
     expectRefused("DE03021", R"(Formula: the dispenser does not have "9")", grams({{"9", 30}}), dispenser());
     expectRefused("DE03022", R"(Formula: "2" is disabled)", grams({{"2", 30}}), withDisabledCircuit(2));
     expectRefused("DE03023", "Formula: the calibration of circuit 1 tells no quantity",
@@ -268,7 +255,7 @@ TEST(PurgeFormulaCmd, checksInOneOrder)
 {
     FW_Dispenser machine = withoutCalibration(2);
     machine.getCircuitByPosition(1)->setCalibration(FW_Calibration({{1000, 100, 0, 0}}));
-    expectRefused("DE01209", negative, checkingLevels(grams({{"1", 600}, {"2", -1}})), machine);
+    expectRefused("DE01209", notPositive, checkingLevels(grams({{"1", 600}, {"2", -1}})), machine);
     expectRefused("DE01217", belowZero, checkingLevels(grams({{"1", 600}, {"2", 1}})), machine);
     expectRefused("DE01216", badSpeed, grams({{"1", 30}, {"2", 1}}), machine);
     expectRefused("DE01215", badSteps, grams({{"2", 1}, {"1", 30}}), machine);

@@ -20,22 +20,9 @@ constexpr char ofBaseValue[] =
     "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
 constexpr char ofBaseList[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
 
-constexpr char negative[] = "Bad values in formula! Values have to be positive";
-constexpr char belowReserve[] =
-    "Formula interrupted because the current amount will would below the critical level";
-constexpr char belowZero[] = "Formula interrupted because the current amount would go below zero";
-constexpr char levelErrors[] = "Formula interrupted because of errors in level check";
-constexpr char badSteps[] = "Formula stopped because of errors in steps calculus due to bad calibration";
-constexpr char badSpeed[] = "Formula stopped because of errors in speed calculus due to bad calibration";
 constexpr char noValve[] = "Nozzle valve ID is missing in steps based formula";
 constexpr char badValve[] =
     "Formula stopped because of errors in nozzle valve id calculus due to bad calibration";
-
-Formula checkingLevels(Formula formula, int policy = 2)
-{
-    formula.setLevelsManagementPolicy(policy);
-    return formula;
-}
 
 Formula withCriterion(Formula formula, int criterion)
 {
@@ -232,14 +219,14 @@ TEST(TintCmd, acceptsAGoodFormula)
 
 TEST(TintCmd, refusesNegativeQuantities)
 {
-    expectRefused("DE00015", negative, grams({{"1", 30}, {"2", -0.1}}), dispenser());
+    expectRefused("DE00015", notPositive, grams({{"1", 30}, {"2", -0.1}}), dispenser());
 }
 
 TEST(TintCmd, refusesAFormulaThatTheLevelsDoNotAllow)
 {
     expectRefused("DE00060", belowReserve, checkingLevels(grams({{"1", 60}})), withContent(1, 100));
     expectRefused("DE00061", belowZero, checkingLevels(grams({{"1", 100.5}})), withContent(1, 100));
-    expectRefused("DE00062", levelErrors, checkingLevels(grams({{"1", 1}})), withContent(1, 2000));
+    expectRefused("DE00062", badLevels, checkingLevels(grams({{"1", 1}})), withContent(1, 2000));
     expectRefused("DE00061", belowZero, checkingLevels(steps({{"1", 1005}}), 3), withContent(1, 100));
 }
 
@@ -300,7 +287,8 @@ TEST(TintCmd, checksInOneOrder)
     nozzles.getCircuitByPosition(2)->setCalibration(FW_Calibration({{1000, 100, 0, 99}}));
     constexpr double tooManySteps = 1e17;
     // negative quantities, before levels and unknown circuits
-    expectRefused("DE00015", negative, checkingLevels(grams({{"1", 600}, {"2", -1}, {"9", 1}})), dispenser());
+    expectRefused("DE00015", notPositive, checkingLevels(grams({{"1", 600}, {"2", -1}, {"9", 1}})),
+                  dispenser());
     // levels, before circuits that cannot pour
     expectRefused("DE00061", belowZero, checkingLevels(grams({{"1", 600}, {"2", 1}})), uncalibrated);
     // unknown circuits, before those that cannot pour
