@@ -16,9 +16,10 @@ import termios
 import threading
 import unittest
 import xmlrpc.client
-import xmlrpc.server
 
-QUVCTL = ""
+import quvctl_process
+from quvctl_process import run, start
+
 COMPLETION = ""
 
 REQUIRED_FLAGS = """offline_pressed board_not_initialized startup resetting BL_active BL_memory_resetting BL_fw_update
@@ -31,22 +32,17 @@ def status(**changes):
 
 
 def envelope(value, ret_code=0, info="GET_STATUS command executed successfully!", errors=()):
-    return {"ret_code": ret_code, "info": info, "ret_value": value, "errors": list(errors), "exec_time": 3}
+    return quvctl_process.envelope(value, ret_code, info, errors)
 
 
-class Driver:
+class Driver(quvctl_process.ScriptedDriver):
     """A driver of another make: answers each call with what it was told to, and remembers what it was asked."""
 
     def __init__(self, reply, port=0):
         self.reply = reply
         self.requests = []
         self.started = []  # requests that nobody waits for
-        self.server = xmlrpc.server.SimpleXMLRPCServer(("127.0.0.1", port), logRequests=False)
-        self.server.register_function(self.execute, "EXEC_B")
-        self.server.register_function(self.start, "EXEC_NB")
-        self.port = self.server.server_address[1]
-        self.thread = threading.Thread(target=self.server.serve_forever, args=(0.01,), daemon=True)
-        self.thread.start()
+        super().__init__(port)
 
     def execute(self, *params):
         return self.take(self.requests, params)
@@ -59,22 +55,6 @@ class Driver:
         if isinstance(self.reply, Exception):
             raise self.reply
         return self.reply
-
-    def close(self):
-        self.server.shutdown()
-        self.thread.join()
-        self.server.server_close()
-
-    def __enter__(self):
-        return self
-
-    def __exit__(self, *_):
-        self.close()
-
-
-def run(*words, **more):
-    result = subprocess.run([QUVCTL, *words], stdin=subprocess.DEVNULL, capture_output=True, timeout=30, **more)
-    return result.returncode, result.stdout.decode("utf-8"), result.stderr.decode("utf-8")
 
 
 class CliTest(unittest.TestCase):
@@ -129,7 +109,7 @@ class General(CliTest):
 
     def test_output_that_cannot_be_written(self):
         with open("/dev/full", "w", encoding="utf-8") as full:
-            result = subprocess.run([QUVCTL, "list"], stdout=full, timeout=30, check=False)
+            result = subprocess.run([quvctl_process.PROGRAM, "list"], stdout=full, timeout=30, check=False)
         self.assertEqual(result.returncode, 1)
 
 
@@ -295,7 +275,8 @@ class Decode(CliTest):
         except OSError as error:
             self.skipTest(f"this machine has no terminal to give: {error}")
         try:
-            subprocess.run([QUVCTL, "decode", "GET_STATUS", "6", "0", "1", "1", "0", "0", "0"], stdout=theirs,
+            subprocess.run([quvctl_process.PROGRAM, "decode", "GET_STATUS", "6", "0", "1", "1", "0", "0", "0"],
+                           stdout=theirs,
                            env={**os.environ, "TERM": "xterm", "NO_COLOR": "", **environment}, timeout=30, check=True)
             return os.read(ours, 4096).decode("utf-8")
         finally:
@@ -453,10 +434,7 @@ class Ticket(CliTest):
                              (1, "", "Failed! Xml-rpc command invalid for Driver.\n"))
 
     def waiting(self, driver, *options):
-        return subprocess.Popen(
-            [QUVCTL, "ticket", "T-1", "--wait", "--interval", "10", "--port", str(driver.port), *options],
-            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
-            preexec_fn=lambda: signal.signal(signal.SIGINT, signal.default_int_handler))
+        return start("ticket", "T-1", "--wait", "--interval", "10", "--port", str(driver.port), *options)
 
     def lines(self, process, count):
         watchdog = threading.Timer(30, process.kill)
@@ -515,7 +493,8 @@ class Ticket(CliTest):
         fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", 24, 40, 0, 0))
         with Driver(None) as driver:
             driver.take = lambda requests, params: replies.pop(0)
-            subprocess.run([QUVCTL, "ticket", "T-1", "--wait", "--interval", "10", "--port", str(driver.port)],
+            subprocess.run([quvctl_process.PROGRAM, "ticket", "T-1", "--wait", "--interval", "10", "--port",
+                            str(driver.port)],
                            stdout=theirs, env={**os.environ, "NO_COLOR": "1", **environment}, timeout=30, check=True)
         text = os.read(ours, 65536).decode("utf-8").replace("\r\n", "\n")
         os.close(ours)
@@ -555,7 +534,7 @@ class Watch(CliTest):
     def test_changes(self):
         driver = Driver(envelope(status(tinting=True, emergency_pressed=True)))
         port = driver.port
-        process = subprocess.Popen([QUVCTL, "watch", "--interval", "0.02", "--port", str(port)],
+        process = subprocess.Popen([quvctl_process.PROGRAM, "watch", "--interval", "0.02", "--port", str(port)],
                                    stdin=subprocess.DEVNULL, stdout=subprocess.PIPE)
         try:
             self.assertEqual([self.line(process) for _ in range(3)],
@@ -602,7 +581,7 @@ class Completion(unittest.TestCase):
         """What Tab offers at the end of the last word."""
         script = ('source "$1"; shift; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _quvctl; '
                   'printf "%s\\n" "${COMPREPLY[@]}"')
-        result = subprocess.run(["bash", "--norc", "-c", script, "bash", COMPLETION, QUVCTL, *words],
+        result = subprocess.run(["bash", "--norc", "-c", script, "bash", COMPLETION, quvctl_process.PROGRAM, *words],
                                 capture_output=True, text=True, timeout=30, check=True)
         self.assertEqual(result.stderr, "")
         return result.stdout.split()
@@ -630,6 +609,6 @@ class Completion(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    QUVCTL = sys.argv.pop(1)
+    quvctl_process.PROGRAM = sys.argv.pop(1)
     COMPLETION = sys.argv.pop(1)
     unittest.main()

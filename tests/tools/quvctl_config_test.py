@@ -2,18 +2,14 @@
 """quvctl config. Usage: quvctl_config_test.py QUVDRIVER QUVCTL"""
 
 import os
-import pty
-import signal
-import subprocess
 import sys
 import tempfile
-import threading
 import unittest
-import xmlrpc.server
 
+import quvctl_process
 import quvdriver_process
+from quvctl_process import envelope, run
 
-QUVCTL = ""
 NAMES = ["@ICS", "@NOM", "@GMC", "@ACP", "@CPT", "@AGI", "@HUM", "@TEM", "@SGA", "@RAM", "@FOT", "@AUT", "@BHL", "@LIT",
          "@TTD", "@PUL", "@HEA", "@NOZ", "@MOT", "@LTD", "@USS", "@PRO", "@ZDR", "@MIX", "@LCK", "@PLC"]
 
@@ -23,20 +19,11 @@ RAMP_32 = "2,32,7,8,30,15"
 NO_RAMP = "0,0,5,5,20,10"
 
 
-def run(*words):
-    result = subprocess.run([QUVCTL, *words], stdin=subprocess.DEVNULL, capture_output=True, timeout=60, check=False)
-    return result.returncode, result.stdout.decode("utf-8"), result.stderr.decode("utf-8")
-
-
-def envelope(value, ret_code=0, errors=()):
-    return {"ret_code": ret_code, "info": "done", "ret_value": value, "errors": list(errors), "exec_time": 3}
-
-
 def driver_error(code, text):
     return {"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": code, "text": text}
 
 
-class ScriptedDriver:
+class ScriptedDriver(quvctl_process.ScriptedDriver):
     """Holds rows as texts by structure and ID, and remembers what it was asked."""
 
     def __init__(self, rows, counts=None, absent=NO_RAMP, deaf=False, refusing=()):
@@ -46,10 +33,7 @@ class ScriptedDriver:
         self.deaf = deaf  # writes change nothing
         self.refusing = refusing
         self.asked = []
-        self.server = xmlrpc.server.SimpleXMLRPCServer(("127.0.0.1", 0), logRequests=False)
-        self.server.register_function(self.execute, "EXEC_B")
-        self.port = str(self.server.server_address[1])
-        self.thread = threading.Thread(target=self.server.serve_forever, args=(0.01,), daemon=True)
+        super().__init__()
 
     def execute(self, name, *params):
         self.asked.append([name, *params])
@@ -85,15 +69,6 @@ class ScriptedDriver:
 
     def written(self):
         return [(row["cmd_value"], row["cmd_parameters"]) for _, row in self.told("WRITE_CONFIG_ROW")]
-
-    def __enter__(self):
-        self.thread.start()
-        return self
-
-    def __exit__(self, *_):
-        self.server.shutdown()
-        self.thread.join()
-        self.server.server_close()
 
 
 HUMIDIFIER_FILE = """quvctl configuration 1
@@ -223,7 +198,7 @@ NEW_DATA 1 = 5
             self.assertEqual(self.config(driver, "diff"), (0, "no differences\n", ""))
 
     def test_machine_without_a_name(self):
-        nameless = envelope(0, 1, [driver_error("DE00183", "NEW_DATA field not found in answer")])
+        nameless = envelope(0, 1, errors=[driver_error("DE00183", "NEW_DATA field not found in answer")])
         with ScriptedDriver({(2, 1): nameless}) as driver:
             self.assertEqual(self.config(driver, "pull")[0], 0)
             self.assertTrue(self.content().endswith('\n[@NOM]\ncmd_enabled = 1\nStructure name = ""\n'))
@@ -546,28 +521,9 @@ class Simulated(ConfigTest):
 class Terminal(ConfigTest):
     def answer(self, driver, answer):
         """What push shows on a terminal, and its exit status, when it is answered like this."""
-        try:
-            child, terminal = pty.fork()
-        except OSError as error:
-            self.skipTest(f"this machine has no terminal to give: {error}")
-        if child == 0:
-            os.environ.update(TERM="xterm", NO_COLOR="1")
-            os.execv(QUVCTL, [QUVCTL, "config", "push", self.path, "--port", str(driver.port)])
-        watchdog = threading.Timer(30, os.kill, (child, signal.SIGKILL))
-        watchdog.start()
-        text = b""
-        while not text.endswith(b"[y/N] "):
-            text += os.read(terminal, 4096)
-        os.write(terminal, answer)
-        try:
-            while more := os.read(terminal, 4096):
-                text += more
-        except OSError:
-            pass  # the end of a terminal
-        _, status = os.waitpid(child, 0)
-        watchdog.cancel()
-        os.close(terminal)
-        return os.waitstatus_to_exitcode(status), text.decode("utf-8").replace("\r\n", "\n")
+        code, shown = quvctl_process.run_on_terminal("config", "push", self.path, "--port", str(driver.port),
+                                                     asks=lambda shown: shown.endswith(b"[y/N] "), answer=answer)
+        return code, shown.replace("\r\n", "\n")
 
     def test_asks(self):
         for answer, written in [(b"y\n", 1), (b"yes\n", 1), (b"\n", 0), (b"n\n", 0), (b"Y E S\n", 0)]:
@@ -591,5 +547,5 @@ class Usage(ConfigTest):
 
 
 if __name__ == "__main__":
-    QUVCTL = sys.argv.pop(2)
+    quvctl_process.PROGRAM = sys.argv.pop(2)
     quvdriver_process.main()

@@ -2,34 +2,18 @@
 """quvctl tint and ticket. Usage: quvctl_tint_test.py QUVDRIVER QUVCTL"""
 
 import json
-import os
-import pty
 import re
 import signal
-import subprocess
 import sys
-import threading
 import unittest
-import xmlrpc.server
 
+import quvctl_process
 import quvdriver_process
-
-QUVCTL = ""
-
-
-def run(*words):
-    result = subprocess.run([QUVCTL, *words], stdin=subprocess.DEVNULL, capture_output=True, timeout=60, check=False)
-    return result.returncode, result.stdout.decode("utf-8"), result.stderr.decode("utf-8")
-
-
-def start(*words):
-    """The tool as a process of its own, which listens to Ctrl-C even when the tests do not."""
-    return subprocess.Popen([QUVCTL, *words], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-                            text=True, preexec_fn=lambda: signal.signal(signal.SIGINT, signal.default_int_handler))
+from quvctl_process import run, start
 
 
 def envelope(value, ret_code=0, info="TINT command executed successfully!"):
-    return {"ret_code": ret_code, "info": info, "ret_value": value, "errors": [], "exec_time": 3}
+    return quvctl_process.envelope(value, ret_code, info)
 
 
 def ticket(state, result=0, **members):
@@ -51,7 +35,7 @@ def levels(critical=(), warning=()):
     return envelope({"canisters_below_critical": list(critical), "canisters_below_warning": list(warning)})
 
 
-class ScriptedDriver:
+class ScriptedDriver(quvctl_process.ScriptedDriver):
     """Answers a pour by its script, and remembers what it was asked."""
 
     def __init__(self, **script):
@@ -60,11 +44,7 @@ class ScriptedDriver:
                        "dispensed": dispensed(steps(p2=300), steps(p2=300)), **script}
         self.asked = []
         self.started = []
-        self.server = xmlrpc.server.SimpleXMLRPCServer(("127.0.0.1", 0), logRequests=False)
-        self.server.register_function(self.execute, "EXEC_B")
-        self.server.register_function(self.start, "EXEC_NB")
-        self.port = str(self.server.server_address[1])
-        self.thread = threading.Thread(target=self.server.serve_forever, args=(0.01,), daemon=True)
+        super().__init__()
 
     def execute(self, name, *params):
         self.asked.append([name, *params])
@@ -77,15 +57,6 @@ class ScriptedDriver:
         self.started.append(list(params))
         return self.script["start"]
 
-    def __enter__(self):
-        self.thread.start()
-        return self
-
-    def __exit__(self, *_):
-        self.server.shutdown()
-        self.thread.join()
-        self.server.server_close()
-
 
 class Requests(unittest.TestCase):
     maxDiff = None
@@ -93,7 +64,7 @@ class Requests(unittest.TestCase):
     def sent(self, *words):
         """The formula that a driver gets."""
         with ScriptedDriver() as driver:
-            code, _, err = run("tint", *words, "--no-wait", "--port", driver.port)
+            code, _, err = run("tint", *words, "--no-wait", "--port", str(driver.port))
             self.assertEqual((code, err), (0, ""))
         self.assertEqual([request[0] for request in driver.asked], ["CHECK_FORMULA_LEVELS"])
         self.assertEqual(len(driver.started), 1)
@@ -152,11 +123,11 @@ class Requests(unittest.TestCase):
                     ("a formula as JSON tells its own type and unit, without --by and --unit", formula, "--unit",
                      "steps"),
                     ("the formula: there is no such type of formula", formula.replace("4", "5"))]:
-                self.assertEqual(run("tint", *words, "--port", driver.port),
+                self.assertEqual(run("tint", *words, "--port", str(driver.port)),
                                  (2, "", f"quvctl: {text} (see quvctl help)\n"))
             for text in ["{", "{}", "{'a':1}", '{"formula_type":null}', formula.replace("[1]", "[1,2]"),
                          formula.replace("[1]", "[2147483648]")]:
-                code, out, err = run("tint", text, "--port", driver.port)
+                code, out, err = run("tint", text, "--port", str(driver.port))
                 self.assertEqual((code, out), (2, ""))
                 self.assertRegex(err, "^quvctl: the formula: .+\n$")
         self.assertEqual((driver.asked, driver.started), ([], []))
@@ -167,7 +138,7 @@ class Pouring(unittest.TestCase):
 
     def tint(self, **script):
         with ScriptedDriver(**script) as driver:
-            told = run("tint", "B=12.5", "--interval", "10", "--port", driver.port)
+            told = run("tint", "B=12.5", "--interval", "10", "--port", str(driver.port))
         return (*told, driver)
 
     def test_all(self):
@@ -239,7 +210,7 @@ class Pouring(unittest.TestCase):
 
     def test_no_wait(self):
         with ScriptedDriver() as driver:
-            self.assertEqual(run("tint", "B=1", "--no-wait", "--port", driver.port), (0, "Ticket T-1\n", ""))
+            self.assertEqual(run("tint", "B=1", "--no-wait", "--port", str(driver.port)), (0, "Ticket T-1\n", ""))
 
 
 class Simulated(unittest.TestCase):
@@ -327,34 +298,15 @@ class Simulated(unittest.TestCase):
 
     def test_terminal(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "20") as driver:
-            try:
-                child, terminal = pty.fork()
-            except OSError as error:
-                self.skipTest(f"this machine has no terminal to give: {error}")
-            if child == 0:
-                os.environ.update(TERM="xterm", NO_COLOR="1")
-                os.execv(QUVCTL, [QUVCTL, "tint", "B=500", "--interval", "10", "--port", str(driver.port)])
-            watchdog = threading.Timer(30, os.kill, (child, signal.SIGKILL))
-            watchdog.start()
-            text = b""
-            while b"remaining...\033[K\r[" not in text:
-                text += os.read(terminal, 4096)
-            os.write(terminal, b"\003")  # Ctrl-C
-            try:
-                while more := os.read(terminal, 4096):
-                    text += more
-            except OSError:
-                pass  # the end of a terminal
-            _, status = os.waitpid(child, 0)
-            watchdog.cancel()
-            os.close(terminal)
-        self.assertEqual(os.waitstatus_to_exitcode(status), 130)
-        text = text.decode("utf-8")
+            code, text = quvctl_process.run_on_terminal(
+                "tint", "B=500", "--interval", "10", "--port", str(driver.port),
+                asks=lambda shown: b"remaining...\033[K\r[" in shown, answer=b"\003")  # Ctrl-C
+        self.assertEqual(code, 130)
         self.assertRegex(text, r"^Ticket .+\r\n\r\[\.{10}\] ")
         self.assertRegex(text, r"\r\[[#.]{10}\] \d+ %  About \d+ seconds remaining\.\.\.\x1b\[K")
         self.assertRegex(text, rf"\r\nthe machine goes on; look again with: quvctl ticket .+ --port {driver.port}\r\n$")
 
 
 if __name__ == "__main__":
-    QUVCTL = sys.argv.pop(2)
+    quvctl_process.PROGRAM = sys.argv.pop(2)
     quvdriver_process.main()
