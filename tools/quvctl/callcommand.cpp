@@ -15,16 +15,6 @@ namespace quv {
 
 namespace {
 
-std::unique_ptr<ProtoCommand> commandOf(const CommandLine &line)
-{
-    QStringList words = line.words();
-    nlohmann::json request;
-    request["name"] = words.takeFirst().toStdString();
-    request["args"] = argumentsFromWords(words);
-    request["machine"] = line.value("machine", QStringLiteral("none")).toStdString();
-    return makeCommand(Request(request));
-}
-
 void print(const ProtoCommand &command, const XmlRpcAnswer &envelope)
 {
     printLine(envelope.infoMsg(), Colour::Bold);
@@ -47,7 +37,7 @@ void printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope)
 ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
-    const auto command = commandOf(line);
+    const auto command = makeCommand(Request(commandRequest(line)));
     const XmlRpcAnswer &envelope = line.isSet("async") ? driver.start(*command) : driver.execute(*command);
     if (line.isSet("json"))
         printAsJson(*command, envelope);

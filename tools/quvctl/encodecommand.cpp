@@ -10,13 +10,9 @@ namespace {
 
 nlohmann::json requestOf(const CommandLine &line)
 {
-    QStringList words = line.words();
-    nlohmann::json request;
+    nlohmann::json request = commandRequest(line);
     request["op"] = "encode";
-    request["name"] = words.takeFirst().toStdString();
-    request["args"] = argumentsFromWords(words);
     request["family"] = line.number("family", 1, 1, 2);
-    request["machine"] = line.value("machine", QStringLiteral("none")).toStdString();
     request["form"] =
         line.choice("form", QStringLiteral("value"), {QStringLiteral("value"), QStringLiteral("list")})
             .toStdString();

@@ -77,12 +77,16 @@ void addDispenserOnly(const DispenserStatusAnswer &status, QList<StatusLine> &li
 
 } // namespace
 
-nlohmann::json argumentsFromWords(const QStringList &words)
+nlohmann::json commandRequest(const CommandLine &line)
 {
-    nlohmann::json arguments = nlohmann::json::array();
-    for (const QString &word : words)
-        arguments.push_back(argumentFromWord(word));
-    return arguments;
+    QStringList words = line.words();
+    nlohmann::json request;
+    request["name"] = words.takeFirst().toStdString();
+    request["args"] = nlohmann::json::array();
+    for (const QString &word : qAsConst(words))
+        request["args"].push_back(argumentFromWord(word));
+    request["machine"] = line.value("machine", QStringLiteral("none")).toStdString();
+    return request;
 }
 
 QList<StatusLine> statusInWords(const MachineStatusAnswer &status)

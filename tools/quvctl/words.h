@@ -3,15 +3,19 @@
 
 #include "jsonvalue.h"
 
-#include <QtCore/QStringList>
+#include <QtCore/QList>
+#include <QtCore/QString>
 
 class MachineStatusAnswer;
 class ProtoAnswer;
 
 namespace quv {
 
-/// The arguments that a user typed: each is a JSON value, and a word that is none is a string. \throws UsageError
-nlohmann::json argumentsFromWords(const QStringList &words);
+class CommandLine;
+
+/// The batch request for a command that a user typed, by its name, arguments and machine. An argument is a JSON value, and a
+/// word that is none is a string. \throws UsageError
+nlohmann::json commandRequest(const CommandLine &line);
 
 struct StatusLine
 {
