@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/decoding_p.h"
+#include "base/refusal_p.h"
+
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
@@ -15,27 +18,40 @@ namespace quv {
 //
 //     template <class Self, class Archive> static void arguments(Self &self, Archive &archive)
 //
-// and runs it with a reader in its two decoding constructors and with a writer in its two writing operations.
+// that is run with a reader in its two decoding constructors, with a writer in its two writing operations, and with a teller
+// for the documents. An archive has
+//
+//     required(name, field, absent, otherType)       must be given
+//     optional(name, field, otherType)               leaves its field alone when it is not given
+//     convertible(name, field, refusal)              an int; in a list whatever converts to one
+//     object(name, field, refusal, unreadable)       a struct; in a list the object itself or the map that stands for it
+//     refuseUnless(condition, refusal)               a check between two arguments, for readers only
+//     whenRead(check)                                the same by a function that gets the signature for its refusals
 
-/** A refusal of one argument: its code in the XML-RPC form and in the list form, and the text of both. */
-struct ArgumentRefusal
+/** An argument's name, and its unit and range where the name does not say it. */
+struct ArgumentName
 {
-    const char *valueCode = "";
-    const char *listCode = "";
-    const char *text = "";
+    constexpr ArgumentName(const char *argumentName, const char *itsMeaning = "")
+        : name(argumentName),
+          meaning(itsMeaning)
+    {}
+
+    const char *name;
+    const char *meaning;
 };
 
-// An argument in a variant list: the stored type decides, nothing is converted but whole numbers in range.
-bool decodeVariant(const QVariant &variant, bool &out);
-bool decodeVariant(const QVariant &variant, int &out);
-bool decodeVariant(const QVariant &variant, long long &out);
-bool decodeVariant(const QVariant &variant, double &out); ///< takes whole numbers as well
-bool decodeVariant(const QVariant &variant, QString &out);
-bool decodeVariant(const QVariant &variant, QStringList &out);
-bool decodeVariant(const QVariant &variant, QList<int> &out);
+/** A refusal of one argument: what it is called in the XML-RPC form and in the list form. */
+struct ArgumentRefusal
+{
+    constexpr ArgumentRefusal(const char *valueCode, const char *listCode, const char *text)
+        : value{valueCode, text},
+          list{listCode, text}
+    {}
+    constexpr ArgumentRefusal(const Refusal &ofValue, const Refusal &ofList) : value(ofValue), list(ofList) {}
 
-/** Whatever converts to an int that holds it: also a fraction, which is rounded, a bool, and the digits of a text. */
-bool convertVariant(const QVariant &variant, int &out);
+    Refusal value;
+    Refusal list;
+};
 
 /** What the two readers share; Source tells how many arguments there are and decodes one. */
 template <class Source>
@@ -46,25 +62,49 @@ public:
     ArgumentReader(const Source &source, const char *function) : m_source(source), m_function(function) {}
 
     template <class T>
-    void required(T &field, const ArgumentRefusal &absent, const ArgumentRefusal &otherType)
+    void required(const ArgumentName &name, T &field, const ArgumentRefusal &absent,
+                  const ArgumentRefusal &otherType)
     {
         if (m_index >= m_source.size())
             refuse(absent);
-        optional(field, otherType);
+        optional(name, field, otherType);
     }
 
-    /** Leaves the field alone when the argument is not given. */
     template <class T>
-    void optional(T &field, const ArgumentRefusal &otherType)
+    void optional(const ArgumentName &, T &field, const ArgumentRefusal &otherType)
     {
         if (m_index < m_source.size() && !m_source.decode(m_index++, field))
             refuse(otherType);
     }
 
+    void convertible(const ArgumentName &, int &field, const ArgumentRefusal &refusal)
+    {
+        if (m_index >= m_source.size() || !m_source.convert(m_index++, field))
+            refuse(refusal);
+    }
+
+    template <class T>
+    void object(const ArgumentName &, T &field, const ArgumentRefusal &refusal, const Refusal &unreadable)
+    {
+        field = m_source.template object<T>(m_index++, Source::of(refusal), unreadable, m_function);
+    }
+
+    void refuseUnless(bool good, const ArgumentRefusal &refusal) const
+    {
+        if (!good)
+            refuse(refusal);
+    }
+
+    template <class Check>
+    void whenRead(Check check) const
+    {
+        check(m_function);
+    }
+
 private:
     [[noreturn]] void refuse(const ArgumentRefusal &refusal) const
     {
-        throw FW_Exception(Source::code(refusal), refusal.text, m_function);
+        throwRefusal(Source::of(refusal), m_function);
     }
 
     Source m_source;
@@ -76,9 +116,12 @@ private:
 class ValueSource
 {
 public:
-    explicit ValueSource(const XmlRpc::XmlRpcValue &value) : m_value(value) {}
+    explicit ValueSource(const XmlRpc::XmlRpcValue &value)
+        : m_value(value),
+          m_size(value.getType() == XmlRpc::XmlRpcValue::TypeArray ? value.size() : 0)
+    {}
 
-    int size() const { return m_value.getType() == XmlRpc::XmlRpcValue::TypeArray ? m_value.size() : 0; }
+    int size() const { return m_size; }
 
     template <class T>
     bool decode(int index, T &out) const
@@ -86,10 +129,19 @@ public:
         return DecodeXmlRpcValue(m_value[index], out);
     }
 
-    static const char *code(const ArgumentRefusal &refusal) { return refusal.valueCode; }
+    bool convert(int index, int &out) const { return decode(index, out); }
+
+    template <class T>
+    T object(int index, const Refusal &refusal, const Refusal &, const char *function) const
+    {
+        return decodedValue<T>(FindXmlRpcElement(m_value, index), refusal, function);
+    }
+
+    static const Refusal &of(const ArgumentRefusal &refusal) { return refusal.value; }
 
 private:
     const XmlRpc::XmlRpcValue &m_value;
+    int m_size = 0;
 };
 
 /** Arguments as the elements of a variant list. */
@@ -106,7 +158,15 @@ public:
         return decodeVariant(m_list.at(index), out);
     }
 
-    static const char *code(const ArgumentRefusal &refusal) { return refusal.listCode; }
+    bool convert(int index, int &out) const { return convertVariant(m_list.at(index), out); }
+
+    template <class T>
+    T object(int index, const Refusal &refusal, const Refusal &unreadable, const char *function) const
+    {
+        return decodedVariant<T>(m_list.value(index), refusal, unreadable, function);
+    }
+
+    static const Refusal &of(const ArgumentRefusal &refusal) { return refusal.list; }
 
 private:
     const QList<QVariant> &m_list;
@@ -127,71 +187,94 @@ public:
     {}
 };
 
-/** What the two writers share: every argument is written, given or not. Writer appends one. */
-template <class Writer>
-class ArgumentWriter
+/** What the archives share that come to every argument, given or not; Visitor takes one. */
+template <class Visitor>
+class ArgumentVisitor
 {
 public:
     template <class T>
-    void required(const T &field, const ArgumentRefusal &, const ArgumentRefusal &)
+    void required(const ArgumentName &, T &field, const ArgumentRefusal &, const ArgumentRefusal &)
     {
-        static_cast<Writer *>(this)->append(field);
+        visitor().visit(field);
     }
 
     template <class T>
-    void optional(const T &field, const ArgumentRefusal &)
+    void optional(const ArgumentName &, T &field, const ArgumentRefusal &)
     {
-        static_cast<Writer *>(this)->append(field);
+        visitor().visit(field);
     }
+
+    template <class T>
+    void convertible(const ArgumentName &, T &field, const ArgumentRefusal &)
+    {
+        visitor().visit(field);
+    }
+
+    template <class T>
+    void object(const ArgumentName &, T &field, const ArgumentRefusal &, const Refusal &)
+    {
+        visitor().visitObject(field);
+    }
+
+    void refuseUnless(bool, const ArgumentRefusal &) const {}
+
+    template <class Check>
+    void whenRead(Check) const
+    {}
+
+private:
+    Visitor &visitor() { return *static_cast<Visitor *>(this); }
 };
 
 /** Writes the arguments as a variant list. */
-class ListWriter : public ArgumentWriter<ListWriter>
+class ListWriter : public ArgumentVisitor<ListWriter>
 {
 public:
     QList<QVariant> result() const { return m_list; }
 
 private:
-    friend ArgumentWriter<ListWriter>;
+    friend ArgumentVisitor<ListWriter>;
 
     template <class T>
-    void append(const T &field)
+    void visit(const T &field)
     {
         m_list.append(QVariant::fromValue(field));
+    }
+    template <class T>
+    void visitObject(const T &field)
+    {
+        visit(field);
     }
 
     QList<QVariant> m_list;
 };
 
-/** Writes the arguments as an XML-RPC array. */
-class ValueWriter : public ArgumentWriter<ValueWriter>
+/** Writes the arguments as an XML-RPC array, in place: such a value cannot be moved, only copied. */
+class ValueWriter : public ArgumentVisitor<ValueWriter>
 {
 public:
-    ValueWriter() { m_array.setSize(0); }
-
-    /** The array; \a ok, when given, becomes true. */
-    XmlRpc::XmlRpcValue result(bool *ok) const
-    {
-        if (ok)
-            *ok = true;
-        return m_array;
-    }
+    explicit ValueWriter(XmlRpc::XmlRpcValue &array) : m_array(array) { m_array.setSize(0); }
 
 private:
-    friend ArgumentWriter<ValueWriter>;
+    friend ArgumentVisitor<ValueWriter>;
 
-    void append(bool field) { next() = field; }
-    void append(int field) { next() = field; }
-    void append(double field) { next() = field; }
+    void visit(bool field) { next() = field; }
+    void visit(int field) { next() = field; }
+    void visit(double field) { next() = field; }
     template <class T>
-    void append(const T &field)
+    void visit(const T &field)
     {
         next() = EncodeXmlRpcVariant(QVariant::fromValue(field));
+    }
+    template <class T>
+    void visitObject(const T &field)
+    {
+        next() = field.toXmlRpcValue();
     }
 
     XmlRpc::XmlRpcValue &next() { return m_array[m_array.size()]; }
 
-    XmlRpc::XmlRpcValue m_array;
+    XmlRpc::XmlRpcValue &m_array;
 };
 
 } // namespace quv

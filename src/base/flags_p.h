@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/record_p.h"
 #include "base/translation_p.h"
 
 #include <QtCore/QList>
@@ -10,6 +11,7 @@
 #include <cstddef>
 #include <iterator>
 #include <utility>
+#include <vector>
 
 namespace quv {
 
@@ -26,12 +28,78 @@ struct MaskBit
     bool inverted = false;
 };
 
+/** The property name of a variable, as bytes that stay. */
+const char *propertyKey(const char *variable);
+
+/** What there is to tell of a flag; the values are bits. */
+enum FlagTrait : unsigned {
+    Plain = 0,
+    Required = 1,   ///< a struct without it is refused
+    Uncompared = 2, ///< comes and goes too fast to make two statuses differ
+    Lasting = 4,    ///< worth a line while it lasts
+    Bad = 8,        ///< the line is a reason not to work
+    Property = 16   ///< its name in the struct is the property name of a variable of this name
+};
+
+/** A flag of a status word, with all that there is to tell of it, in the order in which it is told. */
+template <class Status>
+struct StatusFlag
+{
+    const char *key = ""; ///< its name in the struct
+    bool Status::*flag = nullptr;
+    int word = 0;
+    int bit = 0;
+    unsigned traits = Plain;
+    const char *on = nullptr; ///< the line for it, marked with QT_TRANSLATE_NOOP where it stands
+    const char *off =
+        nullptr; ///< the line for its end, as it stands; without one a change is not worth a line
+
+    constexpr bool has(FlagTrait trait) const { return (traits & trait) != 0; }
+};
+
+/** The flags as members of the struct; those that are required are refused with \a missing. */
+template <class Status, std::size_t count>
+std::vector<Member<Status>> membersOf(const StatusFlag<Status> (&flags)[count], const Refusal &missing)
+{
+    std::vector<Member<Status>> members;
+    for (const StatusFlag<Status> &row : flags) {
+        const char *key = row.has(Property) ? propertyKey(row.key) : row.key;
+        members.emplace_back(key, row.flag, row.has(Required) ? missing : Refusal());
+        if (row.has(Uncompared))
+            members.back().uses(Read | Write);
+    }
+    return members;
+}
+
+/** The lines for flags that have changed. */
+template <class Status, std::size_t count>
+void describeChanges(const StatusFlag<Status> (&flags)[count], const Status &before, const Status &after,
+                     QList<QString> &changes)
+{
+    for (const StatusFlag<Status> &row : flags) {
+        if (row.off && before.*row.flag != after.*row.flag)
+            changes.append(after.*row.flag ? translated(row.on) : QString::fromUtf8(row.off));
+    }
+}
+
+template <class Status>
+constexpr bool isInverted(const MaskBit<Status> &bit)
+{
+    return bit.inverted;
+}
+
+template <class Status>
+constexpr bool isInverted(const StatusFlag<Status> &)
+{
+    return false;
+}
+
 template <const auto &table, class Status, std::size_t... row>
 void applyRows(const unsigned *masks, int lastWord, Status &status, std::index_sequence<row...>)
 {
-    const auto apply = [&](const MaskBit<Status> &bit) {
+    const auto apply = [&](const auto &bit) {
         if (bit.word <= lastWord)
-            status.*bit.flag = ((masks[bit.word] >> bit.bit & 1U) != 0) != bit.inverted;
+            status.*bit.flag = ((masks[bit.word] >> bit.bit & 1U) != 0) != isInverted(bit);
     };
     (apply(table[row]), ...);
 }

@@ -2,11 +2,15 @@
 #pragma once
 
 #include "base/confprotoanswer.h"
+#include "base/describedanswer.h"
 
 /** The answer to GET_CMD_EST_EXEC_TIME: a struct with the member "exec_time" (int, milliseconds). */
-class QUVPROTOCOL_EXPORT GetCmdEstimatedExecTimeAnswer : public ConfProtoAnswer
+class QUVPROTOCOL_EXPORT GetCmdEstimatedExecTimeAnswer
+    : public quv::DescribedAnswer<GetCmdEstimatedExecTimeAnswer, ConfProtoAnswer>
 {
 public:
+    struct Description;
+
     static constexpr char EXEC_TIME[] = "exec_time";
 
     GetCmdEstimatedExecTimeAnswer() = default;
@@ -17,10 +21,11 @@ public:
         QList<QVariant> &list); ///< a whole number; throws DE01178 without one
 
     GetCmdEstimatedExecTimeAnswer *clone() const override;
-    bool equalTo(const ProtoAnswer *other) const override;
-    XmlRpc::XmlRpcValue toXmlRpcValue() const override; ///< the time is cut to 32 bits
 
-    long long executionTime() const { return m_executionTime; } ///< milliseconds
+    long long executionTime() const
+    {
+        return m_executionTime;
+    } ///< milliseconds; cut to 32 bits in the struct
 
 private:
     long long m_executionTime = 0;

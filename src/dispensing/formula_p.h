@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/guard_p.h"
+#include "base/decoding_p.h"
 #include "base/refusal_p.h"
 #include "base/wire_p.h"
 
@@ -29,46 +29,10 @@ namespace quv {
 /** What the driver is about to pour, at debug level: "quvprotocol.dispensing". */
 Q_DECLARE_LOGGING_CATEGORY(dispensingLog)
 
-/** The member without which a variant map is none of these. */
-template <class T>
-inline constexpr const char *markOf = nullptr;
 template <>
 inline constexpr const char *markOf<Formula> = Formula::FORMULA_TYPE;
 template <>
 inline constexpr const char *markOf<PurgeFormula> = PurgeFormula::PURGE_QUANTITY;
-
-/** True for a T, and for a map that is meant for one. */
-template <class T>
-bool holds(const QVariant &variant)
-{
-    // of all that converts to a map only a map converts to T
-    return variant.userType() == qMetaTypeId<T>() || (variant.userType() == QMetaType::QVariantMap &&
-                                                      variant.toMap().contains(QLatin1String(markOf<T>)));
-}
-
-/** What \a make gives, as with a copy that needs memory. Throws \a refusal in place of anything but an FW_Exception. */
-template <class Make>
-auto madeOrRefused(const Refusal &refusal, const char *function, Make make) -> decltype(make())
-{
-    try {
-        return make();
-    } catch (...) {
-        rethrowCurrentException(refusal.code, refusal.text, function);
-    }
-}
-
-/**
- * The T that \a variant holds. Throws \a expected when it holds none, and \a incorrect when the map in it cannot be read
- * as one.
- */
-template <class T>
-T decodedVariant(const QVariant &variant, const Refusal &expected, const Refusal &incorrect,
-                 const char *function)
-{
-    if (!holds<T>(variant))
-        throw FW_Exception(expected.code, expected.text, function);
-    return madeOrRefused(incorrect, function, [&] { return variant.value<T>(); });
-}
 
 /** Runs a check of the form bool (FW_DriverError &) and throws the error that it filled when it is false. */
 template <class Check>
@@ -77,24 +41,6 @@ void require(const char *function, Check check)
     FW_DriverError error;
     if (!check(error))
         throw FW_Exception(error, function);
-}
-
-/** The T that the value, which may be missing, can be read as. Throws \a refusal when it cannot. */
-template <class T>
-T decodedValue(const XmlRpc::XmlRpcValue *value, const Refusal &refusal, const char *function)
-{
-    return madeOrRefused(refusal, function, [value] {
-        if (!value)
-            throw std::invalid_argument("nothing to decode");
-        return T(*value);
-    });
-}
-
-/** A copy. Throws \a refusal when there is none to be had. */
-template <class T>
-T copied(const T &original, const Refusal &refusal, const char *function)
-{
-    return madeOrRefused(refusal, function, [&] { return original; });
 }
 
 /** Throws what the command's checkFormula says, when there is a dispenser to check the formula by. */

@@ -10,8 +10,10 @@
 template <class Self, class Archive>
 void GetDispensedFormulaCmdBase::arguments(Self &self, Archive &archive)
 {
-    archive.optional(self.m_formulaType, {"DE01911", "DE01912", "Formula type: expected INT parameter"});
-    archive.optional(self.m_quantityUnit, {"DE01721", "DE01722", "Quantity unit: expected INT parameter"});
+    archive.optional("formula_type", self.m_formulaType,
+                     {"DE01911", "DE01912", "Formula type: expected INT parameter"});
+    archive.optional("quantity_unit", self.m_quantityUnit,
+                     {"DE01721", "DE01722", "Quantity unit: expected INT parameter"});
 }
 
 GetDispensedFormulaCmdBase::GetDispensedFormulaCmdBase(int formulaType, int quantityUnit)
@@ -49,9 +51,12 @@ QList<QVariant> GetDispensedFormulaCmdBase::parameters() const
 
 XmlRpc::XmlRpcValue GetDispensedFormulaCmdBase::xmlrpc_parameters_base(bool *ok) const
 {
-    quv::ValueWriter writer;
+    XmlRpc::XmlRpcValue array;
+    quv::ValueWriter writer(array);
     arguments(*this, writer);
-    return writer.result(ok);
+    if (ok)
+        *ok = true;
+    return array;
 }
 
 XmlRpc::XmlRpcValue GetDispensedFormulaCmdBase::toXmlRpcValue(QString leading, bool *ok) const

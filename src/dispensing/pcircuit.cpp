@@ -10,10 +10,10 @@ const quv::Record<PCircuit> &record()
 {
     constexpr quv::Refusal bad = quv::badPCircuit;
     static const quv::Record<PCircuit> record({
-        {PCircuit::positionID_TAG, &PCircuit::positionID, bad.code, bad.text},
-        {PCircuit::queueID_TAG, &PCircuit::queueID, bad.code, bad.text},
-        {PCircuit::speed_TAG, &PCircuit::speed, bad.code, bad.text},
-        {PCircuit::strokes_TAG, &PCircuit::strokes, bad.code, bad.text},
+        {PCircuit::positionID_TAG, &PCircuit::positionID, bad},
+        {PCircuit::queueID_TAG, &PCircuit::queueID, bad},
+        {PCircuit::speed_TAG, &PCircuit::speed, bad},
+        {PCircuit::strokes_TAG, &PCircuit::strokes, bad},
     });
     return record;
 }

@@ -1,53 +1,44 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "processes/autocapcmd.h"
 
-#include "base/arguments_p.h"
+#include "base/describedcommand_p.h"
 #include "base/gate_p.h"
-#include "base/translation_p.h"
-#include "catalogue/protocommandlist.h"
 
 namespace {
 
 constexpr quv::FamilyGate lateMovements[] = {{63, 38}};
 
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::AUTOCAP_MOVE);
-}
-
 } // namespace
 
-template <class Self, class Archive>
-void AutocapCmd::arguments(Self &self, Archive &archive)
+struct AutocapCmd::Description : quv::Description
 {
-    archive.required(self.m_movementType, {"DE00289", "DE00291", "Too few parameters received"},
-                     {"DE00290", "DE00292", "Autocap movement type: expected INT parameter"});
-}
+    static constexpr auto command = ProtoCommandList::AUTOCAP_MOVE;
 
-AutocapCmd::AutocapCmd() : SerialProtoCommand(name(), nullptr)
-{
-    setDefaults();
-}
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        // none is refused by the base already, as long as the catalogue asks for one
+        archive.required({"movement_type", "0 close, 1 open, 2 to 6 further movements"}, self.m_movementType,
+                         {"DE00289", "DE00291", "Too few parameters received"},
+                         {"DE00290", "DE00292", "Autocap movement type: expected INT parameter"});
+    }
+};
 
-AutocapCmd::AutocapCmd(int movementType) : AutocapCmd()
-{
-    m_movementType = movementType;
-}
+template class quv::DescribedCommand<AutocapCmd, SerialProtoCommand>;
 
-AutocapCmd::AutocapCmd(const XmlRpc::XmlRpcValue &value) : SerialProtoCommand(name(), value, nullptr)
+AutocapCmd::AutocapCmd(int movementType) : m_movementType(movementType) {}
+
+AutocapCmd::AutocapCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value)
 {
-    setDefaults();
+    // the contract of this class, should the base ever let such a value pass
     if (value.getType() != XmlRpc::XmlRpcValue::TypeArray)
         throw FW_Exception("DE00592", "AutocapCmd: invalid xml-rpc type (not array)", Q_FUNC_INFO);
-    quv::ValueReader reader(value, Q_FUNC_INFO);
-    arguments(*this, reader);
+    read(value, Q_FUNC_INFO);
 }
 
-AutocapCmd::AutocapCmd(QList<QVariant> list) : SerialProtoCommand(name(), list, nullptr)
+AutocapCmd::AutocapCmd(QList<QVariant> list) : DescribedCommand(list)
 {
-    setDefaults();
-    quv::ListReader reader(list, Q_FUNC_INFO);
-    arguments(*this, reader);
+    read(list, Q_FUNC_INFO);
 }
 
 AutocapCmd *AutocapCmd::clone() const
@@ -55,28 +46,14 @@ AutocapCmd *AutocapCmd::clone() const
     return new AutocapCmd(*this);
 }
 
-void AutocapCmd::setDefaults()
-{
-    m_movementType = noMovement;
-}
-
-QList<QVariant> AutocapCmd::parameters() const
-{
-    quv::ListWriter writer;
-    arguments(*this, writer);
-    return writer.result();
-}
-
 XmlRpc::XmlRpcValue AutocapCmd::xmlrpc_parameters(bool *ok) const
 {
-    if (m_movementType != noMovement) {
-        quv::ValueWriter writer;
-        arguments(*this, writer);
-        return writer.result(ok);
-    }
-    const XmlRpc::XmlRpcValue none = quv::ValueWriter().result(nullptr);
+    if (m_movementType != noMovement)
+        return DescribedCommand::xmlrpc_parameters(ok);
     if (ok)
         *ok = false;
+    XmlRpc::XmlRpcValue none;
+    none.setSize(0);
     return none;
 }
 

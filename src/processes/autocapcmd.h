@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotocommand.h"
+#include "base/describedcommand.h"
 
 struct FW_Version;
 
 /** AUTOCAP_MOVE: moves the automatic cap that closes the nozzles. */
-class QUVPROTOCOL_EXPORT AutocapCmd : public SerialProtoCommand
+class QUVPROTOCOL_EXPORT AutocapCmd : public quv::DescribedCommand<AutocapCmd, SerialProtoCommand>
 {
 public:
+    struct Description;
+
     /** 2 to 6 are further movements of the cap; the later ones need a newer firmware. */
     enum AutocapMovementType : int {
         Close = 0,
@@ -20,21 +22,18 @@ public:
         Movement6
     };
 
-    AutocapCmd(); ///< no movement yet
+    AutocapCmd() = default; ///< no movement yet
     explicit AutocapCmd(int movementType);
-    /** The movement type (int). Throws DE00592 for no array, DE00289 without it, DE00290 for another type. */
+    /** The movement type (int). Throws DE00290 for another type; without one the base refuses (DE00312). */
     explicit AutocapCmd(const XmlRpc::XmlRpcValue &value);
-    /** The same as a list. Throws DE00291 without it, DE00292 for another type. */
+    /** The same as a list. Throws DE00292 for another type; without one the base refuses (DE00313). */
     explicit AutocapCmd(QList<QVariant> list);
-    AutocapCmd(const AutocapCmd &) = default;
     explicit AutocapCmd(bool) = delete; // would read as a movement type, as would the next two
     explicit AutocapCmd(double) = delete;
     explicit AutocapCmd(const char *) = delete;
 
     AutocapCmd *clone() const override;
-    void setDefaults(); ///< movement type -1, none
 
-    QList<QVariant> parameters() const override;
     /** Empty, and \a ok false, for no movement. */
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
     QList<int> serialParameters(int family) const override;
@@ -52,9 +51,6 @@ public:
 
 private:
     static constexpr int noMovement = -1;
-
-    template <class Self, class Archive>
-    static void arguments(Self &self, Archive &archive);
 
     int m_movementType = noMovement;
 };

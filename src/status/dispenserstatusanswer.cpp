@@ -8,7 +8,6 @@
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_exception.h>
-#include <QuvFramework/fw_utils.h>
 
 #include <algorithm>
 #include <array>
@@ -19,68 +18,97 @@ namespace {
 using Status = DispenserStatusAnswer;
 
 // Words are numbered as the firmware numbers them: 6 and 7 are the position and its zone.
-constexpr quv::MaskBit<Status> bits[] = {
+
+/** The flags that all machines have, where a dispenser's firmware tells them. */
+constexpr quv::MaskBit<Status> machineBits[] = {
     {1, 0, &Status::offline_pressed},
     {1, 1, &Status::board_not_initialized},
-    {1, 2, &Status::tinting},
-    {1, 3, &Status::recirculating},
-    {1, 4, &Status::stirring},
     {1, 5, &Status::startup},
     {1, 6, &Status::resetting},
-    {2, 0, &Status::valve_on},
-    {2, 1, &Status::cap_open},
     {2, 2, &Status::BL_active},
     {2, 3, &Status::BL_memory_resetting},
     {2, 4, &Status::BL_fw_update},
     {2, 5, &Status::conf_writing},
     {2, 6, &Status::hw_error},
     {3, 0, &Status::conf_error},
-    {3, 1, &Status::bellow_up},
     {3, 2, &Status::process_error},
     {3, 3, &Status::stop_process},
     {3, 4, &Status::dispenser_not_ready},
     {3, 5, &Status::new_buffered_error},
     {3, 6, &Status::emergency_pressed},
     {4, 0, &Status::normal_wm, true}, // the firmware tells of the reserved mode
-    {4, 1, &Status::no_24_voltage},
-    {4, 2, &Status::no_48_voltage},
     {4, 3, &Status::can_present},
-    {4, 4, &Status::punching},
     {4, 5, &Status::shelf_up},
     {4, 6, &Status::shelf_down},
-    {5, 0, &Status::slave_scan},
-    {5, 1, &Status::post_erogation},
-    {5, 2, &Status::turntable_moving},
-    {5, 3, &Status::cleaning},
-    {5, 4, &Status::formula_interrupted},
-    {5, 5, &Status::nozzle_valve_working_pos},
     {5, 6, &Status::door_open},
-    {8, 0, &Status::circuit_fin_presence},
-    {8, 1, &Status::airpurge},
-    {8, 2, &Status::head1_can_dose},
-    {8, 3, &Status::head2_can_dose},
-    {9, 0, &Status::predispensing},
-    {9, 1, &Status::pumping},
-    {9, 2, &Status::nozzle_moving},
     {9, 3, &Status::machine_turned_off},
     {9, 4, &Status::machine_unlocked},
-    {9, 5, &Status::nozzle_valve_open_accurate},
-    {9, 6, &Status::canister_lvl_critical},
-    {10, 0, &Status::new_cleaning_stats},
-    {10, 1, &Status::stall_low},
-    {10, 2, &Status::stall_high},
-    {10, 3, &Status::check_level_in_progress},
-    {10, 4, &Status::speed_red_in_recirc},
-    {10, 5, &Status::plc_start_activated},
-    {10, 6, &Status::plc_stop_activated},
-    {11, 2, &Status::m_zdr_mixingInProgress},
-    {11, 3, &Status::m_zdr_openingPlatesInProgress},
-    {11, 4, &Status::m_zdr_closingPlatesInProgress},
-    {11, 5, &Status::m_zdr_pluggingInProgress},
-    {11, 6, &Status::m_zdr_canCentered},
-    {12, 1, &Status::m_zdr_plasticPlugReserve},
-    {12, 2, &Status::m_zdr_plasticPlugNotMounted},
-    {12, 3, &Status::m_zdr_homePosition},
+};
+
+/** The dispenser's own flags. Those of a capping station travel under the property names of their variables. */
+constexpr quv::StatusFlag<Status> flags[] = {
+    {"tinting", &Status::tinting, 1, 2, quv::Required | quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Tinting in progress"), "Tinting not in progress"},
+    {"recirculating", &Status::recirculating, 1, 3, quv::Required | quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Recirculation in progress"), "Recirculation not in progress"},
+    {"stirring", &Status::stirring, 1, 4, quv::Required | quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Stirring in progress"), "Stirring not in progress"},
+    {"valve_on", &Status::valve_on, 2, 0, quv::Required | quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "At least one valve ON"), "No valve open"},
+    {"cap_open", &Status::cap_open, 2, 1, quv::Required | quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Autocap opened"), "Autocap closed"},
+    {"bellow_up", &Status::bellow_up, 3, 1, quv::Required | quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Bellows up"), "No bellows up"},
+    {"no_24_voltage", &Status::no_24_voltage, 4, 1, quv::Required,
+     QT_TRANSLATE_NOOP("QuvProtocol", "24V absent"), "24V power ON"},
+    {"no_48_voltage", &Status::no_48_voltage, 4, 2, quv::Required,
+     QT_TRANSLATE_NOOP("QuvProtocol", "48V absent"), "48V power ON"},
+    {"punching", &Status::punching, 4, 4, quv::Required | quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Punching in progress"), "Punching not in progress"},
+    {"slave_scan", &Status::slave_scan, 5, 0, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Slave scan in progress"), "Slave scan not in progress"},
+    {"post_erogation", &Status::post_erogation, 5, 1, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Post dispensing in progress"), "Post dispensing not in progress"},
+    {"turntable_moving", &Status::turntable_moving, 5, 2, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Turntable moving"), "Turntable idle"},
+    {"cleaning", &Status::cleaning, 5, 3, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Cleaning in progress"), "Cleaning not in progress"},
+    {"formula_interrupted", &Status::formula_interrupted, 5, 4, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Formula interrupted present"), "No formula interrupted present"},
+    {"nozzle_valve_working_pos", &Status::nozzle_valve_working_pos, 5, 5, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Nozzle valve in working position"), "Nozzle valve in rest position"},
+    {"circuit_fin_presence", &Status::circuit_fin_presence, 8, 0},
+    {"airpurge", &Status::airpurge, 8, 1, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Air purge in progress")},
+    {"head1_can_dose", &Status::head1_can_dose, 8, 2, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Head 1 ready to dispense")},
+    {"head2_can_dose", &Status::head2_can_dose, 8, 3, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Head 2 ready to dispense")},
+    {"predispensing", &Status::predispensing, 9, 0},
+    {"pumping", &Status::pumping, 9, 1, quv::Uncompared},
+    {"nozzle_moving", &Status::nozzle_moving, 9, 2},
+    {"nozzle_valve_open_accurate", &Status::nozzle_valve_open_accurate, 9, 5, quv::Plain,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Nozzle valve open (precise)"), "Nozzle valve open (swift)"},
+    {"canister_lvl_critical", &Status::canister_lvl_critical, 9, 6, quv::Lasting | quv::Bad,
+     QT_TRANSLATE_NOOP("QuvProtocol", "One or more canister under critical level"), "Canister levels ok"},
+    {"new_cleaning_stats", &Status::new_cleaning_stats, 10, 0, quv::Plain,
+     QT_TRANSLATE_NOOP("QuvProtocol", "New cleaning stats available"), "No cleaning stats available"},
+    {"stall_low", &Status::stall_low, 10, 1, quv::Lasting, QT_TRANSLATE_NOOP("QuvProtocol", "Stall low")},
+    {"stall_high", &Status::stall_high, 10, 2, quv::Lasting, QT_TRANSLATE_NOOP("QuvProtocol", "Stall high")},
+    {"check_level_in_progress", &Status::check_level_in_progress, 10, 3, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Check level in progress")},
+    {"speed_red_in_recirc", &Status::speed_red_in_recirc, 10, 4, quv::Lasting,
+     QT_TRANSLATE_NOOP("QuvProtocol", "Speed reduced in recirculation")},
+    {"plc_start_activated", &Status::plc_start_activated, 10, 5},
+    {"plc_stop_activated", &Status::plc_stop_activated, 10, 6},
+    {"m_zdr_mixingInProgress", &Status::m_zdr_mixingInProgress, 11, 2, quv::Property},
+    {"m_zdr_openingPlatesInProgress", &Status::m_zdr_openingPlatesInProgress, 11, 3, quv::Property},
+    {"m_zdr_closingPlatesInProgress", &Status::m_zdr_closingPlatesInProgress, 11, 4, quv::Property},
+    {"m_zdr_pluggingInProgress", &Status::m_zdr_pluggingInProgress, 11, 5, quv::Property},
+    {"m_zdr_canCentered", &Status::m_zdr_canCentered, 11, 6, quv::Property},
+    {"m_zdr_plasticPlugReserve", &Status::m_zdr_plasticPlugReserve, 12, 1, quv::Property},
+    {"m_zdr_plasticPlugNotMounted", &Status::m_zdr_plasticPlugNotMounted, 12, 2, quv::Property},
+    {"m_zdr_homePosition", &Status::m_zdr_homePosition, 12, 3, quv::Property},
 };
 
 /** A word in the order of its token: a mask with its refusal, or one of the two position numbers. */
@@ -110,147 +138,37 @@ constexpr Word words[] = {
 };
 
 constexpr int noPosition = 245;
-
-constexpr quv::Condition<Status> conditionsBeforeHeads[] = {
-    {&Status::tinting, QT_TRANSLATE_NOOP("QuvProtocol", "Tinting in progress")},
-    {&Status::recirculating, QT_TRANSLATE_NOOP("QuvProtocol", "Recirculation in progress")},
-    {&Status::stirring, QT_TRANSLATE_NOOP("QuvProtocol", "Stirring in progress")},
-    {&Status::valve_on, QT_TRANSLATE_NOOP("QuvProtocol", "At least one valve ON")},
-    {&Status::cap_open, QT_TRANSLATE_NOOP("QuvProtocol", "Autocap opened")},
-    {&Status::bellow_up, QT_TRANSLATE_NOOP("QuvProtocol", "Bellows up")},
-    {&Status::punching, QT_TRANSLATE_NOOP("QuvProtocol", "Punching in progress")},
-    {&Status::slave_scan, QT_TRANSLATE_NOOP("QuvProtocol", "Slave scan in progress")},
-    {&Status::post_erogation, QT_TRANSLATE_NOOP("QuvProtocol", "Post dispensing in progress")},
-    {&Status::turntable_moving, QT_TRANSLATE_NOOP("QuvProtocol", "Turntable moving")},
-    {&Status::cleaning, QT_TRANSLATE_NOOP("QuvProtocol", "Cleaning in progress")},
-    {&Status::formula_interrupted, QT_TRANSLATE_NOOP("QuvProtocol", "Formula interrupted present")},
-    {&Status::nozzle_valve_working_pos, QT_TRANSLATE_NOOP("QuvProtocol", "Nozzle valve in working position")},
-    {&Status::airpurge, QT_TRANSLATE_NOOP("QuvProtocol", "Air purge in progress")},
-};
-
-constexpr quv::Condition<Status> onlyHeadCondition[] = {
-    {&Status::head1_can_dose, QT_TRANSLATE_NOOP("QuvProtocol", "Ready to dispense")},
-};
-
-constexpr quv::Condition<Status> headConditions[] = {
-    {&Status::head1_can_dose, QT_TRANSLATE_NOOP("QuvProtocol", "Head 1 ready to dispense")},
-    {&Status::head2_can_dose, QT_TRANSLATE_NOOP("QuvProtocol", "Head 2 ready to dispense")},
-};
-
-constexpr quv::Condition<Status> conditionsAfterHeads[] = {
-    {&Status::canister_lvl_critical,
-     QT_TRANSLATE_NOOP("QuvProtocol", "One or more canister under critical level"), true},
-    {&Status::stall_low, QT_TRANSLATE_NOOP("QuvProtocol", "Stall low")},
-    {&Status::stall_high, QT_TRANSLATE_NOOP("QuvProtocol", "Stall high")},
-    {&Status::check_level_in_progress, QT_TRANSLATE_NOOP("QuvProtocol", "Check level in progress")},
-    {&Status::speed_red_in_recirc, QT_TRANSLATE_NOOP("QuvProtocol", "Speed reduced in recirculation")},
-};
-
-constexpr quv::Change<Status> changes[] = {
-    {&Status::tinting, QT_TRANSLATE_NOOP("QuvProtocol", "Tinting in progress"), "Tinting not in progress"},
-    {&Status::recirculating, QT_TRANSLATE_NOOP("QuvProtocol", "Recirculation in progress"),
-     "Recirculation not in progress"},
-    {&Status::stirring, QT_TRANSLATE_NOOP("QuvProtocol", "Stirring in progress"), "Stirring not in progress"},
-    {&Status::valve_on, QT_TRANSLATE_NOOP("QuvProtocol", "At least one valve ON"), "No valve open"},
-    {&Status::cap_open, QT_TRANSLATE_NOOP("QuvProtocol", "Autocap opened"), "Autocap closed"},
-    {&Status::bellow_up, QT_TRANSLATE_NOOP("QuvProtocol", "Bellows up"), "No bellows up"},
-    {&Status::no_24_voltage, QT_TRANSLATE_NOOP("QuvProtocol", "24V absent"), "24V power ON"},
-    {&Status::no_48_voltage, QT_TRANSLATE_NOOP("QuvProtocol", "48V absent"), "48V power ON"},
-    {&Status::punching, QT_TRANSLATE_NOOP("QuvProtocol", "Punching in progress"), "Punching not in progress"},
-    {&Status::slave_scan, QT_TRANSLATE_NOOP("QuvProtocol", "Slave scan in progress"),
-     "Slave scan not in progress"},
-    {&Status::post_erogation, QT_TRANSLATE_NOOP("QuvProtocol", "Post dispensing in progress"),
-     "Post dispensing not in progress"},
-    {&Status::turntable_moving, QT_TRANSLATE_NOOP("QuvProtocol", "Turntable moving"), "Turntable idle"},
-    {&Status::cleaning, QT_TRANSLATE_NOOP("QuvProtocol", "Cleaning in progress"), "Cleaning not in progress"},
-    {&Status::formula_interrupted, QT_TRANSLATE_NOOP("QuvProtocol", "Formula interrupted present"),
-     "No formula interrupted present"},
-    {&Status::nozzle_valve_working_pos, QT_TRANSLATE_NOOP("QuvProtocol", "Nozzle valve in working position"),
-     "Nozzle valve in rest position"},
-    {&Status::nozzle_valve_open_accurate, QT_TRANSLATE_NOOP("QuvProtocol", "Nozzle valve open (precise)"),
-     "Nozzle valve open (swift)"},
-    {&Status::canister_lvl_critical,
-     QT_TRANSLATE_NOOP("QuvProtocol", "One or more canister under critical level"), "Canister levels ok"},
-    {&Status::new_cleaning_stats, QT_TRANSLATE_NOOP("QuvProtocol", "New cleaning stats available"),
-     "No cleaning stats available"},
-};
+constexpr quv::Refusal flagMissing = {"DE00026", "DispenserStatusAnswer: expected %1 value"};
 
 constexpr quv::FamilyGate machineMovementsMask[] = {{63, 37}, {69, 1}};
 constexpr quv::FamilyGate headCanDoseStatus[] = {{63, 37}, {70, 1}, {72}};
 
-using Row = quv::Member<Status>;
+/** The only head's line, for machines that have but one. */
+constexpr char readyToDispense[] = QT_TRANSLATE_NOOP("QuvProtocol", "Ready to dispense");
 
-Row required(const char *key, bool Status::*field)
+/** The dispenser's own members. */
+std::vector<quv::Member<Status>> ownMembers()
 {
-    return {key, field, "DE00026", "DispenserStatusAnswer: expected %1 value"};
-}
-
-/** A capping station's flag travels under the property name of its variable. */
-Row cappingStation(const char *variable, bool Status::*field)
-{
-    return {stringVariableToStringProperty(variable).toStdString(), field};
-}
-
-/** The dispenser's own members, in the order in which they are read. */
-std::vector<Row> ownRows()
-{
-    return {
-        required("tinting", &Status::tinting),
-        required("recirculating", &Status::recirculating),
-        required("stirring", &Status::stirring),
-        required("valve_on", &Status::valve_on),
-        required("cap_open", &Status::cap_open),
-        required("bellow_up", &Status::bellow_up),
-        required("no_24_voltage", &Status::no_24_voltage),
-        required("no_48_voltage", &Status::no_48_voltage),
-        required("punching", &Status::punching),
-        {"slave_scan", &Status::slave_scan},
-        {"post_erogation", &Status::post_erogation},
-        {"turntable_moving", &Status::turntable_moving},
-        {"cleaning", &Status::cleaning},
-        {"formula_interrupted", &Status::formula_interrupted},
-        {"nozzle_valve_working_pos", &Status::nozzle_valve_working_pos},
-        {"circuit_fin_presence", &Status::circuit_fin_presence},
-        {"airpurge", &Status::airpurge},
-        {"head1_can_dose", &Status::head1_can_dose},
-        {"head2_can_dose", &Status::head2_can_dose},
-        {"predispensing", &Status::predispensing},
-        {"pumping", &Status::pumping, nullptr, nullptr, quv::Read | quv::Write},
-        {"nozzle_moving", &Status::nozzle_moving},
-        {"nozzle_valve_open_accurate", &Status::nozzle_valve_open_accurate},
-        {"canister_lvl_critical", &Status::canister_lvl_critical},
-        {"new_cleaning_stats", &Status::new_cleaning_stats},
-        {"stall_low", &Status::stall_low},
-        {"stall_high", &Status::stall_high},
-        {"check_level_in_progress", &Status::check_level_in_progress},
-        {"speed_red_in_recirc", &Status::speed_red_in_recirc},
-        {"plc_start_activated", &Status::plc_start_activated},
-        {"plc_stop_activated", &Status::plc_stop_activated},
-        {"current_position_id", &Status::current_position_id},
-        {"current_position_id_zone", &Status::current_position_id_zone},
-        cappingStation("m_zdr_mixingInProgress", &Status::m_zdr_mixingInProgress),
-        cappingStation("m_zdr_openingPlatesInProgress", &Status::m_zdr_openingPlatesInProgress),
-        cappingStation("m_zdr_closingPlatesInProgress", &Status::m_zdr_closingPlatesInProgress),
-        cappingStation("m_zdr_pluggingInProgress", &Status::m_zdr_pluggingInProgress),
-        cappingStation("m_zdr_canCentered", &Status::m_zdr_canCentered),
-        cappingStation("m_zdr_plasticPlugReserve", &Status::m_zdr_plasticPlugReserve),
-        cappingStation("m_zdr_plasticPlugNotMounted", &Status::m_zdr_plasticPlugNotMounted),
-        cappingStation("m_zdr_homePosition", &Status::m_zdr_homePosition),
-        {"machine_turned_off", &Status::machine_turned_off, nullptr, nullptr, quv::Write},
-        {"machine_unlocked", &Status::machine_unlocked, nullptr, nullptr, quv::Write},
-    };
+    using Member = quv::Member<Status>;
+    std::vector<Member> members = quv::membersOf(flags, flagMissing);
+    members.emplace_back("current_position_id", &Status::current_position_id);
+    members.emplace_back("current_position_id_zone", &Status::current_position_id_zone);
+    // the machine reads and compares them
+    members.push_back(Member("machine_turned_off", &Status::machine_turned_off).uses(quv::Write));
+    members.push_back(Member("machine_unlocked", &Status::machine_unlocked).uses(quv::Write));
+    return members;
 }
 
 const quv::Record<Status> &ownRecord()
 {
-    static const quv::Record<Status> record(ownRows());
+    static const quv::Record<Status> record(ownMembers());
     return record;
 }
 
 /** The machine's members and the dispenser's: the whole struct, for writing. */
 const quv::Record<Status> &wholeRecord()
 {
-    static const quv::Record<Status> record(quv::joinedRows(quv::machineStatusRecord(), ownRecord()));
+    static const quv::Record<Status> record(quv::machineStatusRecord(), ownMembers());
     return record;
 }
 
@@ -311,7 +229,8 @@ const quv::Refusal *DispenserStatusAnswer::decodeWords(const QStringList &tokens
         }
         decoded = word.number;
     }
-    quv::applyWords<bits>(masks.data(), decoded, *this);
+    quv::applyWords<machineBits>(masks.data(), decoded, *this);
+    quv::applyWords<flags>(masks.data(), decoded, *this);
     return refusal;
 }
 
@@ -324,12 +243,15 @@ QList<QPair<QString, bool>> DispenserStatusAnswer::getStatusDescriptions(const F
 {
     const auto *dispenser = dynamic_cast<const FW_Dispenser *>(machine);
     QList<QPair<QString, bool>> descriptions = getMachineStatusDescriptions(SerialDeviceType::Dispenser);
-    quv::describeConditions(conditionsBeforeHeads, *this, true, descriptions);
-    if (dispenser && !dispenser->hasMultipleHead())
-        quv::describeConditions(onlyHeadCondition, *this, true, descriptions);
-    else
-        quv::describeConditions(headConditions, *this, true, descriptions);
-    quv::describeConditions(conditionsAfterHeads, *this, true, descriptions);
+    const bool onlyOneHead = dispenser && !dispenser->hasMultipleHead();
+    for (const auto &row : flags) {
+        if (!row.has(quv::Lasting) || !(this->*row.flag))
+            continue;
+        if (onlyOneHead && row.flag == &Status::head2_can_dose)
+            continue;
+        const char *text = onlyOneHead && row.flag == &Status::head1_can_dose ? readyToDispense : row.on;
+        descriptions.append({quv::translated(text), row.has(quv::Bad)});
+    }
     return descriptions;
 }
 
@@ -381,7 +303,7 @@ QList<QString> DispenserStatusAnswer::getNewStatesDescriptions(const DispenserSt
 {
     QList<QString> descriptions = getNewMachineStatesDescriptions(SerialDeviceType::Dispenser, before, after);
     if (before && after)
-        quv::describeChanges(changes, *before, *after, true, descriptions);
+        quv::describeChanges(flags, *before, *after, descriptions);
     return descriptions;
 }
 

@@ -14,8 +14,8 @@ using Status = MachineStatusAnswer;
 
 constexpr char flagCode[] = "DE00026";
 constexpr char intCode[] = "DE02667";
-constexpr char ofMachine[] = "MachineStatusAnswer: expected %1 value";
-constexpr char ofDispenser[] = "DispenserStatusAnswer: expected %1 value";
+constexpr quv::Refusal ofMachine = {flagCode, "MachineStatusAnswer: expected %1 value"};
+constexpr quv::Refusal ofDispenser = {flagCode, "DispenserStatusAnswer: expected %1 value"};
 
 constexpr quv::Condition<Status> conditions[] = {
     {&Status::emergency_pressed, QT_TRANSLATE_NOOP("QuvProtocol", "Emergency button pressed"), true},
@@ -114,33 +114,32 @@ const quv::Record<MachineStatusAnswer> &quv::machineStatusRecord()
 {
     // Flags that came with later firmware are optional, so that a client understands an older driver.
     static const Record<Status> record({
-        {"disp_status", &Status::disp_status, "DE00443", "MachineStatusAnswer: expected disp_status value"},
-        {"offline_pressed", &Status::offline_pressed, flagCode, ofMachine},
-        {"board_not_initialized", &Status::board_not_initialized, flagCode, ofMachine},
-        {"startup", &Status::startup, flagCode, ofMachine},
-        {"resetting", &Status::resetting, flagCode, ofMachine},
-        {"BL_active", &Status::BL_active, flagCode, ofMachine},
-        {"BL_memory_resetting", &Status::BL_memory_resetting, flagCode, ofMachine},
-        {"BL_fw_update", &Status::BL_fw_update, flagCode, ofMachine},
-        {"conf_writing", &Status::conf_writing, flagCode, ofMachine},
-        {"hw_error", &Status::hw_error, flagCode, ofMachine},
-        {"conf_error", &Status::conf_error, flagCode, ofMachine},
-        {"process_error", &Status::process_error, flagCode, ofMachine},
-        {"stop_process", &Status::stop_process, flagCode, ofMachine},
-        {"disp_info_writing", {}, nullptr, nullptr, Write}, // old clients ask for it
-        {"disp_info_erasing", {}, nullptr, nullptr, Write}, // old clients ask for it
+        {"disp_status", &Status::disp_status, {"DE00443", "MachineStatusAnswer: expected disp_status value"}},
+        {"offline_pressed", &Status::offline_pressed, ofMachine},
+        {"board_not_initialized", &Status::board_not_initialized, ofMachine},
+        {"startup", &Status::startup, ofMachine},
+        {"resetting", &Status::resetting, ofMachine},
+        {"BL_active", &Status::BL_active, ofMachine},
+        {"BL_memory_resetting", &Status::BL_memory_resetting, ofMachine},
+        {"BL_fw_update", &Status::BL_fw_update, ofMachine},
+        {"conf_writing", &Status::conf_writing, ofMachine},
+        {"hw_error", &Status::hw_error, ofMachine},
+        {"conf_error", &Status::conf_error, ofMachine},
+        {"process_error", &Status::process_error, ofMachine},
+        {"stop_process", &Status::stop_process, ofMachine},
+        Member<Status>::alwaysFalse("disp_info_writing"), // old clients ask for it
+        Member<Status>::alwaysFalse("disp_info_erasing"), // old clients ask for it
         {"new_buffered_error", &Status::new_buffered_error},
         {"dispenser_not_ready", &Status::dispenser_not_ready},
-        {"emergency_pressed", &Status::emergency_pressed, flagCode, ofMachine},
+        {"emergency_pressed", &Status::emergency_pressed, ofMachine},
         {"normal_wm", &Status::normal_wm},
-        {"can_present", &Status::can_present, flagCode,
-         ofDispenser}, // users know it under the dispenser's name
-        {"shelf_up", &Status::shelf_up, flagCode, ofMachine},
-        {"shelf_down", &Status::shelf_down, flagCode, ofMachine},
-        {"WM_set", {}, nullptr, nullptr, Write}, // old clients ask for it
+        {"can_present", &Status::can_present, ofDispenser}, // users know it under the dispenser's name
+        {"shelf_up", &Status::shelf_up, ofMachine},
+        {"shelf_down", &Status::shelf_down, ofMachine},
+        Member<Status>::alwaysFalse("WM_set"), // old clients ask for it
         {"door_open", &Status::door_open},
-        {"machine_turned_off", &Status::machine_turned_off, nullptr, nullptr, Read | Compare},
-        {"machine_unlocked", &Status::machine_unlocked, nullptr, nullptr, Read | Compare},
+        Member<Status>("machine_turned_off", &Status::machine_turned_off).uses(Read | Compare),
+        Member<Status>("machine_unlocked", &Status::machine_unlocked).uses(Read | Compare),
     });
     return record;
 }

@@ -23,14 +23,15 @@ struct Wash
     template <class Self, class Archive>
     static void arguments(Self &self, Archive &archive)
     {
-        archive.required(self.circuit, {"V1", "L1", "Circuit missing"},
+        archive.required("circuit", self.circuit, {"V1", "L1", "Circuit missing"},
                          {"V2", "L2", "Circuit: int expected"});
-        archive.required(self.name, {"V3", "L3", "Name missing"}, {"V4", "L4", "Name: text expected"});
-        archive.optional(self.warm, {"V5", "L5", "Warm: bool expected"});
-        archive.optional(self.share, {"V6", "L6", "Share: number expected"});
-        archive.optional(self.stamp, {"V7", "L7", "Stamp: int expected"});
-        archive.optional(self.notes, {"V8", "L8", "Notes: texts expected"});
-        archive.optional(self.steps, {"V9", "L9", "Steps: ints expected"});
+        archive.required("name", self.name, {"V3", "L3", "Name missing"},
+                         {"V4", "L4", "Name: text expected"});
+        archive.optional("warm", self.warm, {"V5", "L5", "Warm: bool expected"});
+        archive.optional("share", self.share, {"V6", "L6", "Share: number expected"});
+        archive.optional("stamp", self.stamp, {"V7", "L7", "Stamp: int expected"});
+        archive.optional("notes", self.notes, {"V8", "L8", "Notes: texts expected"});
+        archive.optional("steps", self.steps, {"V9", "L9", "Steps: ints expected"});
     }
 };
 
@@ -50,6 +51,14 @@ Wash readList(const List &list)
     quv::ListReader reader(list, signature);
     Wash::arguments(wash, reader);
     return wash;
+}
+
+Value written(const Wash &wash)
+{
+    Value array;
+    quv::ValueWriter writer(array);
+    Wash::arguments(wash, writer);
+    return array;
 }
 
 void expectValueRefused(const char *code, const char *text, const Value &value)
@@ -163,12 +172,9 @@ TEST(Arguments, AreWrittenInOrder)
     wash.notes = QStringList{"a", "b"};
     wash.steps = {1, 2};
 
-    quv::ValueWriter values;
-    Wash::arguments(wash, values);
-    bool ok = false;
-    EXPECT_EQ(dumped(values.result(&ok)), R"([5, "north", true, 0.250000, 12, ["a", "b"], [1, 2]])");
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(values.result(nullptr).size(), 7);
+    const Value values = written(wash);
+    EXPECT_EQ(dumped(values), R"([5, "north", true, 0.250000, 12, ["a", "b"], [1, 2]])");
+    EXPECT_EQ(values.size(), 7);
 
     quv::ListWriter variants;
     Wash::arguments(wash, variants);
@@ -184,14 +190,15 @@ TEST(Arguments, AreWrittenInOrder)
     EXPECT_EQ(list.at(0).userType(), QMetaType::Int);
     EXPECT_EQ(list.at(4).userType(), QMetaType::LongLong);
 
-    expectFull(readValue(values.result(nullptr)));
+    expectFull(readValue(values));
     expectFull(readList(list));
 }
 
 TEST(Arguments, NoneAreAnEmptyArray)
 {
-    const quv::ValueWriter values;
-    EXPECT_EQ(dumped(values.result(nullptr)), "[]");
+    Value none;
+    const quv::ValueWriter writer(none);
+    EXPECT_EQ(dumped(none), "[]");
     EXPECT_EQ(quv::ListWriter().result(), List());
 }
 
@@ -199,10 +206,8 @@ TEST(Arguments, WrittenTextIsUtf8)
 {
     Wash wash;
     wash.name = QString::fromUtf8("Größe");
-    quv::ValueWriter values;
-    Wash::arguments(wash, values);
-    EXPECT_EQ(dumped(values.result(nullptr)[1]), "\"Gr\xC3\xB6\xC3\x9F"
-                                                 "e\"");
+    EXPECT_EQ(dumped(written(wash)[1]), "\"Gr\xC3\xB6\xC3\x9F"
+                                        "e\"");
 }
 
 TEST(Arguments, convertsWhatAnIntCanHold)

@@ -34,16 +34,16 @@ const quv::Record<Valve> &valveRecord()
 {
     // not sorted: refusals come in this order, whatever the struct's
     static const quv::Record<Valve> record({
-        {"position", &Valve::position, "DE1", expected},
-        {"open", &Valve::open, "DE2", expected},
+        {"position", &Valve::position, {"DE1", expected}},
+        {"open", &Valve::open, {"DE2", expected}},
         {"cycles", &Valve::cycles},
-        {"flow", &Valve::flow, "DE3", "The flow is missing"},
+        {"flow", &Valve::flow, {"DE3", "The flow is missing"}},
         {"label", &Valve::label},
         {"notes", &Valve::notes},
         {"steps", &Valve::steps},
-        {"hidden", &Valve::hidden, nullptr, nullptr, quv::Read | quv::Compare},
-        {"ignored", &Valve::ignored, nullptr, nullptr, quv::Read | quv::Write},
-        {"legacy", {}, nullptr, nullptr, quv::Write},
+        Row("hidden", &Valve::hidden).uses(quv::Read | quv::Compare),
+        Row("ignored", &Valve::ignored).uses(quv::Read | quv::Write),
+        Row::alwaysFalse("legacy"),
     });
     return record;
 }
@@ -222,7 +222,7 @@ TEST(Record, ResetEmptiesWhatIsRead)
 
 TEST(Record, ResetLeavesWhatIsOnlyWritten)
 {
-    const quv::Record<Valve> record({{"open", &Valve::open, "DE1", expected, quv::Write}});
+    const quv::Record<Valve> record({Row("open", &Valve::open, {"DE1", expected}).uses(quv::Write)});
     Valve valve = fullValve();
     record.reset(valve);
     EXPECT_TRUE(valve.open);
@@ -233,8 +233,8 @@ TEST(Record, ResetLeavesWhatIsOnlyWritten)
 
 TEST(Record, OfADerivedClassBeginsWithTheBase)
 {
-    const quv::Record<LockedValve> own({{"locked", &LockedValve::locked, "DE9", "Locked: %1 missing"}});
-    const quv::Record<LockedValve> record(quv::joinedRows(valveRecord(), own));
+    const quv::Record<LockedValve> record(valveRecord(),
+                                          {{"locked", &LockedValve::locked, {"DE9", "Locked: %1 missing"}}});
     EXPECT_EQ(record.rows().size(), 11U);
     LockedValve valve;
     record.decode(structOf({{"open", true}, {"position", 3}, {"flow", 2}, {"locked", true}}), valve,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "base/arguments_p.h"
+#include "base/decoding_p.h"
 
 #include <cmath>
 #include <limits>

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "base/arguments_p.h"
+#include "base/fieldtype_p.h"
+#include "catalogue/commandfacts.h"
+
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
+
+namespace quv {
+
+/** Adds the refusal, if it has a code. */
+void appendRefusal(QList<RefusalFacts> &refusals, const char *form, const char *when, const Refusal &refusal);
+
+/** What people call an object that is an argument. */
+template <class T>
+inline constexpr const char *nameOf = "struct";
+
+/** Tells the arguments of a command that was built without any to those who explain it. */
+class ArgumentTeller
+{
+public:
+    explicit ArgumentTeller(CommandFacts &facts) : m_facts(facts) { facts.tellsArguments = true; }
+
+    template <class T>
+    void required(const ArgumentName &name, const T &, const ArgumentRefusal &absent,
+                  const ArgumentRefusal &otherType)
+    {
+        tell(name, fieldType<T>().name);
+        refuse("missing", absent);
+        refuse("another type", otherType);
+    }
+
+    template <class T>
+    void optional(const ArgumentName &name, const T &field, const ArgumentRefusal &otherType)
+    {
+        tell(name, fieldType<T>().name);
+        m_facts.arguments.last().optional = true;
+        m_facts.arguments.last().defaultValue = EncodeXmlRpcVariant(QVariant::fromValue(field));
+        refuse("another type", otherType);
+    }
+
+    template <class T>
+    void convertible(const ArgumentName &name, const T &, const ArgumentRefusal &refusal)
+    {
+        tell(name, fieldType<T>().name);
+        refuse("missing or another type", refusal);
+    }
+
+    template <class T>
+    void object(const ArgumentName &name, const T &, const ArgumentRefusal &refusal,
+                const Refusal &unreadable)
+    {
+        tell(name, nameOf<T>);
+        refuse("missing or another type", refusal);
+        refuse("list", "unreadable", unreadable);
+    }
+
+    void refuseUnless(bool, const ArgumentRefusal &refusal) { refuse("out of range", refusal); }
+
+    template <class Check>
+    void whenRead(Check) const
+    {}
+
+private:
+    void tell(const ArgumentName &name, const char *type);
+    void refuse(const char *when, const ArgumentRefusal &refusal);
+    void refuse(const char *form, const char *when, const Refusal &refusal);
+
+    CommandFacts &m_facts;
+};
+
+/** The name of a class as it stands in the sources. */
+QString nameOfClass(const std::type_info &type);
+
+template <class Answer, class = void>
+inline constexpr bool tellsMembers = false;
+template <class Answer>
+inline constexpr bool tellsMembers<Answer, std::void_t<decltype(Answer::memberFacts())>> = true;
+
+/** Tells the class of an answer, its members, and what failures to make it are called. */
+template <class Answer, class Ways>
+void tellAnswer(const Ways &ways, CommandFacts &facts)
+{
+    facts.answerClass = nameOfClass(typeid(Answer));
+    if constexpr (tellsMembers<Answer>) {
+        facts.tellsMembers = true;
+        facts.members = Answer::memberFacts();
+    }
+    const std::pair<const char *, Refusal> refusals[] = {
+        {"tokens", ways.tokens}, {"XML-RPC", ways.value}, {"list", ways.list}, {"envelope", ways.envelope}};
+    for (const auto &[form, refusal] : refusals)
+        appendRefusal(facts.answerRefusals, form, "", refusal);
+}
+
+} // namespace quv

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/fieldtype_p.h"
+
+#include "base/decoding_p.h"
+
+namespace quv {
+
+namespace {
+
+using XmlRpc::XmlRpcValue;
+
+template <class V>
+Decoded read(const XmlRpcValue &value, void *field)
+{
+    return DecodeXmlRpcValue(value, *static_cast<V *>(field)) ? Decoded::Good : Decoded::OtherType;
+}
+
+template <class V>
+Decoded readArray(const XmlRpcValue &value, void *field)
+{
+    const Decoded decoded = read<V>(value, field);
+    return decoded != Decoded::Good && value.getType() == XmlRpcValue::TypeArray ? Decoded::BadElement
+                                                                                 : decoded;
+}
+
+template <class V>
+bool readVariant(const QVariant &variant, void *field)
+{
+    return decodeVariant(variant, *static_cast<V *>(field));
+}
+
+template <class V>
+void writePlain(const void *field, XmlRpcValue &value)
+{
+    value = *static_cast<const V *>(field);
+}
+
+template <class V>
+void writeVariant(const void *field, XmlRpcValue &value)
+{
+    value = EncodeXmlRpcVariant(QVariant::fromValue(*static_cast<const V *>(field)));
+}
+
+void writeCutToInt(const void *field, XmlRpcValue &value)
+{
+    value = static_cast<int>(*static_cast<const long long *>(field));
+}
+
+template <class V, class Read, class Write>
+constexpr FieldType describe(const char *name, Read reader, Write writer,
+                             FieldType::Speed speed = FieldType::Other)
+{
+    return {name, speed, reader, readVariant<V>, writer, equalFields<V>, resetField<V>};
+}
+
+} // namespace
+
+template <>
+const FieldType &fieldType<bool>()
+{
+    static constexpr FieldType type = describe<bool>("bool", read<bool>, writePlain<bool>, FieldType::Flag);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<int>()
+{
+    static constexpr FieldType type = describe<int>("int", read<int>, writePlain<int>, FieldType::Int);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<long long>()
+{
+    static constexpr FieldType type = describe<long long>("int", read<long long>, writeVariant<long long>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<double>()
+{
+    static constexpr FieldType type = describe<double>("double", read<double>, writePlain<double>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QString>()
+{
+    static constexpr FieldType type = describe<QString>("string", read<QString>, writeVariant<QString>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QStringList>()
+{
+    static constexpr FieldType type =
+        describe<QStringList>("array of strings", readArray<QStringList>, writeVariant<QStringList>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QList<int>>()
+{
+    static constexpr FieldType type =
+        describe<QList<int>>("array of ints", readArray<QList<int>>, writeVariant<QList<int>>);
+    return type;
+}
+
+const FieldType &cutToInt()
+{
+    static constexpr FieldType type = describe<long long>("int", read<long long>, writeCutToInt);
+    return type;
+}
+
+} // namespace quv

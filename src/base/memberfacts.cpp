@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/memberfacts_p.h"
+
+#include "base/argumentteller_p.h"
+
+namespace quv {
+
+namespace {
+
+bool isSame(const Refusal &a, const Refusal &b)
+{
+    return qstrcmp(a.code, b.code) == 0 && qstrcmp(a.text, b.text) == 0;
+}
+
+MemberFacts factsOf(const MemberRow &row)
+{
+    MemberFacts member;
+    member.key = QString::fromUtf8(row.key);
+    member.type = QString::fromLatin1(row.type ? row.type->name : fieldType<bool>().name);
+    member.meaning = QString::fromUtf8(row.type ? row.meaning : "always false");
+    member.required = isGiven(row.missing);
+    if (isSame(row.missing, row.otherType)) {
+        appendRefusal(member.refusals, "XML-RPC", "missing or another type", row.missing);
+    } else {
+        appendRefusal(member.refusals, "XML-RPC", "missing", row.missing);
+        appendRefusal(member.refusals, "XML-RPC", "another type", row.otherType);
+    }
+    if (!isSame(row.element, row.otherType))
+        appendRefusal(member.refusals, "XML-RPC", "an element of another type", row.element);
+    appendRefusal(member.refusals, "list", "missing or another type", row.inList);
+    for (RefusalFacts &refusal : member.refusals)
+        refusal.text.replace(QLatin1String("%1"), member.key);
+    return member;
+}
+
+} // namespace
+
+QList<MemberFacts> factsOf(const std::vector<MemberRow> &rows)
+{
+    QList<MemberFacts> members;
+    for (const MemberRow &row : rows) {
+        if (row.uses & Write)
+            members.append(factsOf(row));
+    }
+    return members;
+}
+
+} // namespace quv
