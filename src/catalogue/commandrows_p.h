@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "catalogue/protocommandlist.h"
+
+#include <array>
+
+namespace quv::catalogue {
+
+/** Who carries a command out: the values of CMD_STRUCT::type. */
+enum CommandType : int {
+    Serial = 0,
+    Configuration = 1,
+    SerialAndConfiguration = 2,
+    ConfigurationAndSerial = 3,
+    Special = 4,
+    SpecialAndSerial = 5,
+    SpecialAndConfiguration = 6,
+    Scale = 7
+};
+
+using Rows = std::array<CMD_STRUCT, ProtoCommandList::rowCount>;
+
+const Rows &rows();
+
+} // namespace quv::catalogue
