@@ -5,7 +5,9 @@
 
 #include <array>
 
-namespace quv::catalogue {
+namespace quv {
+
+namespace catalogue {
 
 /** Who carries a command out: the values of CMD_STRUCT::type. */
 enum CommandType : int {
@@ -23,4 +25,9 @@ using Rows = std::array<CMD_STRUCT, ProtoCommandList::rowCount>;
 
 const Rows &rows();
 
-} // namespace quv::catalogue
+} // namespace catalogue
+
+/** What the command of a row is for: a plain sentence without a full stop. Null outside the rows. */
+QUVPROTOCOL_EXPORT const char *commandPurpose(int row);
+
+} // namespace quv
