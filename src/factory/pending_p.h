@@ -2,9 +2,7 @@
 #pragma once
 
 #include "catalogue/protocommandlist.h"
-
-#include <QtCore/QList>
-#include <QtCore/QVariant>
+#include "factory/commandtables_p.h"
 
 #include <vector>
 
@@ -13,12 +11,6 @@ namespace quv {
 // What is still to come. A row of the factory whose class does not exist yet is listed here, and nowhere else: the factory
 // gives the plain command of its kind for it, with the arguments counted and kept, and an answer class that does not exist
 // yet is a plain answer. Whoever adds a class moves its rows from here to the table of its dispatch operation.
-
-/** The dispatch operations of ProtoCommandList that have tables of their own. */
-enum class Dispatch { Serial, DispenserSerial, MixerSerial, Config, DispenserConfig, MixerConfig, Scale };
-
-/** The two forms in which arguments come; the values are bits. */
-enum Form : unsigned { ValueForm = 1, ListForm = 2, BothForms = ValueForm | ListForm };
 
 struct PendingCommand
 {

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/getcmdestimatedexectimecmd.h"
+#include "base/getcommandstatuscmd.h"
+#include "dispensing/checkformulalevelscmd.h"
+#include "dispensing/genericformulacmd.h"
+#include "dispensing/getdispensedformulaconfcmd.h"
+#include "dispensing/getformulacircuitscmd.h"
+#include "dispensing/setlevelscmd.h"
+#include "factory/commandtables_p.h"
+
+namespace quv {
+
+using Cmd = ProtoCommandList;
+
+// What reads a formula takes the machine along only when it comes as a value; as a list it is a row of the general table.
+
+constexpr CommandTable<ConfProtoCommand> configTable{
+    Dispatch::Config,
+    {
+        {Cmd::GET_CMD_STATUS, fromArguments<GetCommandStatusCmd>()},
+        {Cmd::SET_LEVELS, fromArguments<SetLevelsCmd, ListForm>()},
+        {Cmd::CHECK_FORMULA_LEVELS, fromArguments<CheckFormulaLevelsCmd, ListForm>()},
+        {Cmd::GET_FORMULA_CIRCUITS, fromArguments<GetFormulaCircuitsCmd, ListForm>()},
+        {Cmd::GET_LOW_LEVEL_FORMULA, fromNameAndArguments<GenericFormulaCmd, ListForm>()},
+        {Cmd::GET_FORMULA_EXECUTION, fromNameAndArguments<GenericFormulaCmd, ListForm>()},
+        {Cmd::GET_DISPENSED_FORMULA, fromArguments<GetDispensedFormulaConfCmd>()},
+    }};
+
+constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{
+    Dispatch::DispenserConfig,
+    {
+        {Cmd::CLOSE_SERIAL, fromNameArgumentsAndMachine<ConfProtoCommand, ListForm>()},
+        {Cmd::SET_LEVELS, fromArgumentsAndMachine<SetLevelsCmd, ValueForm>()},
+        {Cmd::CHECK_FORMULA_LEVELS, fromArgumentsAndMachine<CheckFormulaLevelsCmd, ValueForm>()},
+        {Cmd::GET_FORMULA_CIRCUITS, fromArgumentsAndMachine<GetFormulaCircuitsCmd, ValueForm>()},
+        {Cmd::GET_LOW_LEVEL_FORMULA, fromNameArgumentsAndMachine<GenericFormulaCmd, ValueForm>()},
+        {Cmd::GET_FORMULA_EXECUTION, fromNameArgumentsAndMachine<GenericFormulaCmd, ValueForm>()},
+        {Cmd::GET_CMD_EST_EXEC_TIME, fromArgumentsAndMachine<GetCmdEstimatedExecTimeCmd>()},
+    }};
+
+constexpr CommandTable<ConfProtoCommand> mixerConfigTable{
+    Dispatch::MixerConfig,
+    {
+        {Cmd::GET_CMD_EST_EXEC_TIME, fromArgumentsAndMachine<GetCmdEstimatedExecTimeCmd>()},
+    }};
+
+} // namespace quv

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "configuration/getconfigcmdscmd.h"
+#include "configuration/readconfigurationparamcmd.h"
+#include "configuration/writeconfigurationparamcmd.h"
+#include "dispensing/airpurgecmd.h"
+#include "dispensing/channeltintcmd.h"
+#include "dispensing/getdispensedformulaserialcmd.h"
+#include "dispensing/pack2cmd.h"
+#include "dispensing/packcmd.h"
+#include "dispensing/priming2cmd.h"
+#include "dispensing/primingcmd.h"
+#include "dispensing/purgeformulacmd.h"
+#include "dispensing/tintcmd.h"
+#include "factory/commandtables_p.h"
+#include "processes/autocapcmd.h"
+#include "status/dispenserstatuscmd.h"
+
+namespace quv {
+
+using Cmd = ProtoCommandList;
+
+constexpr CommandTable<SerialProtoCommand> serialTable{
+    Dispatch::Serial,
+    {
+        {Cmd::GET_ERRORS, fromName<SerialProtoCommand>()},
+        {Cmd::WRITE_CONFIG_ROW, fromArguments<WriteConfigurationParamCmd>()},
+        {Cmd::READ_CONFIG_ROW, fromArguments<ReadConfigurationParamCmd>()},
+        {Cmd::GET_CONFIG_CMDS, fromArguments<GetConfigCmdsCmd>()},
+        {Cmd::FINALIZE_CONFIG, fromName<SerialProtoCommand>()},
+        {Cmd::GET_SENSORS_STATUS, fromName<SerialProtoCommand>()},
+        {Cmd::CLOSE_SERIAL, fromName<SerialProtoCommand>()},
+    }};
+
+constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
+    Dispatch::DispenserSerial,
+    {
+        {Cmd::GET_STATUS, fromArguments<DispenserStatusCmd>()},
+        {Cmd::AUTOCAP_MOVE, fromArguments<AutocapCmd>()},
+        {Cmd::TINT, fromArgumentsAndDispenser<TintCmd>()},
+        {Cmd::PRIMING, fromArgumentsAndDispenser<PrimingCmd>()},
+        {Cmd::PACK, fromArgumentsAndDispenser<PackCmd>()},
+        {Cmd::PURGE, fromArgumentsAndDispenser<PurgeFormulaCmd>()},
+        {Cmd::CHANNEL_TINT, fromArgumentsAndDispenser<ChannelTintCmd>()},
+        {Cmd::GET_DISPENSED_FORMULA, fromArguments<GetDispensedFormulaSerialCmd>()},
+        {Cmd::PRIMING2, fromArgumentsAndDispenser<Priming2Cmd>()},
+        {Cmd::PACK2, fromArgumentsAndDispenser<Pack2Cmd>()},
+        {Cmd::AIRPURGE, fromArgumentsAndDispenser<AirpurgeCmd>()},
+        {Cmd::GET_TURNTABLE_POSITIONS, fromName<SerialProtoCommand>()},
+    }};
+
+constexpr CommandTable<SerialProtoCommand> mixerSerialTable{Dispatch::MixerSerial, {}};
+
+} // namespace quv
