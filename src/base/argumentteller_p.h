@@ -24,6 +24,9 @@ class ArgumentTeller
 public:
     explicit ArgumentTeller(CommandFacts &facts) : m_facts(facts) { facts.tellsArguments = true; }
 
+    /** For arguments that no field holds, as structs that are taken apart. */
+    void argument(const ArgumentName &name, const char *type) { tell(name, type); }
+
     template <class T>
     void required(const ArgumentName &name, const T &, const ArgumentRefusal &absent,
                   const ArgumentRefusal &otherType)
@@ -80,15 +83,22 @@ inline constexpr bool tellsMembers = false;
 template <class Answer>
 inline constexpr bool tellsMembers<Answer, std::void_t<decltype(Answer::memberFacts())>> = true;
 
-/** Tells the class of an answer, its members, and what failures to make it are called. */
-template <class Answer, class Ways>
-void tellAnswer(const Ways &ways, CommandFacts &facts)
+/** Tells the class of an answer and its members. */
+template <class Answer>
+void tellAnswerClass(CommandFacts &facts)
 {
     facts.answerClass = nameOfClass(typeid(Answer));
     if constexpr (tellsMembers<Answer>) {
         facts.tellsMembers = true;
         facts.members = Answer::memberFacts();
     }
+}
+
+/** Tells the answer, and what a failure to make it is called. */
+template <class Answer, class Ways>
+void tellAnswer(const Ways &ways, CommandFacts &facts)
+{
+    tellAnswerClass<Answer>(facts);
     const std::pair<const char *, Refusal> refusals[] = {
         {"tokens", ways.tokens}, {"XML-RPC", ways.value}, {"list", ways.list}, {"envelope", ways.envelope}};
     for (const auto &[form, refusal] : refusals)

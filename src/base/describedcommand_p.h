@@ -36,6 +36,7 @@ using PlainlyAnswered = AnsweredBy<void>;
  *     static constexpr auto command = ProtoCommandList::FOO_BAR;       its row, always
  *     template <class Self, class Archive>
  *     static void arguments(Self &self, Archive &archive);              see base/arguments_p.h; without it those of the base
+ *     static void tellArguments(ArgumentTeller &teller);                in place of it, when the class reads them by hand
  *
  * and of what stands here whatever the command has of its own.
  */
@@ -54,6 +55,12 @@ template <class Leaf>
 inline constexpr bool describesArguments<Leaf, std::void_t<decltype(Leaf::Description::arguments(
                                                    std::declval<Leaf &>(), std::declval<ListWriter &>()))>> =
     true;
+
+template <class Leaf, class = void>
+inline constexpr bool tellsArguments = false;
+template <class Leaf>
+inline constexpr bool tellsArguments<
+    Leaf, std::void_t<decltype(Leaf::Description::tellArguments(std::declval<ArgumentTeller &>()))>> = true;
 
 template <class Leaf>
 inline constexpr auto answerOf = Leaf::Description::answer;
@@ -142,15 +149,19 @@ DescribedCommand<Leaf, Base>::~DescribedCommand() = default;
 template <class Leaf, class Base>
 void DescribedCommand<Leaf, Base>::read(const XmlRpc::XmlRpcValue &value, const char *function)
 {
-    ValueReader reader(value, function);
-    Leaf::Description::arguments(leaf(), reader);
+    if constexpr (describesArguments<Leaf>) {
+        ValueReader reader(value, function);
+        Leaf::Description::arguments(leaf(), reader);
+    }
 }
 
 template <class Leaf, class Base>
 void DescribedCommand<Leaf, Base>::read(const QList<QVariant> &list, const char *function)
 {
-    ListReader reader(list, function);
-    Leaf::Description::arguments(leaf(), reader);
+    if constexpr (describesArguments<Leaf>) {
+        ListReader reader(list, function);
+        Leaf::Description::arguments(leaf(), reader);
+    }
 }
 
 template <class Leaf, class Base>
@@ -242,7 +253,10 @@ TString DescribedCommand<Leaf, Base>::actionString(bool detailed) const
 template <class Leaf, class Base>
 void DescribedCommand<Leaf, Base>::tell(CommandFacts &facts)
 {
-    if constexpr (describesArguments<Leaf>) {
+    if constexpr (tellsArguments<Leaf>) {
+        ArgumentTeller teller(facts);
+        Leaf::Description::tellArguments(teller);
+    } else if constexpr (describesArguments<Leaf>) {
         const Leaf fresh;
         ArgumentTeller teller(facts);
         Leaf::Description::arguments(fresh, teller);

@@ -2,10 +2,9 @@
 #include "base/getcmdestimatedexectimecmd.h"
 
 #include "base/cloned_p.h"
+#include "base/describedcommand_p.h"
 #include "base/getcmdestimatedexectimeanswer.h"
 #include "base/guard_p.h"
-#include "base/replaceanswer_p.h"
-#include "catalogue/protocommandlist.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
 
@@ -13,11 +12,6 @@ namespace {
 
 constexpr char invalid[] = "Invalid parameters";
 constexpr char decodingFailed[] = "Errors during protocol command parameters decoding";
-
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::GET_CMD_EST_EXEC_TIME);
-}
 
 /** The array of the other command's name and arguments. */
 const XmlRpc::XmlRpcValue &commandAndParams(const XmlRpc::XmlRpcValue &value, const char *function)
@@ -67,16 +61,34 @@ std::unique_ptr<ProtoCommand> makeCommand(const QList<QVariant> &list, const FW_
 
 } // namespace
 
-GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd() : ConfProtoCommand(name(), nullptr) {}
+struct GetCmdEstimatedExecTimeCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::GET_CMD_EST_EXEC_TIME;
 
-GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(ProtoCommand *command) : GetCmdEstimatedExecTimeCmd()
+    // failures are the plain configuration command's
+    static constexpr quv::AnsweredBy<GetCmdEstimatedExecTimeAnswer> answer = {
+        {}, {"DE01297", quv::answerFailed}, {"DE00346", quv::answerFailed}, {}};
+
+    static void tellArguments(quv::ArgumentTeller &teller)
+    {
+        teller.argument(
+            {"command", "member \"command\": an array of the other command's name and its arguments"},
+            "struct");
+    }
+};
+
+template class quv::DescribedCommand<GetCmdEstimatedExecTimeCmd, ConfProtoCommand>;
+
+GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd() = default;
+
+GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(ProtoCommand *command)
 {
     setCommandToEstimate(command);
 }
 
 GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(const XmlRpc::XmlRpcValue &value,
                                                        const FW_Machine *machine)
-    : ConfProtoCommand(name(), value, machine)
+    : DescribedCommand(value, machine)
 {
     const char *function = Q_FUNC_INFO;
     try {
@@ -87,7 +99,7 @@ GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(const XmlRpc::XmlRpcValue
 }
 
 GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(QList<QVariant> list, const FW_Machine *machine)
-    : ConfProtoCommand(name(), list, machine)
+    : DescribedCommand(list, machine)
 {
     const char *function = Q_FUNC_INFO;
     try {
@@ -98,7 +110,7 @@ GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(QList<QVariant> list, con
 }
 
 GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(const GetCmdEstimatedExecTimeCmd &other)
-    : ConfProtoCommand(other),
+    : DescribedCommand(other),
       m_commandToEstimate(quv::cloned(other.m_commandToEstimate.get()))
 {}
 
@@ -125,18 +137,6 @@ XmlRpc::XmlRpcValue GetCmdEstimatedExecTimeCmd::xmlrpc_parameters(bool *ok) cons
     if (m_commandToEstimate)
         array[0][COMMAND_AND_PARAMS] = m_commandToEstimate->toXmlRpcValue(QString(), ok);
     return array;
-}
-
-bool GetCmdEstimatedExecTimeCmd::buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error)
-{
-    return replaceProtoAnswer("DE01297", quv::answerFailed, error,
-                              [&] { return new GetCmdEstimatedExecTimeAnswer(value); });
-}
-
-bool GetCmdEstimatedExecTimeCmd::buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error)
-{
-    return replaceProtoAnswer("DE00346", quv::answerFailed, error,
-                              [&] { return new GetCmdEstimatedExecTimeAnswer(list); });
 }
 
 void GetCmdEstimatedExecTimeCmd::setCommandToEstimate(ProtoCommand *command)

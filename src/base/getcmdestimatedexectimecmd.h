@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/confprotocommand.h"
+#include "base/describedcommand.h"
 
 #include <memory>
 
@@ -9,9 +10,12 @@
  * GET_CMD_EST_EXEC_TIME: asks how long another command would take. Over XML-RPC its one argument is a struct with the member
  * "command", an array of the other command's name and arguments; in a list the name comes first and then the arguments.
  */
-class QUVPROTOCOL_EXPORT GetCmdEstimatedExecTimeCmd : public ConfProtoCommand
+class QUVPROTOCOL_EXPORT GetCmdEstimatedExecTimeCmd
+    : public quv::DescribedCommand<GetCmdEstimatedExecTimeCmd, ConfProtoCommand>
 {
 public:
+    struct Description;
+
     static constexpr char COMMAND_AND_PARAMS[] = "command";
 
     GetCmdEstimatedExecTimeCmd();
@@ -27,10 +31,6 @@ public:
 
     QList<QVariant> parameters() const override;
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
-
-    using ConfProtoCommand::buildProtoAnswer;
-    bool buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error) override;
-    bool buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error) override;
 
     const ProtoCommand *commandToEstimate() const { return m_commandToEstimate.get(); }
     void setCommandToEstimate(ProtoCommand *command); ///< keeps a clone; null changes nothing

@@ -4,7 +4,6 @@
 #include <QuvFramework/fw_dispenser.h>
 
 #include <chrono>
-#include <type_traits>
 #include <utility>
 
 using namespace quv::catalogue;
@@ -34,11 +33,17 @@ enum Flag : unsigned {
     Pours = 64 ///< delivers colorant
 };
 
-template <class Mask, class = std::enable_if_t<std::is_enum_v<Mask>>>
-constexpr Mask operator|(Mask one, Mask other)
+constexpr Target operator|(Target one, Target other)
 {
-    using Value = std::underlying_type_t<Mask>;
-    return static_cast<Mask>(static_cast<Value>(one) | static_cast<Value>(other));
+    return static_cast<Target>(static_cast<int>(one) | static_cast<int>(other));
+}
+constexpr Family operator|(Family one, Family other)
+{
+    return static_cast<Family>(static_cast<int>(one) | static_cast<int>(other));
+}
+constexpr Flag operator|(Flag one, Flag other)
+{
+    return static_cast<Flag>(static_cast<unsigned>(one) | static_cast<unsigned>(other));
 }
 
 constexpr std::chrono::milliseconds dependsOnParameters(9999999);

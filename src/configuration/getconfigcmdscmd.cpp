@@ -1,28 +1,24 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "configuration/getconfigcmdscmd.h"
 
-#include "base/replaceanswer_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "configuration/getconfigcmdsanswer.h"
 
-#include <utility>
-
-namespace {
-
-QString name()
+struct GetConfigCmdsCmd::Description : quv::Description
 {
-    return ProtoCommandList::cmdStr(ProtoCommandList::GET_CONFIG_CMDS);
-}
+    static constexpr auto command = ProtoCommandList::GET_CONFIG_CMDS;
 
-} // namespace
+    static constexpr quv::AnsweredBy<GetConfigCmdsAnswer> answer = {
+        {"DE01648", "Failed to create ProtoAnswer"}, {"DE01295", quv::answerFailed}, {}, {}};
 
-GetConfigCmdsCmd::GetConfigCmdsCmd() : SerialProtoCommand(name(), nullptr) {}
+    static void tellArguments(quv::ArgumentTeller &) {} // there are none
+};
 
-GetConfigCmdsCmd::GetConfigCmdsCmd(const XmlRpc::XmlRpcValue &value)
-    : SerialProtoCommand(name(), value, nullptr)
-{}
+template class quv::DescribedCommand<GetConfigCmdsCmd, SerialProtoCommand>;
 
-GetConfigCmdsCmd::GetConfigCmdsCmd(QList<QVariant> list) : SerialProtoCommand(name(), list, nullptr) {}
+GetConfigCmdsCmd::GetConfigCmdsCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value) {}
+
+GetConfigCmdsCmd::GetConfigCmdsCmd(QList<QVariant> list) : DescribedCommand(list) {}
 
 GetConfigCmdsCmd *GetConfigCmdsCmd::clone() const
 {
@@ -32,21 +28,4 @@ GetConfigCmdsCmd *GetConfigCmdsCmd::clone() const
 QList<int> GetConfigCmdsCmd::serialParameters(int) const
 {
     return {0};
-}
-
-bool GetConfigCmdsCmd::buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error)
-{
-    return replaceProtoAnswer("DE01295", quv::answerFailed, error,
-                              [&] { return new GetConfigCmdsAnswer(value); });
-}
-
-bool GetConfigCmdsCmd::buildProtoAnswer(QStringList tokens, FW_DriverError *error)
-{
-    return setSerialAnswer(std::move(tokens), error);
-}
-
-bool GetConfigCmdsCmd::setSerialAnswer(QStringList tokens, FW_DriverError *error)
-{
-    return replaceProtoAnswer("DE01648", "Failed to create ProtoAnswer", error,
-                              [&] { return new GetConfigCmdsAnswer(std::move(tokens)); });
 }

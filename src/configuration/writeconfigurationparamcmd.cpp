@@ -2,7 +2,7 @@
 #include "configuration/writeconfigurationparamcmd.h"
 
 #include "base/cloned_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "configuration/confclasses_p.h"
 #include "configuration/confrow_p.h"
 
@@ -12,11 +12,6 @@ namespace {
 
 constexpr char codeMember[] = "cmd_value";
 constexpr char rowMember[] = "cmd_parameters";
-
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::WRITE_CONFIG_ROW);
-}
 
 /** The struct of the row: the value itself, or what stands first in a request's array. */
 const XmlRpc::XmlRpcValue &structIn(const XmlRpc::XmlRpcValue &value, const char *function)
@@ -40,11 +35,23 @@ void readMember(const XmlRpc::XmlRpcValue &members, const char *key, T &out, con
 
 } // namespace
 
-WriteConfigurationParamCmd::WriteConfigurationParamCmd() : SerialProtoCommand(name(), nullptr) {}
+struct WriteConfigurationParamCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::WRITE_CONFIG_ROW;
 
-WriteConfigurationParamCmd::WriteConfigurationParamCmd(int code, const FW_Machine *machine, int id)
-    : SerialProtoCommand(name(), nullptr),
-      m_id(id)
+    static void tellArguments(quv::ArgumentTeller &teller)
+    {
+        teller.argument({"row", "members \"cmd_value\" (int, the structure's code) and \"cmd_parameters\" "
+                                "(string, the row as text)"},
+                        "struct");
+    }
+};
+
+template class quv::DescribedCommand<WriteConfigurationParamCmd, SerialProtoCommand>;
+
+WriteConfigurationParamCmd::WriteConfigurationParamCmd() = default;
+
+WriteConfigurationParamCmd::WriteConfigurationParamCmd(int code, const FW_Machine *machine, int id) : m_id(id)
 {
     if (!ConfData::checkCommandCode(code))
         throw FW_Exception("DE00172", "Unknown command code", Q_FUNC_INFO);
@@ -56,7 +63,6 @@ WriteConfigurationParamCmd::WriteConfigurationParamCmd(int code, const FW_Machin
 }
 
 WriteConfigurationParamCmd::WriteConfigurationParamCmd(const XmlRpc::XmlRpcValue &value)
-    : SerialProtoCommand(name(), nullptr)
 {
     const XmlRpc::XmlRpcValue &members = structIn(value, Q_FUNC_INFO);
     int code = 0;
@@ -72,12 +78,10 @@ WriteConfigurationParamCmd::WriteConfigurationParamCmd(const XmlRpc::XmlRpcValue
     takeRow(quv::confDataOfText(code, text), "DE00175", Q_FUNC_INFO);
 }
 
-WriteConfigurationParamCmd::WriteConfigurationParamCmd(QList<QVariant> list)
-    : SerialProtoCommand(name(), list, nullptr)
-{}
+WriteConfigurationParamCmd::WriteConfigurationParamCmd(QList<QVariant> list) : DescribedCommand(list) {}
 
 WriteConfigurationParamCmd::WriteConfigurationParamCmd(const WriteConfigurationParamCmd &other)
-    : SerialProtoCommand(other),
+    : DescribedCommand(other),
       m_confData(quv::cloned(other.m_confData.get())),
       m_code(other.m_code),
       m_serialParameters(other.m_serialParameters),

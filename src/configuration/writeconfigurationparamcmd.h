@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotocommand.h"
+#include "base/describedcommand.h"
 #include "configuration/confdata.h"
 
 #include <memory>
 
 /** WRITE_CONFIG_ROW: gives the firmware a row of one structure. It holds none by default. */
-class QUVPROTOCOL_EXPORT WriteConfigurationParamCmd : public SerialProtoCommand
+class QUVPROTOCOL_EXPORT WriteConfigurationParamCmd
+    : public quv::DescribedCommand<WriteConfigurationParamCmd, SerialProtoCommand>
 {
 public:
+    struct Description;
+
     WriteConfigurationParamCmd();
     /**
      * The row that the machine has. \a id is the circuit or reference of a structure that exists once for each. Throws

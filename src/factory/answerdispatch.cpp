@@ -3,83 +3,82 @@
 
 #include "base/confprotoanswer.h"
 #include "base/serialprotoanswer.h"
-#include "catalogue/protocommandlist.h"
+#include "factory/answertables_p.h"
 #include "masterdata/getdeviceparamsanswer.h"
 
-#include <vector>
-
-// One table a kind of command and form of answer; a command that has no row gets the plain answer of its kind.
+namespace quv {
 
 namespace {
 
 using Cmd = ProtoCommandList;
 
-template <class Source>
-struct Row
+/** The answers of serial commands; none has a class yet, see pendingAnswers. */
+const std::vector<AnswerRow> &serialRows()
 {
-    Cmd::CommandListValue command;
-    ProtoAnswer *(*make)(Source &source);
-};
-
-template <class Source>
-using Rows = std::vector<Row<Source>>;
-
-template <class Answer, class Source>
-ProtoAnswer *makeAnswer(Source &source)
-{
-    return new Answer(source);
+    static const std::vector<AnswerRow> rows;
+    return rows;
 }
 
-template <class Source>
-const Rows<Source> &configurationRows()
+const std::vector<AnswerRow> &configurationRows()
 {
-    static const Rows<Source> rows = {
-        {Cmd::GET_DEVICE_PARAMS, makeAnswer<GetDeviceParamsAnswer>},
+    static const std::vector<AnswerRow> rows = {
+        answerRow<GetDeviceParamsAnswer>(Cmd::GET_DEVICE_PARAMS),
     };
     return rows;
 }
 
-template <class Plain, class Source>
-ProtoAnswer *make(const Rows<Source> &rows, const QString &command, Source &source)
+const AnswerRow *find(const std::vector<AnswerRow> &rows, const QString &command)
 {
     if (const CMD_STRUCT *found = Cmd::row(command)) {
-        for (const Row<Source> &row : rows) {
+        for (const AnswerRow &row : rows) {
             if (row.command == found->id)
-                return row.make(source);
+                return &row;
         }
     }
-    return new Plain(source);
+    return nullptr;
+}
+
+template <class Plain, class Source>
+ProtoAnswer *make(const AnswerRow *row, AnswerRow::Maker<Source> AnswerRow::*maker, Source &source)
+{
+    return row && row->*maker ? (row->*maker)(source) : new Plain(source);
 }
 
 } // namespace
 
-namespace quv {
-
-// No serial answer has a class yet, see pendingAnswers.
-
-ProtoAnswer *makeSerialAnswer(const QString &, const XmlRpc::XmlRpcValue &value)
+const AnswerRow *serialAnswerRow(const QString &command)
 {
-    return new SerialProtoAnswer(value);
+    return find(serialRows(), command);
 }
 
-ProtoAnswer *makeSerialAnswer(const QString &, QList<QVariant> &list)
+const AnswerRow *configurationAnswerRow(const QString &command)
 {
-    return new SerialProtoAnswer(list);
+    return find(configurationRows(), command);
 }
 
-ProtoAnswer *makeSerialAnswer(const QString &, const QStringList &tokens)
+ProtoAnswer *makeSerialAnswer(const QString &command, const XmlRpc::XmlRpcValue &value)
 {
-    return new SerialProtoAnswer(tokens);
+    return make<SerialProtoAnswer>(serialAnswerRow(command), &AnswerRow::fromValue, value);
+}
+
+ProtoAnswer *makeSerialAnswer(const QString &command, QList<QVariant> &list)
+{
+    return make<SerialProtoAnswer>(serialAnswerRow(command), &AnswerRow::fromList, list);
+}
+
+ProtoAnswer *makeSerialAnswer(const QString &command, const QStringList &tokens)
+{
+    return make<SerialProtoAnswer>(serialAnswerRow(command), &AnswerRow::fromTokens, tokens);
 }
 
 ProtoAnswer *makeConfigurationAnswer(const QString &command, const XmlRpc::XmlRpcValue &value)
 {
-    return make<ConfProtoAnswer>(configurationRows<const XmlRpc::XmlRpcValue>(), command, value);
+    return make<ConfProtoAnswer>(configurationAnswerRow(command), &AnswerRow::fromValue, value);
 }
 
 ProtoAnswer *makeConfigurationAnswer(const QString &command, QList<QVariant> &list)
 {
-    return make<ConfProtoAnswer>(configurationRows<QList<QVariant>>(), command, list);
+    return make<ConfProtoAnswer>(configurationAnswerRow(command), &AnswerRow::fromList, list);
 }
 
 } // namespace quv

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/argumentteller_p.h"
 #include "base/confprotocommand.h"
 #include "base/scaleprotocommand.h"
 #include "base/serialprotocommand.h"
@@ -19,6 +20,8 @@
 #include <initializer_list>
 #include <stdexcept>
 #include <type_traits>
+#include <typeinfo>
+#include <utility>
 
 namespace quv {
 
@@ -48,6 +51,7 @@ struct CommandClass
 
     Maker<XmlRpc::XmlRpcValue> fromValue = nullptr; ///< null when the row is not in this form
     Maker<QList<QVariant>> fromList = nullptr;
+    void (*tell)(CommandFacts &facts) = nullptr; ///< adds what the class knows of itself
 
     template <class Args>
     constexpr Maker<Args> maker() const
@@ -65,11 +69,32 @@ using CommandKind = std::conditional_t<
     std::is_base_of_v<SerialProtoCommand, Class>, SerialProtoCommand,
     std::conditional_t<std::is_base_of_v<ConfProtoCommand, Class>, ConfProtoCommand, ScaleProtoCommand>>;
 
+template <class Class, class = void>
+inline constexpr bool tellsItself = false;
+template <class Class>
+inline constexpr bool tellsItself<Class, std::void_t<decltype(Class::tell(std::declval<CommandFacts &>()))>> =
+    true;
+
+/** The classes of commands without arguments of their own. */
+template <class Class>
+inline constexpr bool isPlain = std::is_same_v<Class, CommandKind<Class>>;
+
+template <class Class>
+void tellClass(CommandFacts &facts)
+{
+    facts.className = nameOfClass(typeid(Class));
+    if constexpr (tellsItself<Class>)
+        Class::tell(facts);
+    else if constexpr (isPlain<Class>)
+        facts.tellsArguments = true; // that there are none
+}
+
 /** A class that \a make, which is generic over the arguments, makes in these forms; no other needs a constructor. */
 template <class Class, Form Forms, class Make>
 constexpr CommandClass<CommandKind<Class>> madeBy(Make make)
 {
     CommandClass<CommandKind<Class>> made;
+    made.tell = tellClass<Class>;
     if constexpr ((Forms & ValueForm) != 0)
         made.fromValue = make;
     if constexpr ((Forms & ListForm) != 0)
@@ -150,7 +175,7 @@ public:
     {
         for (const CommandRow<Command> &row : rows) {
             CommandClass<Command> &known = m_classes[static_cast<std::size_t>(row.command)];
-            if (known.fromValue || known.fromList)
+            if (known.tell)
                 throw std::logic_error("a command has two rows");
             known = row.served;
         }

@@ -3,6 +3,7 @@
 
 #include "base/flags_p.h"
 #include "base/gate_p.h"
+#include "base/memberfacts_p.h"
 #include "base/tokens_p.h"
 #include "status/machinestatusanswer_p.h"
 
@@ -305,6 +306,11 @@ QList<QString> DispenserStatusAnswer::getNewStatesDescriptions(const DispenserSt
     if (before && after)
         quv::describeChanges(flags, *before, *after, descriptions);
     return descriptions;
+}
+
+QList<quv::MemberFacts> DispenserStatusAnswer::memberFacts()
+{
+    return quv::factsOf(wholeRecord().rows());
 }
 
 bool DispenserStatusAnswer::isMachineMovementsMaskSupported(const FW_Version &version)

@@ -7,8 +7,9 @@
 struct FW_Version;
 
 namespace quv {
+struct MemberFacts;
 struct Refusal;
-}
+} // namespace quv
 
 /**
  * The status of a dispenser, the answer to GET_STATUS: what the machine is doing right now. Over the serial link it is a
@@ -52,6 +53,8 @@ public:
     /** What has changed from the older status to the newer one; nothing when one of them is null. */
     static QList<QString> getNewStatesDescriptions(const DispenserStatusAnswer *before,
                                                    const DispenserStatusAnswer *after);
+
+    static QList<quv::MemberFacts> memberFacts();
 
     // For a driver that wants to rely on bits which older firmware leaves at 0.
     static bool isMachineMovementsMaskSupported(const FW_Version &version);

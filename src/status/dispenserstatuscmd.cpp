@@ -17,7 +17,7 @@ struct DispenserStatusCmd::Description : quv::Description
     template <class Self, class Archive>
     static void arguments(Self &self, Archive &archive)
     {
-        archive.optional({"position_id", "a circuit's position; 0 is the machine"}, self.m_moduleID,
+        archive.optional({"position", "a circuit's position; 0 is the machine"}, self.m_moduleID,
                          {"DE00298", "DE00300", "Position ID: expected INT parameter"});
     }
 };
