@@ -1,18 +1,30 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/asyncanswer.h"
 
+#include "base/describedanswer_p.h"
+
 #include <QuvFramework/fw_exception.h>
-#include <QuvFramework/fw_xmlrpc.h>
+
+struct AsyncAnswer::Description
+{
+    static std::vector<quv::Member<AsyncAnswer>> members()
+    {
+        return {{ticketID_TAG,
+                 &AsyncAnswer::m_ticketID,
+                 {"DE00573", "AsyncAnswer decoding failed: invalid xml-rpc value"}}};
+    }
+};
+
+template class quv::DescribedAnswer<AsyncAnswer, ConfProtoAnswer>;
 
 AsyncAnswer::AsyncAnswer(QString ticketID) : m_ticketID(ticketID) {}
 
 AsyncAnswer::AsyncAnswer(const XmlRpc::XmlRpcValue &value)
 {
-    if (!DecodeXmlRpcValue(value, ticketID_TAG, m_ticketID))
-        throw FW_Exception("DE00573", "AsyncAnswer decoding failed: invalid xml-rpc value", Q_FUNC_INFO);
+    read(value, Q_FUNC_INFO);
 }
 
-AsyncAnswer::AsyncAnswer(QList<QVariant> &list) : ConfProtoAnswer(list)
+AsyncAnswer::AsyncAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
     if (list.isEmpty())
         throw FW_Exception("DE00572", "AsyncAnswer decoding failed: invalid QVariant value", Q_FUNC_INFO);
@@ -22,19 +34,6 @@ AsyncAnswer::AsyncAnswer(QList<QVariant> &list) : ConfProtoAnswer(list)
 AsyncAnswer *AsyncAnswer::clone() const
 {
     return new AsyncAnswer(*this);
-}
-
-bool AsyncAnswer::equalTo(const ProtoAnswer *other) const
-{
-    const auto *that = dynamic_cast<const AsyncAnswer *>(other);
-    return that && m_ticketID == that->m_ticketID;
-}
-
-XmlRpc::XmlRpcValue AsyncAnswer::toXmlRpcValue() const
-{
-    XmlRpc::XmlRpcValue value;
-    EncodeXmlRpcValue(value, ticketID_TAG, m_ticketID);
-    return value;
 }
 
 void AsyncAnswer::setTicketID(const QVariant &ticketID)

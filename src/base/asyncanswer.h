@@ -2,11 +2,14 @@
 #pragma once
 
 #include "base/confprotoanswer.h"
+#include "base/describedanswer.h"
 
 /** The ticket that a client gets at once for a command that goes on: a struct with the member "ticket_id" (string). */
-class QUVPROTOCOL_EXPORT AsyncAnswer : public ConfProtoAnswer
+class QUVPROTOCOL_EXPORT AsyncAnswer : public quv::DescribedAnswer<AsyncAnswer, ConfProtoAnswer>
 {
 public:
+    struct Description;
+
     static constexpr char ticketID_TAG[] = "ticket_id";
 
     AsyncAnswer() = default;
@@ -16,8 +19,6 @@ public:
     explicit AsyncAnswer(const char *) = delete; // a QString or a value? say which
 
     AsyncAnswer *clone() const override;
-    bool equalTo(const ProtoAnswer *other) const override;
-    XmlRpc::XmlRpcValue toXmlRpcValue() const override;
 
     QString ticketID() const { return m_ticketID; }
     // Each leaves the ticket alone when there is none in what it is given.

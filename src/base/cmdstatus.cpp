@@ -2,7 +2,8 @@
 #include "base/cmdstatus.h"
 
 #include "base/guard_p.h"
-#include "base/latin1_p.h"
+#include "base/memberfacts_p.h"
+#include "base/record_p.h"
 #include "base/translation_p.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
@@ -11,24 +12,31 @@
 
 namespace {
 
-constexpr char statusTag[] = "status";
-constexpr char infoTag[] = "info";
-constexpr char extraInfoTag[] = "extra_info";
-constexpr char timeLeftTag[] = "time_left";
-constexpr char percentageTag[] = "percentage";
 constexpr char answerTag[] = "cmd_answer";
 
 constexpr long long dayLength = 24LL * 60 * 60 * 1000; // ms
 
-template <class T>
-void decodeMember(const XmlRpc::XmlRpcValue &value, const char *key, T &field, const char *code,
-                  const char *text, const char *function)
-{
-    if (!DecodeXmlRpcValue(value, key, field))
-        throw FW_Exception(code, text, function);
-}
-
 } // namespace
+
+const quv::Record<CmdStatus> &CmdStatus::record()
+{
+    using Member = quv::Member<CmdStatus>;
+    static const quv::Record<CmdStatus> record({
+        Member("status", &CmdStatus::m_status, {"DE00386", "CmdStatus: expected status value"})
+            .meaning("3 created, 2 queued, 1 executing, 0 done, -1 failed, -3 interrupted, -4 timed out"),
+        Member("info", &CmdStatus::m_info, {"DE00387", "CmdStatus: expected info value"})
+            .as(quv::latin1Text()),
+        Member("extra_info", &CmdStatus::m_extraInfo, {"DE01677", "CmdStatus: expected extra info value"})
+            .as(quv::latin1Text()),
+        Member("time_left", &CmdStatus::m_timeLeft, {"DE00388", "CmdStatus: expected time_left value"})
+            .as(quv::cutToInt())
+            .meaning("milliseconds"),
+        Member("percentage", &CmdStatus::m_percentage, {"DE00389", "CmdStatus: expected percentage value"}),
+        Member(answerTag, &CmdStatus::m_resultValue, {"DE00390", "CmdStatus: expected cmd_answer value"})
+            .meaning("the final envelope; 0 while there is none"),
+    });
+    return record;
+}
 
 CmdStatus::CmdStatus(int status, int timeLeft, int percentage, QString info)
     : CmdStatus(status, timeLeft, percentage, XmlRpc::XmlRpcValue(), info)
@@ -45,16 +53,7 @@ CmdStatus::CmdStatus(int status, int timeLeft, int percentage, XmlRpc::XmlRpcVal
 
 CmdStatus::CmdStatus(const XmlRpc::XmlRpcValue &value)
 {
-    const char *function = Q_FUNC_INFO;
-    decodeMember(value, statusTag, m_status, "DE00386", "CmdStatus: expected status value", function);
-    decodeMember(value, infoTag, m_info, "DE00387", "CmdStatus: expected info value", function);
-    decodeMember(value, extraInfoTag, m_extraInfo, "DE01677", "CmdStatus: expected extra info value",
-                 function);
-    decodeMember(value, timeLeftTag, m_timeLeft, "DE00388", "CmdStatus: expected time_left value", function);
-    decodeMember(value, percentageTag, m_percentage, "DE00389", "CmdStatus: expected percentage value",
-                 function);
-    decodeMember(value, answerTag, m_resultValue, "DE00390", "CmdStatus: expected cmd_answer value",
-                 function);
+    record().decode(value, *this, Q_FUNC_INFO);
     if (SameXmlRpcValue(m_resultValue, XmlRpc::XmlRpcValue(0)))
         m_resultValue.clear(); // stands for no result
 }
@@ -66,20 +65,13 @@ CmdStatus *CmdStatus::clone() const
 
 bool CmdStatus::operator==(const CmdStatus &other) const
 {
-    return m_status == other.m_status && m_timeLeft == other.m_timeLeft &&
-           m_percentage == other.m_percentage && m_info == other.m_info && m_extraInfo == other.m_extraInfo &&
-           SameXmlRpcValue(m_resultValue, other.m_resultValue);
+    return record().equal(*this, other);
 }
 
 XmlRpc::XmlRpcValue CmdStatus::toXmlRpcValue() const
 {
-    XmlRpc::XmlRpcValue value;
-    value[statusTag] = m_status;
-    value[infoTag] = quv::latin1(m_info);
-    value[extraInfoTag] = quv::latin1(m_extraInfo);
-    value[timeLeftTag] = static_cast<int>(m_timeLeft);
-    value[percentageTag] = m_percentage;
-    value[answerTag] = resultValue();
+    XmlRpc::XmlRpcValue value = record().encode(*this);
+    value[answerTag] = resultValue(); // which a running command has not yet
     return value;
 }
 
@@ -147,6 +139,11 @@ QString CmdStatus::timeLeftStr(bool verbose) const
     const QString text = quv::translated(QT_TRANSLATE_NOOP("QuvProtocol", "About %1 seconds remaining..."));
     return time.minute() > 0 ? text.arg(QStringLiteral("%1 minutes and %2").arg(time.minute()).arg(seconds))
                              : text.arg(seconds);
+}
+
+QList<quv::MemberFacts> CmdStatus::memberFacts()
+{
+    return quv::factsOf(record().rows());
 }
 
 bool CmdStatus::checkStatus(int status)

@@ -9,6 +9,12 @@
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
+namespace quv {
+struct MemberFacts;
+template <class T>
+class Record;
+} // namespace quv
+
 /**
  * How far the command behind a ticket has come. A running status holds progress, an ended one the result.
  *
@@ -68,7 +74,10 @@ public:
     static bool checkStatus(int status);
     static QString getDescription(int status);
 
+    static QList<quv::MemberFacts> memberFacts();
+
 private:
+    static const quv::Record<CmdStatus> &record();
     bool isRunning() const { return m_status > 0; }
 
     int m_status = Unknown;

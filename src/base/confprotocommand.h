@@ -11,7 +11,6 @@ public:
     ConfProtoCommand(QString command, const FW_Machine *machine);
     ConfProtoCommand(QString command, const XmlRpc::XmlRpcValue &value, const FW_Machine *machine);
     ConfProtoCommand(QString command, QList<QVariant> parameters, const FW_Machine *machine);
-    ConfProtoCommand(const ConfProtoCommand &) = default;
 
     ConfProtoCommand *clone() const override;
 

@@ -2,6 +2,7 @@
 #include "base/fieldtype_p.h"
 
 #include "base/decoding_p.h"
+#include "base/latin1_p.h"
 
 namespace quv {
 
@@ -44,6 +45,22 @@ void writeVariant(const void *field, XmlRpcValue &value)
 void writeCutToInt(const void *field, XmlRpcValue &value)
 {
     value = static_cast<int>(*static_cast<const long long *>(field));
+}
+
+void writeLatin1(const void *field, XmlRpcValue &value)
+{
+    value = latin1(*static_cast<const QString *>(field));
+}
+
+bool readValueVariant(const QVariant &variant, void *field)
+{
+    *static_cast<XmlRpcValue *>(field) = EncodeXmlRpcVariant(variant);
+    return true;
+}
+
+bool sameValues(const void *left, const void *right)
+{
+    return SameXmlRpcValue(*static_cast<const XmlRpcValue *>(left), *static_cast<const XmlRpcValue *>(right));
 }
 
 template <class V, class Read, class Write>
@@ -103,6 +120,21 @@ const FieldType &fieldType<QList<int>>()
 {
     static constexpr FieldType type =
         describe<QList<int>>("array of ints", readArray<QList<int>>, writeVariant<QList<int>>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<XmlRpcValue>()
+{
+    static constexpr FieldType type = {
+        "any",      FieldType::Other,       read<XmlRpcValue>, readValueVariant, writePlain<XmlRpcValue>,
+        sameValues, resetField<XmlRpcValue>};
+    return type;
+}
+
+const FieldType &latin1Text()
+{
+    static constexpr FieldType type = describe<QString>("string", read<QString>, writeLatin1);
     return type;
 }
 

@@ -50,9 +50,13 @@ template <>
 const FieldType &fieldType<QStringList>();
 template <>
 const FieldType &fieldType<QList<int>>();
+template <>
+const FieldType &fieldType<XmlRpc::XmlRpcValue>();
 
 /** A long long that is cut to 32 bits when it is written. */
 const FieldType &cutToInt();
+/** A text that is written as Latin-1, in which a character outside it becomes "?". */
+const FieldType &latin1Text();
 
 template <class V>
 bool equalFields(const void *left, const void *right)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/getcommandstatusanswer.h"
 
+#include "catalogue/commandfacts.h"
+
 #include <QuvFramework/fw_exception.h>
 
 namespace {
@@ -49,4 +51,9 @@ void GetCommandStatusAnswer::setCmdStatus(const QVariant &status)
 {
     if (status.canConvert<CmdStatus>())
         m_cmdStatus = status.value<CmdStatus>();
+}
+
+QList<quv::MemberFacts> GetCommandStatusAnswer::memberFacts()
+{
+    return CmdStatus::memberFacts();
 }

@@ -19,6 +19,8 @@ public:
     bool equalTo(const ProtoAnswer *other) const override;
     XmlRpc::XmlRpcValue toXmlRpcValue() const override;
 
+    static QList<quv::MemberFacts> memberFacts();
+
     const CmdStatus &cmdStatus() const { return m_cmdStatus; }
     void setCmdStatus(const QVariant &status); ///< leaves the status alone when the variant holds none
 

@@ -13,7 +13,6 @@ public:
     explicit ScaleProtoCommand(QString command);
     ScaleProtoCommand(QString command, const XmlRpc::XmlRpcValue &value);
     ScaleProtoCommand(QString command, QList<QVariant> parameters);
-    ScaleProtoCommand(const ScaleProtoCommand &) = default;
 
     ScaleProtoCommand *clone() const override;
 

@@ -16,7 +16,6 @@ public:
     SerialProtoCommand(QString command, const FW_Machine *machine);
     SerialProtoCommand(QString command, const XmlRpc::XmlRpcValue &value, const FW_Machine *machine);
     SerialProtoCommand(QString command, QList<QVariant> parameters, const FW_Machine *machine);
-    SerialProtoCommand(const SerialProtoCommand &) = default;
 
     SerialProtoCommand *clone() const override;
 

@@ -3,7 +3,17 @@
 
 #include "base/tokens_p.h"
 
+#include "catalogue/commandfacts.h"
+
 #include <QuvFramework/fw_exception.h>
+
+namespace {
+
+constexpr char versionKey[] = "version";
+constexpr char minorVersionKey[] = "minor_version";
+constexpr char commandsKey[] = "command_codes";
+
+} // namespace
 
 GetConfigCmdsAnswer::GetConfigCmdsAnswer(QStringList tokens) : SerialProtoAnswer(tokens)
 {
@@ -46,12 +56,23 @@ QList<unsigned int> GetConfigCmdsAnswer::getConfigCommands() const
 XmlRpc::XmlRpcValue GetConfigCmdsAnswer::toXmlRpcValue() const
 {
     XmlRpc::XmlRpcValue value;
-    value["version"] = static_cast<int>(m_version);
-    value["minor_version"] = static_cast<int>(m_minorVersion);
+    value[versionKey] = static_cast<int>(m_version);
+    value[minorVersionKey] = static_cast<int>(m_minorVersion);
     for (int i = 0; i < m_commands.size(); ++i) {
-        XmlRpc::XmlRpcValue &command = value["command_codes"][i];
+        XmlRpc::XmlRpcValue &command = value[commandsKey][i];
         command["cmd_code"] = static_cast<int>(m_commands.at(i).first);
         command["field_count"] = static_cast<int>(m_commands.at(i).second);
     }
     return value;
+}
+
+QList<quv::MemberFacts> GetConfigCmdsAnswer::memberFacts()
+{
+    return {{versionKey, "int", "", false, {}},
+            {minorVersionKey, "int", "", false, {}},
+            {commandsKey,
+             "array of structs",
+             "\"cmd_code\" and \"field_count\" of each structure; left out when there is none",
+             false,
+             {}}};
 }

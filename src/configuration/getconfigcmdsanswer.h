@@ -6,6 +6,10 @@
 #include <QtCore/QList>
 #include <QtCore/QPair>
 
+namespace quv {
+struct MemberFacts;
+}
+
 /** Which structures the firmware has, and of how many fields, `cmd_enabled` included. */
 class QUVPROTOCOL_EXPORT GetConfigCmdsAnswer : public SerialProtoAnswer
 {
@@ -14,7 +18,6 @@ public:
     /** Behind the length token: version, minor version, count, so many pairs of code and field count. Throws DE01642 to DE01647. */
     explicit GetConfigCmdsAnswer(QStringList tokens);
     explicit GetConfigCmdsAnswer(const XmlRpc::XmlRpcValue &value); ///< keeps nothing of the value
-    GetConfigCmdsAnswer(const GetConfigCmdsAnswer &) = default;
 
     GetConfigCmdsAnswer *clone() const override;
     bool equalTo(const ProtoAnswer *other) const override;
@@ -29,6 +32,8 @@ public:
 
     /** "version", "minor_version" and, when there are any, "command_codes": structs of "cmd_code" and "field_count". */
     XmlRpc::XmlRpcValue toXmlRpcValue() const override;
+
+    static QList<quv::MemberFacts> memberFacts();
 
 private:
     unsigned int m_version = 0;

@@ -4,8 +4,17 @@
 #include "base/cloned_p.h"
 #include "base/latin1_p.h"
 #include "base/tokens_p.h"
+#include "catalogue/commandfacts.h"
 #include "configuration/confclasses_p.h"
 #include "configuration/confrow_p.h"
+
+namespace {
+
+constexpr char nameKey[] = "cmd_code";
+constexpr char codeKey[] = "cmd_value";
+constexpr char rowKey[] = "cmd_parameters";
+
+} // namespace
 
 ReadConfigurationParamAnswer::ReadConfigurationParamAnswer() = default;
 
@@ -71,8 +80,15 @@ XmlRpc::XmlRpcValue ReadConfigurationParamAnswer::toXmlRpcValue() const
     if (!m_confData)
         return SerialProtoAnswer::toXmlRpcValue();
     XmlRpc::XmlRpcValue value;
-    value["cmd_code"] = quv::latin1(ConfData::confCommandToString(m_confData->commandCode()));
-    value["cmd_value"] = m_confData->commandCode();
-    value["cmd_parameters"] = quv::latin1(m_confData->configurationParamsStr());
+    value[nameKey] = quv::latin1(ConfData::confCommandToString(m_confData->commandCode()));
+    value[codeKey] = m_confData->commandCode();
+    value[rowKey] = quv::latin1(m_confData->configurationParamsStr());
     return value;
+}
+
+QList<quv::MemberFacts> ReadConfigurationParamAnswer::memberFacts()
+{
+    return {{nameKey, "string", "the structure's name", false, {}},
+            {codeKey, "int", "the structure's code", false, {}},
+            {rowKey, "string", "the row as text", false, {}}};
 }

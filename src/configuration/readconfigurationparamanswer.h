@@ -6,6 +6,10 @@
 
 #include <memory>
 
+namespace quv {
+struct MemberFacts;
+}
+
 /** The row that the firmware has of one structure. */
 class QUVPROTOCOL_EXPORT ReadConfigurationParamAnswer : public SerialProtoAnswer
 {
@@ -33,6 +37,8 @@ public:
 
     /** A struct of "cmd_code" (string), "cmd_value" (int) and "cmd_parameters" (string); the integer 0 without a row. */
     XmlRpc::XmlRpcValue toXmlRpcValue() const override;
+
+    static QList<quv::MemberFacts> memberFacts();
 
 private:
     std::unique_ptr<ConfData> m_confData;

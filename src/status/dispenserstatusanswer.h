@@ -28,8 +28,6 @@ public:
      * SerialProtoAnswer throw, and what decodeSerialStatus tells.
      */
     explicit DispenserStatusAnswer(QStringList tokens);
-    DispenserStatusAnswer(const DispenserStatusAnswer &) = default;
-    DispenserStatusAnswer &operator=(const DispenserStatusAnswer &) = default;
 
     DispenserStatusAnswer *clone() const override;
     /** Fails with DE02666 (fewer than four masks) or the code of the mask that is not hexadecimal. */
