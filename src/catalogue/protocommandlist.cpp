@@ -8,27 +8,76 @@
 #include <QtCore/QMutex>
 
 #include <array>
+#include <cstring>
 
 using namespace quv::catalogue;
 
 namespace {
 
-/** The names alone, side by side, so that a scan touches two kilobytes and not the whole table. */
-struct Names
+/** The rows by a hash of their names, so that a name costs a comparison or two and no scan. */
+class NameIndex
 {
-    struct Name
+public:
+    NameIndex()
+    {
+        for (const CMD_STRUCT &row : rows()) {
+            std::size_t slot = slotOf(row.name.constData(), row.name.size());
+            while (m_slots[slot].row)
+                slot = next(slot);
+            m_slots[slot] = {row.name.constData(), row.name.size(), &row};
+        }
+    }
+
+    const CMD_STRUCT *find(const QString &name) const
+    {
+        const QChar *text = name.constData();
+        const int size = name.size();
+        if (size == 0)
+            return nullptr;
+        std::size_t slot = slotOf(text, size);
+        while (m_slots[slot].row && !m_slots[slot].isNamed(text, size))
+            slot = next(slot);
+        return m_slots[slot].row;
+    }
+
+private:
+    struct Slot
     {
         const QChar *text = nullptr;
         int size = 0;
-    };
-    std::array<Name, ProtoCommandList::rowCount> names;
+        const CMD_STRUCT *row = nullptr; ///< null: free
 
-    Names()
+        bool isNamed(const QChar *other, int otherSize) const
+        {
+            return size == otherSize &&
+                   (text == other ||
+                    std::memcmp(text, other, static_cast<std::size_t>(size) * sizeof(QChar)) == 0);
+        }
+    };
+
+    static constexpr std::size_t slotCount = 512; // three times the rows, so that searches are short
+
+    /** The length and three characters tell nearly all names apart. */
+    static std::size_t slotOf(const QChar *text, int size)
     {
-        for (std::size_t i = 0; i < names.size(); ++i)
-            names[i] = {rows()[i].name.constData(), rows()[i].name.size()};
+        unsigned hash = static_cast<unsigned>(size);
+        for (const int i : {0, size / 2, size - 1})
+            hash = hash * 11 + text[i].unicode();
+        return hash % slotCount;
     }
+
+    static std::size_t next(std::size_t slot) { return (slot + 1) % slotCount; }
+
+    std::array<Slot, slotCount> m_slots{};
 };
+
+/** -1 for no row. */
+int paramNum(const CMD_STRUCT *row, bool mandatory)
+{
+    if (!row)
+        return -1;
+    return mandatory ? row->minParams : row->maxParams;
+}
 
 template <class T>
 T read(const QString &name, T CMD_STRUCT::*field)
@@ -70,18 +119,8 @@ ProtoCommandList *ProtoCommandList::instance()
 
 const CMD_STRUCT *ProtoCommandList::row(const QString &name)
 {
-    static const Names table;
-    const int size = name.size();
-    const QChar *text = name.constData();
-    for (std::size_t i = 0; i < table.names.size(); ++i) {
-        const Names::Name &candidate = table.names[i];
-        if (candidate.size == size &&
-            std::char_traits<char16_t>::compare(reinterpret_cast<const char16_t *>(candidate.text),
-                                                reinterpret_cast<const char16_t *>(text),
-                                                static_cast<std::size_t>(size)) == 0)
-            return &rows()[i];
-    }
-    return nullptr;
+    static const NameIndex index;
+    return index.find(name);
 }
 
 const CMD_STRUCT *ProtoCommandList::row(int id)
@@ -102,16 +141,12 @@ QString ProtoCommandList::cmdStr(CommandListValue value)
 
 int ProtoCommandList::cmdParamNum(CommandListValue value, bool mandatory)
 {
-    const CMD_STRUCT *found = row(static_cast<int>(value));
-    if (!found)
-        return -1;
-    return mandatory ? found->minParams : found->maxParams;
+    return paramNum(row(static_cast<int>(value)), mandatory);
 }
 
 int ProtoCommandList::cmdParamNum(const QString &name, bool mandatory)
 {
-    const CMD_STRUCT *found = row(name);
-    return found ? cmdParamNum(static_cast<CommandListValue>(found->id), mandatory) : -1;
+    return paramNum(row(name), mandatory);
 }
 
 QString ProtoCommandList::cmdCode(const QString &name, int family)

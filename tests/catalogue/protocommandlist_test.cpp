@@ -234,6 +234,30 @@ TEST(ProtoCommandList, saysNothingOfAnUnknownName)
     }
 }
 
+TEST(ProtoCommandList, takesNoOtherNameForARow)
+{
+    std::set<QString> names;
+    for (const CommandRow &row : commandRows)
+        names.insert(QString::fromLatin1(row.name));
+    ASSERT_EQ(names.size(), 167U);
+    const auto expectOnlyItself = [&names](const QString &text) {
+        EXPECT_EQ(Cmd::existsCommand(text), names.count(text) == 1) << text.toStdString();
+    };
+    // what differs in one character, wherever it stands, and what is a character longer or shorter
+    for (const QString &name : names) {
+        for (int i = 0; i < name.size(); ++i) {
+            for (const char16_t other : {u'A', u'_', u'2', char16_t(name.at(i).unicode() + 0x100)}) {
+                QString text = name;
+                text[i] = QChar(other);
+                expectOnlyItself(text);
+            }
+        }
+        expectOnlyItself(name + QLatin1Char('2'));
+        expectOnlyItself(name.mid(1));
+        expectOnlyItself(name.left(name.size() - 1));
+    }
+}
+
 TEST(ProtoCommandList, saysNothingOfAValueOutsideTheTable)
 {
     for (int value :
