@@ -124,7 +124,7 @@ void quv::addCatalogueRatios()
         QString name;
         int position = 0;
     };
-    addRatio("factory: GET_STATUS from a value", 2.5, repeat([name, arguments]() mutable {
+    addRatio("factory: GET_STATUS from a value", 0, repeat([name, arguments]() mutable {
                  return CommandPtr(ProtoCommandList::getProtoCommand(name, arguments, nullptr));
              }),
              repeat([name, arguments]() mutable {

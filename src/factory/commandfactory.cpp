@@ -8,6 +8,9 @@
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
 
+#include <array>
+#include <cstddef>
+#include <optional>
 #include <type_traits>
 
 // Args is an XML-RPC array or a variant list.
@@ -15,13 +18,13 @@
 namespace {
 
 using Cmd = ProtoCommandList;
+using quv::Dispatch;
 
-/** The command of the row with this name; null when the table has none. */
+/** The command of a row of the catalogue, which may be null; null when the table has none. */
 template <class Command, class Args>
-Command *make(const quv::CommandTable<Command> &table, const QString &name, Args &args,
+Command *make(const quv::CommandTable<Command> &table, const CMD_STRUCT *row, const QString &name, Args &args,
               const FW_Machine *machine)
 {
-    const CMD_STRUCT *row = Cmd::row(name);
     if (!row)
         return nullptr;
     if (const auto maker = table.classOf(*row).template maker<Args>())
@@ -52,52 +55,71 @@ auto guarded(const Failure &failure, Work work) -> decltype(work())
     }
 }
 
-/** The machine as the kind that the command is for: one of the two, or none. */
-struct Target
+/** The operation that makes a command of any kind; none for a name that is no command's. */
+std::optional<Dispatch> operationOf(const QString &name)
 {
-    Target(const QString &name, const FW_Machine *machine)
-    {
+    const bool isSerial = Cmd::isSerialCommand(name, false);
+    if (isSerial || Cmd::isConfigurationCommand(name, false)) {
         if (Cmd::targetIsDispenser(name))
-            dispenser = dynamic_cast<const FW_Dispenser *>(machine);
-        else if (Cmd::targetIsMixer(name))
-            mixer = dynamic_cast<const FW_Mixer *>(machine);
+            return isSerial ? Dispatch::DispenserSerial : Dispatch::DispenserConfig;
+        if (Cmd::targetIsMixer(name))
+            return isSerial ? Dispatch::MixerSerial : Dispatch::MixerConfig;
+        return isSerial ? Dispatch::Serial : Dispatch::Config;
     }
+    if (Cmd::isScaleCommand(name, false))
+        return Dispatch::Scale;
+    return {};
+}
 
-    const FW_Dispenser *dispenser = nullptr;
-    const FW_Mixer *mixer = nullptr;
-};
+/** The same of a row, asked once for all. */
+std::optional<Dispatch> operationOf(const CMD_STRUCT &row)
+{
+    static const auto operations = [] {
+        std::array<std::optional<Dispatch>, Cmd::rowCount> all;
+        for (int id = 0; id < Cmd::rowCount; ++id)
+            all[static_cast<std::size_t>(id)] = operationOf(Cmd::row(id)->name);
+        return all;
+    }();
+    return operations[static_cast<std::size_t>(row.id)];
+}
 
 template <class Args>
 ProtoCommand *makeOfAnyKind(const QString &name, Args &args, const FW_Machine *machine,
                             const char *unknownCode, const char *function)
 {
-    const Target target(name, machine);
-    if (Cmd::isSerialCommand(name, false)) {
-        if (Cmd::targetIsDispenser(name))
-            return Cmd::getDispenserSerialProtoCommand(name, args, target.dispenser);
-        if (Cmd::targetIsMixer(name))
-            return Cmd::getMixerSerialProtoCommand(name, args, target.mixer);
-        return Cmd::getSerialProtoCommand(name, args, nullptr);
+    const CMD_STRUCT *row = Cmd::row(name);
+    const std::optional<Dispatch> operation = row ? operationOf(*row) : std::nullopt;
+    if (!operation)
+        throw FW_Exception(unknownCode, "Command type not recognized", function);
+    const QString &known = row->name; // costs less to hand on than the caller's own text
+    // a machine of the other kind is none
+    switch (*operation) {
+    case Dispatch::Serial:
+        return Cmd::getSerialProtoCommand(known, args, nullptr);
+    case Dispatch::DispenserSerial:
+        return Cmd::getDispenserSerialProtoCommand(known, args, dynamic_cast<const FW_Dispenser *>(machine));
+    case Dispatch::MixerSerial:
+        return Cmd::getMixerSerialProtoCommand(known, args, dynamic_cast<const FW_Mixer *>(machine));
+    case Dispatch::Config:
+        return Cmd::getConfigProtoCommand(known, args);
+    case Dispatch::DispenserConfig:
+        return Cmd::getDispenserConfigProtoCommand(known, args, dynamic_cast<const FW_Dispenser *>(machine));
+    case Dispatch::MixerConfig:
+        return Cmd::getMixerConfigProtoCommand(known, args, dynamic_cast<const FW_Mixer *>(machine));
+    case Dispatch::Scale:
+        break;
     }
-    if (Cmd::isConfigurationCommand(name, false)) {
-        if (Cmd::targetIsDispenser(name))
-            return Cmd::getDispenserConfigProtoCommand(name, args, target.dispenser);
-        if (Cmd::targetIsMixer(name))
-            return Cmd::getMixerConfigProtoCommand(name, args, target.mixer);
-        return Cmd::getConfigProtoCommand(name, args);
-    }
-    if (Cmd::isScaleCommand(name, false))
-        return Cmd::getScaleProtoCommand(name, args);
-    throw FW_Exception(unknownCode, "Command type not recognized", function);
+    return Cmd::getScaleProtoCommand(known, args);
 }
 
 template <class Command, class Args>
 Command *makeOrPlain(const quv::CommandTable<Command> &table, const QString &name, Args &args,
                      const FW_Machine *machine, const char *unknownCode, const char *function)
 {
-    if (Command *command = make(table, name, args, machine))
+    const CMD_STRUCT *row = Cmd::row(name);
+    if (Command *command = make(table, row, name, args, machine))
         return command;
-    if (!Cmd::existsCommand(name))
+    if (!row)
         throw FW_Exception(unknownCode, "Unknown command received", function);
     return new Command(name, nullptr);
 }
@@ -139,7 +161,7 @@ SerialProtoCommand *ProtoCommandList::getDispenserSerialProtoCommand(QString nam
                                                                      const FW_Dispenser *dispenser)
 {
     return guarded({"DE00148", "Errors during serial protocol command xml-rpc decoding", Q_FUNC_INFO}, [&] {
-        auto *command = make(quv::dispenserSerialTable, name, args, dispenser);
+        auto *command = make(quv::dispenserSerialTable, row(name), name, args, dispenser);
         return command ? command : getSerialProtoCommand(name, args, dispenser);
     });
 }
@@ -148,7 +170,7 @@ SerialProtoCommand *ProtoCommandList::getDispenserSerialProtoCommand(QString nam
                                                                      const FW_Dispenser *dispenser)
 {
     return guarded({"DE00146", "Errors during serial protocol command parmeters decoding", Q_FUNC_INFO}, [&] {
-        auto *command = make(quv::dispenserSerialTable, name, args, dispenser);
+        auto *command = make(quv::dispenserSerialTable, row(name), name, args, dispenser);
         return command ? command : getSerialProtoCommand(name, args, dispenser);
     });
 }
@@ -157,7 +179,7 @@ SerialProtoCommand *ProtoCommandList::getMixerSerialProtoCommand(QString name, X
                                                                  const FW_Mixer *mixer)
 {
     return guarded({"DE02524", "Errors during serial protocol command parmeters decoding", Q_FUNC_INFO}, [&] {
-        auto *command = make(quv::mixerSerialTable, name, args, mixer);
+        auto *command = make(quv::mixerSerialTable, row(name), name, args, mixer);
         return command ? command : getSerialProtoCommand(name, args, mixer);
     });
 }
@@ -166,7 +188,7 @@ SerialProtoCommand *ProtoCommandList::getMixerSerialProtoCommand(QString name, Q
                                                                  const FW_Mixer *mixer)
 {
     return guarded({"DE02522", "Errors during serial protocol command parmeters decoding", Q_FUNC_INFO}, [&] {
-        auto *command = make(quv::mixerSerialTable, name, args, mixer);
+        auto *command = make(quv::mixerSerialTable, row(name), name, args, mixer);
         return command ? command : getSerialProtoCommand(name, args, mixer);
     });
 }
@@ -187,11 +209,11 @@ ConfProtoCommand *ProtoCommandList::getConfigProtoCommand(QString name, QList<QV
 
 ConfProtoCommand *ProtoCommandList::getConfigProtoCommand(QString name, const FW_Machine *machine)
 {
-    const Target target(name, machine);
     if (targetIsDispenser(name))
-        return getDispenserConfigProtoCommand(name, QList<QVariant>(), target.dispenser);
+        return getDispenserConfigProtoCommand(name, QList<QVariant>(),
+                                              dynamic_cast<const FW_Dispenser *>(machine));
     if (targetIsMixer(name))
-        return getMixerConfigProtoCommand(name, QList<QVariant>(), target.mixer);
+        return getMixerConfigProtoCommand(name, QList<QVariant>(), dynamic_cast<const FW_Mixer *>(machine));
     throw FW_Exception("DE03010", "Command has no target machine", Q_FUNC_INFO);
 }
 
@@ -200,7 +222,7 @@ ConfProtoCommand *ProtoCommandList::getDispenserConfigProtoCommand(QString name,
 {
     return guarded({"DE02551", "Errors during configuration protocol command xml-rpc decoding", Q_FUNC_INFO},
                    [&] {
-                       auto *command = make(quv::dispenserConfigTable, name, args, dispenser);
+                       auto *command = make(quv::dispenserConfigTable, row(name), name, args, dispenser);
                        return command ? command : getConfigProtoCommand(name, args);
                    });
 }
@@ -210,7 +232,7 @@ ConfProtoCommand *ProtoCommandList::getDispenserConfigProtoCommand(QString name,
 {
     return guarded(
         {"DE02549", "Errors during configuration protocol command parameters decoding", Q_FUNC_INFO}, [&] {
-            auto *command = make(quv::dispenserConfigTable, name, args, dispenser);
+            auto *command = make(quv::dispenserConfigTable, row(name), name, args, dispenser);
             return command ? command : getConfigProtoCommand(name, args);
         });
 }
@@ -220,7 +242,7 @@ ConfProtoCommand *ProtoCommandList::getMixerConfigProtoCommand(QString name, Xml
 {
     return guarded({"DE02558", "Errors during configuration protocol command xml-rpc decoding", Q_FUNC_INFO},
                    [&] {
-                       auto *command = make(quv::mixerConfigTable, name, args, mixer);
+                       auto *command = make(quv::mixerConfigTable, row(name), name, args, mixer);
                        return command ? command : getConfigProtoCommand(name, args);
                    });
 }
@@ -230,7 +252,7 @@ ConfProtoCommand *ProtoCommandList::getMixerConfigProtoCommand(QString name, QLi
 {
     return guarded({"DE02556", "Errors during configuration protocol command variant decoding", Q_FUNC_INFO},
                    [&] {
-                       auto *command = make(quv::mixerConfigTable, name, args, mixer);
+                       auto *command = make(quv::mixerConfigTable, row(name), name, args, mixer);
                        return command ? command : getConfigProtoCommand(name, args);
                    });
 }
@@ -239,7 +261,7 @@ ScaleProtoCommand *ProtoCommandList::getScaleProtoCommand(QString name, XmlRpc::
 {
     const char *function = Q_FUNC_INFO;
     return guarded({"DE02082", "Errors during scale protocol command xml-rpc decoding", function}, [&] {
-        if (auto *command = make(quv::scaleTable, name, args, nullptr))
+        if (auto *command = make(quv::scaleTable, row(name), name, args, nullptr))
             return command;
         throw FW_Exception("DE02070", "Unknown command received", function);
     });
@@ -249,7 +271,7 @@ ScaleProtoCommand *ProtoCommandList::getScaleProtoCommand(QString name, QList<QV
 {
     const char *function = Q_FUNC_INFO;
     return guarded({"DE02081", "Errors during scale protocol command decoding", function}, [&] {
-        if (auto *command = make(quv::scaleTable, name, args, nullptr))
+        if (auto *command = make(quv::scaleTable, row(name), name, args, nullptr))
             return command;
         throw FW_Exception("DE02080", "Unknown command received", function);
     });

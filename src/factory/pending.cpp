@@ -3,7 +3,26 @@
 
 #include "base/prototypes_p.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace {
+
+constexpr std::size_t operationCount = static_cast<std::size_t>(quv::Dispatch::Scale) + 1;
+
+/** The forms in which a row of an operation is pending. */
+using FormsOfRows = std::array<std::array<unsigned char, ProtoCommandList::rowCount>, operationCount>;
+
+FormsOfRows formsOfRows()
+{
+    FormsOfRows forms{};
+    for (const quv::PendingCommand &pending : quv::pendingCommands())
+        forms[static_cast<std::size_t>(pending.dispatch)][static_cast<std::size_t>(pending.name)] |=
+            static_cast<unsigned char>(pending.forms);
+    return forms;
+}
+
+} // namespace
 
 namespace quv {
 
@@ -156,10 +175,8 @@ const std::vector<PendingAnswer> &pendingAnswers()
 
 bool isPending(Dispatch dispatch, Form form, int row)
 {
-    const auto &commands = pendingCommands();
-    return std::any_of(commands.begin(), commands.end(), [&](const PendingCommand &pending) {
-        return pending.name == row && pending.dispatch == dispatch && (pending.forms & form) != 0;
-    });
+    static const FormsOfRows forms = formsOfRows();
+    return (forms[static_cast<std::size_t>(dispatch)][static_cast<std::size_t>(row)] & form) != 0;
 }
 
 } // namespace quv
