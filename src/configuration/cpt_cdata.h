@@ -61,10 +61,6 @@ public:
 
 private:
     void takeCircuit(const FW_Circuit &circuit, const FW_Dispenser &dispenser);
-    void updateCanister(FW_Dispenser &dispenser) const;
-    FW_DosingMotor dosingMotorFor(const FW_Circuit &target, MachineModel model,
-                                  const FW_CalibrationProfiles *profiles) const;
-    void updateLevelSensor(FW_Dispenser &dispenser, const FW_Circuit &circuit) const;
 
     FW_Circuit m_circuit;
     std::optional<FW_CanisterLevelSensor> m_levelSensor;
