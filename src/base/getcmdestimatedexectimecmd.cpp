@@ -17,7 +17,7 @@ constexpr char decodingFailed[] = "Errors during protocol command parameters dec
 const XmlRpc::XmlRpcValue &commandAndParams(const XmlRpc::XmlRpcValue &value, const char *function)
 {
     const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(value, 0);
-    if (!request)
+    if (!request) // the contract: the base asks for one element
         throw FW_Exception("DE01193", invalid, function);
     if (request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
         throw FW_Exception("DE01181", invalid, function);
@@ -46,6 +46,7 @@ std::unique_ptr<ProtoCommand> makeCommand(const XmlRpc::XmlRpcValue &command, co
         return std::unique_ptr<ProtoCommand>(
             ProtoCommandList::getProtoCommand(commandName, arguments, machine));
     } catch (...) {
+        // the contract: the factory has codes of its own for what goes wrong in it
         quv::rethrowCurrentException("DE01186", decodingFailed, function);
     }
 }
@@ -105,6 +106,7 @@ GetCmdEstimatedExecTimeCmd::GetCmdEstimatedExecTimeCmd(QList<QVariant> list, con
     try {
         m_commandToEstimate = makeCommand(list, machine, function);
     } catch (...) {
+        // the contract, as above
         quv::rethrowCurrentException("DE01189", decodingFailed, function);
     }
 }

@@ -110,6 +110,7 @@ NCCommand::NCCommand(QString name, QList<QVariant> arguments, QList<QVariant> la
             throw FW_Exception(error, function);
         m_lastAnswer = quv::cloned(m_protoCommand->getProtoAnswer());
     } catch (...) {
+        // the contract: the factory and the command have codes of their own for what goes wrong in them
         quv::rethrowCurrentException("DE00773", decodingFailed, function);
     }
 }

@@ -95,7 +95,7 @@ ConfData::ConfData(int code, const FW_Machine *) : m_commandCode(code) {}
 ConfData::ConfData(int code, QString row) : m_commandCode(code)
 {
     const auto parts = row.splitRef(QLatin1Char(','));
-    if (parts.isEmpty())
+    if (parts.isEmpty()) // the contract: an empty text still splits into one part, which is no number
         throw FW_Exception("DE00834", "Command enabled not found in answer", Q_FUNC_INFO);
     bool isNumber = false;
     m_cmdEnabled = parts.constFirst().toInt(&isNumber);

@@ -126,6 +126,8 @@ Command *makeOrPlain(const quv::CommandTable<Command> &table, const QString &nam
 
 } // namespace
 
+// DE00339 and DE00434 are the contract: the operations called here have codes of their own for all that goes wrong in them.
+
 ProtoCommand *ProtoCommandList::getProtoCommand(QString name, XmlRpc::XmlRpcValue &args,
                                                 const FW_Machine *machine)
 {
