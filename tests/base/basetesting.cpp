@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/basetesting.h"
 
+#include <QtCore/QDebug>
+
 #include <cxxabi.h>
 
 #include <cstdlib>
@@ -22,6 +24,45 @@ Value structOf(std::initializer_list<std::pair<const char *, Value>> members)
     for (const auto &[name, member] : members)
         value[name] = member;
     return value;
+}
+
+Value valueOf(const QVariant &variant)
+{
+    switch (variant.userType()) {
+    case QMetaType::Bool:
+        return Value(variant.toBool());
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong: {
+        const long long number = variant.toLongLong();
+        const auto narrow = static_cast<int>(number);
+        return narrow == number ? Value(narrow) : Value(static_cast<double>(number));
+    }
+    case QMetaType::Double:
+        return Value(variant.toDouble());
+    case QMetaType::QString:
+        return Value(variant.toString().toStdString());
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList:
+        return arrayOfList(variant.toList());
+    case QMetaType::QVariantMap: {
+        Value made = structOf({});
+        const QVariantMap map = variant.toMap();
+        for (auto member = map.begin(); member != map.end(); ++member)
+            made[member.key().toStdString()] = valueOf(member.value());
+        return made;
+    }
+    default:
+        throw std::invalid_argument(std::string("tell how this travels over XML-RPC: ") + variant.typeName());
+    }
+}
+
+Value arrayOfList(const List &list)
+{
+    Value array = arrayOf();
+    for (const QVariant &element : list)
+        array[array.size()] = valueOf(element);
+    return array;
 }
 
 std::string dumped(const Value &value)
@@ -61,6 +102,13 @@ std::string dumped(const Value &value)
         return "unexpected type";
     }
     return out.str();
+}
+
+std::string shown(const List &list)
+{
+    QString text;
+    QDebug(&text).nospace() << list;
+    return text.toStdString();
 }
 
 std::string className(const ProtoAnswer *answer)

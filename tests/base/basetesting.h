@@ -39,8 +39,15 @@ Value arrayOf(const T &...elements)
 /** An XML-RPC struct. */
 Value structOf(std::initializer_list<std::pair<const char *, Value>> members);
 
+/** What a list holds as it travels over XML-RPC: truth, numbers, texts, and lists and maps of these. */
+Value valueOf(const QVariant &variant);
+Value arrayOfList(const List &list);
+
 /** A value as text: 7, 7.5, true, "text", [1, 2], {"a": 1}, and nothing for an empty value. */
 std::string dumped(const Value &value);
+
+/** A list as text, with the types of its elements. */
+std::string shown(const List &list);
 
 /** The class of an answer, or null. */
 std::string className(const ProtoAnswer *answer);

@@ -63,8 +63,7 @@ TEST(ConfProtoCommand, EstimatesItsTime)
 TEST(ConfProtoCommand, KeepsTheAnswerContract)
 {
     ConfProtoCommand command("LOGIN", nullptr);
-    expectAnswerContract(command, {"ConfProtoAnswer", "DE01297", "DE00346", "DE01151",
-                                   "Failed to create answer", "DE01152", "DE01153"});
+    expectAnswerContract(command, confAnswers());
 }
 
 TEST(ConfProtoCommand, AnswerClassFollowsTheName)

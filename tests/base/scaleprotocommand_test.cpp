@@ -49,8 +49,7 @@ TEST(ScaleProtoCommand, ClonesAreOfItsClass)
 TEST(ScaleProtoCommand, KeepsTheAnswerContract)
 {
     ScaleProtoCommand command(QStringLiteral("WEIGHT"));
-    expectAnswerContract(command, {"ScaleProtoAnswer", "DE02075", "DE02076", "DE02077",
-                                   "Failed to create xml-rpc answer", "DE01146", "DE00144"});
+    expectAnswerContract(command, scaleAnswers());
 }
 
 TEST(ScaleProtoCommand, AnswersOfAnyNameArePlain)

@@ -4,18 +4,11 @@
 #include "base/answercontract.h"
 #include "base/answerrows.h"
 #include "base/basetesting.h"
-#include "base/outofmemory.h"
 #include "base/serialprotoanswer.h"
 
 #include <memory>
 
 using namespace testing_base;
-
-namespace {
-
-constexpr char tokensFunction[] = "SerialProtoAnswer::SerialProtoAnswer(QStringList)";
-
-} // namespace
 
 TEST(SerialProtoCommand, IsMadeInFourForms)
 {
@@ -81,8 +74,7 @@ TEST(SerialProtoCommand, EstimatesNothing)
 TEST(SerialProtoCommand, KeepsTheAnswerContract)
 {
     SerialProtoCommand command("RESET", nullptr);
-    expectAnswerContract(command, {"SerialProtoAnswer", "DE01295", "DE00473", "DE00349",
-                                   "Failed to create answer", "DE01150", "DE01151"});
+    expectAnswerContract(command, serialAnswers());
 }
 
 TEST(SerialProtoCommand, TakesTokens)
@@ -105,63 +97,6 @@ TEST(SerialProtoCommand, LeavesTheCallersTokensAlone)
     SerialProtoCommand command("RESET", nullptr);
     ASSERT_TRUE(command.setSerialAnswer(tokens, nullptr));
     EXPECT_EQ(tokens, (QStringList{"1", "A"}));
-}
-
-TEST(SerialProtoCommand, BadTokensLeaveNoAnswer)
-{
-    const struct
-    {
-        QStringList tokens;
-        const char *code;
-        const char *text;
-    } rows[] = {
-        {{}, "DE00076", "Empty answer received"},
-        {{"ZZ"}, "DE00070", "Invalid parameter length type found in answer"},
-        {{"2", "A"}, "DE00077", "Error during command answer decoding: bad length"},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.code);
-        SerialProtoCommand command("RESET", nullptr);
-        FW_DriverError error;
-        ASSERT_TRUE(command.setSerialAnswer({"0"}, nullptr));
-        EXPECT_FALSE(command.setSerialAnswer(row.tokens, &error));
-        expectError(error, row.code, row.text);
-        EXPECT_EQ(error.function(), tokensFunction);
-        EXPECT_EQ(command.getProtoAnswer(), nullptr);
-        error = FW_DriverError();
-        EXPECT_FALSE(command.buildProtoAnswer(row.tokens, &error));
-        expectError(error, row.code, row.text);
-        EXPECT_FALSE(command.setSerialAnswer(row.tokens, nullptr));
-        EXPECT_FALSE(command.buildProtoAnswer(row.tokens, nullptr));
-    }
-}
-
-TEST(SerialProtoCommand, TokensThatCannotBecomeAnAnswerSaySo)
-{
-    SerialProtoCommand command("RESET", nullptr);
-    const QStringList tokens = {"0"};
-    FW_DriverError error;
-    ASSERT_TRUE(command.setSerialAnswer(tokens, nullptr));
-    EXPECT_FALSE(outOfMemoryOnce([&] { return command.setSerialAnswer(tokens, &error); }));
-    expectError(error, "DE00102", "Failed to create answer");
-    EXPECT_EQ(command.getProtoAnswer(), nullptr);
-    error = FW_DriverError();
-    EXPECT_FALSE(outOfMemoryOnce([&] { return command.buildProtoAnswer(tokens, &error); }));
-    expectError(error, "DE00102", "Failed to create answer");
-    EXPECT_FALSE(outOfMemoryOnce([&] { return command.buildProtoAnswer(tokens, nullptr); }));
-}
-
-TEST(SerialProtoCommand, ASecondAnswerReplacesTheFirst)
-{
-    SerialProtoCommand command("RESET", nullptr);
-    {
-        CountedAnswer<SerialProtoAnswer> answer(1);
-        command.setProtoAnswer(&answer);
-    }
-    EXPECT_EQ(CountedAnswer<SerialProtoAnswer>::alive, 1);
-    EXPECT_TRUE(command.setSerialAnswer({"0"}, nullptr));
-    EXPECT_EQ(CountedAnswer<SerialProtoAnswer>::alive, 0);
-    EXPECT_EQ(className(command.getProtoAnswer()), "SerialProtoAnswer");
 }
 
 TEST(SerialProtoCommand, AnswerClassFollowsTheName)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "processes/autocapcmd.h"
 
-#include "base/basetesting.h"
-#include "catalogue/protocommandlist.h"
+#include "base/commandcontract.h"
 
 #include <QuvFramework/fw_version.h>
 
-#include <memory>
 #include <type_traits>
 
 namespace {
@@ -14,76 +12,43 @@ namespace {
 using namespace testing_base;
 using Movement = AutocapCmd::AutocapMovementType;
 
-constexpr char ofValue[] = "AutocapCmd::AutocapCmd(const XmlRpc::XmlRpcValue&)";
-constexpr char ofList[] = "AutocapCmd::AutocapCmd(QList<QVariant>)";
-constexpr char ofBaseValue[] =
-    "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-constexpr char ofBaseList[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
-
-TEST(AutocapCmd, hasNoMovementAtFirst)
+CommandFacts facts()
 {
-    const AutocapCmd command;
-    EXPECT_EQ(command.command(), "AUTOCAP_MOVE");
-    EXPECT_EQ(command.protoType(), 1);
-    EXPECT_EQ(command.movementType(), -1);
-    EXPECT_FALSE(command.machine());
-    ASSERT_TRUE(ProtoCommandList::row("AUTOCAP_MOVE"));
-    EXPECT_EQ(ProtoCommandList::row("AUTOCAP_MOVE")->id, 3);
-    EXPECT_EQ(ProtoCommandList::row("AUTOCAP_MOVE")->code, "0041");
+    const Words others("Cap movement", "Moving cap");
+    CommandFacts facts(formsOf<AutocapCmd>());
+    facts.catalogue = {"AUTOCAP_MOVE", 3, "0041", 1};
+    facts.protoType = 1;
+    facts.valueFunction = "AutocapCmd::AutocapCmd(const XmlRpc::XmlRpcValue&)";
+    facts.listFunction = "AutocapCmd::AutocapCmd(QList<QVariant>)";
+    facts.arguments = {
+        required(Integer, {"DE00290", "DE00292", "Autocap movement type: expected INT parameter"})};
+    facts.getters = {getter(&AutocapCmd::movementType)};
+    facts.words = others;
+    facts.defaults = Request().parameters({-1}).notWritten().sends({-1});
+    facts.requests = {
+        Request({0}).typed<AutocapCmd>(0).written("[0]").sends({0}).takes(1200).says(
+            {"Cap close", "Closing cap"}),
+        Request({1}).typed<AutocapCmd>(1).written("[1]").sends({1}).takes(1200).says(
+            {"Cap open", "Opening cap"}),
+    };
+    for (int movement : {-2, 2, 3, 4, 5, 6, 7}) {
+        const std::string dump = '[' + std::to_string(movement) + ']';
+        facts.requests.push_back(
+            Request({movement}).typed<AutocapCmd>(movement).written(dump).sends({movement}));
+    }
+    facts.answers = serialAnswers();
+    return facts;
 }
 
-TEST(AutocapCmd, takesAMovement)
+TEST(AutocapCmd, keepsTheCommandContract)
 {
-    for (int movement : {0, 1, 2, 6, 7, -2}) {
-        for (const AutocapCmd &command :
-             {AutocapCmd(movement), AutocapCmd(arrayOf(movement)), AutocapCmd(List{movement}),
-              AutocapCmd(arrayOf(movement, "rest")), AutocapCmd(List{movement, QStringLiteral("rest")})}) {
-            EXPECT_EQ(command.movementType(), movement);
-            EXPECT_EQ(command.parameters(), List{movement});
-            bool ok = false;
-            EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), '[' + std::to_string(movement) + ']');
-            EXPECT_TRUE(ok);
-            EXPECT_EQ(command.serialParameters(1), QList<int>{movement});
-            EXPECT_EQ(command.serialParameters(2), QList<int>{movement});
-        }
-    }
+    expectCommandContract(facts());
+}
+
+TEST(AutocapCmd, namesTwoMovements)
+{
     EXPECT_EQ(AutocapCmd(AutocapCmd::Close).movementType(), 0);
     EXPECT_EQ(AutocapCmd(AutocapCmd::Open).movementType(), 1);
-}
-
-TEST(AutocapCmd, isNotWrittenWithoutAMovement)
-{
-    bool ok = true;
-    EXPECT_EQ(dumped(AutocapCmd().xmlrpc_parameters(&ok)), "[]");
-    EXPECT_FALSE(ok);
-    EXPECT_EQ(dumped(AutocapCmd().xmlrpc_parameters()), "[]");
-    EXPECT_EQ(AutocapCmd().parameters(), List{-1});
-    EXPECT_EQ(AutocapCmd().serialParameters(1), QList<int>{-1});
-    EXPECT_EQ(dumped(AutocapCmd(1).toXmlRpcValue("user")), R"(["user", "AUTOCAP_MOVE", 1])");
-}
-
-TEST(AutocapCmd, refusesAMovementThatIsNoInteger)
-{
-    constexpr char text[] = "Autocap movement type: expected INT parameter";
-    for (const Value &bad : {Value(true), Value(1.0), Value("1"), arrayOf(1)}) {
-        SCOPED_TRACE(dumped(bad));
-        expectRefusal("DE00290", text, ofValue, [&] { const AutocapCmd command(arrayOf(bad)); });
-    }
-    for (const QVariant &bad :
-         {QVariant(), QVariant(true), QVariant(1.0), QVariant("1"), QVariant(2147483648LL)})
-        expectRefusal("DE00292", text, ofList, [&] { const AutocapCmd command(List{bad}); });
-}
-
-TEST(AutocapCmd, countsItsArgumentsFirst)
-{
-    expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBaseValue,
-                  [] { const AutocapCmd command{Value()}; });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue,
-                  [] { const AutocapCmd command(Value(1)); });
-    expectRefusal("DE00312", "AUTOCAP_MOVE command : expected at least 1 parameters, received 0 instead!",
-                  ofBaseValue, [] { const AutocapCmd command(arrayOf()); });
-    expectRefusal("DE00313", "AUTOCAP_MOVE command : expected at least 1 parameters, received 0 instead!",
-                  ofBaseList, [] { const AutocapCmd command{List()}; });
 }
 
 TEST(AutocapCmd, doesNotMistakeOtherArgumentsForAMovement)
@@ -92,49 +57,6 @@ TEST(AutocapCmd, doesNotMistakeOtherArgumentsForAMovement)
     static_assert(!std::is_constructible_v<AutocapCmd, double>);
     static_assert(!std::is_constructible_v<AutocapCmd, const char *>);
     static_assert(!std::is_convertible_v<int, AutocapCmd>);
-}
-
-TEST(AutocapCmd, goesBackToItsDefaults)
-{
-    AutocapCmd command(1);
-    command.setDefaults();
-    EXPECT_EQ(command.movementType(), -1);
-    EXPECT_EQ(command.command(), "AUTOCAP_MOVE");
-}
-
-TEST(AutocapCmd, copiesTheMovement)
-{
-    const AutocapCmd command(5);
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    const auto *moving = dynamic_cast<const AutocapCmd *>(clone.get());
-    ASSERT_TRUE(moving);
-    EXPECT_EQ(moving->movementType(), 5);
-}
-
-TEST(AutocapCmd, takesTimeToCloseAndToOpen)
-{
-    const FW_Dispenser machine;
-    EXPECT_EQ(AutocapCmd().getCmdEstimatedExecutionTime(&machine), 0);
-    EXPECT_EQ(AutocapCmd(0).getCmdEstimatedExecutionTime(&machine), 1200);
-    EXPECT_EQ(AutocapCmd(1).getCmdEstimatedExecutionTime(nullptr), 1200);
-    for (int movement : {-2, 2, 3, 4, 5, 6, 7})
-        EXPECT_EQ(AutocapCmd(movement).getCmdEstimatedExecutionTime(&machine), 0);
-}
-
-TEST(AutocapCmd, saysHowTheCapMoves)
-{
-    const auto expectTexts = [](int movement, const char *command, const char *action) {
-        EXPECT_EQ(AutocapCmd(movement).commandString(), command);
-        for (bool detailed : {false, true}) {
-            EXPECT_EQ(AutocapCmd(movement).actionString(detailed).m_text, action);
-            EXPECT_EQ(AutocapCmd(movement).actionString(detailed).m_translated, action);
-            EXPECT_STREQ(AutocapCmd(movement).actionString(detailed).m_context, "QuvProtocol");
-        }
-    };
-    expectTexts(0, "Cap close", "Closing cap");
-    expectTexts(1, "Cap open", "Opening cap");
-    for (int movement : {-1, 2, 3, 4, 5, 6, 7})
-        expectTexts(movement, "Cap movement", "Moving cap");
 }
 
 TEST(AutocapCmd, knowsTheMovements)
