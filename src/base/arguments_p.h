@@ -25,6 +25,7 @@ namespace quv {
 //     optional(name, field, otherType)               leaves its field alone when it is not given
 //     convertible(name, field, refusal)              an int; in a list whatever converts to one
 //     object(name, field, refusal, unreadable)       a struct; in a list the object itself or the map that stands for it
+//     unread(name, field)                            is sent, and never read
 //     refuseUnless(condition, refusal)               a check between two arguments, for readers only
 //     whenRead(check)                                the same by a function that gets the signature for its refusals
 
@@ -40,9 +41,10 @@ struct ArgumentName
     const char *meaning;
 };
 
-/** A refusal of one argument: what it is called in the XML-RPC form and in the list form. */
+/** A refusal of one argument: what it is called in the XML-RPC form and in the list form. One without a code is not told. */
 struct ArgumentRefusal
 {
+    constexpr ArgumentRefusal() = default;
     constexpr ArgumentRefusal(const char *valueCode, const char *listCode, const char *text)
         : value{valueCode, text},
           list{listCode, text}
@@ -87,6 +89,12 @@ public:
     void object(const ArgumentName &, T &field, const ArgumentRefusal &refusal, const Refusal &unreadable)
     {
         field = m_source.template object<T>(m_index++, Source::of(refusal), unreadable, m_function);
+    }
+
+    template <class T>
+    void unread(const ArgumentName &, T &)
+    {
+        ++m_index;
     }
 
     void refuseUnless(bool good, const ArgumentRefusal &refusal) const
@@ -214,6 +222,12 @@ public:
     void object(const ArgumentName &, T &field, const ArgumentRefusal &, const Refusal &)
     {
         visitor().visitObject(field);
+    }
+
+    template <class T>
+    void unread(const ArgumentName &, T &field)
+    {
+        visitor().visit(field);
     }
 
     void refuseUnless(bool, const ArgumentRefusal &) const {}

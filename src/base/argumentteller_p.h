@@ -14,10 +14,6 @@ namespace quv {
 /** Adds the refusal, if it has a code. */
 void appendRefusal(QList<RefusalFacts> &refusals, const char *form, const char *when, const Refusal &refusal);
 
-/** What people call an object that is an argument. */
-template <class T>
-inline constexpr const char *nameOf = "struct";
-
 /** Tells the arguments of a command that was built without any to those who explain it. */
 class ArgumentTeller
 {
@@ -39,9 +35,7 @@ public:
     template <class T>
     void optional(const ArgumentName &name, const T &field, const ArgumentRefusal &otherType)
     {
-        tell(name, fieldType<T>().name);
-        m_facts.arguments.last().optional = true;
-        m_facts.arguments.last().defaultValue = EncodeXmlRpcVariant(QVariant::fromValue(field));
+        unread(name, field);
         refuse("another type", otherType);
     }
 
@@ -59,6 +53,14 @@ public:
         tell(name, nameOf<T>);
         refuse("missing or another type", refusal);
         refuse("list", "unreadable", unreadable);
+    }
+
+    template <class T>
+    void unread(const ArgumentName &name, const T &field)
+    {
+        tell(name, fieldType<T>().name);
+        m_facts.arguments.last().optional = true;
+        m_facts.arguments.last().defaultValue = EncodeXmlRpcVariant(QVariant::fromValue(field));
     }
 
     void refuseUnless(bool, const ArgumentRefusal &refusal) { refuse("out of range", refusal); }

@@ -61,6 +61,25 @@ bool decodeVariant(const QVariant &variant, QList<int> &out)
     return decodeByFramework(variant, out);
 }
 
+bool decodeVariant(const QVariant &variant, QList<double> &out)
+{
+    if (variant.userType() == qMetaTypeId<QList<double>>()) {
+        out = variant.value<QList<double>>();
+        return true;
+    }
+    if (variant.userType() != QMetaType::QVariantList)
+        return false;
+    QList<double> numbers;
+    for (const QVariant &element : variant.toList()) {
+        double number = 0;
+        if (!decodeVariant(element, number))
+            return false;
+        numbers.append(number);
+    }
+    out = numbers;
+    return true;
+}
+
 bool convertVariant(const QVariant &variant, int &out)
 {
     double number = 0;

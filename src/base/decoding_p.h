@@ -28,6 +28,7 @@ bool decodeVariant(const QVariant &variant, double &out); ///< takes whole numbe
 bool decodeVariant(const QVariant &variant, QString &out);
 bool decodeVariant(const QVariant &variant, QStringList &out);
 bool decodeVariant(const QVariant &variant, QList<int> &out);
+bool decodeVariant(const QVariant &variant, QList<double> &out); ///< takes a list of such variants as well
 
 /** Whatever converts to an int that holds it: also a fraction, which is rounded, a bool, and the digits of a text. */
 bool convertVariant(const QVariant &variant, int &out);
@@ -35,6 +36,10 @@ bool convertVariant(const QVariant &variant, int &out);
 /** The member without which a variant map is no T, for the types for which a map may stand. */
 template <class T>
 inline constexpr const char *markOf = nullptr;
+
+/** What people call such a type. */
+template <class T>
+inline constexpr const char *nameOf = "struct";
 
 /** True for a T, and for a map that is meant for one. */
 template <class T>

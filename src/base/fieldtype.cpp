@@ -24,6 +24,22 @@ Decoded readArray(const XmlRpcValue &value, void *field)
                                                                                  : decoded;
 }
 
+Decoded readDoubles(const XmlRpcValue &value, void *field)
+{
+    if (value.getType() != XmlRpcValue::TypeArray)
+        return Decoded::OtherType;
+    QList<double> numbers;
+    numbers.reserve(value.size());
+    for (int i = 0; i < value.size(); ++i) {
+        double number = 0;
+        if (!DecodeXmlRpcValue(value[i], number))
+            return Decoded::BadElement;
+        numbers.append(number);
+    }
+    *static_cast<QList<double> *>(field) = numbers;
+    return Decoded::Good;
+}
+
 template <class V>
 bool readVariant(const QVariant &variant, void *field)
 {
@@ -40,6 +56,15 @@ template <class V>
 void writeVariant(const void *field, XmlRpcValue &value)
 {
     value = EncodeXmlRpcVariant(QVariant::fromValue(*static_cast<const V *>(field)));
+}
+
+void writeDoubles(const void *field, XmlRpcValue &value)
+{
+    const auto &numbers = *static_cast<const QList<double> *>(field);
+    value.clear();
+    value.setSize(numbers.size());
+    for (int i = 0; i < numbers.size(); ++i)
+        value[i] = numbers.at(i);
 }
 
 void writeCutToInt(const void *field, XmlRpcValue &value)
@@ -120,6 +145,13 @@ const FieldType &fieldType<QList<int>>()
 {
     static constexpr FieldType type =
         describe<QList<int>>("array of ints", readArray<QList<int>>, writeVariant<QList<int>>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QList<double>>()
+{
+    static constexpr FieldType type = describe<QList<double>>("array of doubles", readDoubles, writeDoubles);
     return type;
 }
 

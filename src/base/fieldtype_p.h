@@ -52,6 +52,8 @@ template <>
 const FieldType &fieldType<QList<int>>();
 template <>
 const FieldType &fieldType<XmlRpc::XmlRpcValue>();
+template <>
+const FieldType &fieldType<QList<double>>();
 
 /** A long long that is cut to 32 bits when it is written. */
 const FieldType &cutToInt();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/arguments_p.h"
 
+#include "base/argumentteller_p.h"
 #include "base/basetesting.h"
 
 #include <climits>
@@ -208,6 +209,73 @@ TEST(Arguments, WrittenTextIsUtf8)
     wash.name = QString::fromUtf8("Größe");
     EXPECT_EQ(dumped(written(wash)[1]), "\"Gr\xC3\xB6\xC3\x9F"
                                         "e\"");
+}
+
+namespace {
+
+/** What is sent between two arguments that are read. */
+struct Rinse
+{
+    int circuit = -1;
+    bool announced = true;
+    int turns = 1;
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.convertible("circuit", self.circuit, {{"V1", "Circuit: int expected"}, {}});
+        archive.unread({"announced", "to people"}, self.announced);
+        archive.optional("turns", self.turns, {});
+    }
+};
+
+} // namespace
+
+TEST(Arguments, ThatAreOnlySentAreNotRead)
+{
+    const Value value = arrayOf(5, false, 7);
+    const List list = {5, false, 7};
+    Rinse fromValue;
+    quv::ValueReader valueReader(value, signature);
+    Rinse::arguments(fromValue, valueReader);
+    Rinse fromList;
+    quv::ListReader listReader(list, signature);
+    Rinse::arguments(fromList, listReader);
+    for (const Rinse &rinse : {fromValue, fromList}) {
+        EXPECT_EQ(rinse.circuit, 5);
+        EXPECT_TRUE(rinse.announced);
+        EXPECT_EQ(rinse.turns, 7);
+    }
+    fromValue.announced = false;
+    Value written;
+    quv::ValueWriter valueWriter(written);
+    Rinse::arguments(fromValue, valueWriter);
+    EXPECT_EQ(dumped(written), "[5, false, 7]");
+    quv::ListWriter listWriter;
+    Rinse::arguments(fromValue, listWriter);
+    EXPECT_EQ(listWriter.result(), (List{5, false, 7}));
+}
+
+TEST(Arguments, AreToldWithTheRefusalsThatHaveACode)
+{
+    quv::CommandFacts facts;
+    quv::ArgumentTeller teller(facts);
+    const Rinse fresh;
+    Rinse::arguments(fresh, teller);
+    ASSERT_EQ(facts.arguments.size(), 3);
+    EXPECT_EQ(facts.arguments.at(0).name, "circuit");
+    EXPECT_FALSE(facts.arguments.at(0).optional);
+    ASSERT_EQ(facts.arguments.at(0).refusals.size(), 1);
+    EXPECT_EQ(facts.arguments.at(0).refusals.at(0).form, "XML-RPC");
+    EXPECT_EQ(facts.arguments.at(0).refusals.at(0).code, "V1");
+    EXPECT_EQ(facts.arguments.at(1).name, "announced");
+    EXPECT_EQ(facts.arguments.at(1).type, "bool");
+    EXPECT_EQ(facts.arguments.at(1).meaning, "to people");
+    EXPECT_TRUE(facts.arguments.at(1).optional);
+    EXPECT_EQ(dumped(facts.arguments.at(1).defaultValue), "true");
+    EXPECT_TRUE(facts.arguments.at(1).refusals.isEmpty());
+    EXPECT_EQ(facts.arguments.at(2).name, "turns");
+    EXPECT_TRUE(facts.arguments.at(2).refusals.isEmpty());
 }
 
 TEST(Arguments, convertsWhatAnIntCanHold)

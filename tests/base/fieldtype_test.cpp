@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "base/fieldtype_p.h"
+
+#include "base/basetesting.h"
+#include "base/objectfield_p.h"
+
+#include <new>
+#include <stdexcept>
+
+using namespace testing_base;
+
+namespace {
+
+/** Travels as a struct with one int, and says in different ways that it cannot be read. */
+struct Nozzle
+{
+    Nozzle() = default;
+    explicit Nozzle(int turnCount) : turns(turnCount) {}
+    explicit Nozzle(const Value &value)
+    {
+        if (!DecodeXmlRpcValue(value, "turns", turns))
+            throw std::invalid_argument("no nozzle");
+        if (turns < 0)
+            throw FW_Exception("DE1", "Turned back", "Nozzle::Nozzle()");
+        if (turns > 99)
+            throw std::bad_alloc();
+    }
+
+    Value toXmlRpcValue() const { return structOf({{"turns", turns}}); }
+
+    bool operator==(const Nozzle &other) const { return turns == other.turns; }
+
+    int turns = 7;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Nozzle)
+
+namespace quv {
+
+template <>
+inline constexpr const char *markOf<Nozzle> = "turns";
+template <>
+inline constexpr const char *nameOf<Nozzle> = "nozzle";
+
+} // namespace quv
+
+namespace {
+
+const quv::FieldType &doubles()
+{
+    return quv::fieldType<QList<double>>();
+}
+
+TEST(FieldType, readsAnArrayOfDoubles)
+{
+    QList<double> field = {9.5};
+    EXPECT_EQ(doubles().read(arrayOf(1.5, -2), &field), quv::Decoded::Good);
+    EXPECT_EQ(field, (QList<double>{1.5, -2}));
+    EXPECT_EQ(doubles().read(arrayOf(), &field), quv::Decoded::Good);
+    EXPECT_EQ(field, QList<double>());
+
+    field = {9.5};
+    for (const Value &other : {Value(), Value(1.5), Value("1.5"), structOf({})})
+        EXPECT_EQ(doubles().read(other, &field), quv::Decoded::OtherType);
+    for (const Value &bad : {Value(true), Value("1.5"), arrayOf(1.5)})
+        EXPECT_EQ(doubles().read(arrayOf(1.5, bad), &field), quv::Decoded::BadElement);
+    EXPECT_EQ(field, QList<double>{9.5});
+}
+
+TEST(FieldType, readsAListOfDoubles)
+{
+    QList<double> field;
+    EXPECT_TRUE(doubles().readVariant(QVariant::fromValue(QList<double>{1.5, 2}), &field));
+    EXPECT_EQ(field, (QList<double>{1.5, 2}));
+    EXPECT_TRUE(doubles().readVariant(QVariant(List{1.25, 3, 4LL}), &field));
+    EXPECT_EQ(field, (QList<double>{1.25, 3, 4}));
+    for (const QVariant &bad : {QVariant(), QVariant(1.5), QVariant(List{1.5, "2"}), QVariant("1.5"),
+                                QVariant::fromValue(QList<int>{1})}) {
+        EXPECT_FALSE(doubles().readVariant(bad, &field));
+        EXPECT_EQ(field, (QList<double>{1.25, 3, 4}));
+    }
+}
+
+TEST(FieldType, writesAndEmptiesDoubles)
+{
+    QList<double> field = {1.5, 2};
+    Value value(false);
+    doubles().write(&field, value);
+    EXPECT_EQ(dumped(value), "[1.50000, 2.00000]");
+    EXPECT_TRUE(doubles().equal(&field, &field));
+    const QList<double> other = {1.5, 2.5};
+    EXPECT_FALSE(doubles().equal(&field, &other));
+    doubles().reset(&field);
+    EXPECT_EQ(field, QList<double>());
+    doubles().write(&field, value);
+    EXPECT_EQ(dumped(value), "[]");
+    EXPECT_STREQ(doubles().name, "array of doubles");
+}
+
+TEST(FieldType, ofAnObjectIsItsOwnStruct)
+{
+    constexpr quv::FieldType type = quv::objectType<Nozzle>();
+    Nozzle field;
+    EXPECT_EQ(type.read(structOf({{"turns", 5}}), &field), quv::Decoded::Good);
+    EXPECT_EQ(field.turns, 5);
+    for (const Value &bad : {Value(), Value(5), structOf({}), structOf({{"turns", 100}})})
+        EXPECT_EQ(type.read(bad, &field), quv::Decoded::OtherType);
+    EXPECT_EQ(field.turns, 5);
+    expectRefusal("DE1", "Turned back", "Nozzle::Nozzle()", [&] {
+        type.read(structOf({{"turns", -1}}), &field);
+    });
+
+    Value value(false);
+    type.write(&field, value);
+    EXPECT_EQ(dumped(value), R"({"turns": 5})");
+    const Nozzle same(5);
+    EXPECT_TRUE(type.equal(&field, &same));
+    type.reset(&field);
+    EXPECT_EQ(field.turns, 7);
+    EXPECT_FALSE(type.equal(&field, &same));
+    EXPECT_STREQ(type.name, "nozzle");
+}
+
+TEST(FieldType, ofAnObjectInAListIsAlsoAMap)
+{
+    QMetaType::registerConverter<QVariantMap, Nozzle>(
+        [](const QVariantMap &members) { return Nozzle(EncodeXmlRpcVariant(members)); });
+    constexpr quv::FieldType type = quv::objectType<Nozzle>();
+    Nozzle field;
+    EXPECT_TRUE(type.readVariant(QVariant::fromValue(Nozzle(5)), &field));
+    EXPECT_EQ(field.turns, 5);
+    EXPECT_TRUE(type.readVariant(QVariantMap{{"turns", 6}}, &field));
+    EXPECT_EQ(field.turns, 6);
+    for (const QVariant &bad : {QVariant(), QVariant(6), QVariant(QVariantMap{{"turn", 1}}),
+                                QVariant(QVariantMap{{"turns", "1"}}), QVariant(QVariantMap{{"turns", 100}})})
+        EXPECT_FALSE(type.readVariant(bad, &field));
+    EXPECT_EQ(field.turns, 6);
+    expectRefusal("DE1", "Turned back", "Nozzle::Nozzle()", [&] {
+        type.readVariant(QVariantMap{{"turns", -1}}, &field);
+    });
+}
+
+} // namespace
