@@ -2,14 +2,18 @@
 #pragma once
 
 #include "base/confprotoanswer.h"
+#include "base/describedanswer.h"
 
 /**
  * The answer to CHECK_FORMULA_LEVELS: the IDs of the canisters that the formula would bring below their critical level,
  * and of those below their warning level. Over XML-RPC a struct of two arrays of int.
  */
-class QUVPROTOCOL_EXPORT CheckFormulaLevelsAnswer : public ConfProtoAnswer
+class QUVPROTOCOL_EXPORT CheckFormulaLevelsAnswer
+    : public quv::DescribedAnswer<CheckFormulaLevelsAnswer, ConfProtoAnswer>
 {
 public:
+    struct Description;
+
     static constexpr char canistersBelowCritical_TAG[] = "canisters_below_critical";
     static constexpr char canistersBelowWarning_TAG[] = "canisters_below_warning";
 
@@ -21,11 +25,6 @@ public:
     explicit CheckFormulaLevelsAnswer(const XmlRpc::XmlRpcValue &value);
 
     CheckFormulaLevelsAnswer *clone() const override;
-    bool equalTo(const ProtoAnswer *other) const override;
-    XmlRpc::XmlRpcValue toXmlRpcValue() const override;
-
-    bool operator==(const CheckFormulaLevelsAnswer &other) const;
-    bool operator!=(const CheckFormulaLevelsAnswer &other) const { return !(*this == other); }
 
     const QList<int> &canistersBelowCritical() const { return m_canistersBelowCritical; }
     const QList<int> &canistersBelowWarning() const { return m_canistersBelowWarning; }

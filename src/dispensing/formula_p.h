@@ -33,6 +33,10 @@ template <>
 inline constexpr const char *markOf<Formula> = Formula::FORMULA_TYPE;
 template <>
 inline constexpr const char *markOf<PurgeFormula> = PurgeFormula::PURGE_QUANTITY;
+template <>
+inline constexpr const char *nameOf<Formula> = "formula";
+template <>
+inline constexpr const char *nameOf<PurgeFormula> = "purge formula";
 
 /** Runs a check of the form bool (FW_DriverError &) and throws the error that it filled when it is false. */
 template <class Check>

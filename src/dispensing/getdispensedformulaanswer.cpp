@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/getdispensedformulaanswer.h"
 
+#include "base/describedanswer_p.h"
 #include "base/tokens_p.h"
-#include "dispensing/formula_p.h"
-
-#include <QuvFramework/fw_xmlrpc.h>
+#include "dispensing/formulafield_p.h"
 
 #include <utility>
 
@@ -54,23 +53,41 @@ Formula formulaOf(Report &report, QList<QVariant> &steps, int criterion)
                    criterion, decimals, noPolicy, QList<int>());
 }
 
-Formula decodedMember(const XmlRpc::XmlRpcValue &value, const char *key, const quv::Refusal &missing,
-                      const char *otherTypeCode, const char *function)
-{
-    const XmlRpc::XmlRpcValue *member = FindXmlRpcMember(value, key);
-    if (!member)
-        throw FW_Exception(missing.code, missing.text, function);
-    return quv::decodedValue<Formula>(
-        member, {otherTypeCode, "GetDispensedFormulaAnswer failed: expected Formula type parameter"},
-        function);
-}
-
-Formula decodedElement(const QVariant &element, const quv::Refusal &refusal, const char *function)
-{
-    return quv::decodedVariant<Formula>(element, refusal, refusal, function);
-}
-
 } // namespace
+
+struct GetDispensedFormulaAnswer::Description
+{
+    using Answer = GetDispensedFormulaAnswer;
+
+    static constexpr char noFormula[] = "GetDispensedFormulaAnswer failed: expected Formula type parameter";
+
+    static std::vector<quv::Member<Answer>> members()
+    {
+        return {quv::Member<Answer>(
+                    dispensedFormula_TAG, &Answer::m_dispensedFormula,
+                    {"DE01711", "GetDispensedFormulaAnswer failed: expected Dispensed Formula parameter"},
+                    {"DE01716", "GetDispensedFormulaAnswer decoding failed: invalid QVariant value (expected "
+                                "Dispensed Formula type)"})
+                    .otherType({"DE01710", noFormula})
+                    .meaning("what has left the nozzles"),
+                quv::Member<Answer>(
+                    remainingFormula_TAG, &Answer::m_remainingFormula,
+                    {"DE01713", "GetDispensedFormulaAnswer failed: expected Remaining Formula parameter"},
+                    {"DE01531", "GetDispensedFormulaAnswer decoding failed: invalid QVariant value (expected "
+                                "Remaining Formula type)"})
+                    .otherType({"DE01712", noFormula})
+                    .meaning("what has not; a firmware does not tell it"),
+                quv::Member<Answer>(
+                    totalFormula_TAG, &Answer::m_totalFormula,
+                    {"DE01715", "GetDispensedFormulaAnswer failed: expected Total Formula parameter"},
+                    {"DE01718", "GetDispensedFormulaAnswer decoding failed: invalid QVariant value (expected "
+                                "Total Formula type)"})
+                    .otherType({"DE01714", noFormula})
+                    .meaning("the whole")};
+    }
+};
+
+template class quv::DescribedAnswer<GetDispensedFormulaAnswer, SerialProtoAnswer>;
 
 GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(const Formula &dispensed, const Formula &remaining,
                                                      const Formula &total)
@@ -79,8 +96,7 @@ GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(const Formula &dispensed, c
       m_totalFormula(total)
 {}
 
-GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(QStringList tokens)
-    : SerialProtoAnswer(std::move(tokens))
+GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(QStringList tokens) : DescribedAnswer(std::move(tokens))
 {
     quv::TokenReader reader(m_parameters, 0, Q_FUNC_INFO);
     reader.require(2, badAnswer("DE01698"));
@@ -96,42 +112,19 @@ GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(QStringList tokens)
     }
 }
 
-GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(QList<QVariant> &list) : SerialProtoAnswer(list)
+GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
     if (list.size() != 3)
         throw FW_Exception("DE01719",
                            "GetDispensedFormulaAnswer decoding failed: invalid QVariant values length",
                            Q_FUNC_INFO);
-    m_dispensedFormula =
-        decodedElement(list.at(0),
-                       {"DE01716", "GetDispensedFormulaAnswer decoding failed: invalid QVariant value "
-                                   "(expected Dispensed Formula type)"},
-                       Q_FUNC_INFO);
-    m_remainingFormula =
-        decodedElement(list.at(1),
-                       {"DE01531", "GetDispensedFormulaAnswer decoding failed: invalid QVariant value "
-                                   "(expected Remaining Formula type)"},
-                       Q_FUNC_INFO);
-    m_totalFormula = decodedElement(list.at(2),
-                                    {"DE01718", "GetDispensedFormulaAnswer decoding failed: invalid QVariant "
-                                                "value (expected Total Formula type)"},
-                                    Q_FUNC_INFO);
+    read(list, Q_FUNC_INFO);
 }
 
 GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(const XmlRpc::XmlRpcValue &value)
-    : m_dispensedFormula(
-          decodedMember(value, dispensedFormula_TAG,
-                        {"DE01711", "GetDispensedFormulaAnswer failed: expected Dispensed Formula parameter"},
-                        "DE01710", Q_FUNC_INFO)),
-      m_remainingFormula(
-          decodedMember(value, remainingFormula_TAG,
-                        {"DE01713", "GetDispensedFormulaAnswer failed: expected Remaining Formula parameter"},
-                        "DE01712", Q_FUNC_INFO)),
-      m_totalFormula(
-          decodedMember(value, totalFormula_TAG,
-                        {"DE01715", "GetDispensedFormulaAnswer failed: expected Total Formula parameter"},
-                        "DE01714", Q_FUNC_INFO))
-{}
+{
+    read(value, Q_FUNC_INFO);
+}
 
 GetDispensedFormulaAnswer *GetDispensedFormulaAnswer::clone() const
 {
@@ -140,28 +133,5 @@ GetDispensedFormulaAnswer *GetDispensedFormulaAnswer::clone() const
 
 void GetDispensedFormulaAnswer::setDefaults()
 {
-    m_dispensedFormula.setDefaults();
-    m_remainingFormula.setDefaults();
-    m_totalFormula.setDefaults();
-}
-
-bool GetDispensedFormulaAnswer::equalTo(const ProtoAnswer *other) const
-{
-    const auto *that = dynamic_cast<const GetDispensedFormulaAnswer *>(other);
-    return that && *this == *that;
-}
-
-XmlRpc::XmlRpcValue GetDispensedFormulaAnswer::toXmlRpcValue() const
-{
-    XmlRpc::XmlRpcValue value;
-    value[dispensedFormula_TAG] = m_dispensedFormula.toXmlRpcValue(nullptr);
-    value[remainingFormula_TAG] = m_remainingFormula.toXmlRpcValue(nullptr);
-    value[totalFormula_TAG] = m_totalFormula.toXmlRpcValue(nullptr);
-    return value;
-}
-
-bool GetDispensedFormulaAnswer::operator==(const GetDispensedFormulaAnswer &other) const
-{
-    return m_dispensedFormula == other.m_dispensedFormula && m_remainingFormula == other.m_remainingFormula &&
-           m_totalFormula == other.m_totalFormula;
+    quv::recordOf<GetDispensedFormulaAnswer>().reset(*this);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/describedanswer.h"
 #include "base/serialprotoanswer.h"
 
 #include <QuvFramework/formula.h>
@@ -9,9 +10,12 @@
  * The answer to GET_DISPENSED_FORMULA: what was dispensed of a formula, what remains, and the whole. Over XML-RPC a struct
  * of three formulas; the firmware tells two and never what remains.
  */
-class QUVPROTOCOL_EXPORT GetDispensedFormulaAnswer : public SerialProtoAnswer
+class QUVPROTOCOL_EXPORT GetDispensedFormulaAnswer
+    : public quv::DescribedAnswer<GetDispensedFormulaAnswer, SerialProtoAnswer>
 {
 public:
+    struct Description;
+
     static constexpr char dispensedFormula_TAG[] = "dispensed_formula";
     static constexpr char remainingFormula_TAG[] = "remaining_formula";
     static constexpr char totalFormula_TAG[] = "total_formula";
@@ -32,11 +36,6 @@ public:
 
     GetDispensedFormulaAnswer *clone() const override;
     void setDefaults();
-    bool equalTo(const ProtoAnswer *other) const override;
-    XmlRpc::XmlRpcValue toXmlRpcValue() const override;
-
-    bool operator==(const GetDispensedFormulaAnswer &other) const; ///< by the formulas alone
-    bool operator!=(const GetDispensedFormulaAnswer &other) const { return !(*this == other); }
 
     const Formula &dispensedFormula() const { return m_dispensedFormula; }
     const Formula &remainingFormula() const { return m_remainingFormula; }

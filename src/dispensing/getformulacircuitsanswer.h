@@ -2,14 +2,18 @@
 #pragma once
 
 #include "base/confprotoanswer.h"
+#include "base/describedanswer.h"
 
 /**
  * The answer to GET_FORMULA_CIRCUITS: three parallel lists, the circuits that a formula uses, their positions, and how
  * much each pours. Over XML-RPC a struct of two arrays of int and one of double.
  */
-class QUVPROTOCOL_EXPORT GetFormulaCircuitsAnswer : public ConfProtoAnswer
+class QUVPROTOCOL_EXPORT GetFormulaCircuitsAnswer
+    : public quv::DescribedAnswer<GetFormulaCircuitsAnswer, ConfProtoAnswer>
 {
 public:
+    struct Description;
+
     static constexpr char circuitIDs_TAG[] = "circuits";
     static constexpr char positionIDs_TAG[] = "positions";
     static constexpr char quantities_TAG[] = "quantities";
@@ -26,11 +30,6 @@ public:
     explicit GetFormulaCircuitsAnswer(const XmlRpc::XmlRpcValue &value);
 
     GetFormulaCircuitsAnswer *clone() const override;
-    bool equalTo(const ProtoAnswer *other) const override;
-    XmlRpc::XmlRpcValue toXmlRpcValue() const override;
-
-    bool operator==(const GetFormulaCircuitsAnswer &other) const;
-    bool operator!=(const GetFormulaCircuitsAnswer &other) const { return !(*this == other); }
 
     const QList<int> &circuitIDs() const { return m_circuitIDs; }
     const QList<int> &positionIDs() const { return m_positionIDs; }

@@ -2,13 +2,17 @@
 #pragma once
 
 #include "base/confprotoanswer.h"
+#include "base/describedanswer.h"
 
 #include <QuvFramework/formulaprogress.h>
 
 /** The answer to GET_FORMULA_EXECUTION: how far each channel is. Over XML-RPC a struct with one member. */
-class QUVPROTOCOL_EXPORT GetFormulaExecutionAnswer : public ConfProtoAnswer
+class QUVPROTOCOL_EXPORT GetFormulaExecutionAnswer
+    : public quv::DescribedAnswer<GetFormulaExecutionAnswer, ConfProtoAnswer>
 {
 public:
+    struct Description;
+
     static constexpr char formulaProgress_TAG[] = "frm_progress";
 
     GetFormulaExecutionAnswer() = default;
@@ -18,14 +22,6 @@ public:
     explicit GetFormulaExecutionAnswer(const XmlRpc::XmlRpcValue &value); ///< throws DE02936
 
     GetFormulaExecutionAnswer *clone() const override;
-    bool equalTo(const ProtoAnswer *other) const override;
-    XmlRpc::XmlRpcValue toXmlRpcValue() const override;
-
-    bool operator==(const GetFormulaExecutionAnswer &other) const
-    {
-        return m_formulaProgress == other.m_formulaProgress;
-    }
-    bool operator!=(const GetFormulaExecutionAnswer &other) const { return !(*this == other); }
 
     const FormulaProgress &formulaProgress() const { return m_formulaProgress; }
 

@@ -2,13 +2,17 @@
 #pragma once
 
 #include "base/confprotoanswer.h"
+#include "base/describedanswer.h"
 
 #include <QuvFramework/formula.h>
 
 /** The answer to GET_LOW_LEVEL_FORMULA: the formula in the machine's own terms. Over XML-RPC a struct with one member. */
-class QUVPROTOCOL_EXPORT GetLowLevelFormulaAnswer : public ConfProtoAnswer
+class QUVPROTOCOL_EXPORT GetLowLevelFormulaAnswer
+    : public quv::DescribedAnswer<GetLowLevelFormulaAnswer, ConfProtoAnswer>
 {
 public:
+    struct Description;
+
     static constexpr char formula_TAG[] = "low_level_formula";
 
     GetLowLevelFormulaAnswer() = default;
@@ -18,11 +22,6 @@ public:
     explicit GetLowLevelFormulaAnswer(const XmlRpc::XmlRpcValue &value); ///< throws DE00904
 
     GetLowLevelFormulaAnswer *clone() const override;
-    bool equalTo(const ProtoAnswer *other) const override;
-    XmlRpc::XmlRpcValue toXmlRpcValue() const override;
-
-    bool operator==(const GetLowLevelFormulaAnswer &other) const { return m_formula == other.m_formula; }
-    bool operator!=(const GetLowLevelFormulaAnswer &other) const { return !(*this == other); }
 
     const Formula &formula() const { return m_formula; }
 

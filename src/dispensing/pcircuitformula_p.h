@@ -8,6 +8,8 @@ namespace quv {
 
 template <>
 inline constexpr const char *markOf<PCircuitFormula> = PCircuitFormula::executionCriterion_TAG;
+template <>
+inline constexpr const char *nameOf<PCircuitFormula> = "circuit list";
 
 /** A circuit that cannot be read, or no circuits where they should be. */
 constexpr Refusal badPCircuit = {"DE02317", "PCircuit: bad xml-rpc values"};
