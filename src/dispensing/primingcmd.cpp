@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/primingcmd.h"
 
-#include "base/translation_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/formula_p.h"
-
-#include <QuvFramework/fw_xmlrpc.h>
 
 namespace {
 
 constexpr char invalidType[] = "PrimingCmd failed: invalid Formula type parameter";
-constexpr quv::Refusal incorrectType = {"DE00493", "PrimingCmd failed: incorrect Formula type parameter"};
-constexpr quv::Refusal expectedType = {"DE00494", "PrimingCmd failed: expected Formula type parameter"};
 
 constexpr quv::LevelsCodes levelsCodes = {"DE00503", "DE00502", "DE00501", "DE00535"};
 
@@ -38,34 +33,44 @@ Suggestion suggestionFor(int type)
     }
 }
 
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::PRIMING);
-}
-
 } // namespace
 
-PrimingCmd::PrimingCmd() : SerialProtoCommand(name(), nullptr) {}
+struct PrimingCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::PRIMING;
+    static constexpr auto commandText = "Priming";
+    static constexpr auto actionText = QT_TRANSLATE_NOOP("QuvProtocol", "Priming in progress");
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.object(
+            {"formula", "in strokes"}, self.m_formula,
+            {{"DE00497", invalidType}, {"DE00494", "PrimingCmd failed: expected Formula type parameter"}},
+            {"DE00493", "PrimingCmd failed: incorrect Formula type parameter"});
+    }
+};
+
+template class quv::DescribedCommand<PrimingCmd, SerialProtoCommand>;
 
 PrimingCmd::PrimingCmd(const Formula &formula, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), dispenser),
+    : DescribedCommand(dispenser),
       m_formula(quv::copied(formula, {"DE00492", invalidType}, Q_FUNC_INFO))
 {
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 PrimingCmd::PrimingCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), value, dispenser),
-      m_formula(
-          quv::decodedValue<Formula>(FindXmlRpcElement(value, 0), {"DE00497", invalidType}, Q_FUNC_INFO))
+    : DescribedCommand(value, dispenser)
 {
+    read(value, Q_FUNC_INFO);
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 PrimingCmd::PrimingCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), list, dispenser),
-      m_formula(quv::decodedVariant<Formula>(list.value(0), expectedType, incorrectType, Q_FUNC_INFO))
+    : DescribedCommand(list, dispenser)
 {
+    read(list, Q_FUNC_INFO);
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
@@ -109,20 +114,6 @@ bool PrimingCmd::checkFormula(FW_DriverError &error) const
     return true;
 }
 
-QList<QVariant> PrimingCmd::parameters() const
-{
-    return {QVariant::fromValue(m_formula)};
-}
-
-XmlRpc::XmlRpcValue PrimingCmd::xmlrpc_parameters(bool *ok) const
-{
-    if (ok)
-        *ok = true;
-    XmlRpc::XmlRpcValue array;
-    array[0] = m_formula.toXmlRpcValue();
-    return array;
-}
-
 QList<int> PrimingCmd::serialParameters(int) const
 {
     const FW_Dispenser *dispenser = quv::dispenserOf(*this);
@@ -140,16 +131,11 @@ QList<int> PrimingCmd::serialParameters(int) const
     return parameters;
 }
 
-QString PrimingCmd::commandString() const
-{
-    return QStringLiteral("Priming");
-}
-
 TString PrimingCmd::actionString(bool detailed) const
 {
     if (detailed)
         return TString("Priming with formula: %1", "").arg(m_formula.toPrintableString(true, nullptr), false);
-    return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Priming in progress"), quv::translationContext);
+    return DescribedCommand::actionString(detailed);
 }
 
 int PrimingCmd::defaultPrimingStrokes(int type)

@@ -1,24 +1,25 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotocommand.h"
+#include "base/describedcommand.h"
 
 #include <QuvFramework/formula.h>
 
 class FW_Dispenser;
 
 /** PRIMING: fills circuits by the strokes that a formula gives them. */
-class QUVPROTOCOL_EXPORT PrimingCmd : public SerialProtoCommand
+class QUVPROTOCOL_EXPORT PrimingCmd : public quv::DescribedCommand<PrimingCmd, SerialProtoCommand>
 {
 public:
+    struct Description;
+
     // With a dispenser the formula is checked, and a constructor throws what checkFormula tells.
-    PrimingCmd();
+    PrimingCmd() = default;
     PrimingCmd(const Formula &formula, const FW_Dispenser *dispenser);
     /** One formula. Throws DE00497 when it cannot be read. */
     PrimingCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser);
     /** The same as a list, the formula also as a map. Throws DE00494 for another type, DE00493 for a bad map. */
     PrimingCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    PrimingCmd(const PrimingCmd &) = default;
 
     PrimingCmd *clone() const override;
 
@@ -31,13 +32,9 @@ public:
      */
     bool checkFormula(FW_DriverError &error) const;
 
-    QList<QVariant> parameters() const override;
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
-
     /** As a tint's, with 3 for the criterion and strokes for steps. Empty without a dispenser that fits the formula. */
     QList<int> serialParameters(int family) const override;
 
-    QString commandString() const override;
     TString actionString(bool detailed) const override;
 
     // What a program suggests to its user for a circuit, by the program's own code of the circuit's type.
