@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/packcmd.h"
 
-#include "base/arguments_p.h"
-#include "base/translation_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/formula_p.h"
-
-#include <QuvFramework/fw_xmlrpc.h>
 
 namespace {
 
 constexpr char invalidMovement[] = "PackCmd failed: invalid pump movement type parameter";
 constexpr char invalidType[] = "PackCmd failed: invalid Formula type parameter";
-constexpr quv::Refusal incorrectType = {"DE00993", "PackCmd failed: incorrect Formula type parameter"};
-constexpr quv::Refusal expectedType = {"DE00994", "PackCmd failed: expected Formula type parameter"};
 
 /** What the firmware takes for the criterion of a tint that is none. */
 constexpr int packCriterion = 3;
-
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::PACK);
-}
 
 /** Null for a movement that there is not. */
 const char *movementText(int type)
@@ -36,43 +25,49 @@ const char *movementText(int type)
     }
 }
 
-void requireMovement(int type, const char *code, const char *function)
-{
-    if (!PackCmd::checkPumpMovementType(type))
-        throw FW_Exception(code, invalidMovement, function);
-}
-
 } // namespace
 
-PackCmd::PackCmd() : SerialProtoCommand(name(), nullptr) {}
+struct PackCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::PACK;
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.convertible({"movement_type", "0 pack, 1 unpack"}, self.m_pumpMovementType,
+                            {{"DE00988", "PackCmd failed: expected Int type for first parameter"},
+                             {"DE00863", invalidMovement}});
+        archive.refuseUnless(checkPumpMovementType(self.m_pumpMovementType),
+                             {"DE00987", "DE00992", invalidMovement});
+        archive.object(
+            {"formula", "quantities are not sent"}, self.m_formula,
+            {{"DE00989", invalidType}, {"DE00994", "PackCmd failed: expected Formula type parameter"}},
+            {"DE00993", "PackCmd failed: incorrect Formula type parameter"});
+    }
+};
+
+template class quv::DescribedCommand<PackCmd, SerialProtoCommand>;
 
 PackCmd::PackCmd(int pumpMovementType, const Formula &formula, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), dispenser),
+    : DescribedCommand(dispenser),
       m_pumpMovementType(pumpMovementType)
 {
-    requireMovement(m_pumpMovementType, "DE00506", Q_FUNC_INFO);
+    if (!checkPumpMovementType(m_pumpMovementType))
+        throw FW_Exception("DE00506", invalidMovement, Q_FUNC_INFO);
     m_formula = quv::copied(formula, {"DE00536", invalidType}, Q_FUNC_INFO);
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 PackCmd::PackCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), value, dispenser)
+    : DescribedCommand(value, dispenser)
 {
-    if (!DecodeXmlRpcValue(value, 0, m_pumpMovementType))
-        throw FW_Exception("DE00988", "PackCmd failed: expected Int type for first parameter", Q_FUNC_INFO);
-    requireMovement(m_pumpMovementType, "DE00987", Q_FUNC_INFO);
-    m_formula =
-        quv::decodedValue<Formula>(FindXmlRpcElement(value, 1), {"DE00989", invalidType}, Q_FUNC_INFO);
+    read(value, Q_FUNC_INFO);
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
-PackCmd::PackCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), list, dispenser)
+PackCmd::PackCmd(QList<QVariant> list, const FW_Dispenser *dispenser) : DescribedCommand(list, dispenser)
 {
-    if (!quv::convertVariant(list.value(0), m_pumpMovementType))
-        throw FW_Exception("DE00863", invalidMovement, Q_FUNC_INFO);
-    requireMovement(m_pumpMovementType, "DE00992", Q_FUNC_INFO);
-    m_formula = quv::decodedVariant<Formula>(list.value(1), expectedType, incorrectType, Q_FUNC_INFO);
+    read(list, Q_FUNC_INFO);
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
@@ -111,21 +106,6 @@ bool PackCmd::checkFormula(FW_DriverError &error) const
             return FW_DriverError::D_E("DE00995", "Bad speed value in formula", error);
     }
     return true;
-}
-
-QList<QVariant> PackCmd::parameters() const
-{
-    return {m_pumpMovementType, QVariant::fromValue(m_formula)};
-}
-
-XmlRpc::XmlRpcValue PackCmd::xmlrpc_parameters(bool *ok) const
-{
-    if (ok)
-        *ok = true;
-    XmlRpc::XmlRpcValue array;
-    array[0] = m_pumpMovementType;
-    array[1] = m_formula.toXmlRpcValue();
-    return array;
 }
 
 QList<int> PackCmd::serialParameters(int) const

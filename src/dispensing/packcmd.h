@@ -1,21 +1,23 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotocommand.h"
+#include "base/describedcommand.h"
 
 #include <QuvFramework/formula.h>
 
 class FW_Dispenser;
 
 /** PACK: moves the pumps of a formula's circuits into or out of their transport position. Quantities are not sent. */
-class QUVPROTOCOL_EXPORT PackCmd : public SerialProtoCommand
+class QUVPROTOCOL_EXPORT PackCmd : public quv::DescribedCommand<PackCmd, SerialProtoCommand>
 {
 public:
+    struct Description;
+
     enum PumpMovementType { PumpPack = 0, PumpUnpack = 1 };
 
     // The movement type is checked always, first. With a dispenser the formula is checked too, and a constructor throws what
     // checkFormula tells.
-    PackCmd(); ///< without a movement type, which is -1 then
+    PackCmd() = default; ///< without a movement type, which is -1 then
     /** Throws DE00506 for another movement type. */
     PackCmd(int pumpMovementType, const Formula &formula, const FW_Dispenser *dispenser);
     /** Movement type and formula. Throws DE00988 for no int, DE00987 for another movement type, DE00989 for a bad formula. */
@@ -25,7 +27,6 @@ public:
      * for no formula, DE00993 for a bad map.
      */
     PackCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    PackCmd(const PackCmd &) = default;
 
     PackCmd *clone() const override;
 
@@ -40,9 +41,6 @@ public:
      * no speed.
      */
     bool checkFormula(FW_DriverError &error) const;
-
-    QList<QVariant> parameters() const override;
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
 
     /** As a tint's, with 3 for the criterion and the movement type for steps. Empty without a dispenser that fits. */
     QList<int> serialParameters(int family) const override;
