@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/channeltintcmd.h"
 
-#include "base/arguments_p.h"
-#include "base/translation_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/formula_p.h"
 
 #include <algorithm>
@@ -12,11 +10,6 @@ namespace {
 
 constexpr char invalidFormula[] = "ChannelTintCmd failed: invalid Formula type parameter";
 constexpr char invalidChannel[] = "ChannelTintCmd failed: invalid channel ID parameter";
-
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::CHANNEL_TINT);
-}
 
 bool canPourItem(const CircuitFormulaItem &item, FW_DriverError &error)
 {
@@ -30,42 +23,48 @@ bool canPourItem(const CircuitFormulaItem &item, FW_DriverError &error)
 
 } // namespace
 
-ChannelTintCmd::ChannelTintCmd() : SerialProtoCommand(name(), nullptr) {}
+struct ChannelTintCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::CHANNEL_TINT;
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.convertible({"channel", "1 or 2"}, self.m_channelID,
+                            {{"DE01424", "ChannelTintCmd failed: expected Int type for first parameter"},
+                             {"DE01426", invalidChannel}});
+        archive.whenRead([&self](const char *function) { self.requireChannel(function); });
+        archive.object("formula", self.m_formula,
+                       {{"DE01425", invalidFormula},
+                        {"DE01428", "ChannelTintCmd failed: expected Formula type parameter"}},
+                       {"DE01427", "ChannelTintCmd failed: incorrect Formula type parameter"});
+    }
+};
+
+template class quv::DescribedCommand<ChannelTintCmd, SerialProtoCommand>;
 
 ChannelTintCmd::ChannelTintCmd(int channel, const Formula &formula, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), dispenser),
+    : DescribedCommand(dispenser),
       m_channelID(channel)
 {
     const char *function = Q_FUNC_INFO;
-    requireChannel(dispenser, function);
+    requireChannel(function);
     m_formula = quv::copied(formula, {"DE01423", invalidFormula}, function);
     quv::requireGoodFormula(*this, dispenser, function);
 }
 
 ChannelTintCmd::ChannelTintCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), value, dispenser)
+    : DescribedCommand(value, dispenser)
 {
-    const char *function = Q_FUNC_INFO;
-    if (!DecodeXmlRpcValue(value, 0, m_channelID))
-        throw FW_Exception("DE01424", "ChannelTintCmd failed: expected Int type for first parameter",
-                           function);
-    requireChannel(dispenser, function);
-    m_formula =
-        quv::decodedValue<Formula>(FindXmlRpcElement(value, 1), {"DE01425", invalidFormula}, function);
-    quv::requireGoodFormula(*this, dispenser, function);
+    read(value, Q_FUNC_INFO);
+    quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 ChannelTintCmd::ChannelTintCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), list, dispenser)
+    : DescribedCommand(list, dispenser)
 {
-    const char *function = Q_FUNC_INFO;
-    if (!quv::convertVariant(list.value(0), m_channelID))
-        throw FW_Exception("DE01426", invalidChannel, function);
-    requireChannel(dispenser, function);
-    m_formula = quv::decodedVariant<Formula>(
-        list.value(1), {"DE01428", "ChannelTintCmd failed: expected Formula type parameter"},
-        {"DE01427", "ChannelTintCmd failed: incorrect Formula type parameter"}, function);
-    quv::requireGoodFormula(*this, dispenser, function);
+    read(list, Q_FUNC_INFO);
+    quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 ChannelTintCmd *ChannelTintCmd::clone() const
@@ -76,19 +75,6 @@ ChannelTintCmd *ChannelTintCmd::clone() const
 void ChannelTintCmd::setDefaults()
 {
     m_channelID = 0;
-}
-
-QList<QVariant> ChannelTintCmd::parameters() const
-{
-    return {m_channelID, QVariant::fromValue(m_formula)};
-}
-
-XmlRpc::XmlRpcValue ChannelTintCmd::xmlrpc_parameters(bool *ok) const
-{
-    XmlRpc::XmlRpcValue array;
-    array[0] = m_channelID;
-    array[1] = m_formula.toXmlRpcValue(ok);
-    return array;
 }
 
 QList<int> ChannelTintCmd::serialParameters(int) const
@@ -167,8 +153,9 @@ bool ChannelTintCmd::checkChannelID(int channelID, const FW_Dispenser *dispenser
     return true;
 }
 
-void ChannelTintCmd::requireChannel(const FW_Dispenser *dispenser, const char *function) const
+void ChannelTintCmd::requireChannel(const char *function) const
 {
-    quv::require(function,
-                 [&](FW_DriverError &error) { return checkChannelID(m_channelID, dispenser, error); });
+    quv::require(function, [this](FW_DriverError &error) {
+        return checkChannelID(m_channelID, quv::dispenserOf(*this), error);
+    });
 }

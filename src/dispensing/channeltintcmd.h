@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotocommand.h"
+#include "base/describedcommand.h"
 
 #include <QuvFramework/formula.h>
 
@@ -11,10 +11,12 @@ class FW_Dispenser;
  * CHANNEL_TINT: one of the two channels of a dual machine pours a formula. Only an empty one can be built without its
  * dispenser.
  */
-class QUVPROTOCOL_EXPORT ChannelTintCmd : public SerialProtoCommand
+class QUVPROTOCOL_EXPORT ChannelTintCmd : public quv::DescribedCommand<ChannelTintCmd, SerialProtoCommand>
 {
 public:
-    ChannelTintCmd(); ///< channel 0, which no machine has
+    struct Description;
+
+    ChannelTintCmd() = default; ///< channel 0, which no machine has
     // The others throw what checkChannelID and then checkFormula fail with.
     /** Throws DE01423 when the formula cannot be copied. */
     ChannelTintCmd(int channel, const Formula &formula, const FW_Dispenser *dispenser);
@@ -25,13 +27,10 @@ public:
      * read.
      */
     ChannelTintCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    ChannelTintCmd(const ChannelTintCmd &) = default;
 
     ChannelTintCmd *clone() const override;
-    void setDefaults(); ///< channel 0
+    void setDefaults(); ///< channel 0; the formula stays
 
-    QList<QVariant> parameters() const override;
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
     /** As for a TINT with criterion 2 that has the channel in the place of the queues and leaves out what has no steps. */
     QList<int> serialParameters(int family) const override;
 
@@ -51,7 +50,7 @@ public:
     static bool checkChannelID(int channelID, const FW_Dispenser *dispenser, FW_DriverError &error);
 
 private:
-    void requireChannel(const FW_Dispenser *dispenser, const char *function) const;
+    void requireChannel(const char *function) const;
 
     int m_channelID = 0;
     Formula m_formula;
