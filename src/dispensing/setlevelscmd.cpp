@@ -1,28 +1,16 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/setlevelscmd.h"
 
-#include "base/arguments_p.h"
-#include "base/translation_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/formula_p.h"
 
 #include <QuvFramework/fw_utils.h>
-#include <QuvFramework/fw_xmlrpc.h>
 
 #include <cmath>
 
 namespace {
 
-constexpr char noFlag[] = "SetLevelsCmd failed: expected Bool type for first parameter";
-constexpr char noFormula[] = "SetLevelsCmd failed: expected Formula type for second parameter";
-constexpr quv::Refusal noFormulaInList = {"DE01323", noFormula};
-
 constexpr double leastChange = 0.1;
-
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::SET_LEVELS);
-}
 
 /** Whole units only: what a scale or a rounding makes of a level is no refill. */
 double changeOf(const FW_CanisterRefill &refill)
@@ -38,30 +26,47 @@ void fillWord(TString &text, const char *word, bool isGiven)
 
 } // namespace
 
-SetLevelsCmd::SetLevelsCmd() : ConfProtoCommand(name(), nullptr) {}
-
-SetLevelsCmd::SetLevelsCmd(const Formula &formula, bool delta, bool refill) : SetLevelsCmd()
+struct SetLevelsCmd::Description : quv::Description
 {
-    m_formula = formula;
-    m_delta = delta;
-    m_refill = refill;
-}
+    static constexpr auto command = ProtoCommandList::SET_LEVELS;
+    static constexpr auto commandText = "Update levels";
+    static constexpr auto actionText = QT_TRANSLATE_NOOP("QuvProtocol", "Updating levels");
+
+    static constexpr char noFlag[] = "SetLevelsCmd failed: expected Bool type for first parameter";
+    static constexpr char noFormula[] = "SetLevelsCmd failed: expected Formula type for second parameter";
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        constexpr quv::Refusal noFlagInValue = {"DE00435", noFlag};
+        constexpr quv::Refusal noFormulaInList = {"DE01323", noFormula};
+        archive.required({"delta", "true: the quantities are changes; false: they are new levels"},
+                         self.m_delta, {noFlagInValue, {}}, {noFlagInValue, {"DE01322", noFlag}});
+        archive.object("formula", self.m_formula, {{"DE00436", noFormula}, noFormulaInList}, noFormulaInList);
+        archive.unread({"refill", "whether somebody refilled; sent, but never read"}, self.m_refill);
+    }
+};
+
+template class quv::DescribedCommand<SetLevelsCmd, ConfProtoCommand>;
+
+SetLevelsCmd::SetLevelsCmd(const Formula &formula, bool delta, bool refill)
+    : m_formula(formula),
+      m_delta(delta),
+      m_refill(refill)
+{}
 
 SetLevelsCmd::SetLevelsCmd(const XmlRpc::XmlRpcValue &value, const FW_Machine *machine)
-    : ConfProtoCommand(name(), value, machine)
+    : DescribedCommand(value, machine)
 {
-    if (!DecodeXmlRpcValue(value, 0, m_delta))
-        throw FW_Exception("DE00435", noFlag, Q_FUNC_INFO);
-    m_formula = quv::decodedValue<Formula>(FindXmlRpcElement(value, 1), {"DE00436", noFormula}, Q_FUNC_INFO);
+    read(value, Q_FUNC_INFO);
 }
 
-SetLevelsCmd::SetLevelsCmd(QList<QVariant> list) : ConfProtoCommand(name(), list, nullptr)
+SetLevelsCmd::SetLevelsCmd(QList<QVariant> list) : DescribedCommand(list)
 {
+    // the contract of this class, should the base ever let such a list pass
     if (list.size() < 2)
         throw FW_Exception("DE01324", "SetLevelsCmd failed: expected at least 2 parameters", Q_FUNC_INFO);
-    if (!quv::decodeVariant(list.at(0), m_delta))
-        throw FW_Exception("DE01322", noFlag, Q_FUNC_INFO);
-    m_formula = quv::decodedVariant<Formula>(list.at(1), noFormulaInList, noFormulaInList, Q_FUNC_INFO);
+    read(list, Q_FUNC_INFO);
 }
 
 SetLevelsCmd *SetLevelsCmd::clone() const
@@ -69,39 +74,10 @@ SetLevelsCmd *SetLevelsCmd::clone() const
     return new SetLevelsCmd(*this);
 }
 
-void SetLevelsCmd::setDefaults()
-{
-    m_formula.setDefaults();
-    m_delta = true;
-    m_refill = true;
-}
-
-QList<QVariant> SetLevelsCmd::parameters() const
-{
-    return {m_delta, QVariant::fromValue(m_formula), m_refill};
-}
-
-XmlRpc::XmlRpcValue SetLevelsCmd::xmlrpc_parameters(bool *ok) const
-{
-    if (ok)
-        *ok = true;
-    XmlRpc::XmlRpcValue array;
-    array.setSize(3);
-    array[0] = m_delta;
-    array[1] = m_formula.toXmlRpcValue(nullptr);
-    array[2] = m_refill;
-    return array;
-}
-
-QString SetLevelsCmd::commandString() const
-{
-    return QStringLiteral("Update levels");
-}
-
 TString SetLevelsCmd::actionString(bool detailed) const
 {
     if (!detailed)
-        return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Updating levels"), quv::translationContext);
+        return DescribedCommand::actionString(false);
     TString text(QT_TRANSLATE_NOOP("QuvProtocol", "Updating levels with the %1formula%2: %3 (%4)"),
                  quv::translationContext);
     fillWord(text, QT_TRANSLATE_NOOP("QuvProtocol", "delta "), m_delta);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/confprotocommand.h"
+#include "base/describedcommand.h"
 #include "dispensing/fw_canisterrefill.h"
 
 #include <QuvFramework/formula.h>
@@ -12,27 +13,24 @@ class FW_Dispenser;
  * SET_LEVELS: applies the quantities of a formula to the levels of the canisters, as changes or as new levels. The
  * arguments are whether they are changes, the Formula, and whether somebody refilled; the last is sent but never read.
  */
-class QUVPROTOCOL_EXPORT SetLevelsCmd : public ConfProtoCommand
+class QUVPROTOCOL_EXPORT SetLevelsCmd : public quv::DescribedCommand<SetLevelsCmd, ConfProtoCommand>
 {
 public:
-    SetLevelsCmd();
+    struct Description;
+
+    SetLevelsCmd() = default;
     SetLevelsCmd(const Formula &formula, bool delta, bool refill);
     /** A bool and a Formula. Throws DE00435, DE00436. */
     SetLevelsCmd(const XmlRpc::XmlRpcValue &value, const FW_Machine *machine);
     /** The same as a list. Throws DE01322, DE01323, DE01324. */
     explicit SetLevelsCmd(QList<QVariant> list);
-    SetLevelsCmd(const SetLevelsCmd &) = default;
 
     SetLevelsCmd *clone() const override;
-    void setDefaults();
 
     const Formula &formula() const { return m_formula; }
     bool delta() const { return m_delta; }   ///< true: the quantities are changes, not new levels
     bool refill() const { return m_refill; } ///< true in every command that was decoded
 
-    QList<QVariant> parameters() const override;
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
-    QString commandString() const override;
     TString actionString(bool detailed) const override;
 
     // For the driver, which tells people what was refilled.
