@@ -14,7 +14,6 @@ public:
     AirpurgeCmd(const PCircuitFormula &formula, const FW_Dispenser *dispenser);
     AirpurgeCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser);
     AirpurgeCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    AirpurgeCmd(const AirpurgeCmd &) = default;
 
     AirpurgeCmd *clone() const override;
     void setDefaults(); ///< name and criterion; the circuits stay

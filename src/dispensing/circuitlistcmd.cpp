@@ -10,33 +10,18 @@ constexpr quv::FamilyGate takesCircuitLists[] = {{63, 32}, {70}, {72}};
 
 } // namespace
 
-CircuitListCmd::CircuitListCmd(const QString &command, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(command, dispenser)
+CircuitListCmd::CircuitListCmd(const QString &command, const FW_Machine *machine)
+    : SerialProtoCommand(command, machine)
 {}
 
 CircuitListCmd::CircuitListCmd(const QString &command, const XmlRpc::XmlRpcValue &value,
-                               const FW_Dispenser *dispenser)
-    : SerialProtoCommand(command, value, dispenser)
+                               const FW_Machine *machine)
+    : SerialProtoCommand(command, value, machine)
 {}
 
-CircuitListCmd::CircuitListCmd(const QString &command, const QList<QVariant> &list,
-                               const FW_Dispenser *dispenser)
-    : SerialProtoCommand(command, list, dispenser)
+CircuitListCmd::CircuitListCmd(const QString &command, const QList<QVariant> &list, const FW_Machine *machine)
+    : SerialProtoCommand(command, list, machine)
 {}
-
-QList<QVariant> CircuitListCmd::parameters() const
-{
-    return {QVariant::fromValue(m_formula)};
-}
-
-XmlRpc::XmlRpcValue CircuitListCmd::xmlrpc_parameters(bool *ok) const
-{
-    if (ok)
-        *ok = true;
-    XmlRpc::XmlRpcValue array;
-    array[0] = m_formula.toXmlRpcValue();
-    return array;
-}
 
 QList<int> CircuitListCmd::serialParameters(int) const
 {

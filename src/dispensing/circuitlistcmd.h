@@ -4,8 +4,6 @@
 #include "base/serialprotocommand.h"
 #include "dispensing/pcircuitformula.h"
 
-class FW_Dispenser;
-
 /**
  * What the commands share that move pumps by a list of circuits and need no calibration for it. The only argument is a
  * PCircuitFormula.
@@ -14,9 +12,6 @@ class QUVPROTOCOL_EXPORT CircuitListCmd : public SerialProtoCommand
 {
 public:
     const PCircuitFormula &formula() const { return m_formula; }
-
-    QList<QVariant> parameters() const override;
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
 
     /** The criterion and the number of circuits; then position, queue, speed and counted digits of the strokes of each. */
     QList<int> serialParameters(int family) const override;
@@ -33,9 +28,9 @@ protected:
         const char *unknownCircuit = ""; ///< the machine does not have it enabled
     };
 
-    CircuitListCmd(const QString &command, const FW_Dispenser *dispenser);
-    CircuitListCmd(const QString &command, const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser);
-    CircuitListCmd(const QString &command, const QList<QVariant> &list, const FW_Dispenser *dispenser);
+    CircuitListCmd(const QString &command, const FW_Machine *machine);
+    CircuitListCmd(const QString &command, const XmlRpc::XmlRpcValue &value, const FW_Machine *machine);
+    CircuitListCmd(const QString &command, const QList<QVariant> &list, const FW_Machine *machine);
     CircuitListCmd(const CircuitListCmd &) = default;
 
     bool checkCircuits(const CheckCodes &codes, FW_DriverError &error) const;

@@ -1,64 +1,59 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/priming2cmd.h"
 
-#include "base/translation_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/pcircuitformula_p.h"
-
-#include <QuvFramework/fw_xmlrpc.h>
 
 #include <algorithm>
 
-namespace {
-
-constexpr char invalidType[] = "Priming2Cmd failed: invalid Formula type parameter";
-constexpr quv::Refusal incorrectType = {"DE01355", "Priming2Cmd failed: incorrect Formula type parameter"};
-constexpr quv::Refusal expectedType = {"DE02165", "Priming2Cmd failed: expected Formula type parameter"};
-
-constexpr int defaultCriterion = 1;
-
-QString name()
+struct Priming2Cmd::Description : quv::Description
 {
-    return ProtoCommandList::cmdStr(ProtoCommandList::PRIMING2);
-}
+    static constexpr auto command = ProtoCommandList::PRIMING2;
+    static constexpr auto actionText = QT_TRANSLATE_NOOP("QuvProtocol", "Priming in progress");
 
-} // namespace
+    static constexpr char invalidType[] = "Priming2Cmd failed: invalid Formula type parameter";
 
-Priming2Cmd::Priming2Cmd() : CircuitListCmd(name(), nullptr)
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.object(
+            "circuits", self.m_formula,
+            {{"DE01930", invalidType}, {"DE02165", "Priming2Cmd failed: expected Formula type parameter"}},
+            {"DE01355", "Priming2Cmd failed: incorrect Formula type parameter"});
+    }
+};
+
+template class quv::DescribedCommand<Priming2Cmd, CircuitListCmd>;
+
+Priming2Cmd::Priming2Cmd()
 {
-    setDefaults();
+    m_formula.executionCriterion = 1;
 }
 
 Priming2Cmd::Priming2Cmd(const PCircuitFormula &formula, const FW_Dispenser *dispenser)
-    : CircuitListCmd(name(), dispenser)
+    : DescribedCommand(dispenser)
 {
-    m_formula = quv::copied(formula, {"DE01933", invalidType}, Q_FUNC_INFO);
+    m_formula = quv::copied(formula, {"DE01933", Description::invalidType}, Q_FUNC_INFO);
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 Priming2Cmd::Priming2Cmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser)
-    : CircuitListCmd(name(), value, dispenser)
+    : DescribedCommand(value, dispenser)
 {
-    m_formula = quv::decodedValue<PCircuitFormula>(FindXmlRpcElement(value, 0), {"DE01930", invalidType},
-                                                   Q_FUNC_INFO);
+    read(value, Q_FUNC_INFO);
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 Priming2Cmd::Priming2Cmd(QList<QVariant> list, const FW_Dispenser *dispenser)
-    : CircuitListCmd(name(), list, dispenser)
+    : DescribedCommand(list, dispenser)
 {
-    m_formula = quv::decodedVariant<PCircuitFormula>(list.value(0), expectedType, incorrectType, Q_FUNC_INFO);
+    read(list, Q_FUNC_INFO);
     quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 Priming2Cmd *Priming2Cmd::clone() const
 {
     return new Priming2Cmd(*this);
-}
-
-void Priming2Cmd::setDefaults()
-{
-    m_formula = PCircuitFormula(defaultCriterion, {});
 }
 
 bool Priming2Cmd::checkFormula(FW_DriverError &error) const
@@ -73,7 +68,7 @@ bool Priming2Cmd::checkFormula(FW_DriverError &error) const
 TString Priming2Cmd::actionString(bool detailed) const
 {
     if (!detailed)
-        return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Priming in progress"), quv::translationContext);
+        return DescribedCommand::actionString(false);
     return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Priming in progress on positions %1"),
                    quv::translationContext)
         .arg(positionsText(), false);
