@@ -82,7 +82,7 @@ class General(CliTest):
         self.assertEqual(self.done("--help"), overview)
         self.assertEqual(self.done("-h"), overview)
         for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "config", "watch", "batch",
-                     "machine"]:
+                     "machine", "explain"]:
             self.assertRegex(overview, rf"(?m)^  {name} ")
             text = self.done("help", name)
             self.assertTrue(text.startswith(f"Usage: quvctl {name} [options]"), text)
@@ -603,7 +603,7 @@ class Completion(unittest.TestCase):
 
     def test_options_are_those_of_the_help(self):
         for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "config", "watch", "batch",
-                     "machine"]:
+                     "machine", "explain"]:
             told = re.findall(r"(?m)^  (--[a-z-]+)", run("help", name)[1])
             self.assertEqual(sorted(self.complete(name, "--")), sorted(told), name)
 

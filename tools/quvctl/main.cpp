@@ -17,10 +17,10 @@ namespace {
 
 using namespace quv;
 
-const Subcommand *const subcommands[] = {&listSubcommand,   &showSubcommand,   &encodeSubcommand,
-                                         &decodeSubcommand, &callSubcommand,   &ticketSubcommand,
-                                         &tintSubcommand,   &configSubcommand, &watchSubcommand,
-                                         &batchSubcommand,  &machineSubcommand};
+const Subcommand *const subcommands[] = {&listSubcommand,   &showSubcommand,    &encodeSubcommand,
+                                         &decodeSubcommand, &callSubcommand,    &ticketSubcommand,
+                                         &tintSubcommand,   &configSubcommand,  &watchSubcommand,
+                                         &batchSubcommand,  &machineSubcommand, &explainSubcommand};
 
 QString overview()
 {

@@ -16,5 +16,6 @@ extern const Subcommand configSubcommand;
 extern const Subcommand watchSubcommand;
 extern const Subcommand batchSubcommand;
 extern const Subcommand machineSubcommand;
+extern const Subcommand explainSubcommand;
 
 } // namespace quv

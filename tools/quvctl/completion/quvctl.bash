@@ -4,7 +4,7 @@
 _quvctl()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-    local subcommands="list show encode decode call ticket tint config watch batch machine help"
+    local subcommands="list show encode decode call ticket tint config watch batch machine explain help"
     local driver="--host --port --timeout"
     local machines="dispenser turntable dual mixer"
     local words=""
@@ -51,6 +51,7 @@ _quvctl()
             ;;
         watch) words="--interval --count $driver --help" ;;
         batch) words="--help" ;;
+        explain) words="--json --help" ;;
         machine)
             words="--help"
             if [[ $current != -* ]]; then

@@ -1,0 +1,143 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+"""quvctl explain: each code that the sources hold. Usage: quvctl_explain_test.py QUVCTL SOURCE_FOLDER..."""
+
+import json
+import re
+import sys
+import unittest
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+import quvctl_process
+from quvctl_process import run
+
+FOLDERS = []
+
+
+def codes_in_sources():
+    texts = (path.read_text(encoding="utf-8") for folder in FOLDERS for path in sorted(Path(folder).rglob("*"))
+             if path.suffix in (".h", ".cpp"))
+    return sorted({code for text in texts for code in re.findall(r'"(DE\d{5})"', text)})
+
+
+def explained(code):
+    status, out, err = run("explain", code, "--json")
+    return json.loads(out) if status == 0 else {"refused": err}
+
+
+class Explain(unittest.TestCase):
+    maxDiff = None
+
+    def refusals(self, code):
+        """Text, class, form, when, functions and file of each."""
+        told = explained(code)
+        self.assertEqual(told["code"], code)
+        return [(one["text"], one["class"], one["form"], one["when"], one["functions"], one["file"])
+                for one in told["refusals"]]
+
+    def test_every_code_in_the_sources(self):
+        codes = codes_in_sources()
+        self.assertGreater(len(codes), 650)
+        with ThreadPoolExecutor(4) as pool:
+            for code, told in zip(codes, pool.map(explained, codes)):
+                self.assertEqual(told.get("code"), code, told)
+                self.assertTrue(told["refusals"], code)
+                for refusal in told["refusals"]:
+                    self.assertTrue(refusal["text"].strip(), code)
+                    self.assertTrue(refusal["class"], code)
+                    self.assertRegex(refusal["file"], r"^(src|framework|tools)/\S+\.(cpp|h)$")
+
+    def test_for_people(self):
+        self.assertEqual(run("explain", "DE01930"), (0, """\
+DE01930: Invalid data
+CLASS      FORM     WHEN          FUNCTION            FILE
+MOT_cdata  machine  null machine  referenceStructure  src/configuration/mot_cdata.cpp
+
+DE01930: Priming2Cmd failed: invalid Formula type parameter
+CLASS        FORM           WHEN  FUNCTION                  FILE
+Priming2Cmd  XML-RPC value  -     Priming2Cmd::Priming2Cmd  src/dispensing/priming2cmd.cpp
+""", ""))
+
+    def test_forms_of_a_code(self):
+        for word in ["60", "0060", "de60", "De00060", "DE60"]:
+            self.assertEqual(explained(word)["code"], "DE00060")
+
+    def test_arguments(self):
+        for code, form in [("DE00298", "XML-RPC value"), ("DE00300", "list")]:
+            (text, owner, told_form, when, _, file), = self.refusals(code)
+            self.assertEqual((text, owner, told_form, when, file),
+                             ("Position ID: expected INT parameter", "DispenserStatusCmd", form, "other type",
+                              "src/status/dispenserstatuscmd.cpp"))
+        self.assertEqual(self.refusals("DE00312"), [
+            ("\u2026 command : expected at least \u2026 parameters, received \u2026 instead!", "ProtoCommand",
+             "XML-RPC value", "", ["ProtoCommand::ProtoCommand"], "src/base/protocommand.cpp")])
+
+    def test_checks_of_formulas(self):
+        self.assertEqual(self.refusals("DE00060"), [
+            ("Formula interrupted because the current amount will would below the critical level", "TintCmd",
+             "check of the formula", "below reserve", ["TintCmd::checkFormula"], "src/dispensing/tintcmd.cpp")])
+        self.assertEqual(self.refusals("DE01209"), [
+            ("Bad values in formula! Values have to be positive", "PurgeFormulaCmd", "check of the formula", "negative",
+             ["PurgeFormulaCmd::checkFormula"], "src/dispensing/purgeformulacmd.cpp")])
+        self.assertEqual(self.refusals("DE00491"), [
+            ("TintCmd failed: invalid Formula type parameter", "TintCmd", "typed", "", ["TintCmd::TintCmd"],
+             "src/dispensing/tintcmd.cpp")])
+
+    def test_tokens_and_rows(self):
+        self.assertEqual(self.refusals("DE00077"), [
+            ("Error during command answer decoding: bad length", "SerialProtoAnswer", "tokens", "",
+             ["SerialProtoAnswer::SerialProtoAnswer"], "src/base/serialprotoanswer.cpp")])
+        self.assertEqual([refusal[:4] for refusal in self.refusals("DE00199")],
+                         [("Autocap Type field not found in answer", "ACP_cdata", "tokens", "")])
+        self.assertEqual([refusal[:4] for refusal in self.refusals("DE00206")],
+                         [("NEW_DATA field not found in answer", "ACP_cdata", "tokens", "new data")])
+
+    def test_answers(self):
+        self.assertEqual([refusal[:4] for refusal in self.refusals("DE00097")],
+                         [("Failed to create DispenserStatusAnswer", "DispenserStatusCmd", "answer, tokens", "")])
+        self.assertEqual([refusal[:4] for refusal in self.refusals("DE01152")],
+                         [("Failed to create answer", "ConfProtoCommand", "answer", "null")])
+
+    def test_members_of_a_struct(self):
+        told = {(one["class"], one["text"]): one["names"] for one in explained("DE00026")["refusals"]}
+        self.assertEqual(told[("DispenserStatusAnswer", "DispenserStatusAnswer: expected \u2026 value")],
+                         ["tinting", "recirculating", "stirring", "valve_on", "cap_open", "bellow_up", "no_24_voltage",
+                          "no_48_voltage", "punching"])
+        self.assertIn("hw_error", told[("MachineStatusAnswer", "MachineStatusAnswer: expected \u2026 value")])
+        self.assertEqual(told[("MachineStatusAnswer", "DispenserStatusAnswer: expected \u2026 value")], ["can_present"])
+
+    def test_several_places(self):
+        self.assertEqual({refusal[1] for refusal in self.refusals("DE01295")},
+                         {"GetConfigCmdsCmd", "ReadConfigurationParamCmd", "SerialProtoCommand"})
+
+    def test_framework_and_driver(self):
+        self.assertEqual(self.refusals("DE03002"), [
+            ("FW_DriverError: expected code value", "FW_DriverError", "XML-RPC value", "",
+             ["FW_DriverError::FW_DriverError"], "framework/src/fw_error.cpp")])
+        self.assertEqual([refusal[0] for refusal in self.refusals("DE03113")], ["Too many commands wait for their turn"])
+
+    def test_unknown_code(self):
+        def distances(codes):
+            return [abs(int(code[2:]) - int(unknown[2:])) for code in codes]
+
+        for unknown in ["DE00064", "DE99999", "DE00000"]:
+            status, out, err = run("explain", unknown, "--json")
+            self.assertEqual((status, out), (1, ""))
+            self.assertRegex(err, rf"^{unknown}: no refusal has this code; the nearest are (DE\d{{5}}, ){{2}}DE\d{{5}}\n$")
+            nearest = set(re.findall(r"DE\d{5}", err)[1:])
+            others = set(codes_in_sources()) - nearest
+            self.assertEqual(len(nearest), 3)
+            self.assertLessEqual(max(distances(nearest)), min(distances(others)))
+
+    def test_wrong_usage(self):
+        for word in ["foo", "DE", "DE000600", "DE00060x", "60.0", ""]:
+            self.assertEqual(run("explain", word), (2, "", f'quvctl: "{word}" is no code of a refusal, such as '
+                                                           "DE00060 or 60 (see quvctl help)\n"))
+        self.assertEqual(run("explain"), (2, "", "quvctl: explain needs CODE (see quvctl help)\n"))
+        self.assertEqual(run("explain", "60", "61"), (2, "", 'quvctl: unexpected "61" (see quvctl help)\n'))
+
+
+if __name__ == "__main__":
+    quvctl_process.PROGRAM = sys.argv.pop(1)
+    FOLDERS = sys.argv[1:]
+    unittest.main(argv=sys.argv[:1])
