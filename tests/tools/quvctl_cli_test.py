@@ -192,6 +192,29 @@ class Encode(CliTest):
                          'quvctl: "args": the whole number 2147483648 does not fit in 32 bits\n')
         self.assertIn("/no/such/file", self.refused("encode", "GET_STATUS", "--machine", "/no/such/file"))
 
+    def request(self, *words):
+        return json.loads(self.done("encode", "--json", *words))["request"]
+
+    def test_arguments_by_name(self):
+        self.assertEqual(self.request("GET_STATUS", "position=3"), ["GET_STATUS", 3])
+        self.assertEqual(self.request("--form", "list", "GET_STATUS", "position=-3"), ["GET_STATUS", -3])
+        for words in [("id=2", "code=7"), ("7", "id=2"), ("code=7", "id=2", "--form", "list")]:
+            self.assertEqual(self.request("READ_CONFIG_ROW", *words), ["READ_CONFIG_ROW", 7, 2])
+        self.assertEqual(self.request("WRITE_CONFIG_ROW", 'row={"cmd_value":7,"cmd_parameters":"1,300,2,3"}'),
+                         ["WRITE_CONFIG_ROW", {"cmd_parameters": "1,300,2,3", "cmd_value": 7}])
+        self.assertEqual(self.request("GET_CMD_STATUS", "a=b"), ["GET_CMD_STATUS", "a=b"])
+        self.assertEqual(self.refused("encode", "GET_STATUS", "position=ten"),
+                         "DE00298: Position ID: expected INT parameter\n")
+
+    def test_wrong_names(self):
+        for words, text in [
+                (("GET_STATUS", "positon=3"), 'GET_STATUS has no argument "positon"; it has: position'),
+                (("GET_STATUS", "3", "position=3"), 'the argument "position" is given twice'),
+                (("READ_CONFIG_ROW", "code=7"), 'READ_CONFIG_ROW needs the argument "id"'),
+                (("READ_CONFIG_ROW", "code=7", "2"),
+                 '"2" needs a name, as it stands behind an argument with one')]:
+            self.assertEqual(self.wrong("encode", *words), f"quvctl: {text} (see quvctl help)\n")
+
     def test_arguments_that_are_no_json(self):
         self.assertTrue(self.wrong("encode", "GET_STATUS", "[1").startswith("quvctl: argument [1: no JSON: "))
         self.wrong("encode", "GET_STATUS", '{"a"}')
@@ -296,6 +319,11 @@ class Call(CliTest):
             self.assertEqual(driver.requests, [["GET_STATUS", 2]])
         self.assertEqual(out.split("\n"), ["GET_STATUS command executed successfully!", "Machine status 1",
                                            "Hardware error present", "Tinting in progress", ""])
+
+    def test_argument_by_name(self):
+        with Driver(envelope(status())) as driver:
+            self.done("call", "GET_STATUS", "position=2", "--port", str(driver.port))
+            self.assertEqual(driver.requests, [["GET_STATUS", 2]])
 
     def test_json(self):
         with Driver(envelope(status(stirring=True))) as driver:

@@ -56,9 +56,12 @@ const Subcommand callSubcommand = {
     "sends a command to a driver",
     "Sends a command to a driver, waits until it has been carried out, and shows the answer. An argument is "
     "a\n"
-    "JSON value; a word that is none is a string. With --async it shows a ticket and does not wait: quvctl\n"
-    "ticket asks for the answer. The driver has the machine; a few commands read their formula by one here\n"
-    "too, and --machine tells them which.",
+    "JSON value; a word that is none is a string. quvctl show NAME tells the names of the arguments, by "
+    "which\n"
+    "they can be given as well: position=3. With --async it shows a ticket and does not wait: quvctl ticket\n"
+    "asks for the answer. The driver has the machine; a few commands read their formula by one here too, "
+    "and\n"
+    "--machine tells them which.",
     1,
     -1,
     withDriverOptions({machineOption,

@@ -61,7 +61,9 @@ const Subcommand encodeSubcommand = {
     "NAME [ARGUMENT...]",
     "a command as it travels",
     "Makes a command and shows its XML-RPC request and, when the firmware carries it out, its code and\n"
-    "integers. An argument is a JSON value; a word that is none is a string.",
+    "integers. An argument is a JSON value; a word that is none is a string. quvctl show NAME tells the "
+    "names\n"
+    "of the arguments, by which they can be given as well: position=3.",
     1,
     -1,
     {{"family", "FAMILY", "the machine's command family, 1 (default) or 2"},

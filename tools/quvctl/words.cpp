@@ -1,34 +1,21 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "words.h"
 
+#include "argumentwords.h"
 #include "commandline.h"
 #include "terminal.h"
 
 #include "base/protoanswer.h"
+#include "catalogue/commandfacts.h"
 #include "status/dispenserstatusanswer.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
-
-#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 
 namespace quv {
 
 namespace {
-
-nlohmann::json argumentFromWord(const QString &word)
-{
-    // who begins like this means JSON, and wants to hear of a mistake
-    static const QRegularExpression json(QStringLiteral(R"(^([\[{"]|-?\d+(\.\d+)?([eE][+-]?\d+)?$))"));
-    try {
-        return parseJson(word.toStdString());
-    } catch (const JsonError &error) {
-        if (json.match(word).hasMatch())
-            throw UsageError(QStringLiteral("argument %1: %2").arg(word, QString::fromUtf8(error.what())));
-        return word.toStdString();
-    }
-}
 
 bool told(const QList<StatusLine> &lines, const QString &text)
 {
@@ -82,9 +69,7 @@ nlohmann::json commandRequest(const CommandLine &line)
     QStringList words = line.words();
     nlohmann::json request;
     request["name"] = words.takeFirst().toStdString();
-    request["args"] = nlohmann::json::array();
-    for (const QString &word : qAsConst(words))
-        request["args"].push_back(argumentFromWord(word));
+    request["args"] = argumentsFromWords(commandFacts(line.words().first()), words);
     request["machine"] = line.value("machine", QStringLiteral("none")).toStdString();
     return request;
 }

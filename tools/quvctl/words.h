@@ -13,8 +13,8 @@ namespace quv {
 
 class CommandLine;
 
-/// The batch request for a command that a user typed, by its name, arguments and machine. An argument is a JSON value, and a
-/// word that is none is a string. \throws UsageError
+/// The batch request for a command that a user typed, by its name, arguments (see argumentwords.h) and machine.
+/// \throws UsageError
 nlohmann::json commandRequest(const CommandLine &line);
 
 struct StatusLine

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "argumentwords.h"
+
+#include "commandline.h"
+
+#include "catalogue/commandfacts.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace quv {
+
+namespace {
+
+using nlohmann::json;
+
+/// The arguments of one command, as they are given one by one.
+class ArgumentPlaces
+{
+public:
+    explicit ArgumentPlaces(const CommandFacts &command) : m_facts(command) {}
+
+    void take(const QString &word)
+    {
+        const QString name = word.left(word.indexOf(QLatin1Char('=')));
+        const int place = placeOf(name);
+        if (place >= 0 && name.size() < word.size())
+            give(place, argumentFromWord(word.mid(name.size() + 1)));
+        else if (name.size() < word.size() && isMeantAsName(name))
+            throw UsageError(QStringLiteral("%1 has no argument \"%2\"; it has: %3")
+                                 .arg(m_facts.name, name, names().join(QStringLiteral(", "))));
+        else if (m_byName)
+            throw UsageError(
+                QStringLiteral("\"%1\" needs a name, as it stands behind an argument with one").arg(word));
+        else
+            m_values.push_back(argumentFromWord(word));
+    }
+
+    json result() const
+    {
+        json values = json::array();
+        for (std::size_t place = 0; place < m_values.size(); ++place)
+            values.push_back(m_values[place] ? *m_values[place] : defaultAt(static_cast<int>(place)));
+        if (m_byName)
+            for (int place = static_cast<int>(m_values.size()); place < m_facts.arguments.size(); ++place)
+                if (!m_facts.arguments[place].optional)
+                    refuseMissing(place);
+        return values;
+    }
+
+private:
+    int placeOf(const QString &name) const { return names().indexOf(name); }
+
+    QStringList names() const
+    {
+        QStringList names;
+        for (const ArgumentFacts &argument : m_facts.arguments)
+            names.append(argument.name);
+        return names;
+    }
+
+    /// A text may hold the sign as well, so only where no text can stand is an unknown name a mistake for certain.
+    bool isMeantAsName(const QString &name) const
+    {
+        static const QRegularExpression form(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
+        if (m_facts.arguments.isEmpty() || !form.match(name).hasMatch())
+            return false;
+        const int next = static_cast<int>(m_values.size());
+        return m_byName || m_facts.arguments.value(next).type != QLatin1String("string");
+    }
+
+    void give(int place, json value)
+    {
+        const auto index = static_cast<std::size_t>(place);
+        m_values.resize(std::max(m_values.size(), index + 1));
+        if (m_values[index])
+            throw UsageError(
+                QStringLiteral("the argument \"%1\" is given twice").arg(m_facts.arguments[place].name));
+        m_values[index] = std::move(value);
+        m_byName = true;
+    }
+
+    json defaultAt(int place) const
+    {
+        if (!m_facts.arguments[place].optional)
+            refuseMissing(place);
+        return toJson(m_facts.arguments[place].defaultValue);
+    }
+
+    [[noreturn]] void refuseMissing(int place) const
+    {
+        throw UsageError(
+            QStringLiteral("%1 needs the argument \"%2\"").arg(m_facts.name, m_facts.arguments[place].name));
+    }
+
+    const CommandFacts &m_facts;
+    std::vector<std::optional<json>> m_values;
+    bool m_byName = false; ///< one was given by its name
+};
+
+} // namespace
+
+json argumentFromWord(const QString &word)
+{
+    // who begins like this means JSON, and wants to hear of a mistake
+    static const QRegularExpression start(QStringLiteral(R"(^([\[{"]|-?\d+(\.\d+)?([eE][+-]?\d+)?$))"));
+    try {
+        return parseJson(word.toStdString());
+    } catch (const JsonError &error) {
+        if (start.match(word).hasMatch())
+            throw UsageError(QStringLiteral("argument %1: %2").arg(word, QString::fromUtf8(error.what())));
+        return word.toStdString();
+    }
+}
+
+json argumentsFromWords(const CommandFacts &command, const QStringList &words)
+{
+    ArgumentPlaces places(command);
+    for (const QString &word : words)
+        places.take(word);
+    return places.result();
+}
+
+} // namespace quv
