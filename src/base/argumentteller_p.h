@@ -65,13 +65,15 @@ public:
 
     void refuseUnless(bool, const ArgumentRefusal &refusal) { refuse("out of range", refusal); }
 
+    /** Another refusal of the argument that was told last. */
+    void refuse(const char *when, const ArgumentRefusal &refusal);
+
     template <class Check>
     void whenRead(Check) const
     {}
 
 private:
     void tell(const ArgumentName &name, const char *type);
-    void refuse(const char *when, const ArgumentRefusal &refusal);
     void refuse(const char *form, const char *when, const Refusal &refusal);
 
     CommandFacts &m_facts;

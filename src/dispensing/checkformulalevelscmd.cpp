@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/checkformulalevelscmd.h"
 
-#include "base/replaceanswer_p.h"
-#include "base/translation_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/checkformulalevelsanswer.h"
 #include "dispensing/formula_p.h"
 #include "dispensing/formulaquery_p.h"
 
-#include <QuvFramework/fw_xmlrpc.h>
-
 namespace {
 
-constexpr char answerFailed[] = "Failed to create CheckFormulaLevelsAnswer";
 constexpr quv::Refusal noFormula = {
     "DE00438", "CheckFormulaLevelsCmd failed: expected Formula type for first parameter"};
-
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::CHECK_FORMULA_LEVELS);
-}
 
 QList<QVariant> formulaAndFlag(Formula formula, bool isPurge)
 {
@@ -29,20 +19,39 @@ QList<QVariant> formulaAndFlag(Formula formula, bool isPurge)
 
 } // namespace
 
-CheckFormulaLevelsCmd::CheckFormulaLevelsCmd() : ConfProtoCommand(name(), nullptr) {}
+struct CheckFormulaLevelsCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::CHECK_FORMULA_LEVELS;
 
-CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const Formula &formula, bool isPurge) : CheckFormulaLevelsCmd()
+    static constexpr char answerFailed[] = "Failed to create CheckFormulaLevelsAnswer";
+    static constexpr quv::AnsweredBy<CheckFormulaLevelsAnswer> answer = {
+        {}, {"DE01274", answerFailed}, {"DE00464", answerFailed}, {"DE00463", answerFailed}};
+
+    static constexpr auto commandText = "Check formula levels";
+    static constexpr auto actionText = QT_TRANSLATE_NOOP("QuvProtocol", "Checking levels for formula");
+
+    static void tellArguments(quv::ArgumentTeller &teller)
+    {
+        teller.object({"formula", "or a purge formula"}, Formula(), {noFormula, {}}, {});
+        teller.optional({"is_purge", "whether the formula is a purge; a purge formula goes without it"},
+                        false, {});
+    }
+};
+
+template class quv::DescribedCommand<CheckFormulaLevelsCmd, ConfProtoCommand>;
+
+CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const Formula &formula, bool isPurge)
 {
     m_parameters = formulaAndFlag(formula, isPurge);
 }
 
-CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const PurgeFormula &formula) : CheckFormulaLevelsCmd()
+CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const PurgeFormula &formula)
 {
     m_parameters = {QVariant::fromValue(formula)};
 }
 
 CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const XmlRpc::XmlRpcValue &value, const FW_Machine *machine)
-    : ConfProtoCommand(name(), value, machine)
+    : DescribedCommand(value, machine)
 {
     bool isPurge = false;
     if (!DecodeXmlRpcValue(value, 1, isPurge)) {
@@ -60,7 +69,7 @@ CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(const XmlRpc::XmlRpcValue &value, c
     m_parameters = formulaAndFlag(formula, isPurge);
 }
 
-CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(QList<QVariant> list) : ConfProtoCommand(name(), list, nullptr)
+CheckFormulaLevelsCmd::CheckFormulaLevelsCmd(QList<QVariant> list) : DescribedCommand(list)
 {
     m_parameters = quv::formulaParameters(list);
 }
@@ -92,11 +101,6 @@ XmlRpc::XmlRpcValue CheckFormulaLevelsCmd::xmlrpc_parameters(bool *ok) const
     return quv::formulaQueryValue(m_parameters, ok);
 }
 
-QString CheckFormulaLevelsCmd::commandString() const
-{
-    return QStringLiteral("Check formula levels");
-}
-
 TString CheckFormulaLevelsCmd::actionString(bool detailed) const
 {
     Formula formula;
@@ -113,22 +117,5 @@ TString CheckFormulaLevelsCmd::actionString(bool detailed) const
                      quv::translationContext);
         return text.arg(purge.toPrintableString(true, nullptr), false);
     }
-    return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Checking levels for formula"), quv::translationContext);
-}
-
-bool CheckFormulaLevelsCmd::buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error)
-{
-    return replaceProtoAnswer("DE01274", answerFailed, error,
-                              [&] { return new CheckFormulaLevelsAnswer(value); });
-}
-
-bool CheckFormulaLevelsCmd::buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error)
-{
-    return replaceProtoAnswer("DE00464", answerFailed, error,
-                              [&] { return new CheckFormulaLevelsAnswer(list); });
-}
-
-bool CheckFormulaLevelsCmd::setAnswer(const XmlRpc::XmlRpcValue &value, bool async, FW_DriverError *error)
-{
-    return takeXmlRpcAnswer(value, async, "DE00463", answerFailed, error);
+    return DescribedCommand::actionString(detailed);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/confprotocommand.h"
+#include "base/describedcommand.h"
 
 class Formula;
 class PurgeFormula;
@@ -10,10 +11,13 @@ class PurgeFormula;
  * CHECK_FORMULA_LEVELS: asks which canisters a formula would bring below their critical or their warning level. The
  * arguments are a Formula and whether it is a purge, or one PurgeFormula; the answer is a CheckFormulaLevelsAnswer.
  */
-class QUVPROTOCOL_EXPORT CheckFormulaLevelsCmd : public ConfProtoCommand
+class QUVPROTOCOL_EXPORT CheckFormulaLevelsCmd
+    : public quv::DescribedCommand<CheckFormulaLevelsCmd, ConfProtoCommand>
 {
 public:
-    CheckFormulaLevelsCmd();
+    struct Description;
+
+    CheckFormulaLevelsCmd() = default;
     /** Carries a copy without a levels policy: the check before a pour is not wanted where the levels are asked for. */
     CheckFormulaLevelsCmd(const Formula &formula, bool isPurge);
     explicit CheckFormulaLevelsCmd(const PurgeFormula &formula);
@@ -25,7 +29,6 @@ public:
     CheckFormulaLevelsCmd(const XmlRpc::XmlRpcValue &value, const FW_Machine *machine);
     /** The arguments as a list, which is not checked but when it is written. */
     explicit CheckFormulaLevelsCmd(QList<QVariant> list);
-    CheckFormulaLevelsCmd(const CheckFormulaLevelsCmd &) = default;
     CheckFormulaLevelsCmd(const Formula &, const FW_Machine *) = delete; // would read as a flag
 
     CheckFormulaLevelsCmd *clone() const override;
@@ -36,11 +39,5 @@ public:
     bool getPurgeFormula(PurgeFormula &formula) const;
 
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
-    QString commandString() const override;
     TString actionString(bool detailed) const override;
-
-    using ConfProtoCommand::setAnswer;
-    bool buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error) override;
-    bool buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error) override;
-    bool setAnswer(const XmlRpc::XmlRpcValue &value, bool async, FW_DriverError *error) override;
 };

@@ -1,25 +1,38 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/genericformulacmd.h"
 
-#include "base/replaceanswer_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/formula_p.h"
 #include "dispensing/formulaquery_p.h"
 #include "dispensing/getformulaexecutionanswer.h"
 #include "dispensing/getlowlevelformulaanswer.h"
 
-#include <QuvFramework/fw_xmlrpc.h>
-
 namespace {
 
+constexpr quv::Refusal noFormula = {"DE00898",
+                                    "GenericFormulaCmd failed: expected Formula type for first parameter"};
+
 constexpr char answerFailed[] = "Failed to create answer for formula command";
+/** Of both answers, since the name alone tells which it is. */
+constexpr quv::PlainlyAnswered failures = {
+    {}, {"DE01278", answerFailed}, {"DE00901", answerFailed}, {"DE00899", answerFailed}};
+
+bool asksForLowLevelFormula(const QString &name)
+{
+    return name == ProtoCommandList::cmdStr(ProtoCommandList::GET_LOW_LEVEL_FORMULA);
+}
+
+bool asksForExecution(const QString &name)
+{
+    return name == ProtoCommandList::cmdStr(ProtoCommandList::GET_FORMULA_EXECUTION);
+}
 
 template <class Source>
 ProtoAnswer *makeAnswer(const QString &name, Source &source, const char *otherName, const char *function)
 {
-    if (name == ProtoCommandList::cmdStr(ProtoCommandList::GET_LOW_LEVEL_FORMULA))
+    if (asksForLowLevelFormula(name))
         return new GetLowLevelFormulaAnswer(source);
-    if (name == ProtoCommandList::cmdStr(ProtoCommandList::GET_FORMULA_EXECUTION))
+    if (asksForExecution(name))
         return new GetFormulaExecutionAnswer(source);
     throw FW_Exception(otherName, answerFailed, function);
 }
@@ -37,9 +50,7 @@ GenericFormulaCmd::GenericFormulaCmd(QString name, const XmlRpc::XmlRpcValue &va
                                      const FW_Machine *machine)
     : ConfProtoCommand(name, value, machine)
 {
-    const auto formula = quv::decodedValue<Formula>(
-        FindXmlRpcElement(value, 0),
-        {"DE00898", "GenericFormulaCmd failed: expected Formula type for first parameter"}, Q_FUNC_INFO);
+    const auto formula = quv::decodedValue<Formula>(FindXmlRpcElement(value, 0), noFormula, Q_FUNC_INFO);
     const FW_Dispenser *dispenser = quv::dispenserOf(*this);
     if (!dispenser)
         throw FW_Exception("DE00334", "Invalid dispenser data", Q_FUNC_INFO);
@@ -66,19 +77,28 @@ XmlRpc::XmlRpcValue GenericFormulaCmd::xmlrpc_parameters(bool *ok) const
 
 bool GenericFormulaCmd::buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error)
 {
-    return replaceProtoAnswer("DE01278", answerFailed, error, [&, function = Q_FUNC_INFO] {
+    return replaceProtoAnswer(failures.value.code, answerFailed, error, [&, function = Q_FUNC_INFO] {
         return makeAnswer(m_command, value, "DE02937", function);
     });
 }
 
 bool GenericFormulaCmd::buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error)
 {
-    return replaceProtoAnswer("DE00901", answerFailed, error, [&, function = Q_FUNC_INFO] {
+    return replaceProtoAnswer(failures.list.code, answerFailed, error, [&, function = Q_FUNC_INFO] {
         return makeAnswer(m_command, list, "DE02938", function);
     });
 }
 
 bool GenericFormulaCmd::setAnswer(const XmlRpc::XmlRpcValue &value, bool async, FW_DriverError *error)
 {
-    return takeXmlRpcAnswer(value, async, "DE00899", answerFailed, error);
+    return takeXmlRpcAnswer(value, async, failures.envelope.code, answerFailed, error);
+}
+
+void GenericFormulaCmd::tell(quv::CommandFacts &facts)
+{
+    quv::ArgumentTeller(facts).object("formula", Formula(), {noFormula, {}}, {});
+    if (asksForLowLevelFormula(facts.name))
+        quv::tellAnswer<GetLowLevelFormulaAnswer>(failures, facts);
+    if (asksForExecution(facts.name))
+        quv::tellAnswer<GetFormulaExecutionAnswer>(failures, facts);
 }

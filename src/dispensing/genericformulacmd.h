@@ -5,6 +5,12 @@
 
 class Formula;
 
+namespace quv {
+
+struct CommandFacts;
+
+} // namespace quv
+
 /**
  * A question about one Formula, named by whoever asks: GET_LOW_LEVEL_FORMULA, answered by a GetLowLevelFormulaAnswer, or
  * GET_FORMULA_EXECUTION, answered by a GetFormulaExecutionAnswer. A command of another name gets no answer.
@@ -21,7 +27,6 @@ public:
     GenericFormulaCmd(QString name, const XmlRpc::XmlRpcValue &value, const FW_Machine *machine);
     /** The formula as the first element of a list, which is not checked but when it is written. */
     GenericFormulaCmd(QString name, QList<QVariant> list);
-    GenericFormulaCmd(const GenericFormulaCmd &) = default;
 
     GenericFormulaCmd *clone() const override;
 
@@ -31,4 +36,7 @@ public:
     bool buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error) override;
     bool buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error) override;
     bool setAnswer(const XmlRpc::XmlRpcValue &value, bool async, FW_DriverError *error) override;
+
+    /** Adds what is known of the command that \a facts name. */
+    static void tell(quv::CommandFacts &facts);
 };

@@ -1,26 +1,19 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/getformulacircuitscmd.h"
 
-#include "base/replaceanswer_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/formula_p.h"
 #include "dispensing/formulaquery_p.h"
 #include "dispensing/getformulacircuitsanswer.h"
 
-#include <QuvFramework/fw_xmlrpc.h>
-
 namespace {
 
-constexpr char answerFailed[] = "Failed to create GetFormulaCircuitsAnswer";
 constexpr quv::Refusal noFormula = {
     "DE00235", "GetFormulaCircuitsCmd failed: expected Formula type for first parameter"};
 constexpr quv::Refusal noPurge = {
     "DE01253", "GetFormulaCircuitsCmd failed: expected PurgeFormula type for first parameter"};
-
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::GET_FORMULA_CIRCUITS);
-}
+constexpr quv::Refusal neither = {"DE01254",
+                                  "GetFormulaCircuitsCmd failed: incorrect Formula type parameter"};
 
 bool isMeantForPurge(const XmlRpc::XmlRpcValue &value)
 {
@@ -29,20 +22,37 @@ bool isMeantForPurge(const XmlRpc::XmlRpcValue &value)
 
 } // namespace
 
-GetFormulaCircuitsCmd::GetFormulaCircuitsCmd() : ConfProtoCommand(name(), nullptr) {}
+struct GetFormulaCircuitsCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::GET_FORMULA_CIRCUITS;
 
-GetFormulaCircuitsCmd::GetFormulaCircuitsCmd(const Formula &formula, bool isPurge) : GetFormulaCircuitsCmd()
+    static constexpr char answerFailed[] = "Failed to create GetFormulaCircuitsAnswer";
+    static constexpr quv::AnsweredBy<GetFormulaCircuitsAnswer> answer = {
+        {}, {"DE01276", answerFailed}, {"DE00210", answerFailed}, {"DE00211", answerFailed}};
+
+    static void tellArguments(quv::ArgumentTeller &teller)
+    {
+        teller.object({"formula", "or a purge formula"}, Formula(), {neither, {}}, {});
+        teller.refuse("an unreadable formula", {noFormula, {}});
+        teller.refuse("an unreadable purge formula", {noPurge, {}});
+        teller.optional({"is_purge", "whether the formula is a purge"}, false, {});
+    }
+};
+
+template class quv::DescribedCommand<GetFormulaCircuitsCmd, ConfProtoCommand>;
+
+GetFormulaCircuitsCmd::GetFormulaCircuitsCmd(const Formula &formula, bool isPurge)
 {
     m_parameters = {QVariant::fromValue(formula), isPurge};
 }
 
-GetFormulaCircuitsCmd::GetFormulaCircuitsCmd(const PurgeFormula &formula) : GetFormulaCircuitsCmd()
+GetFormulaCircuitsCmd::GetFormulaCircuitsCmd(const PurgeFormula &formula)
 {
     m_parameters = {QVariant::fromValue(formula)};
 }
 
 GetFormulaCircuitsCmd::GetFormulaCircuitsCmd(const XmlRpc::XmlRpcValue &value, const FW_Machine *machine)
-    : ConfProtoCommand(name(), machine) // a purge may come without its array, so the base cannot count
+    : DescribedCommand(machine) // a purge may come without its array, so the base cannot count
 {
     const XmlRpc::XmlRpcValue *first = FindXmlRpcElement(value, 0);
     if (first && FindXmlRpcMember(*first, Formula::FORMULA_TYPE)) {
@@ -53,12 +63,11 @@ GetFormulaCircuitsCmd::GetFormulaCircuitsCmd(const XmlRpc::XmlRpcValue &value, c
         return;
     }
     if (!isMeantForPurge(value))
-        throw FW_Exception("DE01254", "GetFormulaCircuitsCmd failed: incorrect Formula type parameter",
-                           Q_FUNC_INFO);
+        quv::throwRefusal(neither, Q_FUNC_INFO);
     m_parameters = {QVariant::fromValue(quv::decodedValue<PurgeFormula>(&value, noPurge, Q_FUNC_INFO))};
 }
 
-GetFormulaCircuitsCmd::GetFormulaCircuitsCmd(QList<QVariant> list) : ConfProtoCommand(name(), list, nullptr)
+GetFormulaCircuitsCmd::GetFormulaCircuitsCmd(QList<QVariant> list) : DescribedCommand(list)
 {
     m_parameters = quv::formulaParameters(list);
 }
@@ -71,21 +80,4 @@ GetFormulaCircuitsCmd *GetFormulaCircuitsCmd::clone() const
 XmlRpc::XmlRpcValue GetFormulaCircuitsCmd::xmlrpc_parameters(bool *ok) const
 {
     return quv::formulaQueryValue(m_parameters, ok);
-}
-
-bool GetFormulaCircuitsCmd::buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error)
-{
-    return replaceProtoAnswer("DE01276", answerFailed, error,
-                              [&] { return new GetFormulaCircuitsAnswer(value); });
-}
-
-bool GetFormulaCircuitsCmd::buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error)
-{
-    return replaceProtoAnswer("DE00210", answerFailed, error,
-                              [&] { return new GetFormulaCircuitsAnswer(list); });
-}
-
-bool GetFormulaCircuitsCmd::setAnswer(const XmlRpc::XmlRpcValue &value, bool async, FW_DriverError *error)
-{
-    return takeXmlRpcAnswer(value, async, "DE00211", answerFailed, error);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/confprotocommand.h"
+#include "base/describedcommand.h"
 
 class Formula;
 class PurgeFormula;
@@ -10,10 +11,13 @@ class PurgeFormula;
  * GET_FORMULA_CIRCUITS: asks which circuits a formula would use, and how much from each. The arguments are a Formula and
  * whether it is a purge, or one PurgeFormula; the answer is a GetFormulaCircuitsAnswer.
  */
-class QUVPROTOCOL_EXPORT GetFormulaCircuitsCmd : public ConfProtoCommand
+class QUVPROTOCOL_EXPORT GetFormulaCircuitsCmd
+    : public quv::DescribedCommand<GetFormulaCircuitsCmd, ConfProtoCommand>
 {
 public:
-    GetFormulaCircuitsCmd();
+    struct Description;
+
+    GetFormulaCircuitsCmd() = default;
     GetFormulaCircuitsCmd(const Formula &formula, bool isPurge);
     explicit GetFormulaCircuitsCmd(const PurgeFormula &formula);
     /**
@@ -23,15 +27,9 @@ public:
     GetFormulaCircuitsCmd(const XmlRpc::XmlRpcValue &value, const FW_Machine *machine);
     /** The arguments as a list, which is not checked but when it is written. */
     explicit GetFormulaCircuitsCmd(QList<QVariant> list);
-    GetFormulaCircuitsCmd(const GetFormulaCircuitsCmd &) = default;
     GetFormulaCircuitsCmd(const Formula &, const FW_Machine *) = delete; // would read as a flag
 
     GetFormulaCircuitsCmd *clone() const override;
 
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
-
-    using ConfProtoCommand::setAnswer;
-    bool buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error) override;
-    bool buildProtoAnswer(QList<QVariant> &list, FW_DriverError *error) override;
-    bool setAnswer(const XmlRpc::XmlRpcValue &value, bool async, FW_DriverError *error) override;
 };
