@@ -3,17 +3,15 @@
 
 #include "base/prototypes_p.h"
 #include "base/replaceanswer_p.h"
-#include "catalogue/protocommandlist.h"
 #include "dispensing/getdispensedformulaanswer.h"
+#include "dispensing/getdispensedformulacmdbase_p.h"
 #include "status/dispenserstatusanswer.h"
 
 namespace {
 
-constexpr char answerFailed[] = "Failed to create GetDispensedFormulaAnswer";
-
 QString name()
 {
-    return ProtoCommandList::cmdStr(ProtoCommandList::GET_DISPENSED_FORMULA);
+    return ProtoCommandList::cmdStr(GetDispensedFormulaCmdBase::Description::command);
 }
 
 } // namespace
@@ -57,7 +55,7 @@ XmlRpc::XmlRpcValue GetDispensedFormulaCmd::toXmlRpcValue(QString leading, bool 
 
 bool GetDispensedFormulaCmd::buildProtoAnswer(const XmlRpc::XmlRpcValue &value, FW_DriverError *error)
 {
-    return replaceProtoAnswer("DE01765", answerFailed, error,
+    return replaceProtoAnswer("DE01765", quv::dispensedFormulaFailed, error,
                               [&] { return new GetDispensedFormulaAnswer(value); });
 }
 

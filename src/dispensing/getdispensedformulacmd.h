@@ -16,7 +16,6 @@ public:
     GetDispensedFormulaCmd(int formulaType, int quantityUnit);
     explicit GetDispensedFormulaCmd(const XmlRpc::XmlRpcValue &value);
     explicit GetDispensedFormulaCmd(QList<QVariant> list);
-    GetDispensedFormulaCmd(const GetDispensedFormulaCmd &) = default;
 
     GetDispensedFormulaCmd *clone() const override;
     using GetDispensedFormulaCmdBase::setDefaults;

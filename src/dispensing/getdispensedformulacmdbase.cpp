@@ -1,20 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/getdispensedformulacmdbase.h"
 
-#include "base/arguments_p.h"
 #include "base/protocommand.h"
-#include "catalogue/protocommandlist.h"
+#include "dispensing/getdispensedformulacmdbase_p.h"
 
 #include <QuvFramework/formula.h>
-
-template <class Self, class Archive>
-void GetDispensedFormulaCmdBase::arguments(Self &self, Archive &archive)
-{
-    archive.optional("formula_type", self.m_formulaType,
-                     {"DE01911", "DE01912", "Formula type: expected INT parameter"});
-    archive.optional("quantity_unit", self.m_quantityUnit,
-                     {"DE01721", "DE01722", "Quantity unit: expected INT parameter"});
-}
 
 GetDispensedFormulaCmdBase::GetDispensedFormulaCmdBase(int formulaType, int quantityUnit)
     : m_formulaType(formulaType),
@@ -26,14 +16,14 @@ GetDispensedFormulaCmdBase::GetDispensedFormulaCmdBase(int formulaType, int quan
 GetDispensedFormulaCmdBase::GetDispensedFormulaCmdBase(const XmlRpc::XmlRpcValue &value)
 {
     quv::ValueReader reader(value, Q_FUNC_INFO);
-    arguments(*this, reader);
+    Description::arguments(*this, reader);
     check("DE01910", "DE01720", Q_FUNC_INFO);
 }
 
 GetDispensedFormulaCmdBase::GetDispensedFormulaCmdBase(QList<QVariant> list)
 {
     quv::ListReader reader(list, Q_FUNC_INFO);
-    arguments(*this, reader);
+    Description::arguments(*this, reader);
     check("DE01913", "DE01720", Q_FUNC_INFO);
 }
 
@@ -45,7 +35,7 @@ void GetDispensedFormulaCmdBase::setDefaults()
 QList<QVariant> GetDispensedFormulaCmdBase::parameters() const
 {
     quv::ListWriter writer;
-    arguments(*this, writer);
+    Description::arguments(*this, writer);
     return writer.result();
 }
 
@@ -53,7 +43,7 @@ XmlRpc::XmlRpcValue GetDispensedFormulaCmdBase::xmlrpc_parameters_base(bool *ok)
 {
     XmlRpc::XmlRpcValue array;
     quv::ValueWriter writer(array);
-    arguments(*this, writer);
+    Description::arguments(*this, writer);
     if (ok)
         *ok = true;
     return array;
@@ -61,7 +51,7 @@ XmlRpc::XmlRpcValue GetDispensedFormulaCmdBase::xmlrpc_parameters_base(bool *ok)
 
 XmlRpc::XmlRpcValue GetDispensedFormulaCmdBase::toXmlRpcValue(QString leading, bool *ok) const
 {
-    return ProtoCommand::buildXmlRpcValue(ProtoCommandList::cmdStr(ProtoCommandList::GET_DISPENSED_FORMULA),
+    return ProtoCommand::buildXmlRpcValue(ProtoCommandList::cmdStr(Description::command),
                                           xmlrpc_parameters_base(nullptr), leading, ok);
 }
 

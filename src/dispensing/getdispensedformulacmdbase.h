@@ -16,6 +16,8 @@
 class QUVPROTOCOL_EXPORT GetDispensedFormulaCmdBase
 {
 public:
+    struct Description;
+
     GetDispensedFormulaCmdBase() = default;
     /** Throws DE01908, DE01909 for a type and a unit that there is not. */
     GetDispensedFormulaCmdBase(int formulaType, int quantityUnit);
@@ -39,8 +41,6 @@ public:
     XmlRpc::XmlRpcValue toXmlRpcValue(QString leading, bool *ok = nullptr) const;
 
 private:
-    template <class Self, class Archive>
-    static void arguments(Self &self, Archive &archive);
     void check(const char *typeCode, const char *unitCode, const char *function) const;
 
     int m_formulaType = 1;
