@@ -1,24 +1,22 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotocommand.h"
+#include "base/describedcommand.h"
 
 class FW_Dispenser;
 
 /** PURGE: pours colorant to waste. What the commands for it have in common; by itself it purges nothing. */
-class QUVPROTOCOL_EXPORT PurgeCmd : public SerialProtoCommand
+class QUVPROTOCOL_EXPORT PurgeCmd : public quv::DescribedCommand<PurgeCmd, SerialProtoCommand>
 {
 public:
-    PurgeCmd();
+    struct Description;
+
+    PurgeCmd() = default;
     explicit PurgeCmd(const FW_Dispenser *dispenser);
     PurgeCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser);
     PurgeCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    PurgeCmd(const PurgeCmd &) = default;
 
     PurgeCmd *clone() const override;
-
-    QString commandString() const override;
-    TString actionString(bool detailed) const override;
 
 protected:
     /** What is purged, for displays. */

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/purgeformulacmd.h"
 
+#include "base/argumentteller_p.h"
 #include "base/gate_p.h"
 #include "dispensing/formula_p.h"
 
@@ -10,9 +11,15 @@
 namespace {
 
 constexpr char noDispenser[] = "Invalid dispenser data";
-constexpr char invalidFormula[] = "PurgeFormulaCmd failed: invalid Formula type parameter";
 constexpr char invalidPurge[] = "PurgeFormulaCmd failed: invalid PurgeFormula type parameter";
 constexpr char incorrectFormula[] = "PurgeFormulaCmd failed: incorrect Formula type parameter";
+constexpr quv::Refusal neitherInValue = {"DE01255", incorrectFormula};
+constexpr quv::Refusal neitherInList = {"DE01256", incorrectFormula};
+constexpr quv::Refusal badFormulaInValue = {"DE01196",
+                                            "PurgeFormulaCmd failed: invalid Formula type parameter"};
+constexpr quv::Refusal badFormulaInList = {"DE01204", incorrectFormula};
+constexpr quv::Refusal badPurgeInValue = {"DE01238", invalidPurge};
+constexpr quv::Refusal badPurgeInList = {"DE01237", invalidPurge};
 
 constexpr quv::PourCodes codes = {"DE01194", "DE01209", {"DE01210", "DE01211", "DE01217", "DE01213"},
                                   "DE01214", "DE01215", "DE01216"};
@@ -47,12 +54,12 @@ PurgeFormulaCmd::PurgeFormulaCmd(const XmlRpc::XmlRpcValue &value, const FW_Disp
         throw FW_Exception("DE01662", noDispenser, function);
     const XmlRpc::XmlRpcValue *first = FindXmlRpcElement(value, 0);
     if (first && FindXmlRpcMember(*first, Formula::FORMULA_TYPE)) {
-        build(quv::decodedValue<Formula>(first, {"DE01196", invalidFormula}, function), *dispenser, function);
+        build(quv::decodedValue<Formula>(first, badFormulaInValue, function), *dispenser, function);
         return;
     }
     if (!first && !FindXmlRpcMember(value, PurgeFormula::PURGE_QUANTITY))
-        throw FW_Exception("DE01255", incorrectFormula, function);
-    build(quv::decodedValue<PurgeFormula>(&value, {"DE01238", invalidPurge}, function), *dispenser, function);
+        quv::throwRefusal(neitherInValue, function);
+    build(quv::decodedValue<PurgeFormula>(&value, badPurgeInValue, function), *dispenser, function);
 }
 
 PurgeFormulaCmd::PurgeFormulaCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
@@ -61,14 +68,13 @@ PurgeFormulaCmd::PurgeFormulaCmd(QList<QVariant> list, const FW_Dispenser *dispe
     const char *function = Q_FUNC_INFO;
     if (!dispenser)
         throw FW_Exception("DE01663", noDispenser, function);
-    const quv::Refusal neither = {"DE01256", incorrectFormula};
     const QVariant first = list.value(0);
     if (quv::holds<Formula>(first))
-        build(quv::decodedVariant<Formula>(first, neither, {"DE01204", incorrectFormula}, function),
-              *dispenser, function);
+        build(quv::decodedVariant<Formula>(first, neitherInList, badFormulaInList, function), *dispenser,
+              function);
     else
-        build(quv::decodedVariant<PurgeFormula>(first, neither, {"DE01237", invalidPurge}, function),
-              *dispenser, function);
+        build(quv::decodedVariant<PurgeFormula>(first, neitherInList, badPurgeInList, function), *dispenser,
+              function);
 }
 
 PurgeFormulaCmd *PurgeFormulaCmd::clone() const
@@ -124,4 +130,12 @@ bool PurgeFormulaCmd::checkFormula(FW_DriverError &error) const
 bool PurgeFormulaCmd::isTint2CmdSupported(const FW_Version &version)
 {
     return quv::passesGate(tint2, version);
+}
+
+void PurgeFormulaCmd::tell(quv::CommandFacts &facts)
+{
+    quv::ArgumentTeller teller(facts);
+    teller.object({"formula", "or a purge formula"}, Formula(), {neitherInValue, neitherInList}, {});
+    teller.refuse("an unreadable formula", {badFormulaInValue, badFormulaInList});
+    teller.refuse("an unreadable purge formula", {badPurgeInValue, badPurgeInList});
 }

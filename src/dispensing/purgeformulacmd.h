@@ -7,6 +7,12 @@
 
 struct FW_Version;
 
+namespace quv {
+
+struct CommandFacts;
+
+} // namespace quv
+
 /**
  * PURGE as the driver carries it out: whatever a client asked for has become a formula for the dispenser. The driver renames
  * it to TINT2 for a firmware that isTint2CmdSupported.
@@ -25,7 +31,6 @@ public:
     PurgeFormulaCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser);
     /** A formula or a purge formula. Throws likewise DE01663, DE01204, DE01237 and DE01256. */
     PurgeFormulaCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    PurgeFormulaCmd(const PurgeFormulaCmd &) = default;
 
     PurgeFormulaCmd *clone() const override;
 
@@ -49,6 +54,9 @@ public:
 
     /** True for a firmware that has TINT2, be it for a purge or a tint. */
     static bool isTint2CmdSupported(const FW_Version &version);
+
+    /** Adds what the class knows of the command. */
+    static void tell(quv::CommandFacts &facts);
 
 protected:
     Formula m_formula;

@@ -21,7 +21,6 @@ public:
     explicit PurgeQuantityCmd(const XmlRpc::XmlRpcValue &value);
     /** What PurgeFormula::parameters() gives. Throws DE01259 when it cannot be read. */
     explicit PurgeQuantityCmd(QList<QVariant> list);
-    PurgeQuantityCmd(const PurgeQuantityCmd &) = default;
     explicit PurgeQuantityCmd(bool) = delete; // would be an XML-RPC value, as would the next three
     explicit PurgeQuantityCmd(int) = delete;
     explicit PurgeQuantityCmd(double) = delete;
