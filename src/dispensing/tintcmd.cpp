@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/tintcmd.h"
 
-#include "base/translation_p.h"
-#include "catalogue/protocommandlist.h"
+#include "base/describedcommand_p.h"
 #include "dispensing/formula_p.h"
-
-#include <QuvFramework/fw_xmlrpc.h>
 
 #include <algorithm>
 
@@ -17,11 +14,6 @@ constexpr quv::PourCodes codes = {"DE01103", "DE00015", {"DE00018", "DE00060", "
                                   "DE00583", "DE00533", "DE00529",
                                   "DE02832", "DE02833"};
 
-QString name()
-{
-    return ProtoCommandList::cmdStr(ProtoCommandList::TINT);
-}
-
 /** The canister's content as the firmware wants it: in hundreds of steps, but a small number as it is. */
 int sentLevel(int checkLevelSteps)
 {
@@ -32,10 +24,25 @@ int sentLevel(int checkLevelSteps)
 
 } // namespace
 
-TintCmd::TintCmd() : SerialProtoCommand(name(), nullptr) {}
+struct TintCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::TINT;
+    static constexpr auto commandText = "Dispense";
+    static constexpr auto actionText = QT_TRANSLATE_NOOP("QuvProtocol", "Dispensing in progress");
 
-TintCmd::TintCmd(const Formula &formula, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), dispenser)
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.object(
+            "formula", self.m_formula,
+            {{"DE00437", invalidFormula}, {"DE00439", "TintCmd failed: expected Formula type parameter"}},
+            {"DE00775", "TintCmd failed: incorrect Formula type parameter"});
+    }
+};
+
+template class quv::DescribedCommand<TintCmd, SerialProtoCommand>;
+
+TintCmd::TintCmd(const Formula &formula, const FW_Dispenser *dispenser) : DescribedCommand(dispenser)
 {
     const char *function = Q_FUNC_INFO;
     m_formula = quv::copied(formula, {"DE00491", invalidFormula}, function);
@@ -43,39 +50,21 @@ TintCmd::TintCmd(const Formula &formula, const FW_Dispenser *dispenser)
 }
 
 TintCmd::TintCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), value, dispenser)
+    : DescribedCommand(value, dispenser)
 {
-    const char *function = Q_FUNC_INFO;
-    m_formula =
-        quv::decodedValue<Formula>(FindXmlRpcElement(value, 0), {"DE00437", invalidFormula}, function);
-    quv::requireGoodFormula(*this, dispenser, function);
+    read(value, Q_FUNC_INFO);
+    quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
-TintCmd::TintCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
-    : SerialProtoCommand(name(), list, dispenser)
+TintCmd::TintCmd(QList<QVariant> list, const FW_Dispenser *dispenser) : DescribedCommand(list, dispenser)
 {
-    const char *function = Q_FUNC_INFO;
-    m_formula = quv::decodedVariant<Formula>(
-        list.value(0), {"DE00439", "TintCmd failed: expected Formula type parameter"},
-        {"DE00775", "TintCmd failed: incorrect Formula type parameter"}, function);
-    quv::requireGoodFormula(*this, dispenser, function);
+    read(list, Q_FUNC_INFO);
+    quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
 }
 
 TintCmd *TintCmd::clone() const
 {
     return new TintCmd(*this);
-}
-
-QList<QVariant> TintCmd::parameters() const
-{
-    return {QVariant::fromValue(m_formula)};
-}
-
-XmlRpc::XmlRpcValue TintCmd::xmlrpc_parameters(bool *ok) const
-{
-    XmlRpc::XmlRpcValue array;
-    array[0] = m_formula.toXmlRpcValue(ok);
-    return array;
 }
 
 QList<int> TintCmd::serialParameters(int) const
@@ -106,16 +95,11 @@ long long TintCmd::getCmdEstimatedExecutionTime(const FW_Machine *machine) const
     return time;
 }
 
-QString TintCmd::commandString() const
-{
-    return QStringLiteral("Dispense");
-}
-
 TString TintCmd::actionString(bool detailed) const
 {
     if (detailed)
         return TString(m_formula.toPrintableString(true, nullptr), "");
-    return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Dispensing in progress"), quv::translationContext);
+    return DescribedCommand::actionString(false);
 }
 
 bool TintCmd::checkFormula(FW_DriverError &error) const

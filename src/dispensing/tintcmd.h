@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotocommand.h"
+#include "base/describedcommand.h"
 
 #include <QuvFramework/circuitformulaitem.h>
 #include <QuvFramework/formula.h>
@@ -15,29 +15,27 @@ class FW_Dispenser;
  * Without a dispenser nothing is checked, which is how a client builds it. With one, constructors also throw what
  * checkFormula fails with.
  */
-class QUVPROTOCOL_EXPORT TintCmd : public SerialProtoCommand
+class QUVPROTOCOL_EXPORT TintCmd : public quv::DescribedCommand<TintCmd, SerialProtoCommand>
 {
 public:
-    TintCmd();
+    struct Description;
+
+    TintCmd() = default;
     /** Throws DE00491 when the formula cannot be copied. */
     TintCmd(const Formula &formula, const FW_Dispenser *dispenser);
     /** One formula. Throws DE00437 when it cannot be read. */
     TintCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser);
     /** The same as a list. Throws DE00439 for another type, DE00775 when it cannot be read. */
     TintCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    TintCmd(const TintCmd &) = default;
 
     TintCmd *clone() const override;
     void setDefaults() {} ///< a formula has none
 
-    QList<QVariant> parameters() const override;
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
     /** Empty without a dispenser that has all that the formula names. */
     QList<int> serialParameters(int family) const override;
     /** Milliseconds on \a machine; -1 when only its scale can tell, 0 when it is not known. */
     long long getCmdEstimatedExecutionTime(const FW_Machine *machine) const override;
 
-    QString commandString() const override;
     TString actionString(bool detailed) const override;
 
     const Formula &formula() const { return m_formula; }

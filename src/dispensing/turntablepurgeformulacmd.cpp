@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/turntablepurgeformulacmd.h"
 
-#include "base/arguments_p.h"
 #include "dispensing/formula_p.h"
 
 TurntablePurgeFormulaCmd::TurntablePurgeFormulaCmd(const Formula &formula, int currentPosition,

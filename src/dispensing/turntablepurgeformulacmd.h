@@ -16,7 +16,6 @@ public:
                              const FW_Dispenser *dispenser);
     /** The formula first, the position last. Throws DE01727 when that is no int. */
     TurntablePurgeFormulaCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    TurntablePurgeFormulaCmd(const TurntablePurgeFormulaCmd &) = default;
 
     TurntablePurgeFormulaCmd *clone() const override;
 

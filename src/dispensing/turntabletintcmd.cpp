@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/turntabletintcmd.h"
 
-#include "base/arguments_p.h"
 #include "dispensing/formula_p.h"
 
 TurntableTintCmd::TurntableTintCmd(const Formula &formula, int currentPosition, const FW_Dispenser *dispenser)

@@ -16,7 +16,6 @@ public:
     TurntableTintCmd(const XmlRpc::XmlRpcValue &value, int currentPosition, const FW_Dispenser *dispenser);
     /** The formula first, the position last. Throws DE01697 when that is no int. */
     TurntableTintCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
-    TurntableTintCmd(const TurntableTintCmd &) = default;
 
     TurntableTintCmd *clone() const override;
     void setDefaults(); ///< position 0
