@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "catalogue/commandfacts.h"
+
+#include "base/basetesting.h"
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+// What the commands of this family tell of themselves to those who explain them.
+
+namespace {
+
+using namespace testing_base;
+using Lines = std::vector<std::string>;
+
+void appendRefusals(Lines &lines, const QList<quv::RefusalFacts> &refusals)
+{
+    for (const quv::RefusalFacts &refusal : refusals)
+        lines.push_back(
+            QStringLiteral("  %1, %2: %3").arg(refusal.form, refusal.when, refusal.code).toStdString());
+}
+
+Lines argumentsOf(const char *command)
+{
+    const quv::CommandFacts facts = quv::commandFacts(command);
+    EXPECT_TRUE(facts.tellsArguments);
+    Lines lines;
+    for (const quv::ArgumentFacts &argument : facts.arguments) {
+        std::string line = QStringLiteral("%1 (%2)").arg(argument.name, argument.type).toStdString();
+        if (argument.optional)
+            line += " = " + dumped(argument.defaultValue);
+        if (!argument.meaning.isEmpty())
+            line += ": " + argument.meaning.toStdString();
+        lines.push_back(line);
+        appendRefusals(lines, argument.refusals);
+    }
+    return lines;
+}
+
+Lines membersOf(const char *command)
+{
+    const quv::CommandFacts facts = quv::commandFacts(command);
+    EXPECT_TRUE(facts.tellsMembers);
+    Lines lines = {facts.answerClass.toStdString()};
+    for (const quv::MemberFacts &member : facts.members) {
+        EXPECT_TRUE(member.required);
+        lines.push_back(
+            QStringLiteral("%1 (%2): %3").arg(member.key, member.type, member.meaning).toStdString());
+        appendRefusals(lines, member.refusals);
+    }
+    appendRefusals(lines, facts.answerRefusals);
+    return lines;
+}
+
+TEST(DispensingFacts, tellWhatIsPoured)
+{
+    EXPECT_EQ(argumentsOf("TINT"),
+              (Lines{"formula (formula)", "  XML-RPC, missing or another type: DE00437",
+                     "  list, missing or another type: DE00439", "  list, unreadable: DE00775"}));
+    EXPECT_EQ(argumentsOf("CHANNEL_TINT"),
+              (Lines{"channel (int): 1 or 2", "  XML-RPC, missing or another type: DE01424",
+                     "  list, missing or another type: DE01426", "formula (formula)",
+                     "  XML-RPC, missing or another type: DE01425",
+                     "  list, missing or another type: DE01428", "  list, unreadable: DE01427"}));
+    EXPECT_EQ(
+        argumentsOf("PURGE"),
+        (Lines{"formula (formula): or a purge formula", "  XML-RPC, missing or another type: DE01255",
+               "  list, missing or another type: DE01256", "  XML-RPC, an unreadable formula: DE01196",
+               "  list, an unreadable formula: DE01204", "  XML-RPC, an unreadable purge formula: DE01238",
+               "  list, an unreadable purge formula: DE01237"}));
+}
+
+TEST(DispensingFacts, tellWhatMovesPumps)
+{
+    EXPECT_EQ(argumentsOf("PRIMING"),
+              (Lines{"formula (formula): in strokes", "  XML-RPC, missing or another type: DE00497",
+                     "  list, missing or another type: DE00494", "  list, unreadable: DE00493"}));
+    EXPECT_EQ(argumentsOf("PACK"),
+              (Lines{"movement_type (int): 0 pack, 1 unpack", "  XML-RPC, missing or another type: DE00988",
+                     "  list, missing or another type: DE00863", "  XML-RPC, out of range: DE00987",
+                     "  list, out of range: DE00992", "formula (formula): quantities are not sent",
+                     "  XML-RPC, missing or another type: DE00989",
+                     "  list, missing or another type: DE00994", "  list, unreadable: DE00993"}));
+    EXPECT_EQ(argumentsOf("PRIMING2"),
+              (Lines{"circuits (circuit list)", "  XML-RPC, missing or another type: DE01930",
+                     "  list, missing or another type: DE02165", "  list, unreadable: DE01355"}));
+    for (const char *command : {"PACK2", "AIRPURGE"})
+        EXPECT_EQ(argumentsOf(command),
+                  (Lines{"circuits (circuit list)", "  XML-RPC, missing or another type: DE02321",
+                         "  list, missing or another type: DE02324", "  list, unreadable: DE02322"}));
+}
+
+TEST(DispensingFacts, tellWhatIsAskedAboutFormulas)
+{
+    EXPECT_EQ(argumentsOf("SET_LEVELS"),
+              (Lines{"delta (bool): true: the quantities are changes; false: they are new levels",
+                     "  XML-RPC, missing: DE00435", "  XML-RPC, another type: DE00435",
+                     "  list, another type: DE01322", "formula (formula)",
+                     "  XML-RPC, missing or another type: DE00436",
+                     "  list, missing or another type: DE01323", "  list, unreadable: DE01323",
+                     "refill (bool) = true: whether somebody refilled; sent, but never read"}));
+    EXPECT_EQ(
+        argumentsOf("CHECK_FORMULA_LEVELS"),
+        (Lines{"formula (formula): or a purge formula", "  XML-RPC, missing or another type: DE00438",
+               "is_purge (bool) = false: whether the formula is a purge; a purge formula goes without it"}));
+    EXPECT_EQ(
+        argumentsOf("GET_FORMULA_CIRCUITS"),
+        (Lines{"formula (formula): or a purge formula", "  XML-RPC, missing or another type: DE01254",
+               "  XML-RPC, an unreadable formula: DE00235", "  XML-RPC, an unreadable purge formula: DE01253",
+               "is_purge (bool) = false: whether the formula is a purge"}));
+    for (const char *command : {"GET_LOW_LEVEL_FORMULA", "GET_FORMULA_EXECUTION"})
+        EXPECT_EQ(argumentsOf(command),
+                  (Lines{"formula (formula)", "  XML-RPC, missing or another type: DE00898"}));
+    EXPECT_EQ(argumentsOf("GET_DISPENSED_FORMULA"),
+              (Lines{"formula_type (int) = 1: 1 circuit positions, 2 circuits, 3 canisters, 4 colorants",
+                     "  XML-RPC, another type: DE01911", "  list, another type: DE01912",
+                     "quantity_unit (int) = 0: 0 the machine's own, 1 steps, 2 strokes, 3 weight or volume",
+                     "  XML-RPC, another type: DE01721", "  list, another type: DE01722"}));
+}
+
+TEST(DispensingFacts, tellTheAnswers)
+{
+    EXPECT_EQ(
+        membersOf("CHECK_FORMULA_LEVELS"),
+        (Lines{"CheckFormulaLevelsAnswer", "canisters_below_critical (array of ints): canister IDs",
+               "  XML-RPC, missing or another type: DE00460",
+               "  XML-RPC, an element of another type: DE00459", "  list, missing or another type: DE00456",
+               "canisters_below_warning (array of ints): canister IDs",
+               "  XML-RPC, missing or another type: DE00462",
+               "  XML-RPC, an element of another type: DE00461", "  list, missing or another type: DE00457",
+               "  XML-RPC, : DE01274", "  list, : DE00464", "  envelope, : DE00463"}));
+    EXPECT_EQ(
+        membersOf("GET_FORMULA_CIRCUITS"),
+        (Lines{"GetFormulaCircuitsAnswer", "circuits (array of ints): circuit IDs",
+               "  XML-RPC, missing or another type: DE00717",
+               "  XML-RPC, an element of another type: DE00716", "  list, missing or another type: DE00713",
+               "positions (array of ints): the position of each circuit",
+               "  XML-RPC, missing or another type: DE00719",
+               "  XML-RPC, an element of another type: DE00718", "  list, missing or another type: DE00714",
+               "quantities (array of doubles): what each circuit pours, in the formula's own unit",
+               "  XML-RPC, missing or another type: DE01234",
+               "  XML-RPC, an element of another type: DE01233", "  list, missing or another type: DE01232",
+               "  XML-RPC, : DE01276", "  list, : DE00210", "  envelope, : DE00211"}));
+    EXPECT_EQ(
+        membersOf("GET_LOW_LEVEL_FORMULA"),
+        (Lines{"GetLowLevelFormulaAnswer", "low_level_formula (formula): in the machine's own terms",
+               "  XML-RPC, missing or another type: DE00904", "  list, missing or another type: DE00902",
+               "  XML-RPC, : DE01278", "  list, : DE00901", "  envelope, : DE00899"}));
+    EXPECT_EQ(
+        membersOf("GET_FORMULA_EXECUTION"),
+        (Lines{"GetFormulaExecutionAnswer", "frm_progress (formula progress): how far each channel is",
+               "  XML-RPC, missing or another type: DE02936", "  list, missing or another type: DE02935",
+               "  XML-RPC, : DE01278", "  list, : DE00901", "  envelope, : DE00899"}));
+    EXPECT_EQ(membersOf("GET_DISPENSED_FORMULA"),
+              (Lines{"GetDispensedFormulaAnswer", "dispensed_formula (formula): what has left the nozzles",
+                     "  XML-RPC, missing: DE01711", "  XML-RPC, another type: DE01710",
+                     "  list, missing or another type: DE01716",
+                     "remaining_formula (formula): what has not; a firmware does not tell it",
+                     "  XML-RPC, missing: DE01713", "  XML-RPC, another type: DE01712",
+                     "  list, missing or another type: DE01531", "total_formula (formula): the whole",
+                     "  XML-RPC, missing: DE01715", "  XML-RPC, another type: DE01714",
+                     "  list, missing or another type: DE01718", "  tokens, : DE01726"}));
+}
+
+} // namespace
