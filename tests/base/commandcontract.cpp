@@ -23,6 +23,11 @@ const List &parametersOf(const Request &request)
     return request.expectedParameters ? *request.expectedParameters : request.arguments;
 }
 
+std::string nameOf(const Request &request)
+{
+    return shown(request.arguments) + (request.valueForm ? " or " + dumped(*request.valueForm) : "");
+}
+
 const List &heldBy(const Request &request)
 {
     return request.held ? *request.held : parametersOf(request);
@@ -79,7 +84,7 @@ void requireDifferentArguments(MissingFacts &missing, const CommandFacts &facts)
 
 void requireRequest(MissingFacts &missing, const CommandFacts &facts, const Request &request)
 {
-    SCOPED_TRACE(shown(request.arguments));
+    SCOPED_TRACE(nameOf(request));
     missing.require(!request.expectedDump.empty(), "how the request is written");
     missing.require(facts.getters.empty() ||
                         static_cast<size_t>(heldBy(request).size()) == facts.getters.size(),
@@ -275,6 +280,8 @@ std::vector<Form> formsOfRequest(const CommandFacts &facts, const Request &reque
 void expectReadBack(const ProtoCommand &command, const CommandFacts &facts, const Request &request)
 {
     std::vector<Form> forms;
+    if (!request.isReadBack)
+        return;
     if (facts.comesBackFromValue && request.isWritten)
         forms.push_back(valueForm("read back from XML-RPC", facts, command.xmlrpc_parameters()));
     if (facts.comesBackFromList)
@@ -288,7 +295,7 @@ void expectReadBack(const ProtoCommand &command, const CommandFacts &facts, cons
 
 void expectRequest(const CommandFacts &facts, const Request &request)
 {
-    SCOPED_TRACE("request " + shown(request.arguments));
+    SCOPED_TRACE("request " + nameOf(request));
     for (const Form &form : formsOfRequest(facts, request)) {
         SCOPED_TRACE(form.name);
         const Made command = tryToMake(form.making);

@@ -14,6 +14,8 @@ Made tryToMake(const Making &making)
     } catch (const FW_Exception &refusal) {
         ADD_FAILURE() << "refused with " << refusal.code().toStdString() << ", "
                       << refusal.text().toStdString();
+    } catch (...) {
+        ADD_FAILURE() << "failed with another exception";
     }
     return nullptr;
 }
@@ -61,6 +63,12 @@ Request &Request::onlyTyped()
 {
     hasValueForm = false;
     hasListForm = false;
+    return *this;
+}
+
+Request &Request::notReadBack()
+{
+    isReadBack = false;
     return *this;
 }
 

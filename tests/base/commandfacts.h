@@ -36,9 +36,7 @@ Making made(Arguments... arguments)
 /** A text for displays, and what it is in a language in which every text stands between angle quotes. */
 struct Phrase
 {
-    Phrase(
-        const char *
-            text); // NOLINT(google-explicit-constructor): a literal is a phrase that is translated as a whole
+    Phrase(const char *source); ///< translated as a whole
     Phrase(const char *source, const char *inContext, const QString &translation);
 
     QString text;
@@ -89,6 +87,7 @@ struct Request
     }
     Request &value(const Value &array);
     Request &onlyTyped();
+    Request &notReadBack(); ///< what it writes makes another command, or none
     Request &onlyFromList();
     Request &onlyFromValue();
 
@@ -106,6 +105,7 @@ struct Request
     std::optional<Value> valueForm;
     bool hasValueForm = true;
     bool hasListForm = true;
+    bool isReadBack = true;
     Making typedForm;
     bool typedHasMachine = false;
 
@@ -149,6 +149,13 @@ template <class Command>
 struct HasDefaults<Command, std::void_t<decltype(std::declval<Command &>().setDefaults())>> : std::true_type
 {};
 
+/** Stands for a source where constructors are chosen: an XML-RPC value itself also converts to numbers and flags. */
+template <class Source>
+struct OfSource
+{
+    operator Source() const;
+};
+
 /** Of the class; \a leading arguments stand before the others in each constructor. */
 template <class Command, class... Leading>
 CommandForms formsOf(const FW_Dispenser *machine = nullptr, Leading... leading)
@@ -159,17 +166,17 @@ CommandForms formsOf(const FW_Dispenser *machine = nullptr, Leading... leading)
         forms.byDefault = made<Command>(leading...);
 
     // null tells a pointer from a flag, which would take the pointer too
-    if constexpr (std::is_constructible_v<Command, Leading..., const Value &, std::nullptr_t>) {
+    if constexpr (std::is_constructible_v<Command, Leading..., OfSource<Value>, std::nullptr_t>) {
         forms.valueMachine = machine;
         forms.ofValue = [=](const Value &value) -> Made {
             return std::make_unique<Command>(leading..., value, machine);
         };
-    } else if constexpr (std::is_constructible_v<Command, Leading..., const Value &>) {
+    } else if constexpr (std::is_constructible_v<Command, Leading..., OfSource<Value>>) {
         forms.ofValue = [=](const Value &value) -> Made {
             return std::make_unique<Command>(leading..., value);
         };
     }
-    if constexpr (std::is_constructible_v<Command, Leading..., const List &, std::nullptr_t>) {
+    if constexpr (std::is_constructible_v<Command, Leading..., OfSource<List>, std::nullptr_t>) {
         forms.listMachine = machine;
         forms.ofList = [=](const List &list) -> Made {
             return std::make_unique<Command>(leading..., list, machine);

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/getcmdestimatedexectimecmd.h"
 
-#include "base/basetesting.h"
-#include "base/getcmdestimatedexectimeanswer.h"
+#include "base/commandcontract.h"
 #include "base/getcommandstatuscmd.h"
 #include "base/outofmemory.h"
 #include "catalogue/protocommandlist.h"
@@ -38,26 +37,71 @@ void expectAsksForTicket(const ProtoCommand *command, const char *ticket)
 {
     const auto *request = dynamic_cast<const GetCmdEstimatedExecTimeCmd *>(command);
     ASSERT_NE(request, nullptr);
-    EXPECT_EQ(request->command(), "GET_CMD_EST_EXEC_TIME");
-    EXPECT_EQ(request->protoType(), 2);
     const auto *inner = dynamic_cast<const GetCommandStatusCmd *>(request->commandToEstimate());
     ASSERT_NE(inner, nullptr);
     EXPECT_EQ(inner->ticketID(), ticket);
 }
 
+AnswerFacts answers()
+{
+    constexpr char answerClass[] = "GetCmdEstimatedExecTimeAnswer";
+    constexpr char notMade[] = "Failed to create answer";
+    AnswerFacts answers = confAnswers();
+    answers.value =
+        AnswerOfValue(answerClass, structOf({{"exec_time", 2500}}), R"({"exec_time": 2500})")
+            .failsWith("DE01297", notMade)
+            .refuses(
+                Value(5), "DE01180", "GetCmdEstimatedExecTimeAnswer: cannot find execution time tag",
+                "GetCmdEstimatedExecTimeAnswer::GetCmdEstimatedExecTimeAnswer(const XmlRpc::XmlRpcValue&)");
+    answers.list =
+        AnswerOfList(answerClass, {2600}, R"({"exec_time": 2600})")
+            .failsWith("DE00346", notMade)
+            .refuses({}, "DE01178", "GetCmdEstimatedExecTimeAnswer decoding failed: invalid QVariant value",
+                     "GetCmdEstimatedExecTimeAnswer::GetCmdEstimatedExecTimeAnswer(QList<QVariant>&)");
+    return answers;
+}
+
+CommandFacts facts(const FW_Dispenser *machine)
+{
+    static GetCommandStatusCmd inner(QString("T-1"));
+    using Command = GetCmdEstimatedExecTimeCmd;
+    CommandFacts facts(formsOf<Command>(machine));
+    facts.catalogue = {"GET_CMD_EST_EXEC_TIME", 85, "", 1};
+    facts.protoType = 2;
+    facts.readsByHand = true;
+    facts.defaults = Request().written("[]");
+    facts.requests = {
+        Request({"GET_CMD_STATUS", "T-1"})
+            .value(requestFor("GET_CMD_STATUS", "T-1"))
+            .typed<Command>(&inner)
+            .written(R"([{"command": ["GET_CMD_STATUS", "T-1"]}])"),
+        Request({"ERRORS_NUM"}).value(requestFor("ERRORS_NUM")).written(R"([{"command": ["ERRORS_NUM"]}])"),
+    };
+    facts.answers = answers();
+    return facts;
+}
+
 } // namespace
 
-TEST(GetCmdEstimatedExecTimeCmd, StartsWithoutACommand)
+TEST(GetCmdEstimatedExecTimeCmd, keepsTheCommandContract)
+{
+    const FW_Dispenser machine;
+    expectCommandContract(facts(nullptr));
+    expectCommandContract(facts(&machine));
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, startsWithoutACommand)
 {
     EXPECT_STREQ(GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS, "command");
-    const GetCmdEstimatedExecTimeCmd command;
-    EXPECT_EQ(command.command(), "GET_CMD_EST_EXEC_TIME");
-    EXPECT_EQ(command.protoType(), 2);
-    EXPECT_EQ(command.commandToEstimate(), nullptr);
-    EXPECT_EQ(command.parameters(), List());
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), "[]");
-    EXPECT_TRUE(ok);
+    EXPECT_EQ(GetCmdEstimatedExecTimeCmd().commandToEstimate(), nullptr);
+}
+
+TEST(GetCmdEstimatedExecTimeCmd, writesTheNameAloneOfACommandWithoutArguments)
+{
+    ConfProtoCommand bare("LOGOUT", nullptr);
+    const GetCmdEstimatedExecTimeCmd command(&bare);
+    EXPECT_EQ(command.parameters(), List{"LOGOUT"});
+    EXPECT_EQ(dumped(command.xmlrpc_parameters()), R"([{"command": ["LOGOUT"]}])");
 }
 
 TEST(GetCmdEstimatedExecTimeCmd, KeepsACloneOfTheCommand)
@@ -78,24 +122,6 @@ TEST(GetCmdEstimatedExecTimeCmd, KeepsACloneOfTheCommand)
     command.setCommandToEstimate(nullptr);
     expectAsksForTicket(&command, "T-2");
     EXPECT_EQ(GetCmdEstimatedExecTimeCmd(nullptr).commandToEstimate(), nullptr);
-}
-
-TEST(GetCmdEstimatedExecTimeCmd, WritesTheNameAndThenTheArguments)
-{
-    GetCommandStatusCmd inner(QString("T-1"));
-    const GetCmdEstimatedExecTimeCmd command(&inner);
-    EXPECT_EQ(command.parameters(), (List{"GET_CMD_STATUS", "T-1"}));
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), R"([{"command": ["GET_CMD_STATUS", "T-1"]}])");
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(dumped(command.xmlrpc_parameters()), R"([{"command": ["GET_CMD_STATUS", "T-1"]}])");
-    EXPECT_EQ(dumped(command.toXmlRpcValue("key", &ok)),
-              R"(["key", "GET_CMD_EST_EXEC_TIME", {"command": ["GET_CMD_STATUS", "T-1"]}])");
-
-    ConfProtoCommand bare("LOGOUT", nullptr);
-    const GetCmdEstimatedExecTimeCmd withoutArguments(&bare);
-    EXPECT_EQ(withoutArguments.parameters(), List{"LOGOUT"});
-    EXPECT_EQ(dumped(withoutArguments.xmlrpc_parameters()), R"([{"command": ["LOGOUT"]}])");
 }
 
 TEST(GetCmdEstimatedExecTimeCmd, ReadsTheCommandInBothForms)
@@ -142,31 +168,6 @@ TEST(GetCmdEstimatedExecTimeCmd, RefusesUnknownNames)
     for (const Value &request : {requestFor("NO_SUCH_COMMAND"), requestFor(""), requestFor(5),
                                  requestFor("errors_num"), requestFor(arrayOf("ERRORS_NUM"))})
         expectValueRefusal("DE01184", "Invalid parameters: command does not exists", request);
-}
-
-TEST(GetCmdEstimatedExecTimeCmd, RefusesOtherRequestsAsAllCommandsDo)
-{
-    const char base[] =
-        "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-    expectRefusal("DE00312",
-                  "GET_CMD_EST_EXEC_TIME command : expected at least 1 parameters, received 0 instead!", base,
-                  [] {
-                      GetCmdEstimatedExecTimeCmd{arrayOf(), nullptr};
-                  });
-    expectRefusal("DE00313",
-                  "GET_CMD_EST_EXEC_TIME command : expected at least 1 parameters, received 0 instead!",
-                  "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)", [] {
-                      GetCmdEstimatedExecTimeCmd{List(), nullptr};
-                  });
-    for (const auto &[code, value] :
-         {std::pair<const char *, Value>("DE00571", Value()), {"DE00311", Value("ERRORS_NUM")}}) {
-        try {
-            GetCmdEstimatedExecTimeCmd{value, nullptr};
-            ADD_FAILURE() << "nothing was refused";
-        } catch (const FW_Exception &refusal) {
-            EXPECT_EQ(refusal.code(), code);
-        }
-    }
 }
 
 TEST(GetCmdEstimatedExecTimeCmd, RefusesAListWithoutAName)
@@ -238,33 +239,4 @@ TEST(GetCmdEstimatedExecTimeCmd, CopiesStandAlone)
     expectAsksForTicket(copy.get(), "T-1");
     expectAsksForTicket(&command, "T-2");
     EXPECT_EQ(GetCmdEstimatedExecTimeCmd(GetCmdEstimatedExecTimeCmd()).commandToEstimate(), nullptr);
-}
-
-TEST(GetCmdEstimatedExecTimeCmd, BuildsItsAnswer)
-{
-    GetCmdEstimatedExecTimeCmd command;
-    FW_DriverError error;
-    const auto time = [&] {
-        const auto *answer = dynamic_cast<const GetCmdEstimatedExecTimeAnswer *>(command.getProtoAnswer());
-        return answer ? answer->executionTime() : -1;
-    };
-    EXPECT_TRUE(command.buildProtoAnswer(structOf({{"exec_time", 2500}}), &error));
-    EXPECT_EQ(time(), 2500);
-    List list = {2600};
-    EXPECT_TRUE(command.buildProtoAnswer(list, &error));
-    EXPECT_EQ(time(), 2600);
-    EXPECT_TRUE(command.setAnswer(structOf({{"ret_code", 0},
-                                            {"info", ""},
-                                            {"ret_value", structOf({{"exec_time", 2700}})},
-                                            {"errors", arrayOf()}}),
-                                  false, &error));
-    EXPECT_EQ(time(), 2700);
-    EXPECT_EQ(error.code(), QString());
-
-    EXPECT_FALSE(command.buildProtoAnswer(Value(5), &error));
-    expectError(error, "DE01180", "GetCmdEstimatedExecTimeAnswer: cannot find execution time tag");
-    EXPECT_EQ(command.getProtoAnswer(), nullptr);
-    list.clear();
-    EXPECT_FALSE(command.buildProtoAnswer(list, &error));
-    expectError(error, "DE01178", "GetCmdEstimatedExecTimeAnswer decoding failed: invalid QVariant value");
 }

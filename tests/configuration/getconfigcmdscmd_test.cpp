@@ -1,80 +1,51 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "configuration/getconfigcmdscmd.h"
 
-#include "base/outofmemory.h"
-#include "configuration/getconfigcmdsanswer.h"
+#include "base/commandcontract.h"
 #include "configurationtesting.h"
-
-#include <memory>
 
 namespace {
 
 using namespace testing_configuration;
 
-const GetConfigCmdsAnswer *answerOf(const ProtoCommand &command)
+AnswerFacts answers()
 {
-    return dynamic_cast<const GetConfigCmdsAnswer *>(command.getProtoAnswer());
+    constexpr char answerClass[] = "GetConfigCmdsAnswer";
+    AnswerFacts answers = serialAnswers();
+    answers.tokens =
+        AnswerOfTokens(answerClass, tokens("05 02 0A 01 07 04"),
+                       R"({"command_codes": [{"cmd_code": 7, "field_count": 4}], )"
+                       R"("minor_version": 10, "version": 2})")
+            .failsWith("DE01648", "Failed to create ProtoAnswer")
+            .refuses(tokens("02 02 0A"), "DE01642", "Invalid answer length",
+                     "GetConfigCmdsAnswer::GetConfigCmdsAnswer(QStringList)")
+            .refuses(tokens("05 02"), "DE00077", "Error during command answer decoding: bad length",
+                     "SerialProtoAnswer::SerialProtoAnswer(QStringList)");
+    answers.value.answerClass = answerClass; // whose struct is not read
+    answers.value.right = structOf({{"version", Value(3)}});
+    answers.value.written = R"({"minor_version": 0, "version": 0})";
+    return answers;
+}
+
+CommandFacts facts()
+{
+    CommandFacts facts(formsOf<GetConfigCmdsCmd>());
+    facts.catalogue = {"GET_CONFIG_CMDS", 91, "0066", 0};
+    facts.protoType = 1;
+    facts.keepsTheList = true;
+    facts.defaults = Request().written("[]").sends({0});
+    facts.requests = {
+        Request().written("[]").sends({0}),
+        Request({5}).onlyFromList().notReadBack().written("[]").sends({0}),
+        Request({5}).onlyFromValue().parameters({}).written("[]").sends({0}),
+    };
+    facts.answers = answers();
+    return facts;
 }
 
 } // namespace
 
-TEST(GetConfigCmdsCmd, asksForTheRowOfNoStructure)
+TEST(GetConfigCmdsCmd, keepsTheCommandContract)
 {
-    for (const GetConfigCmdsCmd &command :
-         {GetConfigCmdsCmd(), GetConfigCmdsCmd(List{5}), GetConfigCmdsCmd(arrayOf(5))}) {
-        EXPECT_EQ(command.command(), "GET_CONFIG_CMDS");
-        EXPECT_EQ(command.protoType(), 1);
-        EXPECT_EQ(dumped(command.xmlrpc_parameters()), "[]");
-        EXPECT_EQ(command.serialParameters(1), (QList<int>{0}));
-        EXPECT_EQ(command.serialParameters(2), (QList<int>{0}));
-        const std::unique_ptr<ProtoCommand> copy(command.clone());
-        EXPECT_NE(dynamic_cast<GetConfigCmdsCmd *>(copy.get()), nullptr);
-    }
-}
-
-TEST(GetConfigCmdsCmd, keepsTheListThatItWasGiven)
-{
-    EXPECT_EQ(GetConfigCmdsCmd().parameters(), List());
-    EXPECT_EQ(GetConfigCmdsCmd(arrayOf(5)).parameters(), List());
-    EXPECT_EQ(GetConfigCmdsCmd(List{5}).parameters(), List{5});
-}
-
-TEST(GetConfigCmdsCmd, takesTheFirmwaresAnswer)
-{
-    GetConfigCmdsCmd command;
-    FW_DriverError error;
-    EXPECT_TRUE(command.setSerialAnswer(tokens("05 02 0A 01 01 04"), &error));
-    expectError(error, "", "");
-    ASSERT_TRUE(answerOf(command));
-    EXPECT_EQ(answerOf(command)->getConfigCommands(), (QList<unsigned>{1}));
-    EXPECT_TRUE(command.buildProtoAnswer(tokens("05 02 0A 01 07 04"), nullptr));
-    EXPECT_EQ(answerOf(command)->getConfigCommands(), (QList<unsigned>{7}));
-}
-
-TEST(GetConfigCmdsCmd, saysWhyAnAnswerWasRefused)
-{
-    GetConfigCmdsCmd command;
-    FW_DriverError error;
-    EXPECT_TRUE(command.setSerialAnswer(tokens("05 02 0A 01 01 04"), nullptr));
-    EXPECT_FALSE(command.setSerialAnswer(tokens("02 02 0A"), &error));
-    expectError(error, "DE01642", "Invalid answer length");
-    EXPECT_FALSE(command.getProtoAnswer());
-    EXPECT_FALSE(command.setSerialAnswer(tokens("05 02"), nullptr));
-}
-
-TEST(GetConfigCmdsCmd, takesAStructForAnEmptyAnswer)
-{
-    GetConfigCmdsCmd command;
-    EXPECT_TRUE(command.buildProtoAnswer(structOf({{"version", Value(3)}}), nullptr));
-    ASSERT_TRUE(answerOf(command));
-    EXPECT_EQ(answerOf(command)->version(), 0U);
-}
-
-TEST(GetConfigCmdsCmd, saysThatAnAnswerCouldNotBeMade)
-{
-    GetConfigCmdsCmd command;
-    FW_DriverError error;
-    const QStringList answer = tokens("05 02 0A 01 01 04");
-    EXPECT_FALSE(outOfMemoryOnce([&] { return command.setSerialAnswer(answer, &error); }));
-    expectError(error, "DE01648", "Failed to create ProtoAnswer");
+    expectCommandContract(facts());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "configuration/writeconfigurationparamcmd.h"
 
+#include "base/commandcontract.h"
 #include "configuration/generic_cdata.h"
 #include "configuration/lck_cdata.h"
 #include "sharedparttesting.h"
@@ -34,48 +35,66 @@ FW_Dispenser lockedMachine()
     return machine;
 }
 
-void expectWithoutRow(WriteConfigurationParamCmd command)
+/** The command that a value or a list without a row makes. */
+Request withoutRow(Request request)
 {
-    EXPECT_FALSE(command.confData());
-    EXPECT_EQ(command.configurationDataStr(), QString());
-    EXPECT_EQ(command.commandCode(), 0);
-    EXPECT_EQ(command.id(), -1);
-    EXPECT_EQ(command.parameters(), (List{0, 0}));
-    EXPECT_EQ(command.serialParameters(1), (QList<int>{0, 1}));
-    EXPECT_EQ(dumped(command.xmlrpc_parameters()), "[]");
-    FW_Dispenser machine;
-    EXPECT_FALSE(command.updateConfiguration(&machine));
+    return request.notReadBack().parameters({0, 0}).written("[]").sends({0, 1}, {}).holds({0, -1, ""});
+}
+
+CommandFacts facts(const FW_Dispenser &machine)
+{
+    using Command = WriteConfigurationParamCmd;
+    CommandFacts facts(formsOf<Command>());
+    facts.catalogue = {"WRITE_CONFIG_ROW", 20, "0065", 0};
+    facts.protoType = 1;
+    facts.readsByHand = true;
+    facts.valueIsCheckedByBase = false; // a struct is a request, too
+    facts.comesBackFromList = false;    // a list gives no row
+    facts.getters = {getter(&Command::commandCode), getter(&Command::id),
+                     getter(&Command::configurationDataStr)};
+    facts.defaults = withoutRow(Request());
+    for (const Value &row :
+         {rowOf(Value(25), Value("1,300")), arrayOf(rowOf(Value(25), Value("1,300"))),
+          structOf({{"cmd_code", Value(7)}, {"cmd_value", Value(25)}, {"cmd_parameters", Value("1,300")}})})
+        facts.requests.push_back(Request()
+                                     .value(row)
+                                     .onlyFromValue()
+                                     .typed<Command>(25, &machine)
+                                     .parameters({25, 5, 1, 1, 2, 54, 1})
+                                     .written(R"([{"cmd_parameters": "1,300", "cmd_value": 25}])")
+                                     .sends({25, 2, 1, 1, 2, 54, 1}, {})
+                                     .holds({25, -1, "@LCK 1,300"}));
+    for (const Value &none :
+         {structOf({}), structOf({{"cmd_value", Value(25)}}), structOf({{"cmd_parameters", Value("1,6")}}),
+          rowOf(Value(25), Value("")), rowOf(Value(0), Value("1,6"))})
+        facts.requests.push_back(withoutRow(Request().value(none).onlyFromValue()));
+    facts.requests.push_back(withoutRow(Request({25, "1,6"}).onlyFromList()));
+    facts.answers = serialAnswers();
+    return facts;
 }
 
 } // namespace
 
-TEST(WriteConfigurationParamCmd, holdsNoRowByDefault)
+TEST(WriteConfigurationParamCmd, keepsTheCommandContract)
 {
-    EXPECT_EQ(WriteConfigurationParamCmd().command(), "WRITE_CONFIG_ROW");
-    EXPECT_EQ(WriteConfigurationParamCmd().protoType(), 1);
-    expectWithoutRow(WriteConfigurationParamCmd());
-    expectWithoutRow(WriteConfigurationParamCmd(List{25, QStringLiteral("1,6")}));
-    expectWithoutRow(WriteConfigurationParamCmd(structOf({})));
-    expectWithoutRow(WriteConfigurationParamCmd(structOf({{"cmd_value", Value(25)}})));
-    expectWithoutRow(WriteConfigurationParamCmd(structOf({{"cmd_parameters", Value("1,6")}})));
-    expectWithoutRow(WriteConfigurationParamCmd(rowOf(Value(25), Value(""))));
-    expectWithoutRow(WriteConfigurationParamCmd(rowOf(Value(0), Value("1,6"))));
+    expectCommandContract(facts(lockedMachine()));
 }
 
-TEST(WriteConfigurationParamCmd, takesTheRowOfAMachine)
+TEST(WriteConfigurationParamCmd, holdsNoRowByDefault)
+{
+    FW_Dispenser machine;
+    for (WriteConfigurationParamCmd command :
+         {WriteConfigurationParamCmd(), WriteConfigurationParamCmd(List{25, QStringLiteral("1,6")}),
+          WriteConfigurationParamCmd(structOf({}))}) {
+        EXPECT_FALSE(command.confData());
+        EXPECT_FALSE(command.updateConfiguration(&machine));
+    }
+}
+
+TEST(WriteConfigurationParamCmd, sendsNothingToAFirmwareOfNoFamily)
 {
     const FW_Dispenser machine = lockedMachine();
-    const WriteConfigurationParamCmd command(25, &machine);
-    EXPECT_EQ(command.commandCode(), 25);
-    EXPECT_EQ(command.id(), -1);
-    EXPECT_EQ(command.configurationDataStr(), QStringLiteral("@LCK 1,300"));
-    EXPECT_EQ(command.serialParameters(1), (QList<int>{25, 2, 1, 1, 2, 54, 1}));
-    EXPECT_EQ(command.serialParameters(2), QList<int>());
-    EXPECT_EQ(command.serialParameters(0), QList<int>());
-    EXPECT_EQ(command.parameters(), (List{25, 5, 1, 1, 2, 54, 1}));
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), R"([{"cmd_parameters": "1,300", "cmd_value": 25}])");
-    EXPECT_TRUE(ok);
+    EXPECT_EQ(WriteConfigurationParamCmd(25, &machine).serialParameters(0), QList<int>());
 }
 
 TEST(WriteConfigurationParamCmd, takesTheRowOfAReference)
@@ -129,21 +148,14 @@ TEST(WriteConfigurationParamCmd, refusesARowThatCannotBeSent)
 
 TEST(WriteConfigurationParamCmd, takesTheRowOfAStruct)
 {
-    for (const Value &value :
-         {rowOf(Value(25), Value("1,300")), arrayOf(rowOf(Value(25), Value("1,300"))),
-          structOf({{"cmd_code", Value(7)}, {"cmd_value", Value(25)}, {"cmd_parameters", Value("1,300")}})}) {
-        const WriteConfigurationParamCmd command(value);
-        ASSERT_NE(dynamic_cast<const LCK_cdata *>(command.confData()), nullptr);
-        EXPECT_EQ(command.commandCode(), 25);
-        EXPECT_EQ(command.id(), -1);
-        EXPECT_EQ(command.configurationDataStr(), QStringLiteral("@LCK 1,300"));
-        EXPECT_EQ(command.serialParameters(1), (QList<int>{25, 2, 1, 1, 2, 54, 1}));
-    }
+    const WriteConfigurationParamCmd command(rowOf(Value(25), Value("1,300")));
+    EXPECT_NE(dynamic_cast<const LCK_cdata *>(command.confData()), nullptr);
 }
 
 TEST(WriteConfigurationParamCmd, takesARowOfAStructureWithoutAClass)
 {
     for (const int code : {12, 23, 24, 27, -3}) {
+        SCOPED_TRACE(code);
         const WriteConfigurationParamCmd command(rowOf(Value(code), Value("2,5,6")));
         ASSERT_NE(dynamic_cast<const GENERIC_cdata *>(command.confData()), nullptr);
         EXPECT_EQ(command.confData()->commandCode(), code);
