@@ -3,35 +3,53 @@
 
 #include "dispensing/circuitlisttesting.h"
 
-#include <QuvFramework/fw_version.h>
-
 #include <type_traits>
-#include <vector>
 
 namespace {
 
 using namespace testing_dispensing;
 
-const CircuitListRefusals ofPack = {"Pack2Cmd", "", "", "", ""};
+const CircuitListRefusals ofPack = {"Pack2Cmd", "DE02320", "DE02321", "DE02322", "DE02324"};
 
 TEST(AirpurgeCmd, isAPack)
 {
     static_assert(std::is_base_of_v<Pack2Cmd, AirpurgeCmd>);
 }
 
-TEST(AirpurgeCmd, goesOutWithItsOwnCriterionWhateverWasGiven)
+TEST(AirpurgeCmd, keepsTheCommandContract)
 {
-    for (int criterion : {0, 1, 2, 8, 9, 16, -1}) {
-        const AirpurgeCmd command(PCircuitFormula(criterion, {{1, 0, 50, 2}}), nullptr);
-        EXPECT_EQ(command.formula().executionCriterion, 9);
-        EXPECT_EQ(command.serialParameters(1), (QList<int>{9, 1, 1, 0, 50, 1, 2}));
-        EXPECT_EQ(dumped(command.xmlrpc_parameters()),
-                  R"([{"exec_criterion": 9, "target_circuits": )"
-                  R"([{"position_id": 1, "queue_id": 0, "speed": 50, "strokes": 2}]}])");
+    constexpr char air[] = "Air purge in progress";
+    CircuitListKind kind;
+    kind.refusals = ofPack;
+    kind.catalogue = {"AIRPURGE", 122, "0023", 1};
+    kind.criterion = 9;
+    kind.hasItsOwnCriterion = true;
+    kind.ofNone = {"", air};
+    kind.ofCircuit1 = {"", air, "Air purge in progress on position 1"};
+    kind.ofThreeCircuits = {"", air, "Air purge in progress on position 1"};
+    kind.firmware = {{{63, 33}, false}, {{63, 99}, false}, {{68, 0}, false},     {{68, 2}, false},
+                     {{68, 3}, true},   {{70, 0}, false},  {{70, 99}, false},    {{72, 0}, true},
+                     {{72, 5}, true},   {{1, 99}, false},  {FW_Version(), false}};
+    const FW_Dispenser machine = dispenser();
+    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine}) {
+        CommandFacts facts = circuitListFacts<AirpurgeCmd>(kind, given);
+        facts.countedName = "PACK2"; // the pack that it is counts
+        facts.afterDefaults = facts.requests.front();
+        expectCommandContract(facts);
     }
 }
 
-TEST(AirpurgeCmd, keepsItsCircuitsWhenItGoesBackToItsDefaults)
+TEST(AirpurgeCmd, goesOutWithItsOwnCriterionWhateverWasGiven)
+{
+    for (int criterion : {0, 1, 2, 8, 9, 16, -1}) {
+        SCOPED_TRACE(criterion);
+        const AirpurgeCmd command(PCircuitFormula(criterion, {{1, 0, 50, 2}}), nullptr);
+        EXPECT_EQ(command.formula().executionCriterion, 9);
+        EXPECT_EQ(command.serialParameters(1), (QList<int>{9, 1, 1, 0, 50, 1, 2}));
+    }
+}
+
+TEST(AirpurgeCmd, getsItsNameBackWithItsDefaults)
 {
     AirpurgeCmd command(oneCircuit(3), nullptr);
     ASSERT_TRUE(command.setCommand("PACK2"));
@@ -51,39 +69,10 @@ TEST(AirpurgeCmd, isCheckedAsAPack)
     expectError(error, "DE02325", "Invalid data");
 }
 
-TEST(AirpurgeCmd, isKnownToSomeFirmware)
-{
-    struct Row
-    {
-        FW_Version version;
-        bool supported;
-    };
-    const std::vector<Row> rows = {{{63, 33}, false}, {{63, 99}, false}, {{68, 0}, false},  {{68, 2}, false},
-                                   {{68, 3}, true},   {{70, 0}, false},  {{70, 99}, false}, {{72, 0}, true},
-                                   {{72, 5}, true},   {{1, 99}, false},  {{}, false}};
-    for (const Row &row : rows) {
-        EXPECT_EQ(AirpurgeCmd().isSupportedCommand(row.version), row.supported)
-            << row.version.m_family << ' ' << row.version.m_revision;
-    }
-}
-
-TEST(AirpurgeCmd, saysWhatItDoes)
+TEST(AirpurgeCmd, namesTheFirstCircuitAlone)
 {
     const AirpurgeCmd command(PCircuitFormula(2, {{3, 0, 50, 1}, {1, 0, 50, 1}}), nullptr);
-    EXPECT_EQ(command.actionString(false).m_text, "Air purge in progress");
     EXPECT_EQ(command.actionString(true).m_text, "Air purge in progress on position 3");
-    EXPECT_EQ(AirpurgeCmd().actionString(false).m_text, "Air purge in progress");
-    EXPECT_EQ(AirpurgeCmd().actionString(true).m_text, "Air purge in progress");
-}
-
-TEST(AirpurgeCmd, translatesItsWords)
-{
-    const TranslatedTexts translated;
-    EXPECT_EQ(AirpurgeCmd().actionString(true).m_translated, translation("Air purge in progress"));
-    EXPECT_EQ(AirpurgeCmd(oneCircuit(3), nullptr).actionString(true).m_text,
-              "Air purge in progress on position 3");
-    EXPECT_EQ(AirpurgeCmd(oneCircuit(3), nullptr).actionString(true).m_translated,
-              translation("Air purge in progress on position 3"));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
 #include "dispensing/pcircuitformula.h"
 
@@ -68,6 +69,106 @@ private:
         return className + "::" + className + '(' + argument + ", const FW_Dispenser*)";
     }
 };
+
+/** What the classes with a list of circuits do not share. */
+struct CircuitListKind
+{
+    CircuitListRefusals refusals;
+    CatalogueFacts catalogue;
+    int criterion = 0;               ///< by default
+    bool hasItsOwnCriterion = false; ///< which is the default one, whatever was given
+    Words ofNone;                    ///< of a command without circuits
+    Words ofCircuit1;
+    Words ofThreeCircuits;
+    std::vector<Gate> firmware;
+};
+
+/** What is no list of circuits in a list. */
+inline List otherThanCircuits()
+{
+    QVariantMap withoutCriterion = oneCircuitMap(1);
+    withoutCriterion.remove("exec_criterion");
+    return {7,
+            QStringLiteral("circuits"),
+            QVariant(),
+            QVariantMap{},
+            withoutCriterion,
+            List{oneCircuitMap(1)},
+            QVariant::fromValue(strokes({{"1", 1}}))}; // another formula, which has a criterion
+}
+
+/** A request of one circuit, in all forms. */
+template <class Command>
+Request requestOfOneCircuit(const CircuitListKind &kind, int criterion, const FW_Dispenser *machine)
+{
+    const PCircuitFormula given(criterion, {{1, 0, 50, 1}});
+    const int sent = kind.hasItsOwnCriterion ? kind.criterion : criterion;
+    return Request(listOf(given))
+        .value(arrayOf(oneCircuitValue(criterion)))
+        .template typed<Command>(given, machine)
+        .parameters(listOf({sent, {{1, 0, 50, 1}}}))
+        .written(R"([{"exec_criterion": )" + std::to_string(sent) +
+                 R"(, "target_circuits": [{"position_id": 1, "queue_id": 0, "speed": 50, "strokes": 1}]}])")
+        .sends({sent, 1, 1, 0, 50, 1, 1})
+        .says(kind.ofCircuit1);
+}
+
+/** A request that no machine checks: one of the circuits has no stroke. */
+template <class Command>
+Request requestOfThreeCircuits(const CircuitListKind &kind)
+{
+    const int sent = kind.hasItsOwnCriterion ? kind.criterion : 16;
+    return Request(listOf(threeCircuits(16)))
+        .value(arrayOf(threeCircuits(16).toXmlRpcValue()))
+        .template typed<Command>(threeCircuits(16), nullptr)
+        .parameters(listOf(threeCircuits(sent)))
+        .written(R"([{"exec_criterion": )" + std::to_string(sent) +
+                 R"(, "target_circuits": [)"
+                 R"({"position_id": 1, "queue_id": 31, "speed": 50, "strokes": 2}, )"
+                 R"({"position_id": 3, "queue_id": 0, "speed": 40, "strokes": 300}, )"
+                 R"({"position_id": 4, "queue_id": 34, "speed": 30, "strokes": 0}]}])")
+        .sends({sent, 3, 1, 31, 50, 1, 2, 3, 0, 40, 2, 54, 1, 4, 34, 30})
+        .says(kind.ofThreeCircuits);
+}
+
+template <class Command>
+CommandFacts circuitListFacts(const CircuitListKind &kind, const FW_Dispenser *machine)
+{
+    CommandFacts facts(formsOf<Command>(machine));
+    facts.catalogue = kind.catalogue;
+    facts.protoType = 1;
+    facts.valueFunction = kind.refusals.ofValue();
+    facts.listFunction = kind.refusals.ofList();
+    facts.arguments = {required().refuses({}, otherThanCircuits(),
+                                          {"", kind.refusals.expected, kind.refusals.text("expected")})};
+    facts.getters = {getter(&Command::formula)};
+    facts.firmware = kind.firmware;
+    facts.defaults = Request()
+                         .parameters(listOf(PCircuitFormula(kind.criterion, {})))
+                         .written(R"([{"exec_criterion": )" + std::to_string(kind.criterion) +
+                                  R"(, "target_circuits": []}])")
+                         .sends({kind.criterion, 0})
+                         .says(kind.ofNone);
+    for (int criterion : {1, 2, 8, 16}) {
+        facts.requests.push_back(requestOfOneCircuit<Command>(kind, criterion, machine));
+        Request ofMap = facts.requests.back();
+        ofMap.arguments = {oneCircuitMap(criterion)};
+        facts.requests.push_back(ofMap.onlyFromList());
+    }
+    if (!machine)
+        facts.requests.push_back(requestOfThreeCircuits<Command>(kind));
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+/** As a client makes the command, without a machine, and as the driver does. */
+template <class Command>
+void expectCircuitListContract(const CircuitListKind &kind)
+{
+    const FW_Dispenser machine = dispenser();
+    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine})
+        expectCommandContract(circuitListFacts<Command>(kind, given));
+}
 
 /** Expects the refusal of all three constructors. */
 template <class Command>

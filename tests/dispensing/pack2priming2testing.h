@@ -17,28 +17,26 @@ namespace testing_dispensing {
 template <class Kind>
 void expectKindRefused(const PCircuitFormula &formula, const FW_Dispenser &machine, const char *code)
 {
-    const CircuitListRefusals refusals = {Kind::className, "", "", "", ""};
-    expectCheckRefused<typename Kind::Command>(refusals, formula, machine, code);
+    expectCheckRefused<typename Kind::Command>({Kind::className, "", "", "", ""}, formula, machine, code);
+}
+
+/** Both are known to the same firmware. */
+inline std::vector<Gate> firmwareOfCircuitWork()
+{
+    return {{{63, 0}, false},  {{63, 32}, false}, {{63, 33}, true},     {{68, 0}, false}, {{68, 99}, false},
+            {{70, 0}, true},   {{70, 5}, true},   {{72, 0}, true},      {{72, 5}, true},  {{1, 99}, false},
+            {{64, 99}, false}, {{71, 99}, false}, {FW_Version(), false}};
 }
 
 /**
- * The tests of the check against a dispenser, of the firmware and of the words. A Kind tells the Command, its className
- * and name, its defaults(), the codes of its check (withoutDispenser, withoutCircuits, unknownCircuit), and its words
- * (words, wordsOfThree circuits, wordsOfNone).
+ * The tests of the check against a dispenser. A Kind tells the Command, its className, and the codes of its check
+ * (withoutDispenser, withoutCircuits, unknownCircuit).
  */
 template <class Kind>
 class CircuitWorkCommand : public testing::Test
 {};
 
 TYPED_TEST_SUITE_P(CircuitWorkCommand);
-
-TYPED_TEST_P(CircuitWorkCommand, goesBackToItsDefaults)
-{
-    typename TypeParam::Command command(oneCircuit(1), nullptr);
-    command.setDefaults();
-    EXPECT_EQ(command.formula(), TypeParam::defaults());
-    EXPECT_EQ(command.command(), TypeParam::name);
-}
 
 TYPED_TEST_P(CircuitWorkCommand, takesCircuitsThatTheMachineHas)
 {
@@ -71,43 +69,7 @@ TYPED_TEST_P(CircuitWorkCommand, needsCircuitsThatTheMachineHas)
     expectKindRefused<TypeParam>({2, {{1, 0, 50, 1}, {2, 0, 50, 1}, {99, 0, 50, 1}}}, dispenser(), code);
 }
 
-TYPED_TEST_P(CircuitWorkCommand, isKnownToNewFirmware)
-{
-    struct Row
-    {
-        FW_Version version;
-        bool supported;
-    };
-    const std::vector<Row> rows = {{{63, 0}, false},  {{63, 32}, false}, {{63, 33}, true},  {{68, 0}, false},
-                                   {{68, 99}, false}, {{70, 0}, true},   {{70, 5}, true},   {{72, 0}, true},
-                                   {{72, 5}, true},   {{1, 99}, false},  {{64, 99}, false}, {{71, 99}, false},
-                                   {{}, false}};
-    for (const Row &row : rows) {
-        EXPECT_EQ(typename TypeParam::Command().isSupportedCommand(row.version), row.supported)
-            << row.version.m_family << ' ' << row.version.m_revision;
-    }
-}
-
-TYPED_TEST_P(CircuitWorkCommand, saysWhatItDoes)
-{
-    using Command = typename TypeParam::Command;
-    const Command command(threeCircuits(2), nullptr);
-    EXPECT_EQ(command.actionString(false).m_text, TypeParam::words);
-    EXPECT_EQ(command.actionString(true).m_text, TypeParam::wordsOfThree);
-    EXPECT_EQ(Command().actionString(true).m_text, TypeParam::wordsOfNone);
-}
-
-TYPED_TEST_P(CircuitWorkCommand, translatesItsWords)
-{
-    const TranslatedTexts translated;
-    const typename TypeParam::Command command(threeCircuits(2), nullptr);
-    EXPECT_EQ(command.actionString(false).m_translated, translation(TypeParam::words));
-    EXPECT_EQ(command.actionString(true).m_text, TypeParam::wordsOfThree);
-    EXPECT_EQ(command.actionString(true).m_translated, translation(TypeParam::wordsOfThree));
-}
-
-REGISTER_TYPED_TEST_SUITE_P(CircuitWorkCommand, goesBackToItsDefaults, takesCircuitsThatTheMachineHas,
-                            cannotBeCheckedWithoutADispenser, needsCircuits, needsCircuitsThatTheMachineHas,
-                            isKnownToNewFirmware, saysWhatItDoes, translatesItsWords);
+REGISTER_TYPED_TEST_SUITE_P(CircuitWorkCommand, takesCircuitsThatTheMachineHas,
+                            cannotBeCheckedWithoutADispenser, needsCircuits, needsCircuitsThatTheMachineHas);
 
 } // namespace testing_dispensing

@@ -11,16 +11,24 @@ struct Priming2
 {
     using Command = Priming2Cmd;
     static constexpr char className[] = "Priming2Cmd";
-    static constexpr char name[] = "PRIMING2";
-    static PCircuitFormula defaults() { return PCircuitFormula(1, {}); }
     static constexpr char withoutDispenser[] = "DE02313";
     static constexpr char withoutCircuits[] = "DE02314";
     static constexpr char unknownCircuit[] = "DE02315";
-    static constexpr char words[] = "Priming in progress";
-    static constexpr char wordsOfThree[] = "Priming in progress on positions 1,3,4";
-    static constexpr char wordsOfNone[] = "Priming in progress on positions ";
 };
 INSTANTIATE_TYPED_TEST_SUITE_P(Priming2Cmd, CircuitWorkCommand, Priming2);
+
+TEST(Priming2Cmd, keepsTheCommandContract)
+{
+    CircuitListKind kind;
+    kind.refusals = {"Priming2Cmd", "DE01933", "DE01930", "DE01355", "DE02165"};
+    kind.catalogue = {"PRIMING2", 120, "0024", 1};
+    kind.criterion = 1;
+    kind.ofNone = {"", "Priming in progress", "Priming in progress on positions "};
+    kind.ofCircuit1 = {"", "Priming in progress", "Priming in progress on positions 1"};
+    kind.ofThreeCircuits = {"", "Priming in progress", "Priming in progress on positions 1,3,4"};
+    kind.firmware = firmwareOfCircuitWork();
+    expectCircuitListContract<Priming2Cmd>(kind);
+}
 
 TEST(Priming2Cmd, leavesTheRestToTheFirmware)
 {
@@ -39,12 +47,6 @@ TEST(Priming2Cmd, needsStrokesOfEveryCircuit)
 TEST(Priming2Cmd, looksForItsCircuitsBeforeTheirStrokes)
 {
     expectKindRefused<Priming2>({2, {{1, 0, 50, 0}, {99, 0, 50, 1}}}, dispenser(), "DE02315");
-}
-
-TEST(Priming2Cmd, saysOfOneCircuitWhatItDoes)
-{
-    EXPECT_EQ(Priming2Cmd(oneCircuit(3), nullptr).actionString(true).m_text,
-              "Priming in progress on positions 3");
 }
 
 } // namespace
