@@ -107,6 +107,34 @@ class General(CliTest):
         self.wrong("watch", "--count", "-1")
         self.wrong("help", "fly")
 
+    def test_what_may_have_been_meant(self):
+        for words, error in [
+                (("shwo", "TINT"), 'there is no subcommand "shwo"; did you mean "show"?'),
+                (("ENCODE",), 'there is no subcommand "ENCODE"; did you mean "encode"?'),
+                (("help", "tnit"), 'there is no subcommand "tnit"; did you mean "tint"?'),
+                (("list", "--jsn"), "Unknown option 'jsn'; did you mean \"--json\"?"),
+                (("list", "--wings", "--mashine", "none"), 'Unknown options: wings, mashine; did you mean "--machine"?'),
+                (("config", "pul", "x"), 'config has pull, push and diff, not "pul"; did you mean "pull"?')]:
+            self.assertEqual(self.wrong(*words), f"quvctl: {error} (see quvctl help)\n")
+
+    def test_names_of_commands_that_may_have_been_meant(self):
+        self.assertEqual(self.refused("show", "GET_STATSU"),
+                         'quvctl: the catalogue has no command "GET_STATSU"; did you mean "GET_STATUS"?\n')
+        self.assertEqual(self.refused("show", "get_status"),
+                         'quvctl: the catalogue has no command "get_status"; did you mean "GET_STATUS"?\n')
+        self.assertEqual(self.refused("show", "STATUS"), 'quvctl: the catalogue has no command "STATUS"\n')
+        self.assertEqual(self.refused("encode", "TNIT", "{}"),
+                         'DE00337: Command type not recognized; did you mean "TINT" or "INIT"?\n')
+        meant = 'DE00337: Command type not recognized; did you mean "TINT"?\n'
+        self.assertEqual(self.refused("encode", "tint", "--json"), meant)
+        self.assertEqual(self.refused("decode", "tint", "0", "--json"), meant)
+        self.assertEqual(self.refused("decode", "tint", "0"), meant)
+        self.assertEqual(self.refused("call", "tint"), meant)
+        self.assertEqual(self.refused("encode", "--form", "list", "GET_ERORS"),
+                         'DE00441: Command type not recognized; did you mean "GET_ERRORS"?\n')
+        self.assertRegex(self.refused("show", "GET_XXXX_LIST"),  # many are as near as these
+                         r'did you mean "GET_[A-Z]+_LIST", "GET_[A-Z]+_LIST" or "GET_[A-Z]+_LIST"\?\n$')
+
     def test_output_that_cannot_be_written(self):
         with open("/dev/full", "w", encoding="utf-8") as full:
             result = subprocess.run([quvctl_process.PROGRAM, "list"], stdout=full, timeout=30, check=False)

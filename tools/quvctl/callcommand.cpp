@@ -3,6 +3,7 @@
 #include "operations.h"
 #include "subcommands.h"
 #include "terminal.h"
+#include "typedcommand.h"
 #include "words.h"
 
 #include "base/asyncanswer.h"
@@ -37,7 +38,8 @@ void printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope)
 ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
-    const auto command = makeCommand(Request(commandRequest(line)));
+    const Request request(commandRequest(line));
+    const auto command = withCommandName(line.words().first(), [&request] { return makeCommand(request); });
     const XmlRpcAnswer &envelope = line.isSet("async") ? driver.start(*command) : driver.execute(*command);
     if (line.isSet("json"))
         printAsJson(*command, envelope);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "commandline.h"
 
+#include "suggestions.h"
+
 namespace quv {
 
 namespace {
@@ -42,6 +44,23 @@ QString optionHelp(const char *name, const char *value, const char *text)
     return head.leftJustified(24) + latin1(text) + QLatin1Char('\n');
 }
 
+/// What the parser found wrong, and which options the unknown ones may stand for.
+QString parserError(const QCommandLineParser &parser, const Subcommand &subcommand)
+{
+    QStringList known(QStringLiteral("--help"));
+    for (const OptionText &option : subcommand.options)
+        known.append(QStringLiteral("--") + latin1(option.name));
+    QString text = parser.errorText();
+    for (const QString &unknown : parser.unknownOptionNames()) {
+        const QString suggestion = didYouMean(QStringLiteral("--") + unknown, known);
+        if (suggestion.isEmpty())
+            continue;
+        text.chop(text.endsWith(QLatin1Char('.')) ? 1 : 0);
+        return text + suggestion;
+    }
+    return text;
+}
+
 UsageError outOfRange(const char *option, double min, double max)
 {
     return UsageError(QStringLiteral("--%1 takes a number from %2 to %3")
@@ -62,7 +81,7 @@ CommandLine::CommandLine(const Subcommand &subcommand, const QStringList &words)
     for (const QString &word : words)
         line.append(guarded(word));
     if (!m_parser.parse(line))
-        throw UsageError(m_parser.errorText());
+        throw UsageError(parserError(m_parser, subcommand));
     for (const QString &word : m_parser.positionalArguments())
         m_words.append(unguarded(word));
 

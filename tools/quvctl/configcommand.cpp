@@ -2,6 +2,7 @@
 #include "configtransfer.h"
 #include "progress.h"
 #include "subcommands.h"
+#include "suggestions.h"
 #include "terminal.h"
 #include "tickets.h"
 
@@ -223,7 +224,9 @@ ExitStatus run(const CommandLine &line)
         return push(firmware, path, yes);
     if (action == QLatin1String("diff"))
         return diff(firmware, path);
-    throw UsageError(QStringLiteral("config has pull, push and diff, not \"%1\"").arg(action));
+    const QStringList actions = {QStringLiteral("pull"), QStringLiteral("push"), QStringLiteral("diff")};
+    throw UsageError(QStringLiteral("config has pull, push and diff, not \"%1\"%2")
+                         .arg(action, didYouMean(action, actions)));
 }
 
 } // namespace

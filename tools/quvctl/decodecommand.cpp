@@ -2,6 +2,7 @@
 #include "operations.h"
 #include "subcommands.h"
 #include "terminal.h"
+#include "typedcommand.h"
 #include "words.h"
 
 #include "base/protoanswer.h"
@@ -35,12 +36,12 @@ nlohmann::json requestOf(const CommandLine &line)
 ExitStatus run(const CommandLine &line)
 {
     const Request request(requestOf(line));
-    if (line.isSet("json")) {
-        printLine(QString::fromStdString(writeJson(runOperation(request))));
-        return Done;
-    }
-    const auto command = decodedCommand(request);
-    printAnswer(*command->getProtoAnswer());
+    withCommandName(line.words().first(), [&] {
+        if (line.isSet("json"))
+            printLine(QString::fromStdString(writeJson(runOperation(request))));
+        else
+            printAnswer(*decodedCommand(request)->getProtoAnswer());
+    });
     return Done;
 }
 

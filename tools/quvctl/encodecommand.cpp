@@ -2,6 +2,7 @@
 #include "operations.h"
 #include "subcommands.h"
 #include "terminal.h"
+#include "typedcommand.h"
 #include "words.h"
 
 namespace quv {
@@ -46,7 +47,9 @@ void print(const OrderedJson &reply)
 
 ExitStatus run(const CommandLine &line)
 {
-    const OrderedJson reply = runOperation(Request(requestOf(line)));
+    const Request request(requestOf(line));
+    const OrderedJson reply =
+        withCommandName(line.words().first(), [&request] { return runOperation(request); });
     if (line.isSet("json"))
         printLine(QString::fromStdString(writeJson(reply)));
     else

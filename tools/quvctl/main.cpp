@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
 #include "subcommands.h"
+#include "suggestions.h"
 #include "terminal.h"
 #include "xmlrpcerrors.h"
 
@@ -45,7 +46,10 @@ const Subcommand &subcommandOf(const QString &name)
     for (const Subcommand *subcommand : subcommands)
         if (name == QLatin1String(subcommand->name))
             return *subcommand;
-    throw UsageError(QStringLiteral("there is no subcommand \"%1\"").arg(name));
+    QStringList names(QStringLiteral("help"));
+    for (const Subcommand *subcommand : subcommands)
+        names.append(QLatin1String(subcommand->name));
+    throw UsageError(QStringLiteral("there is no subcommand \"%1\"%2").arg(name, didYouMean(name, names)));
 }
 
 void printHelp(const QString &text)

@@ -2,6 +2,7 @@
 #include "catalogwords.h"
 #include "queries.h"
 #include "subcommands.h"
+#include "suggestions.h"
 #include "terminal.h"
 
 #include "catalogue/protocommandlist.h"
@@ -48,7 +49,9 @@ ExitStatus run(const CommandLine &line)
     const QString &name = line.words().first();
     const CMD_STRUCT *row = ProtoCommandList::row(name);
     if (!row)
-        throw std::runtime_error("the catalogue has no command \"" + name.toStdString() + '"');
+        throw std::runtime_error(QStringLiteral("the catalogue has no command \"%1\"%2")
+                                     .arg(name, didYouMeanCommand(name))
+                                     .toStdString());
     if (line.isSet("json"))
         printLine(QString::fromStdString(writeJson(catalogueRow(*row))));
     else
