@@ -251,6 +251,73 @@ class Encode(CliTest):
         self.wrong("encode", "GET_STATUS", "99999999999999999999")
 
 
+FORMULA = {"formula_type": 1, "quantity_unit": 3, "ids": ["1", "2"], "quantities": [1.5, 2.0]}
+PURGE = {"purge_quantity": 2.5}
+
+
+class LostArguments(CliTest):
+    def test_arguments_that_nobody_would_send(self):
+        for words, error in [
+                (("GET_ERRORS", "1", "2"), 'GET_ERRORS carries no arguments; "1 2" would be lost'),
+                (("GET_STATUS", "3", "4"), 'GET_STATUS takes 1 argument; "4" would be lost'),
+                (("GET_DISPENSED_FORMULA", "1", "2", "x", "y"),
+                 'GET_DISPENSED_FORMULA takes 2 arguments; "x y" would be lost'),
+                (("SET_LEVELS", "true", json.dumps(FORMULA), "false", "--machine", "dispenser"),
+                 'SET_LEVELS takes 2 arguments; "false" would be lost'),
+                (("PURGE", json.dumps(PURGE), "5", "--machine", "dispenser"), 'PURGE takes 1 argument; "5" would be lost'),
+                (("WRITE_CONFIG_ROW", '{"cmd_value":7}'),
+                 'WRITE_CONFIG_ROW would be sent without arguments; "{"cmd_value":7}" would be lost')]:
+            self.assertEqual(self.wrong("encode", *words), f"quvctl: {error} (see quvctl help)\n")
+            with Driver(envelope(0)) as driver:
+                for how in [(), ("--async",)]:
+                    self.assertEqual(self.wrong("call", *words, *how, "--port", str(driver.port)),
+                                     f"quvctl: {error} (see quvctl help)\n")
+                self.assertEqual((driver.requests, driver.started), ([], []))
+        self.assertEqual(self.wrong("encode", "--form", "list", "GET_ERRORS", "[1,2]"),
+                         'quvctl: GET_ERRORS carries no arguments; "[1,2]" would be lost (see quvctl help)\n')
+
+    def test_refusals_of_the_command_come_first(self):
+        self.assertEqual(self.refused("encode", "GET_STATUS", "x", "4"),
+                         "DE00298: Position ID: expected INT parameter\n")
+
+    def test_arguments_that_travel_in_another_form(self):
+        formula, purge = json.dumps(FORMULA), json.dumps(PURGE)
+        for words, count in [
+                (("TINT", formula), 1), (("CHANNEL_TINT", "1", formula), 2), (("PACK", "1", formula), 2),
+                (("PURGE", formula), 1), (("PURGE", purge), 1), (("PURGE", purge, "--form", "list"), 1),
+                (("SET_LEVELS", "true", formula), 3), (("SET_LEVELS", "true", formula, "true"), 3),
+                (("CHECK_FORMULA_LEVELS", formula, "false"), 2), (("CHECK_FORMULA_LEVELS", purge), 1),
+                (("CHECK_FORMULA_LEVELS", formula, "true", "--form", "list"), 2),
+                (("GET_FORMULA_CIRCUITS", formula, "false"), 2), (("GET_FORMULA_CIRCUITS", purge), 1),
+                (("GET_LOW_LEVEL_FORMULA", formula), 1), (("GET_STATUS", "0"), 1), (("GET_STATUS",), 1),
+                (("GET_DISPENSED_FORMULA", "1"), 2), (("READ_CONFIG_ROW", "5", "1"), 2), (("AUTOCAP_MOVE", "1"), 1),
+                (("WRITE_CONFIG_ROW", '{"cmd_value":7,"cmd_parameters":"1,300,2,3"}'), 1), (("GET_CMD_STATUS", "T-1"), 1),
+                (("GET_CMD_EST_EXEC_TIME", '{"command":["GET_STATUS",0]}'), 1),
+                (("GET_CMD_EST_EXEC_TIME", "GET_STATUS", "0", "--form", "list"), 1)]:
+            told = json.loads(self.done("encode", *words, "--machine", "dual", "--json"))
+            self.assertEqual((told["request"][0], len(told["request"])), (words[0], count + 1), words)
+
+    def test_commands_that_cannot_be_called_yet(self):
+        """Commands without a class of their own count their arguments and send none."""
+        rows = [row for row in json.loads(self.done("list", "--json")) if row["minParams"] > 0]
+        requests = "".join(json.dumps({"op": "encode", "name": row["name"], "args": [1] * row["minParams"]}) + "\n"
+                           for row in rows)
+        replies = subprocess.run([quvctl_process.PROGRAM, "batch"], input=requests, capture_output=True, text=True,
+                                 timeout=30, check=True).stdout.splitlines()
+        plain = [row for row, reply in zip(rows, map(json.loads, replies))
+                 if reply.get("class") in ("SerialProtoCommand", "ConfProtoCommand", "ScaleProtoCommand")]
+        if not plain:
+            self.skipTest("every command that needs arguments has a class of its own")
+        name, count = plain[0]["name"], plain[0]["minParams"]
+        needed = "1 argument" if count == 1 else f"{count} arguments"
+        given = ["1"] * count
+        with Driver(envelope(0)) as driver:
+            self.assertEqual(self.wrong("call", name, *given, "--port", str(driver.port)),
+                             f"quvctl: {name} cannot be called yet: it needs {needed}, and quvctl cannot send any; "
+                             f'"{" ".join(given)}" would be lost (see quvctl help)\n')
+            self.assertEqual(driver.requests, [])
+
+
 class Machine(CliTest):
     def test_built_in_machines(self):
         machine = json.loads(self.done("machine", "dispenser"))

@@ -28,7 +28,7 @@ public:
         const QString name = word.left(word.indexOf(QLatin1Char('=')));
         const int place = placeOf(name);
         if (place >= 0 && name.size() < word.size())
-            give(place, argumentFromWord(word.mid(name.size() + 1)));
+            give(place, {argumentFromWord(word.mid(name.size() + 1)), word});
         else if (name.size() < word.size() && isMeantAsName(name))
             throw UsageError(QStringLiteral("%1 has no argument \"%2\"; it has: %3")
                                  .arg(m_facts.name, name, names().join(QStringLiteral(", "))));
@@ -36,22 +36,31 @@ public:
             throw UsageError(
                 QStringLiteral("\"%1\" needs a name, as it stands behind an argument with one").arg(word));
         else
-            m_values.push_back(argumentFromWord(word));
+            m_given.push_back(Given{argumentFromWord(word), word});
     }
 
-    json result() const
+    TypedArguments result() const
     {
-        json values = json::array();
-        for (std::size_t place = 0; place < m_values.size(); ++place)
-            values.push_back(m_values[place] ? *m_values[place] : defaultAt(static_cast<int>(place)));
+        TypedArguments arguments;
+        for (std::size_t place = 0; place < m_given.size(); ++place) {
+            const auto &given = m_given[place];
+            arguments.values.push_back(given ? given->value : defaultAt(static_cast<int>(place)));
+            arguments.words.append(given ? given->word : QString());
+        }
         if (m_byName)
-            for (int place = static_cast<int>(m_values.size()); place < m_facts.arguments.size(); ++place)
+            for (int place = static_cast<int>(m_given.size()); place < m_facts.arguments.size(); ++place)
                 if (!m_facts.arguments[place].optional)
                     refuseMissing(place);
-        return values;
+        return arguments;
     }
 
 private:
+    struct Given
+    {
+        json value;
+        QString word;
+    };
+
     int placeOf(const QString &name) const { return names().indexOf(name); }
 
     QStringList names() const
@@ -68,18 +77,18 @@ private:
         static const QRegularExpression form(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
         if (m_facts.arguments.isEmpty() || !form.match(name).hasMatch())
             return false;
-        const int next = static_cast<int>(m_values.size());
+        const int next = static_cast<int>(m_given.size());
         return m_byName || m_facts.arguments.value(next).type != QLatin1String("string");
     }
 
-    void give(int place, json value)
+    void give(int place, Given given)
     {
         const auto index = static_cast<std::size_t>(place);
-        m_values.resize(std::max(m_values.size(), index + 1));
-        if (m_values[index])
+        m_given.resize(std::max(m_given.size(), index + 1));
+        if (m_given[index])
             throw UsageError(
                 QStringLiteral("the argument \"%1\" is given twice").arg(m_facts.arguments[place].name));
-        m_values[index] = std::move(value);
+        m_given[index] = std::move(given);
         m_byName = true;
     }
 
@@ -97,7 +106,7 @@ private:
     }
 
     const CommandFacts &m_facts;
-    std::vector<std::optional<json>> m_values;
+    std::vector<std::optional<Given>> m_given;
     bool m_byName = false; ///< one was given by its name
 };
 
@@ -116,7 +125,7 @@ json argumentFromWord(const QString &word)
     }
 }
 
-json argumentsFromWords(const CommandFacts &command, const QStringList &words)
+TypedArguments argumentsFromWords(const CommandFacts &command, const QStringList &words)
 {
     ArgumentPlaces places(command);
     for (const QString &word : words)

@@ -38,8 +38,7 @@ void printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope)
 ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
-    const Request request(commandRequest(line));
-    const auto command = withCommandName(line.words().first(), [&request] { return makeCommand(request); });
+    const auto command = typedCommand(line, commandRequest(line));
     const XmlRpcAnswer &envelope = line.isSet("async") ? driver.start(*command) : driver.execute(*command);
     if (line.isSet("json"))
         printAsJson(*command, envelope);
@@ -59,11 +58,14 @@ const Subcommand callSubcommand = {
     "Sends a command to a driver, waits until it has been carried out, and shows the answer. An argument is "
     "a\n"
     "JSON value; a word that is none is a string. quvctl show NAME tells the names of the arguments, by "
-    "which\n"
-    "they can be given as well: position=3. With --async it shows a ticket and does not wait: quvctl ticket\n"
+    "which
+    "
+    "they can be given as well: position=3. With --async it shows a ticket and does not wait: quvctl ticket
+    "
     "asks for the answer. The driver has the machine; a few commands read their formula by one here too, "
-    "and\n"
-    "--machine tells them which.",
+    "and
+    "
+    "--machine tells them which. Nothing is sent when an argument would be lost on the way.",
     1,
     -1,
     withDriverOptions({machineOption,

@@ -5,6 +5,8 @@
 #include "typedcommand.h"
 #include "words.h"
 
+#include "base/protocommand.h"
+
 namespace quv {
 
 namespace {
@@ -47,9 +49,9 @@ void print(const OrderedJson &reply)
 
 ExitStatus run(const CommandLine &line)
 {
-    const Request request(requestOf(line));
-    const OrderedJson reply =
-        withCommandName(line.words().first(), [&request] { return runOperation(request); });
+    const nlohmann::json request = requestOf(line);
+    typedCommand(line, request); // refuses what would be lost
+    const OrderedJson reply = runOperation(Request(request));
     if (line.isSet("json"))
         printLine(QString::fromStdString(writeJson(reply)));
     else
@@ -64,9 +66,10 @@ const Subcommand encodeSubcommand = {
     "NAME [ARGUMENT...]",
     "a command as it travels",
     "Makes a command and shows its XML-RPC request and, when the firmware carries it out, its code and\n"
-    "integers. An argument is a JSON value; a word that is none is a string. quvctl show NAME tells the "
-    "names\n"
-    "of the arguments, by which they can be given as well: position=3.",
+    "integers. An argument is a JSON value; a word that is none is a string; one that would not travel is
+    "
+    "refused. quvctl show NAME tells the names of the arguments, by which they can be given as well: "
+    "position=3.",
     1,
     -1,
     {{"family", "FAMILY", "the machine's command family, 1 (default) or 2"},

@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "jsonvalue.h"
 #include "suggestions.h"
 
 #include "catalogue/protocommandlist.h"
 
 #include <QuvFramework/fw_error.h>
 
+#include <memory>
+
+class ProtoCommand;
+
 namespace quv {
+
+class CommandLine;
 
 /// What \a work gives. When it fails because the catalogue has no command \a name, its error tells what may have been meant.
 template <class Work>
@@ -21,5 +28,11 @@ auto withCommandName(const QString &name, Work work) -> decltype(work())
         throw FW_DriverError(error.code(), error.text() + didYouMeanCommand(name));
     }
 }
+
+/**
+ * The command that \a request makes of the words that a user typed.
+ * \throws UsageError when its XML-RPC request would lack an argument that the user gave, and as makeCommand
+ */
+std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request);
 
 } // namespace quv

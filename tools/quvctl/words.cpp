@@ -64,12 +64,16 @@ void addDispenserOnly(const DispenserStatusAnswer &status, QList<StatusLine> &li
 
 } // namespace
 
+TypedArguments typedArguments(const CommandLine &line)
+{
+    return argumentsFromWords(commandFacts(line.words().first()), line.words().mid(1));
+}
+
 nlohmann::json commandRequest(const CommandLine &line)
 {
-    QStringList words = line.words();
     nlohmann::json request;
-    request["name"] = words.takeFirst().toStdString();
-    request["args"] = argumentsFromWords(commandFacts(line.words().first()), words);
+    request["name"] = line.words().first().toStdString();
+    request["args"] = typedArguments(line).values;
     request["machine"] = line.value("machine", QStringLiteral("none")).toStdString();
     return request;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "argumentwords.h"
 #include "jsonvalue.h"
 
 #include <QtCore/QList>
@@ -13,8 +14,10 @@ namespace quv {
 
 class CommandLine;
 
-/// The batch request for a command that a user typed, by its name, arguments (see argumentwords.h) and machine.
-/// \throws UsageError
+/// The arguments behind the command's name, which is the first word. \throws UsageError
+TypedArguments typedArguments(const CommandLine &line);
+
+/// The batch request for a command that a user typed, by its name, arguments and machine. \throws UsageError
 nlohmann::json commandRequest(const CommandLine &line);
 
 struct StatusLine

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "typedcommand.h"
+
+#include "commandline.h"
+#include "operations.h"
+#include "words.h"
+
+#include "base/confprotocommand.h"
+#include "base/scaleprotocommand.h"
+#include "base/serialprotocommand.h"
+
+#include <QuvFramework/fw_xmlrpc.h>
+
+#include <typeinfo>
+
+namespace quv {
+
+namespace {
+
+using XmlRpc::XmlRpcValue;
+
+/// Whether a command has no class of its own: it counts its arguments, and sends none.
+bool isPlain(const ProtoCommand &command)
+{
+    const std::type_info &type = typeid(command);
+    return type == typeid(SerialProtoCommand) || type == typeid(ConfProtoCommand) ||
+           type == typeid(ScaleProtoCommand);
+}
+
+/// Whether the command takes notice of an argument: anything else in its place changes the request, or is refused.
+bool isRead(nlohmann::json request, std::size_t place, const XmlRpcValue &sent)
+{
+    for (const nlohmann::json &other : {nlohmann::json::object(), nlohmann::json("?")}) {
+        request["args"][place] = other;
+        try {
+            if (!SameXmlRpcValue(makeCommand(Request(request))->toXmlRpcValue(QString()), sent))
+                return true;
+        } catch (...) { // what was refused was read
+            return true;
+        }
+    }
+    return false;
+}
+
+bool isWritten(const nlohmann::json &argument, std::size_t place, const XmlRpcValue &written)
+{
+    const XmlRpcValue *element = FindXmlRpcElement(written, static_cast<int>(place));
+    return element && SameXmlRpcValue(*element, toXmlRpcValue(argument));
+}
+
+/// The places of the arguments that the request of \a command does without.
+std::vector<int> lostArguments(const nlohmann::json &request, const ProtoCommand &command)
+{
+    // What becomes of an argument is the command's own affair: several may travel as one struct, or one as several. So an
+    // argument only counts as lost when it is neither read nor written, or when none is written at all.
+    const XmlRpcValue written = command.xmlrpc_parameters(nullptr);
+    const bool writesNone = written.getType() != XmlRpcValue::TypeArray || written.size() == 0;
+    const XmlRpcValue sent = command.toXmlRpcValue(QString());
+    const nlohmann::json &arguments = request["args"];
+    std::vector<int> lost;
+    for (std::size_t i = 0; i < arguments.size(); ++i)
+        if (writesNone || (!isWritten(arguments[i], i, written) && !isRead(request, i, sent)))
+            lost.push_back(static_cast<int>(i));
+    return lost;
+}
+
+QString argumentsInWords(int count)
+{
+    return count == 1 ? QStringLiteral("1 argument") : QStringLiteral("%1 arguments").arg(count);
+}
+
+QString whyLost(const ProtoCommand &command, int given, int lost)
+{
+    const int needed = ProtoCommandList::cmdParamNum(command.command(), true);
+    if (isPlain(command) && needed > 0)
+        return QStringLiteral("cannot be called yet: it needs %1, and quvctl cannot send any")
+            .arg(argumentsInWords(needed));
+    if (!isPlain(command) && lost == given)
+        return QStringLiteral("would be sent without arguments");
+    return lost == given ? QStringLiteral("carries no arguments")
+                         : QStringLiteral("takes %1").arg(argumentsInWords(given - lost));
+}
+
+} // namespace
+
+std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request)
+{
+    const QString &name = line.words().first();
+    auto command = withCommandName(name, [&request] { return makeCommand(Request(request)); });
+    const QStringList words = typedArguments(line).words;
+    QStringList lost;
+    for (const int place : lostArguments(request, *command))
+        if (!words.at(place).isEmpty()) // a default is nobody's loss
+            lost.append(words.at(place));
+    if (lost.isEmpty())
+        return command;
+    const QString why = whyLost(*command, words.size(), lost.size());
+    throw UsageError(
+        QStringLiteral("%1 %2; \"%3\" would be lost").arg(name, why, lost.join(QLatin1Char(' '))));
+}
+
+} // namespace quv
