@@ -724,6 +724,19 @@ class Completion(unittest.TestCase):
         self.assertEqual(self.complete("config", "--yes", "d"), ["diff"])
         self.assertEqual(self.complete("config", "push", COMPLETION[:-1]), [COMPLETION])
 
+    def test_names_of_arguments(self):
+        self.assertEqual(self.complete("call", "GET_STATUS", ""), ["position="])
+        self.assertEqual(self.complete("call", "--port", "99", "GET_STATUS", "pos"), ["position="])
+        self.assertEqual(self.complete("encode", "READ_CONFIG_ROW", ""), ["code=", "id="])
+        self.assertEqual(self.complete("encode", "READ_CONFIG_ROW", "i"), ["id="])
+        for given in [("code=7",), ("code", "=", "7")]:
+            self.assertEqual(self.complete("encode", "READ_CONFIG_ROW", *given, ""), ["id="])
+        for value in [("code", "="), ("code", "=", "7"), ("code", "=", "i"), ("code=7",)]:
+            self.assertEqual(self.complete("encode", "READ_CONFIG_ROW", *value), [])
+        self.assertEqual(self.complete("call", "GET_ERRORS", ""), [])
+        self.assertEqual(self.complete("call", "NOPE", ""), [])
+        self.assertEqual(self.complete("show", "GET_STATUS", ""), [])
+
     def test_options_are_those_of_the_help(self):
         for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "config", "watch", "batch",
                      "machine", "explain"]:

@@ -55,17 +55,12 @@ const Subcommand callSubcommand = {
     "call",
     "NAME [ARGUMENT...]",
     "sends a command to a driver",
-    "Sends a command to a driver, waits until it has been carried out, and shows the answer. An argument is "
-    "a\n"
-    "JSON value; a word that is none is a string. quvctl show NAME tells the names of the arguments, by "
-    "which
-    "
-    "they can be given as well: position=3. With --async it shows a ticket and does not wait: quvctl ticket
-    "
-    "asks for the answer. The driver has the machine; a few commands read their formula by one here too, "
-    "and
-    "
-    "--machine tells them which. Nothing is sent when an argument would be lost on the way.",
+    "Sends a command to a driver, waits until it has been carried out, and shows the answer. An argument\n"
+    "is a JSON value; a word that is none is a string. quvctl show NAME tells the arguments' names, by\n"
+    "which they can be given as well: position=3. With --async it shows a ticket and does not wait:\n"
+    "quvctl ticket asks for the answer. The driver has the machine; a few commands read their formula\n"
+    "by one here too, and --machine tells them which. Nothing is sent when an argument would\n"
+    "be lost on the way.",
     1,
     -1,
     withDriverOptions({machineOption,

@@ -21,6 +21,11 @@ QString joined(const QStringList &words)
     return words.isEmpty() ? nothing() : words.join(QStringLiteral(", "));
 }
 
+QString yesOrNo(bool yes)
+{
+    return yes ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
 } // namespace
 
 QString codesInWords(const CMD_STRUCT &row)
@@ -78,6 +83,31 @@ QString timeoutInWords(const CMD_STRUCT &row)
     if (row.busyTimeout == dependsOnParameters)
         return QStringLiteral("depends on the parameters");
     return QStringLiteral("%1 s").arg(static_cast<double>(row.busyTimeout) / 1000);
+}
+
+QList<QPair<QString, QString>> rowInWords(const CMD_STRUCT &row)
+{
+    return {
+        {QStringLiteral("Row"), QString::number(row.id)},
+        {QStringLiteral("Code"), codesInWords(row)},
+        {QStringLiteral("Parameters"), parametersInWords(row)},
+        {QStringLiteral("Kind"), kindInWords(row)},
+        {QStringLiteral("Machine"), machinesInWords(row)},
+        {QStringLiteral("Command families"), familiesInWords(row)},
+        {QStringLiteral("Addressed to"),
+         row.addressMachine ? QStringLiteral("a machine") : QStringLiteral("the driver")},
+        {QStringLiteral("Priority"), QStringLiteral("working %1, scheduling %2")
+                                         .arg(row.workingPriorityLevel)
+                                         .arg(row.schedulingPriorityLevel)},
+        {QStringLiteral("Looks at busy state"), yesOrNo(row.checkBusy)},
+        {QStringLiteral("Time-out"), timeoutInWords(row)},
+        {QStringLiteral("Measures its time"), yesOrNo(row.trackExecutionTime)},
+        {QStringLiteral("In the statistics"), yesOrNo(row.recordInStats)},
+        {QStringLiteral("Machine object use"), QString::number(row.machineObjUsage)},
+        {QStringLiteral("Multiple"), yesOrNo(row.multiple)},
+        {QStringLiteral("Private"), yesOrNo(row.privateCommand)},
+        {QStringLiteral("Delivers colorant"), yesOrNo(row.erogationCommand)},
+    };
 }
 
 } // namespace quv

@@ -66,10 +66,8 @@ const Subcommand encodeSubcommand = {
     "NAME [ARGUMENT...]",
     "a command as it travels",
     "Makes a command and shows its XML-RPC request and, when the firmware carries it out, its code and\n"
-    "integers. An argument is a JSON value; a word that is none is a string; one that would not travel is
-    "
-    "refused. quvctl show NAME tells the names of the arguments, by which they can be given as well: "
-    "position=3.",
+    "integers. An argument is a JSON value; a word that is none is a string; one that would not travel is\n"
+    "refused. quvctl show NAME tells the arguments' names, by which they can be given as well: position=3.",
     1,
     -1,
     {{"family", "FAMILY", "the machine's command family, 1 (default) or 2"},

@@ -1,73 +1,69 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "catalogwords.h"
-#include "queries.h"
+#include "commandreference.h"
 #include "subcommands.h"
 #include "suggestions.h"
 #include "terminal.h"
 
+#include "catalogue/commandfacts.h"
 #include "catalogue/protocommandlist.h"
 
+#include <cstdio>
 #include <stdexcept>
 
 namespace quv {
 
 namespace {
 
-QString yesOrNo(bool yes)
+void printWhole(const QString &text)
 {
-    return yes ? QStringLiteral("yes") : QStringLiteral("no");
+    const std::string bytes = text.toStdString();
+    std::fwrite(bytes.data(), 1, bytes.size(), stdout);
 }
 
-void printRow(const CMD_STRUCT &row)
+void printNames(const QString &command)
 {
-    Columns columns;
-    columns.add({QStringLiteral("Name"), row.name});
-    columns.add({QStringLiteral("Row"), QString::number(row.id)});
-    columns.add({QStringLiteral("Code"), codesInWords(row)});
-    columns.add({QStringLiteral("Parameters"), parametersInWords(row)});
-    columns.add({QStringLiteral("Kind"), kindInWords(row)});
-    columns.add({QStringLiteral("Machine"), machinesInWords(row)});
-    columns.add({QStringLiteral("Command families"), familiesInWords(row)});
-    columns.add({QStringLiteral("Addressed to"),
-                 row.addressMachine ? QStringLiteral("a machine") : QStringLiteral("the driver")});
-    columns.add({QStringLiteral("Priority"), QStringLiteral("working %1, scheduling %2")
-                                                 .arg(row.workingPriorityLevel)
-                                                 .arg(row.schedulingPriorityLevel)});
-    columns.add({QStringLiteral("Looks at busy state"), yesOrNo(row.checkBusy)});
-    columns.add({QStringLiteral("Time-out"), timeoutInWords(row)});
-    columns.add({QStringLiteral("Measures its time"), yesOrNo(row.trackExecutionTime)});
-    columns.add({QStringLiteral("In the statistics"), yesOrNo(row.recordInStats)});
-    columns.add({QStringLiteral("Machine object use"), QString::number(row.machineObjUsage)});
-    columns.add({QStringLiteral("Multiple"), yesOrNo(row.multiple)});
-    columns.add({QStringLiteral("Private"), yesOrNo(row.privateCommand)});
-    columns.add({QStringLiteral("Delivers colorant"), yesOrNo(row.erogationCommand)});
-    columns.print(true);
+    for (const ArgumentFacts &argument : commandFacts(command).arguments)
+        printLine(argument.name);
 }
 
 ExitStatus run(const CommandLine &line)
 {
+    if (line.isSet("markdown")) {
+        if (!line.words().isEmpty())
+            throw UsageError(QStringLiteral("--markdown tells all commands, and takes no NAME"));
+        printWhole(commandsMarkdown());
+        return Done;
+    }
+    if (line.words().isEmpty())
+        throw UsageError(QStringLiteral("show needs NAME"));
     const QString &name = line.words().first();
     const CMD_STRUCT *row = ProtoCommandList::row(name);
     if (!row)
         throw std::runtime_error(QStringLiteral("the catalogue has no command \"%1\"%2")
                                      .arg(name, didYouMeanCommand(name))
                                      .toStdString());
-    if (line.isSet("json"))
-        printLine(QString::fromStdString(writeJson(catalogueRow(*row))));
+    if (line.isSet("names"))
+        printNames(name);
+    else if (line.isSet("json"))
+        printLine(QString::fromStdString(writeJson(referenceJson(referenceOf(*row)))));
     else
-        printRow(*row);
+        printReference(referenceOf(*row));
     return Done;
 }
 
 } // namespace
 
 const Subcommand showSubcommand = {"show",
-                                   "NAME",
+                                   "[NAME]",
                                    "one command in words",
-                                   "Shows what the catalogue knows of a command.",
+                                   "Tells what a command is for, its arguments, the members of its answer, "
+                                   "how it is refused, and who carries\n"
+                                   "it out, with an example for the shell and one for Python.",
+                                   0,
                                    1,
-                                   1,
-                                   {{"json", nullptr, "the row as JSON"}},
+                                   {{"json", nullptr, "one JSON object"},
+                                    {"names", nullptr, "the names of its arguments only, one a line"},
+                                    {"markdown", nullptr, "without NAME: the reference of all commands"}},
                                    run};
 
 } // namespace quv

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -26,6 +27,33 @@ int columnsOfTerminal()
     winsize size{};
     const bool known = ioctl(fileno(stdout), TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
     return known ? size.ws_col : 80;
+}
+
+/// How long a line may be; what is no terminal takes any, so that the next program gets whole lines.
+int longestLine()
+{
+    return isatty(fileno(stdout)) != 0 ? columnsOfTerminal() : std::numeric_limits<int>::max();
+}
+
+/// The text in lines that fit; a word that does not fit is a line of its own.
+QStringList brokenLines(const QString &text, int columns)
+{
+    QStringList lines{QString()};
+    for (const QString &word : text.split(QLatin1Char(' '))) {
+        QString &line = lines.last();
+        if (line.isEmpty())
+            line = word;
+        else if (line.size() + 1 + word.size() <= columns)
+            line += QLatin1Char(' ') + word;
+        else
+            lines.append(word);
+    }
+    return lines;
+}
+
+QString blanks(int count)
+{
+    return QString(count, QLatin1Char(' '));
 }
 
 const char *escape(Colour colour)
@@ -66,6 +94,12 @@ void printLine(const QString &text, Colour colour)
     print(stdout, text, colour);
 }
 
+void printParagraph(const QString &text, Colour colour)
+{
+    for (const QString &line : brokenLines(text, longestLine()))
+        printLine(line, colour);
+}
+
 void printError(const QString &text)
 {
     print(stderr, text, Colour::Red);
@@ -83,7 +117,7 @@ void redrawLine(const QString &text)
     std::fflush(stdout);
 }
 
-void Columns::print(bool heading) const
+QList<int> Columns::widths() const
 {
     QList<int> widths;
     for (const QStringList &row : m_rows)
@@ -92,11 +126,42 @@ void Columns::print(bool heading) const
                 widths.append(0);
             widths[i] = std::max(widths[i], row[i].size());
         }
+    return widths;
+}
+
+void Columns::print(bool heading) const
+{
+    const QList<int> widths = this->widths();
     for (const QStringList &row : m_rows) {
         QString line;
         for (int i = 0; i < row.size(); ++i)
             line += i + 1 < row.size() ? row[i].leftJustified(widths[i] + 2) : row[i];
         printLine(line, heading && &row == &m_rows.first() ? Colour::Bold : Colour::Plain);
+    }
+}
+
+void Columns::printBroken(int indent) const
+{
+    constexpr int narrowest = 24; // a last column with less room goes below the others
+    const QList<int> widths = this->widths();
+    int start = indent;
+    for (int i = 0; i + 1 < widths.size(); ++i)
+        start += widths[i] + 2;
+    const bool fits = longestLine() - start >= narrowest;
+    const int lastStart = fits ? start : indent + 4;
+    for (const QStringList &row : m_rows) {
+        QString line = blanks(indent);
+        for (int i = 0; i + 1 < row.size(); ++i)
+            line += row[i].leftJustified(widths[i] + 2);
+        QStringList texts = brokenLines(row.last(), longestLine() - lastStart);
+        if (fits)
+            line += texts.takeFirst();
+        while (line.endsWith(QLatin1Char(' ')))
+            line.chop(1);
+        printLine(line);
+        for (const QString &text : qAsConst(texts))
+            if (!text.isEmpty())
+                printLine(blanks(lastStart) + text);
     }
 }
 

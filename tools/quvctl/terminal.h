@@ -15,7 +15,9 @@ QString printable(QString text);
 /// A line on standard output, flushed. Colours show on a terminal only, and not with NO_COLOR; control characters of the
 /// text never reach it.
 void printLine(const QString &text, Colour colour = Colour::Plain);
-/// The same on standard error.
+/// The same in as many lines as a terminal needs, broken between words.
+void printParagraph(const QString &text, Colour colour = Colour::Plain);
+/// A line on standard error.
 void printError(const QString &text);
 
 /// Whether standard output is a terminal on which a line can be drawn again.
@@ -30,8 +32,12 @@ public:
     void add(const QStringList &cells) { m_rows.append(cells); }
     /// \a heading: the first row is printed bold.
     void print(bool heading) const;
+    /// Behind \a indent, the last column broken where it does not fit on a terminal.
+    void printBroken(int indent) const;
 
 private:
+    QList<int> widths() const;
+
     QList<QStringList> m_rows;
 };
 

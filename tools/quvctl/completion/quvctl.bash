@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
-# Bash completion of quvctl: subcommands, their options, and the names of commands.
+# Bash completion of quvctl: subcommands, their options, and the names of commands and of their arguments.
 
 _quvctl()
 {
@@ -7,7 +7,7 @@ _quvctl()
     local subcommands="list show encode decode call ticket tint config watch batch machine explain help"
     local driver="--host --port --timeout"
     local machines="dispenser turntable dual mixer"
-    local words=""
+    local words="" command=""
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
@@ -31,7 +31,7 @@ _quvctl()
     *)
         case "${COMP_WORDS[1]}" in
         list) words="--machine --kind --family --names --json --help" ;;
-        show) words="--json --help" ;;
+        show) words="--json --names --markdown --help" ;;
         encode) words="--family --machine --form --json --help" ;;
         decode) words="--args --machine --json --help" ;;
         call) words="--machine --async --json $driver --help" ;;
@@ -66,7 +66,12 @@ _quvctl()
         show | encode | decode | call)
             if [[ $current != -* ]]; then
                 words=""
-                _quvctl_has_name || words=$("${COMP_WORDS[0]}" list --names 2>/dev/null)
+                if ! _quvctl_has_name; then
+                    words=$("${COMP_WORDS[0]}" list --names 2>/dev/null)
+                elif [[ ${COMP_WORDS[1]} == encode || ${COMP_WORDS[1]} == call ]]; then
+                    _quvctl_arguments
+                    return
+                fi
             fi
             ;;
         esac
@@ -75,18 +80,39 @@ _quvctl()
     COMPREPLY=($(compgen -W "$words" -- "$current"))
 }
 
-# Whether a word between the subcommand and the cursor is no option, nor the value of one.
+# Whether a word between the subcommand and the cursor is no option, nor the value of one. The first one is the command.
 _quvctl_has_name()
 {
     local i
     for ((i = 2; i < COMP_CWORD; ++i)); do
         case "${COMP_WORDS[i]}" in
-        --json | --async | --yes | --help) ;;
+        --json | --async | --yes | --names | --markdown | --help) ;;
         --*) ((++i)) ;;
-        *) return 0 ;;
+        *)
+            command=${COMP_WORDS[i]}
+            return 0
+            ;;
         esac
     done
     return 1
+}
+
+# The names of the command's arguments that are not given yet.
+_quvctl_arguments()
+{
+    local i name given=" "
+    # usually the shell makes three words of name=value
+    [[ $current == = || $previous == = ]] && return
+    for ((i = 3; i < COMP_CWORD; ++i)); do
+        case "${COMP_WORDS[i]}" in
+        =) given+="${COMP_WORDS[i - 1]} " ;;
+        ?*=*) given+="${COMP_WORDS[i]%%=*} " ;;
+        esac
+    done
+    for name in $("${COMP_WORDS[0]}" show "$command" --names 2>/dev/null); do
+        [[ $given == *" $name "* ]] || COMPREPLY+=($(compgen -W "$name=" -- "$current"))
+    done
+    compopt -o nospace 2>/dev/null # the value follows at once
 }
 
 complete -F _quvctl quvctl

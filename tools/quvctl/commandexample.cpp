@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "commandexample.h"
+
+#include "argumentwords.h"
+#include "jsonvalue.h"
+#include "machines.h"
+
+#include "base/protocommand.h"
+#include "catalogue/protocommandlist.h"
+
+#include <QuvFramework/fw_error.h>
+
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStringList>
+
+#include <cstddef>
+#include <memory>
+
+namespace quv {
+
+namespace {
+
+struct Sample
+{
+    const char *of;
+    const char *json;
+};
+
+constexpr char formula[] = R"({"formula_type":4,"quantity_unit":3,"ids":["B","KX"],"quantities":[12.5,0.3]})";
+constexpr char circuits[] =
+    R"([{"exec_criterion":1,"target_circuits":[{"position_id":2,"queue_id":0,"speed":50,"strokes":3}]}])";
+
+/// A value of each type, for arguments of which no more is known.
+constexpr Sample samplesOfTypes[] = {
+    {"int", "1"},
+    {"bool", "true"},
+    {"double", "12.5"},
+    {"string", R"("text")"},
+    {"array of ints", "[1,2]"},
+    {"array of strings", R"(["B","KX"])"},
+    {"formula", formula},
+};
+
+/// The arguments of commands for which their types do not tell enough.
+constexpr Sample samplesOfCommands[] = {
+    {"GET_STATUS", "[3]"},
+    {"GET_CMD_STATUS", R"(["08c07d1b-0c86-482f-89f7-e64569cd7441"])"},
+    {"GET_CMD_EST_EXEC_TIME", R"([{"command":["RESET"]}])"},
+    {"READ_CONFIG_ROW", "[7,1]"},
+    {"WRITE_CONFIG_ROW", R"([{"cmd_value":7,"cmd_parameters":"1,60,10,40"}])"},
+    {"PRIMING", R"([{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[3,3]}])"},
+    {"PACK", R"([0,{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[1,1]}])"},
+    {"PURGE", R"([{"purge_quantity":2.5,"quantity_unit":3,"only_filled":true,"head":0}])"},
+    {"PRIMING2", circuits},
+    {"PACK2", circuits},
+    {"AIRPURGE", circuits},
+};
+
+template <std::size_t N>
+std::optional<OrderedJson> sampleOf(const QString &name, const Sample (&samples)[N])
+{
+    for (const Sample &sample : samples)
+        if (name == QLatin1String(sample.of))
+            return OrderedJson::parse(sample.json);
+    return std::nullopt;
+}
+
+std::optional<OrderedJson> sampleArguments(const CommandFacts &command)
+{
+    if (auto arguments = sampleOf(command.name, samplesOfCommands))
+        return arguments;
+    if (command.arguments.isEmpty() && ProtoCommandList::cmdParamNum(command.name, true) > 0)
+        return std::nullopt;
+    OrderedJson arguments = OrderedJson::array();
+    for (const ArgumentFacts &argument : command.arguments) {
+        const auto sample = sampleOf(argument.type, samplesOfTypes);
+        if (!sample)
+            return std::nullopt;
+        arguments.push_back(*sample);
+    }
+    return arguments;
+}
+
+bool isTaken(const CommandFacts &command, const OrderedJson &arguments, const char *machine)
+{
+    try {
+        XmlRpc::XmlRpcValue values = toXmlRpcValue(nlohmann::json(arguments));
+        const std::unique_ptr<ProtoCommand> made(ProtoCommandList::getProtoCommand(
+            command.name, values, machineByName(QLatin1String(machine)).get()));
+        return true;
+    } catch (const FW_DriverError &) {
+        return false;
+    }
+}
+
+/// The option that quvctl needs to make the command, which the driver will make as well; nothing when one of them cannot.
+std::optional<QString> machineOptionFor(const CommandFacts &command, const OrderedJson &arguments)
+{
+    for (const char *machine : {"dispenser", "dual"})
+        if (isTaken(command, arguments, machine))
+            return isTaken(command, arguments, "none")
+                       ? QString()
+                       : QStringLiteral(" --machine ") + QLatin1String(machine);
+    return std::nullopt;
+}
+
+/// As a shell's word.
+QString quoted(QString word)
+{
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_=.,:+-]+$"));
+    if (plain.match(word).hasMatch())
+        return word;
+    word.replace(QLatin1Char('\''), QStringLiteral("'\\''"));
+    return QLatin1Char('\'') + word + QLatin1Char('\'');
+}
+
+/// The value as quvctl reads it back from a word.
+QString wordOf(const OrderedJson &value)
+{
+    if (value.is_string()) {
+        const auto text = QString::fromStdString(value.get<std::string>());
+        if (argumentFromWord(text) == nlohmann::json(value))
+            return text;
+    }
+    return QString::fromStdString(writeJson(value));
+}
+
+QString shellWords(const CommandFacts &command, const OrderedJson &arguments)
+{
+    QString words;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const QString name = command.arguments.value(static_cast<int>(i)).name;
+        words += QLatin1Char(' ') +
+                 quoted((name.isEmpty() ? name : name + QLatin1Char('=')) + wordOf(arguments[i]));
+    }
+    return words;
+}
+
+QString pythonOf(const OrderedJson &value)
+{
+    QStringList parts;
+    if (value.is_boolean())
+        return value.get<bool>() ? QStringLiteral("True") : QStringLiteral("False");
+    if (value.is_array()) {
+        for (const OrderedJson &element : value)
+            parts.append(pythonOf(element));
+        return QLatin1Char('[') + parts.join(QStringLiteral(", ")) + QLatin1Char(']');
+    }
+    if (value.is_object()) {
+        for (const auto &[key, member] : value.items())
+            parts.append(pythonOf(key) + QStringLiteral(": ") + pythonOf(member));
+        return QLatin1Char('{') + parts.join(QStringLiteral(", ")) + QLatin1Char('}');
+    }
+    return QString::fromStdString(writeJson(value));
+}
+
+QString pythonCall(const QString &command, const OrderedJson &arguments)
+{
+    QStringList parts{pythonOf(command.toStdString())};
+    for (const OrderedJson &argument : arguments)
+        parts.append(pythonOf(argument));
+    return QStringLiteral("driver.EXEC_B(%1)").arg(parts.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
+const char *const pythonPreparation = "import xmlrpc.client\n"
+                                      "\n"
+                                      "driver = xmlrpc.client.ServerProxy(\"http://127.0.0.1:9333\")\n";
+
+std::optional<CommandExample> exampleOf(const CommandFacts &command)
+{
+    const auto arguments = sampleArguments(command);
+    const auto machine = arguments ? machineOptionFor(command, *arguments) : std::nullopt;
+    if (!machine)
+        return std::nullopt;
+    return CommandExample{QStringLiteral("quvctl call %1").arg(command.name) +
+                              shellWords(command, *arguments) + *machine,
+                          pythonCall(command.name, *arguments)};
+}
+
+} // namespace quv
