@@ -263,11 +263,36 @@ private:
     QList<QVariant> m_list;
 };
 
-/** Writes the arguments as an XML-RPC array, in place: such a value cannot be moved, only copied. */
+class ArgumentCounter : public ArgumentVisitor<ArgumentCounter>
+{
+public:
+    int count() const { return m_count; }
+
+private:
+    friend ArgumentVisitor<ArgumentCounter>;
+
+    template <class T>
+    void visit(const T &)
+    {
+        ++m_count;
+    }
+    template <class T>
+    void visitObject(const T &)
+    {
+        ++m_count;
+    }
+
+    int m_count = 0;
+};
+
+/**
+ * Writes the arguments as an XML-RPC array, in place and into the size that it will have: such a value cannot be moved, and
+ * an array that grows copies all that is in it.
+ */
 class ValueWriter : public ArgumentVisitor<ValueWriter>
 {
 public:
-    explicit ValueWriter(XmlRpc::XmlRpcValue &array) : m_array(array) { m_array.setSize(0); }
+    ValueWriter(XmlRpc::XmlRpcValue &array, int count) : m_array(array) { m_array.setSize(count); }
 
 private:
     friend ArgumentVisitor<ValueWriter>;
@@ -286,9 +311,22 @@ private:
         next() = field.toXmlRpcValue();
     }
 
-    XmlRpc::XmlRpcValue &next() { return m_array[m_array.size()]; }
+    XmlRpc::XmlRpcValue &next() { return m_array[m_index++]; }
 
     XmlRpc::XmlRpcValue &m_array;
+    int m_index = 0;
 };
+
+/** The arguments that \a describe, a function that takes an archive, comes to, as an XML-RPC array. */
+template <class Describe>
+XmlRpc::XmlRpcValue writtenArguments(Describe describe)
+{
+    ArgumentCounter counter;
+    describe(counter);
+    XmlRpc::XmlRpcValue array;
+    ValueWriter writer(array, counter.count());
+    describe(writer);
+    return array;
+}
 
 } // namespace quv

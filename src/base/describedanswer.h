@@ -18,6 +18,7 @@ struct MemberFacts;
 
 /** Derives Leaf from Base by its description. */
 template <class Leaf, class Base>
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it is virtual, as that of Base
 class QUVPROTOCOL_EXPORT DescribedAnswer : public Base
 {
 public:

@@ -37,6 +37,7 @@ protected:
 
 /** Derives Leaf from Base by its description. */
 template <class Leaf, class Base>
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it is virtual, as that of Base
 class QUVPROTOCOL_EXPORT DescribedCommand : public TokenAnswered<Leaf, Base>
 {
 public:

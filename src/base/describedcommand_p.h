@@ -192,12 +192,9 @@ template <class Leaf, class Base>
 XmlRpc::XmlRpcValue DescribedCommand<Leaf, Base>::xmlrpc_parameters(bool *ok) const
 {
     if constexpr (describesArguments<Leaf>) {
-        XmlRpc::XmlRpcValue array;
-        ValueWriter writer(array);
-        Leaf::Description::arguments(leaf(), writer);
         if (ok)
             *ok = true;
-        return array;
+        return writtenArguments([this](auto &archive) { Leaf::Description::arguments(leaf(), archive); });
     } else {
         return Base::xmlrpc_parameters(ok);
     }

@@ -41,12 +41,9 @@ QList<QVariant> GetDispensedFormulaCmdBase::parameters() const
 
 XmlRpc::XmlRpcValue GetDispensedFormulaCmdBase::xmlrpc_parameters_base(bool *ok) const
 {
-    XmlRpc::XmlRpcValue array;
-    quv::ValueWriter writer(array);
-    Description::arguments(*this, writer);
     if (ok)
         *ok = true;
-    return array;
+    return quv::writtenArguments([this](auto &archive) { Description::arguments(*this, archive); });
 }
 
 XmlRpc::XmlRpcValue GetDispensedFormulaCmdBase::toXmlRpcValue(QString leading, bool *ok) const

@@ -56,10 +56,7 @@ Wash readList(const List &list)
 
 Value written(const Wash &wash)
 {
-    Value array;
-    quv::ValueWriter writer(array);
-    Wash::arguments(wash, writer);
-    return array;
+    return quv::writtenArguments([&](auto &archive) { Wash::arguments(wash, archive); });
 }
 
 void expectValueRefused(const char *code, const char *text, const Value &value)
@@ -197,9 +194,7 @@ TEST(Arguments, AreWrittenInOrder)
 
 TEST(Arguments, NoneAreAnEmptyArray)
 {
-    Value none;
-    const quv::ValueWriter writer(none);
-    EXPECT_EQ(dumped(none), "[]");
+    EXPECT_EQ(dumped(quv::writtenArguments([](auto &) {})), "[]");
     EXPECT_EQ(quv::ListWriter().result(), List());
 }
 
@@ -247,10 +242,8 @@ TEST(Arguments, ThatAreOnlySentAreNotRead)
         EXPECT_EQ(rinse.turns, 7);
     }
     fromValue.announced = false;
-    Value written;
-    quv::ValueWriter valueWriter(written);
-    Rinse::arguments(fromValue, valueWriter);
-    EXPECT_EQ(dumped(written), "[5, false, 7]");
+    EXPECT_EQ(dumped(quv::writtenArguments([&](auto &archive) { Rinse::arguments(fromValue, archive); })),
+              "[5, false, 7]");
     quv::ListWriter listWriter;
     Rinse::arguments(fromValue, listWriter);
     EXPECT_EQ(listWriter.result(), (List{5, false, 7}));
