@@ -90,6 +90,8 @@ List sameVariants(ArgumentType type, const QVariant &literal)
         break;
     case ConvertedInteger:
         same = {number, static_cast<double>(number), QString::number(number)};
+        if (number == 0 || number == 1)
+            same.append(number == 1);
         break;
     case Number:
         if (static_cast<double>(number) == literal.toDouble())

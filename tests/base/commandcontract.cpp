@@ -144,28 +144,34 @@ void expectWritten(const ProtoCommand &command, const CommandFacts &facts, const
     EXPECT_EQ(dumped(command.toXmlRpcValue("user")), "[\"user\", " + rest);
 }
 
-void expectPhrase(const TString &actual, const Phrase &expected, const QString &translated)
+void expectPhrase(const TString &actual, const Phrase &expected)
 {
-    EXPECT_EQ(actual.m_text, expected.isTranslatedInLogs ? translated : expected.text);
-    EXPECT_EQ(actual.m_translated, translated);
+    EXPECT_EQ(actual.m_text, expected.text);
+    EXPECT_EQ(actual.m_translated, expected.text);
+    EXPECT_EQ(actual.m_context, expected.context);
+}
+
+void expectTranslatedPhrase(const TString &actual, const Phrase &expected)
+{
+    EXPECT_EQ(actual.m_text, expected.logged.value_or(expected.text));
+    EXPECT_EQ(actual.m_translated, expected.translated);
     EXPECT_EQ(actual.m_context, expected.context);
 }
 
 void expectWords(const ProtoCommand &command, const Words &words)
 {
     EXPECT_EQ(command.commandString(), words.command);
-    expectPhrase(command.actionString(false), words.action, words.action.text);
-    expectPhrase(command.actionString(true), words.detailed, words.detailed.text);
+    expectPhrase(command.actionString(false), words.action);
+    expectPhrase(command.actionString(true), words.detailed);
 }
 
 void expectTranslatedWords(const ProtoCommand &command, const Words &words)
 {
     SCOPED_TRACE("in another language");
     const TranslatedTexts translated;
-    EXPECT_EQ(command.commandString(),
-              words.commandIsTranslated ? translation(words.command) : words.command);
-    expectPhrase(command.actionString(false), words.action, words.action.translated);
-    expectPhrase(command.actionString(true), words.detailed, words.detailed.translated);
+    EXPECT_EQ(command.commandString(), words.translatedCommand.value_or(words.command));
+    expectTranslatedPhrase(command.actionString(false), words.action);
+    expectTranslatedPhrase(command.actionString(true), words.detailed);
 }
 
 void expectTime(const ProtoCommand &command, const CommandFacts &facts, const Request &request)

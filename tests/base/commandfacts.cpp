@@ -36,7 +36,7 @@ Phrase untranslated(const char *text)
 Phrase inProgress()
 {
     Phrase phrase("In progress", "", translation("In progress"));
-    phrase.isTranslatedInLogs = true;
+    phrase.logged = phrase.translated;
     return phrase;
 }
 
@@ -82,6 +82,23 @@ Request &Request::onlyFromValue()
 {
     hasListForm = false;
     return *this;
+}
+
+Request Request::alsoFromList(List other) const
+{
+    Request same = *this;
+    same.onlyFromList().parameters(expectedParameters.value_or(arguments));
+    same.typedForm = nullptr;
+    same.arguments = std::move(other);
+    return same;
+}
+
+Request Request::alsoFromValue(const Value &other) const
+{
+    Request same = *this;
+    same.onlyFromValue().value(other);
+    same.typedForm = nullptr;
+    return same;
 }
 
 Request &Request::parameters(List expected)

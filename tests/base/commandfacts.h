@@ -42,7 +42,7 @@ struct Phrase
     QString text;
     std::string context;
     QString translated;
-    bool isTranslatedInLogs = false;
+    std::optional<QString> logged; ///< in that language, where logs do not get the source
 };
 
 Phrase untranslated(const char *text);
@@ -62,7 +62,7 @@ struct Words
     QString command;
     Phrase action;
     Phrase detailed;
-    bool commandIsTranslated = false;
+    std::optional<QString> translatedCommand; ///< where the label is translated, too
 };
 
 Words silence(); ///< nothing at all
@@ -100,6 +100,10 @@ struct Request
     Request &takes(long long milliseconds); ///< on any machine
     Request &says(const Words &expected);
     Request &holds(List expected); ///< by the getters in their order, where that is not the parameters
+
+    /** The same command from another list, or another value. */
+    Request alsoFromList(List other) const;
+    Request alsoFromValue(const Value &other) const;
 
     List arguments;
     std::optional<Value> valueForm;

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/channeltintcmd.h"
 
-#include "catalogue/protocommandlist.h"
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTranslator>
-
-#include <memory>
 
 namespace {
 
@@ -27,9 +25,6 @@ public:
 constexpr char ofFormula[] = "ChannelTintCmd::ChannelTintCmd(int, const Formula&, const FW_Dispenser*)";
 constexpr char ofValue[] = "ChannelTintCmd::ChannelTintCmd(const XmlRpc::XmlRpcValue&, const FW_Dispenser*)";
 constexpr char ofList[] = "ChannelTintCmd::ChannelTintCmd(QList<QVariant>, const FW_Dispenser*)";
-constexpr char ofBaseValue[] =
-    "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-constexpr char ofBaseList[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
 
 constexpr char noDispenser[] = "ChannelTintCmd failed: invalid dispenser decoding";
 constexpr char badChannel[] = "ChannelTintCmd failed: invalid channel ID parameter";
@@ -65,130 +60,91 @@ FW_Dispenser dualWith(int position, const FW_Calibration &calibration)
     return machine;
 }
 
-TEST(ChannelTintCmd, isEmptyAtFirst)
+/** The label is a text for displays, too, and the other texts hold it. */
+Words channelWords(int channel, const QString &formula)
 {
-    const ChannelTintCmd command;
-    EXPECT_EQ(command.command(), "CHANNEL_TINT");
-    EXPECT_EQ(command.protoType(), 1);
-    EXPECT_EQ(command.channelID(), 0);
-    EXPECT_EQ(command.formula(), Formula());
-    EXPECT_FALSE(command.machine());
-    EXPECT_EQ(command.channelIDStr(), "Channel 0 dosing");
-    EXPECT_EQ(command.serialParameters(1), QList<int>());
+    const QString label = QString("Channel %1 dosing").arg(channel);
+    const QString translatedLabel =
+        translation(translation("Channel") + QString(" %1 ").arg(channel) + translation("dosing"));
+    const auto phrase = [&](const QString &rest) {
+        Phrase made((label + rest).toUtf8().constData(), "QuvProtocol", translation(translatedLabel + rest));
+        made.logged = translatedLabel + rest;
+        return made;
+    };
+    Words words(label.toUtf8().constData(), phrase(" in progress"), phrase(" with formula: " + formula));
+    words.translatedCommand = translatedLabel;
+    return words;
+}
+
+CommandFacts facts(const FW_Dispenser &machine)
+{
+    CommandFacts facts(formsOf<ChannelTintCmd>(&machine));
+    facts.catalogue = {"CHANNEL_TINT", 31, "0017", 2};
+    facts.protoType = 1;
+    facts.valueFunction = ofValue;
+    facts.listFunction = ofList;
+    facts.arguments = {
+        required(ConvertedInteger,
+                 {"DE01424", "DE01426", "ChannelTintCmd failed: expected Int type for first parameter",
+                  badChannel})
+            .outOfRange({-1, 0, 3}, {"DE01432", "DE01432", badChannel})
+            .takes({1, 2}),
+        required()
+            .refuses({Value(1), Value("B"), unreadableFormula()}, {QVariant(), 1, QVariantMap()},
+                     {"DE01425", "DE01428", "ChannelTintCmd failed: invalid Formula type parameter",
+                      "ChannelTintCmd failed: expected Formula type parameter"})
+            .refuses({}, {unreadableFormulaVariant()},
+                     {"", "DE01427", "ChannelTintCmd failed: incorrect Formula type parameter"})};
+    facts.getters = {getter(&ChannelTintCmd::channelID), getter(&ChannelTintCmd::formula)};
+    facts.defaults = Request()
+                         .parameters({0, variantOf(Formula())})
+                         .written(std::string("[0, ") + emptyFormulaWritten + "]")
+                         .says(channelWords(0, ""));
+    constexpr char twoCircuits[] =
+        R"({"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["3", "4"], )"
+        R"("levels_policy": 0, "quantities": [30.0000, 1.00000], "quantity_unit": 3}])";
+    for (int channel : {2, 1})
+        facts.requests.push_back(Request({channel, variantOf(someFormula())})
+                                     .value(arrayOf(channel, someFormula().toXmlRpcValue()))
+                                     .typed<ChannelTintCmd>(channel, someFormula(), &machine)
+                                     .written('[' + std::to_string(channel) + ", " + twoCircuits)
+                                     .sends({2, 2, 3, channel, 40, 2, 54, 1, 4, channel, 40, 1, 10})
+                                     .says(channelWords(channel, "3 30.000, 4 1.000")));
+    facts.afterDefaults = Request()
+                              .parameters({0, variantOf(someFormula())})
+                              .written(std::string("[0, ") + twoCircuits)
+                              .sends({2, 2, 3, 0, 40, 2, 54, 1, 4, 0, 40, 1, 10})
+                              .says(channelWords(0, "3 30.000, 4 1.000"));
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+TEST(ChannelTintCmd, keepsTheCommandContract)
+{
+    expectCommandContract(facts(dualHead()));
+}
+
+TEST(ChannelTintCmd, hasNoMachineAtFirst)
+{
     FW_DriverError error;
-    EXPECT_FALSE(command.checkFormula(error));
+    EXPECT_FALSE(ChannelTintCmd().checkFormula(error));
     expectError(error, "DE01109", "Invalid dispenser data");
 }
 
-TEST(ChannelTintCmd, isAFormulaForAChannel)
+TEST(ChannelTintCmd, namesItsChannel)
 {
-    const FW_Dispenser machine = dualHead();
-    const Formula formula = someFormula();
-    for (int channel : {1, 2}) {
-        for (const ChannelTintCmd &command :
-             {ChannelTintCmd(channel, formula, &machine),
-              ChannelTintCmd(arrayOf(channel, formula.toXmlRpcValue()), &machine),
-              ChannelTintCmd(List{channel, QVariant::fromValue(formula)}, &machine)}) {
-            EXPECT_EQ(command.command(), "CHANNEL_TINT");
-            EXPECT_EQ(command.protoType(), 1);
-            EXPECT_EQ(command.channelID(), channel);
-            EXPECT_EQ(command.formula(), formula);
-            EXPECT_TRUE(command.machine());
-        }
-    }
-    ASSERT_TRUE(ProtoCommandList::row("CHANNEL_TINT"));
-    EXPECT_EQ(ProtoCommandList::row("CHANNEL_TINT")->id, 31);
-    EXPECT_EQ(ProtoCommandList::row("CHANNEL_TINT")->code, "0017");
-}
-
-TEST(ChannelTintCmd, isWrittenAsChannelAndFormula)
-{
-    const ChannelTintCmd command = channelTint(2, someFormula());
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)),
-              R"([2, {"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["3", "4"], )"
-              R"("levels_policy": 0, "quantities": [30.0000, 1.00000], "quantity_unit": 3}])");
-    EXPECT_TRUE(ok);
-    const List parameters = command.parameters();
-    ASSERT_EQ(parameters.size(), 2);
-    EXPECT_EQ(parameters.at(0), QVariant(2));
-    EXPECT_EQ(parameters.at(1).value<Formula>(), someFormula());
-
-    const FW_Dispenser machine = dualHead();
-    EXPECT_EQ(ChannelTintCmd(command.xmlrpc_parameters(), &machine).channelID(), 2);
-    EXPECT_EQ(ChannelTintCmd(command.xmlrpc_parameters(), &machine).formula(), someFormula());
-    EXPECT_EQ(ChannelTintCmd(parameters, &machine).channelID(), 2);
-    EXPECT_EQ(ChannelTintCmd(parameters, &machine).formula(), someFormula());
-}
-
-TEST(ChannelTintCmd, goesBackToItsDefaults)
-{
-    ChannelTintCmd command = channelTint(2, someFormula());
-    command.setDefaults();
-    EXPECT_EQ(command.channelID(), 0);
-    EXPECT_EQ(command.formula(), someFormula());
-}
-
-TEST(ChannelTintCmd, copiesDeeply)
-{
-    const ChannelTintCmd command = channelTint(2, someFormula());
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    const auto *tinting = dynamic_cast<const ChannelTintCmd *>(clone.get());
-    ASSERT_TRUE(tinting);
-    EXPECT_EQ(tinting->channelID(), 2);
-    EXPECT_EQ(tinting->formula(), someFormula());
-    EXPECT_NE(tinting->machine(), command.machine());
-    EXPECT_EQ(tinting->serialParameters(1), (QList<int>{2, 2, 3, 2, 40, 2, 54, 1, 4, 2, 40, 1, 10}));
+    const ChannelTintCmd command = channelTint(1, grams({{"3", 30}}));
+    EXPECT_EQ(command.channelIDStr(), "Channel 1 dosing");
+    EXPECT_EQ(command.commandString(), "Channel 1 dosing");
+    EXPECT_EQ(command.actionString(false).m_text, "Channel 1 dosing in progress");
+    EXPECT_EQ(command.actionString(true).m_text, "Channel 1 dosing with formula: 3 30.000");
+    EXPECT_EQ(ChannelTintCmd().channelIDStr(), "Channel 0 dosing");
+    EXPECT_EQ(channelTint(2, someFormula()).channelIDStr(), "Channel 2 dosing");
+    const TranslatedTexts translated;
+    EXPECT_EQ(command.channelIDStr(), translation(translation("Channel") + " 1 " + translation("dosing")));
 }
 
 // ---------------------------------------------------------------- refusals
-
-TEST(ChannelTintCmd, countsItsArgumentsFirst)
-{
-    const FW_Dispenser machine = dualHead();
-    expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBaseValue,
-                  [&] { ChannelTintCmd(Value(), &machine); });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue,
-                  [&] { ChannelTintCmd(Value(2), &machine); });
-    expectRefusal("DE00312", "CHANNEL_TINT command : expected at least 2 parameters, received 1 instead!",
-                  ofBaseValue, [&] { ChannelTintCmd(arrayOf(2), &machine); });
-    expectRefusal("DE00313", "CHANNEL_TINT command : expected at least 2 parameters, received 1 instead!",
-                  ofBaseList, [&] { ChannelTintCmd(List{2}, &machine); });
-}
-
-TEST(ChannelTintCmd, refusesAChannelThatIsNoInteger)
-{
-    const FW_Dispenser machine = dualHead();
-    const Formula formula = someFormula();
-    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine}) {
-        for (const Value &bad : {Value("2"), Value(2.0), Value(true)}) {
-            expectRefusal("DE01424", "ChannelTintCmd failed: expected Int type for first parameter", ofValue,
-                          [&] { ChannelTintCmd(arrayOf(bad, formula.toXmlRpcValue()), given); });
-        }
-        for (const QVariant &bad : {QVariant(), QVariant("second"), QVariant(1e10), QVariant(List{2})}) {
-            expectRefusal("DE01426", badChannel, ofList, [&] {
-                ChannelTintCmd(List{bad, QVariant::fromValue(formula)}, given);
-            });
-        }
-    }
-}
-
-TEST(ChannelTintCmd, refusesWhatCannotBeReadAsAFormula)
-{
-    const FW_Dispenser machine = dualHead();
-    for (const Value &bad : {Value(1), Value("B"), unreadableFormula()}) {
-        expectRefusal("DE01425", "ChannelTintCmd failed: invalid Formula type parameter", ofValue,
-                      [&] { ChannelTintCmd(arrayOf(2, bad), &machine); });
-    }
-    for (const QVariant &other : {QVariant(), QVariant(1), QVariant(QVariantMap())}) {
-        expectRefusal("DE01428", "ChannelTintCmd failed: expected Formula type parameter", ofList, [&] {
-            ChannelTintCmd(List{2, other}, &machine);
-        });
-    }
-    expectRefusal("DE01427", "ChannelTintCmd failed: incorrect Formula type parameter", ofList, [&] {
-        ChannelTintCmd(List{2, unreadableFormulaVariant()}, &machine);
-    });
-}
 
 TEST(ChannelTintCmd, refusesAChannelThatTheMachineDoesNotHave)
 {
@@ -296,37 +252,7 @@ TEST(ChannelTintCmd, leavesOutWhatHasNoStepsButCountsIt)
     EXPECT_EQ(channelTint(2, grams({{"3", 0.01}})).serialParameters(1), (QList<int>{2, 1}));
 }
 
-TEST(ChannelTintCmd, takesNoTimeThatItKnows)
-{
-    const FW_Dispenser machine = dualHead();
-    EXPECT_EQ(channelTint(2, someFormula()).getCmdEstimatedExecutionTime(&machine), 0);
-    EXPECT_EQ(channelTint(2, someFormula()).getCmdEstimatedExecutionTime(nullptr), 0);
-}
-
 // ---------------------------------------------------------------- texts
-
-TEST(ChannelTintCmd, namesItsChannel)
-{
-    const ChannelTintCmd command = channelTint(1, grams({{"3", 30}}));
-    EXPECT_EQ(command.channelIDStr(), "Channel 1 dosing");
-    EXPECT_EQ(command.commandString(), "Channel 1 dosing");
-    EXPECT_EQ(command.actionString(false).m_text, "Channel 1 dosing in progress");
-    EXPECT_EQ(command.actionString(true).m_text, "Channel 1 dosing with formula: 3 30.000");
-    EXPECT_EQ(channelTint(2, someFormula()).channelIDStr(), "Channel 2 dosing");
-}
-
-TEST(ChannelTintCmd, namesItsChannelInTheRunningLanguage)
-{
-    const ChannelTintCmd command = channelTint(1, grams({{"3", 30}}));
-    const TranslatedTexts translated;
-    const QString name = translation(translation("Channel") + " 1 " + translation("dosing"));
-    EXPECT_EQ(command.channelIDStr(), name);
-    EXPECT_EQ(command.commandString(), name);
-    EXPECT_EQ(command.actionString(false).m_translated, translation(name + " in progress"));
-    EXPECT_EQ(command.actionString(true).m_translated, translation(name + " with formula: 3 30.000"));
-    EXPECT_STREQ(command.actionString(false).m_context, "QuvProtocol");
-    EXPECT_STREQ(command.actionString(true).m_context, "QuvProtocol");
-}
 
 TEST(ChannelTintCmd, isInProgressWithoutAName)
 {

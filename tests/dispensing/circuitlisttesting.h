@@ -151,9 +151,7 @@ CommandFacts circuitListFacts(const CircuitListKind &kind, const FW_Dispenser *m
                          .says(kind.ofNone);
     for (int criterion : {1, 2, 8, 16}) {
         facts.requests.push_back(requestOfOneCircuit<Command>(kind, criterion, machine));
-        Request ofMap = facts.requests.back();
-        ofMap.arguments = {oneCircuitMap(criterion)};
-        facts.requests.push_back(ofMap.onlyFromList());
+        facts.requests.push_back(facts.requests.back().alsoFromList({oneCircuitMap(criterion)}));
     }
     if (!machine)
         facts.requests.push_back(requestOfThreeCircuits<Command>(kind));

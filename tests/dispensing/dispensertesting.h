@@ -6,6 +6,7 @@
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/purgeformula.h>
 
 #include <QtCore/QStringList>
 
@@ -65,6 +66,20 @@ Formula strokes(std::initializer_list<Pour> items); ///< by circuit positions
 
 /** The formula with a policy by which levels are checked before it is poured, as 2 and 3 are. */
 Formula checkingLevels(Formula formula, int policy = 2);
+
+/** Formula() as it travels. */
+constexpr char emptyFormulaWritten[] =
+    R"({"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": [], "levels_policy": 0, )"
+    R"("quantities": [], "quantity_unit": 3})";
+
+inline QVariant variantOf(const Formula &held)
+{
+    return QVariant::fromValue(held);
+}
+inline QVariant variantOf(const PurgeFormula &held)
+{
+    return QVariant::fromValue(held);
+}
 
 // What a formula is refused with, by several commands with codes of their own.
 constexpr char notPositive[] = "Bad values in formula! Values have to be positive";

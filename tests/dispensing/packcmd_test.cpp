@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/packcmd.h"
 
-#include "catalogue/protocommandlist.h"
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
 
-#include <QuvFramework/fw_exception.h>
-#include <QuvFramework/fw_version.h>
-
-#include <memory>
 #include <vector>
 
 namespace {
@@ -17,9 +13,6 @@ using namespace testing_dispensing;
 constexpr char ofFormula[] = "PackCmd::PackCmd(int, const Formula&, const FW_Dispenser*)";
 constexpr char ofValue[] = "PackCmd::PackCmd(const XmlRpc::XmlRpcValue&, const FW_Dispenser*)";
 constexpr char ofList[] = "PackCmd::PackCmd(QList<QVariant>, const FW_Dispenser*)";
-constexpr char ofBase[] =
-    "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-constexpr char ofListBase[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
 
 constexpr char badMovement[] = "PackCmd failed: invalid pump movement type parameter";
 
@@ -67,23 +60,73 @@ void expectTaken(const Formula &formula, const FW_Dispenser &machine)
 
 // ---------------------------------------------------------------- construction
 
-TEST(PackCmd, hasNoMovementAtFirst)
+/** The label is a text for displays, too, and the other texts hold it. */
+Words packing(const char *label, const char *action, const char *detailed)
 {
-    const PackCmd command;
-    EXPECT_EQ(command.command(), "PACK");
-    EXPECT_EQ(command.protoType(), 1);
-    EXPECT_EQ(command.pumpMovementType(), -1);
-    EXPECT_EQ(command.formula(), Formula());
-    EXPECT_FALSE(command.machine());
-    EXPECT_EQ(command.parameters(), listOf(-1, Formula()));
+    const auto translated = [&](const char *text) {
+        return translation(QString(text).replace(label, translation(label)));
+    };
+    Words words(label, {action, "QuvProtocol", translated(action)},
+                {detailed, "QuvProtocol", translated(detailed)});
+    words.translatedCommand = translation(label);
+    return words;
 }
 
-TEST(PackCmd, isRow16OfTheCatalogue)
+Request packRequest(int movement, const FW_Dispenser *machine)
 {
-    const CMD_STRUCT *row = ProtoCommandList::row(PackCmd().command());
-    ASSERT_TRUE(row);
-    EXPECT_EQ(row->id, 16);
-    EXPECT_EQ(row->code, "0017");
+    const Formula formula = grams({{"1", 10}});
+    return Request(listOf(movement, formula))
+        .value(arrayOf(movement, tenGramsValue()))
+        .typed<PackCmd>(movement, formula, machine)
+        .written(
+            '[' + std::to_string(movement) +
+            R"(, {"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1"], "levels_policy": 0, )"
+            R"("quantities": [10.0000], "quantity_unit": 3}])")
+        .sends(machine ? QList<int>{3, 1, 1, 0, 40, 1, movement} : QList<int>())
+        .takes(machine ? 750 : 0);
+}
+
+CommandFacts facts(const FW_Dispenser *machine)
+{
+    CommandFacts facts(formsOf<PackCmd>(machine));
+    facts.catalogue = {"PACK", 16, "0017", 2};
+    facts.protoType = 1;
+    facts.valueFunction = ofValue;
+    facts.listFunction = ofList;
+    facts.arguments = {
+        required(ConvertedInteger,
+                 {"DE00988", "DE00863", "PackCmd failed: expected Int type for first parameter", badMovement})
+            .outOfRange({-1, 2, 100}, {"DE00987", "DE00992", badMovement})
+            .takes({0, 1}),
+        required()
+            .refuses({unreadableFormula(), Value(7), Value("formula"), arrayOf(), structOf({})},
+                     {7, "formula", QVariant(), QVariantMap{}, QVariantMap{{"ids", List{"1"}}},
+                      List{tenGramsMap()}},
+                     {"DE00989", "DE00994", "PackCmd failed: invalid Formula type parameter",
+                      "PackCmd failed: expected Formula type parameter"})
+            .refuses({}, {unreadableFormulaVariant()},
+                     {"", "DE00993", "PackCmd failed: incorrect Formula type parameter"})};
+    facts.getters = {getter(&PackCmd::pumpMovementType), getter(&PackCmd::formula)};
+    facts.defaults = Request()
+                         .parameters(listOf(-1, Formula()))
+                         .written(std::string("[-1, ") + emptyFormulaWritten + "]")
+                         .says({"", {"In progress", "QuvProtocol", translation("In progress")}});
+    facts.requests = {
+        packRequest(1, machine)
+            .says(packing("Pump unpack", "Pump unpack in progress", "Pump unpack with formula: 1 10.000")),
+        packRequest(0, machine)
+            .says(packing("Pump pack", "Pump pack in progress", "Pump pack with formula: 1 10.000")),
+    };
+    facts.requests.push_back(facts.requests[0].alsoFromList({1, tenGramsMap()}));
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+TEST(PackCmd, keepsTheCommandContract)
+{
+    const FW_Dispenser machine = dispenser();
+    expectCommandContract(facts(nullptr));
+    expectCommandContract(facts(&machine));
 }
 
 TEST(PackCmd, knowsTwoMovements)
@@ -92,26 +135,6 @@ TEST(PackCmd, knowsTwoMovements)
         EXPECT_TRUE(PackCmd::checkPumpMovementType(type)) << type;
     for (int type : {-2, -1, 2, 3, 100})
         EXPECT_FALSE(PackCmd::checkPumpMovementType(type)) << type;
-}
-
-TEST(PackCmd, takesMovementAndFormulaInEveryForm)
-{
-    const Formula formula = grams({{"1", 10}});
-    for (int movement : {0, 1}) {
-        for (const PackCmd &command :
-             {PackCmd(movement, formula, nullptr), PackCmd(arrayOf(movement, tenGramsValue()), nullptr),
-              PackCmd(listOf(movement, formula), nullptr), PackCmd(List{movement, tenGramsMap()}, nullptr)}) {
-            EXPECT_EQ(command.command(), "PACK");
-            EXPECT_EQ(command.protoType(), 1);
-            EXPECT_EQ(command.pumpMovementType(), movement);
-            EXPECT_EQ(command.formula(), formula);
-            EXPECT_FALSE(command.machine());
-            EXPECT_EQ(command.parameters(), listOf(movement, formula));
-            bool ok = false;
-            EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), dumped(arrayOf(movement, tenGramsValue())));
-            EXPECT_TRUE(ok);
-        }
-    }
 }
 
 TEST(PackCmd, goesRoundInBothForms)
@@ -123,8 +146,6 @@ TEST(PackCmd, goesRoundInBothForms)
         EXPECT_EQ(same.pumpMovementType(), 1);
         EXPECT_EQ(same.formula(), formula);
     }
-    EXPECT_EQ(dumped(PackCmd(0, grams({{"1", 10}}), nullptr).toXmlRpcValue(QString())),
-              dumped(arrayOf("PACK", 0, tenGramsValue())));
 }
 
 TEST(PackCmd, checksNoFormulaWithoutADispenser)
@@ -133,23 +154,6 @@ TEST(PackCmd, checksNoFormulaWithoutADispenser)
         EXPECT_EQ(PackCmd(0, formula, nullptr).formula(), formula);
         EXPECT_EQ(PackCmd(arrayOf(0, formula.toXmlRpcValue()), nullptr).formula(), formula);
         EXPECT_EQ(PackCmd(listOf(0, formula), nullptr).formula(), formula);
-    }
-}
-
-TEST(PackCmd, copiesDeeply)
-{
-    const FW_Dispenser machine = dispenser();
-    const PackCmd command(1, grams({{"1", 10}}), &machine);
-    const PackCmd copy(command);
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    const auto *cloned = dynamic_cast<const PackCmd *>(clone.get());
-    ASSERT_TRUE(cloned);
-    for (const PackCmd *same : {&copy, cloned}) {
-        EXPECT_EQ(same->command(), "PACK");
-        EXPECT_EQ(same->pumpMovementType(), 1);
-        EXPECT_EQ(same->formula(), command.formula());
-        EXPECT_NE(same->machine(), command.machine());
-        EXPECT_EQ(same->serialParameters(1), (QList<int>{3, 1, 1, 0, 40, 1, 1}));
     }
 }
 
@@ -169,63 +173,6 @@ TEST(PackCmd, checksTheMovementAlwaysAndFirst)
             });
         }
     }
-}
-
-TEST(PackCmd, refusesAMovementThatIsNoInteger)
-{
-    for (const Value &other : {Value(true), Value(1.0), Value("1"), arrayOf(1), tenGramsValue()}) {
-        SCOPED_TRACE(dumped(other));
-        expectRefusal("DE00988", "PackCmd failed: expected Int type for first parameter", ofValue,
-                      [&] { const PackCmd command(arrayOf(other, unreadableFormula()), nullptr); });
-    }
-    const List others = {QStringLiteral("in"), 4294967296LL, QVariant(), List{1}, tenGramsMap()};
-    for (const QVariant &other : others) {
-        expectRefusal("DE00863", badMovement, ofList, [&] {
-            const PackCmd command(List{other, QVariant()}, nullptr);
-        });
-    }
-}
-
-TEST(PackCmd, takesAMovementThatConvertsInAList)
-{
-    for (const QVariant &movement : {QVariant(true), QVariant(1.0), QVariant("1")})
-        EXPECT_EQ(PackCmd(List{movement, tenGramsMap()}, nullptr).pumpMovementType(), 1);
-}
-
-TEST(PackCmd, refusesAValueThatIsNoFormula)
-{
-    for (const Value &bad : {unreadableFormula(), Value(7), Value("formula"), arrayOf(), structOf({})}) {
-        SCOPED_TRACE(dumped(bad));
-        expectRefusal("DE00989", "PackCmd failed: invalid Formula type parameter", ofValue,
-                      [&] { const PackCmd command(arrayOf(0, bad), nullptr); });
-    }
-}
-
-TEST(PackCmd, refusesAListWithoutAFormula)
-{
-    const List others = {7,
-                         QStringLiteral("formula"),
-                         QVariant(),
-                         QVariantMap{},
-                         QVariantMap{{"ids", List{"1"}}},
-                         List{tenGramsMap()}};
-    for (const QVariant &other : others) {
-        expectRefusal("DE00994", "PackCmd failed: expected Formula type parameter", ofList, [&] {
-            const PackCmd command(List{0, other}, nullptr);
-        });
-    }
-    expectRefusal("DE00993", "PackCmd failed: incorrect Formula type parameter", ofList, [] {
-        const PackCmd command(List{0, unreadableFormulaVariant()}, nullptr);
-    });
-}
-
-TEST(PackCmd, leavesTheCountToTheBase)
-{
-    constexpr char tooFew[] = "PACK command : expected at least 2 parameters, received 1 instead!";
-    expectRefusal("DE00312", tooFew, ofBase, [] { const PackCmd command(arrayOf(0), nullptr); });
-    expectRefusal("DE00313", tooFew, ofListBase, [] { const PackCmd command(List{0}, nullptr); });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBase,
-                  [] { const PackCmd command(tenGramsValue(), nullptr); });
 }
 
 // ---------------------------------------------------------------- the check
@@ -293,12 +240,6 @@ TEST(PackCmd, sendsTheMovementInThePlaceOfSteps)
               (QList<int>{3, 1, 3, 0, 50, 1, 1})); // no stroke at all is no reason to leave it out
 }
 
-TEST(PackCmd, sendsNothingWithoutADispenser)
-{
-    EXPECT_EQ(PackCmd().serialParameters(1), QList<int>());
-    EXPECT_EQ(PackCmd(0, grams({{"1", 10}}), nullptr).serialParameters(1), QList<int>());
-}
-
 TEST(PackCmd, takesTheTimeOfItsFormulaOnItsOwnMachine)
 {
     const FW_Dispenser machine = dispenser();
@@ -314,12 +255,6 @@ TEST(PackCmd, takesTheTimeOfItsFormulaOnItsOwnMachine)
     }
     EXPECT_EQ(PackCmd(0, strokes({{"1", 3e18}}), &machine).getCmdEstimatedExecutionTime(nullptr), 0)
         << "steps beyond all numbers take no time that could be told";
-}
-
-TEST(PackCmd, isKnownToEveryFirmware)
-{
-    EXPECT_TRUE(PackCmd().isSupportedCommand(FW_Version()));
-    EXPECT_TRUE(PackCmd().isSupportedCommand(FW_Version(1, 0)));
 }
 
 // ---------------------------------------------------------------- words
@@ -338,15 +273,6 @@ TEST(PackCmd, saysWhatItDoes)
     EXPECT_EQ(unpack.commandString(), "Pump unpack");
     EXPECT_EQ(unpack.actionString(false).m_text, "Pump unpack in progress");
     EXPECT_EQ(unpack.actionString(true).m_text, "Pump unpack with formula: 1 10.000, 4 0.500");
-}
-
-TEST(PackCmd, hasFewWordsWithoutAMovement)
-{
-    const PackCmd command;
-    EXPECT_EQ(command.pumpMovementTypeStr(), "");
-    EXPECT_EQ(command.commandString(), "");
-    EXPECT_EQ(command.actionString(false).m_text, "In progress");
-    EXPECT_EQ(command.actionString(true).m_text, "In progress");
 }
 
 TEST(PackCmd, translatesItsWords)

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/primingcmd.h"
 
-#include "catalogue/protocommandlist.h"
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
 
-#include <QuvFramework/fw_exception.h>
-#include <QuvFramework/fw_version.h>
-
-#include <memory>
 #include <vector>
 
 namespace {
@@ -17,9 +13,6 @@ using namespace testing_dispensing;
 constexpr char ofFormula[] = "PrimingCmd::PrimingCmd(const Formula&, const FW_Dispenser*)";
 constexpr char ofValue[] = "PrimingCmd::PrimingCmd(const XmlRpc::XmlRpcValue&, const FW_Dispenser*)";
 constexpr char ofList[] = "PrimingCmd::PrimingCmd(QList<QVariant>, const FW_Dispenser*)";
-constexpr char ofBase[] =
-    "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-constexpr char ofListBase[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
 
 constexpr char badSign[] = "Formula stopped because of negative quantity values";
 constexpr char badUnit[] = "Formula stopped because of invalid quantity unit";
@@ -78,39 +71,52 @@ void expectTaken(const Formula &formula, const FW_Dispenser &machine)
 
 // ---------------------------------------------------------------- construction
 
-TEST(PrimingCmd, isEmptyAtFirst)
+Words primingOf(const char *formula)
 {
-    const PrimingCmd command;
-    EXPECT_EQ(command.command(), "PRIMING");
-    EXPECT_EQ(command.protoType(), 1);
-    EXPECT_EQ(command.formula(), Formula());
-    EXPECT_FALSE(command.machine());
-    EXPECT_EQ(command.moduleID(), 0);
+    return {"Priming", "Priming in progress", untranslated(formula)};
 }
 
-TEST(PrimingCmd, isRow15OfTheCatalogue)
-{
-    const CMD_STRUCT *row = ProtoCommandList::row(PrimingCmd().command());
-    ASSERT_TRUE(row);
-    EXPECT_EQ(row->id, 15);
-    EXPECT_EQ(row->code, "0017");
-}
-
-TEST(PrimingCmd, takesAFormulaInEveryForm)
+CommandFacts facts(const FW_Dispenser *machine)
 {
     const Formula formula = strokes({{"1", 1}});
-    for (const PrimingCmd &command :
-         {PrimingCmd(formula, nullptr), PrimingCmd(arrayOf(oneStrokeValue()), nullptr),
-          PrimingCmd(listOf(formula), nullptr), PrimingCmd(List{oneStrokeMap()}, nullptr)}) {
-        EXPECT_EQ(command.command(), "PRIMING");
-        EXPECT_EQ(command.protoType(), 1);
-        EXPECT_EQ(command.formula(), formula);
-        EXPECT_FALSE(command.machine());
-        EXPECT_EQ(command.parameters(), listOf(formula));
-        bool ok = false;
-        EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), dumped(arrayOf(oneStrokeValue())));
-        EXPECT_TRUE(ok);
-    }
+    CommandFacts facts(formsOf<PrimingCmd>(machine));
+    facts.catalogue = {"PRIMING", 15, "0017", 1};
+    facts.protoType = 1;
+    facts.valueFunction = ofValue;
+    facts.listFunction = ofList;
+    facts.arguments = {
+        required()
+            .refuses({unreadableFormula(), Value(7), Value("formula"), arrayOf(), structOf({})},
+                     {7, "formula", QVariant(), QVariantMap{}, QVariantMap{{"ids", List{"1"}}},
+                      List{oneStrokeMap()}},
+                     {"DE00497", "DE00494", "PrimingCmd failed: invalid Formula type parameter",
+                      "PrimingCmd failed: expected Formula type parameter"})
+            .refuses({}, {unreadableFormulaVariant()},
+                     {"", "DE00493", "PrimingCmd failed: incorrect Formula type parameter"})};
+    facts.getters = {getter(&PrimingCmd::formula)};
+    facts.defaults = Request()
+                         .parameters({variantOf(Formula())})
+                         .written(std::string("[") + emptyFormulaWritten + "]")
+                         .says(primingOf("Priming with formula: "));
+    const Request request =
+        Request({variantOf(formula)})
+            .value(arrayOf(oneStrokeValue()))
+            .typed<PrimingCmd>(formula, machine)
+            .written(
+                R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1"], "levels_policy": 0, )"
+                R"("quantities": [1.00000], "quantity_unit": 2}])")
+            .sends(machine ? QList<int>{3, 1, 1, 0, 50, 1, 1} : QList<int>())
+            .says(primingOf("Priming with formula: 1 1"));
+    facts.requests = {request, request.alsoFromList({oneStrokeMap()})};
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+TEST(PrimingCmd, keepsTheCommandContract)
+{
+    const FW_Dispenser machine = dispenser();
+    expectCommandContract(facts(nullptr));
+    expectCommandContract(facts(&machine));
 }
 
 TEST(PrimingCmd, goesRoundInBothForms)
@@ -119,8 +125,6 @@ TEST(PrimingCmd, goesRoundInBothForms)
     const PrimingCmd command(formula, nullptr);
     EXPECT_EQ(PrimingCmd(command.xmlrpc_parameters(), nullptr).formula(), formula);
     EXPECT_EQ(PrimingCmd(command.parameters(), nullptr).formula(), formula);
-    EXPECT_EQ(dumped(PrimingCmd(strokes({{"1", 1}}), nullptr).toXmlRpcValue(QString())),
-              dumped(arrayOf("PRIMING", oneStrokeValue())));
 }
 
 TEST(PrimingCmd, checksNothingWithoutADispenser)
@@ -131,65 +135,6 @@ TEST(PrimingCmd, checksNothingWithoutADispenser)
         EXPECT_EQ(PrimingCmd(arrayOf(formula.toXmlRpcValue()), nullptr).formula(), formula);
         EXPECT_EQ(PrimingCmd(listOf(formula), nullptr).formula(), formula);
     }
-}
-
-TEST(PrimingCmd, keepsItsDispenser)
-{
-    const FW_Dispenser machine = dispenser();
-    const PrimingCmd command(strokes({{"1", 1}}), &machine);
-    ASSERT_TRUE(command.machine());
-    EXPECT_NE(command.machine(), &machine);
-    EXPECT_EQ(command.machine()->id(), 7);
-}
-
-TEST(PrimingCmd, copiesDeeply)
-{
-    const FW_Dispenser machine = dispenser();
-    const PrimingCmd command(strokes({{"1", 1}}), &machine);
-    const PrimingCmd copy(command);
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    const auto *cloned = dynamic_cast<const PrimingCmd *>(clone.get());
-    ASSERT_TRUE(cloned);
-    for (const PrimingCmd *same : {&copy, cloned}) {
-        EXPECT_EQ(same->command(), "PRIMING");
-        EXPECT_EQ(same->formula(), command.formula());
-        EXPECT_NE(same->machine(), command.machine());
-        EXPECT_EQ(same->serialParameters(1), (QList<int>{3, 1, 1, 0, 50, 1, 1}));
-    }
-}
-
-TEST(PrimingCmd, refusesAValueThatIsNoFormula)
-{
-    for (const Value &bad : {unreadableFormula(), Value(7), Value("formula"), arrayOf(), structOf({})}) {
-        SCOPED_TRACE(dumped(bad));
-        expectRefusal("DE00497", "PrimingCmd failed: invalid Formula type parameter", ofValue,
-                      [&] { const PrimingCmd command(arrayOf(bad), nullptr); });
-    }
-}
-
-TEST(PrimingCmd, refusesAListWithoutAFormula)
-{
-    const List others = {7,
-                         QStringLiteral("formula"),
-                         QVariant(),
-                         QVariantMap{},
-                         QVariantMap{{"ids", List{"1"}}},
-                         List{oneStrokeMap()}};
-    for (const QVariant &other : others) {
-        expectRefusal("DE00494", "PrimingCmd failed: expected Formula type parameter", ofList,
-                      [&] { const PrimingCmd command(List{other}, nullptr); });
-    }
-    expectRefusal("DE00493", "PrimingCmd failed: incorrect Formula type parameter", ofList,
-                  [] { const PrimingCmd command(List{unreadableFormulaVariant()}, nullptr); });
-}
-
-TEST(PrimingCmd, leavesTheCountToTheBase)
-{
-    constexpr char tooFew[] = "PRIMING command : expected at least 1 parameters, received 0 instead!";
-    expectRefusal("DE00312", tooFew, ofBase, [] { const PrimingCmd command(arrayOf(), nullptr); });
-    expectRefusal("DE00313", tooFew, ofListBase, [] { const PrimingCmd command(List(), nullptr); });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBase,
-                  [] { const PrimingCmd command(oneStrokeValue(), nullptr); });
 }
 
 // ---------------------------------------------------------------- the check
@@ -307,44 +252,12 @@ TEST(PrimingCmd, countsButDoesNotSendCircuitsWithoutAWholeStroke)
     EXPECT_EQ(PrimingCmd(strokes({{"1", 0.4}}), &machine).serialParameters(1), (QList<int>{3, 1}));
 }
 
-TEST(PrimingCmd, sendsNothingWithoutADispenser)
-{
-    EXPECT_EQ(PrimingCmd().serialParameters(1), QList<int>());
-    EXPECT_EQ(PrimingCmd(strokes({{"1", 1}}), nullptr).serialParameters(1), QList<int>());
-}
-
-TEST(PrimingCmd, isKnownToEveryFirmwareAndTakesATimeThatNobodyKnows)
-{
-    const FW_Dispenser machine = dispenser();
-    const PrimingCmd command(strokes({{"1", 1}}), &machine);
-    EXPECT_TRUE(command.isSupportedCommand(FW_Version()));
-    EXPECT_TRUE(command.isSupportedCommand(FW_Version(1, 0)));
-    EXPECT_EQ(command.getCmdEstimatedExecutionTime(&machine), 0);
-    EXPECT_EQ(command.getCmdEstimatedExecutionTime(nullptr), 0);
-}
-
 // ---------------------------------------------------------------- words
 
 TEST(PrimingCmd, saysWhatItDoes)
 {
     const PrimingCmd command(strokes({{"1", 1}, {"3", 300}}), nullptr);
-    EXPECT_EQ(command.commandString(), "Priming");
-    EXPECT_EQ(command.actionString(false).m_text, "Priming in progress");
-    EXPECT_STREQ(command.actionString(false).m_context, "QuvProtocol");
     EXPECT_EQ(command.actionString(true).m_text, "Priming with formula: 1 1, 3 300");
-    EXPECT_STREQ(command.actionString(true).m_context, "");
-    EXPECT_EQ(PrimingCmd().actionString(true).m_text, "Priming with formula: ");
-}
-
-TEST(PrimingCmd, translatesTheShortTextAlone)
-{
-    const TranslatedTexts translated;
-    const PrimingCmd command(strokes({{"1", 1}}), nullptr);
-    EXPECT_EQ(command.commandString(), "Priming");
-    EXPECT_EQ(command.actionString(false).m_text, "Priming in progress");
-    EXPECT_EQ(command.actionString(false).m_translated, translation("Priming in progress"));
-    EXPECT_EQ(command.actionString(true).m_text, "Priming with formula: 1 1");
-    EXPECT_EQ(command.actionString(true).m_translated, "Priming with formula: 1 1");
 }
 
 // ---------------------------------------------------------------- defaults for programs

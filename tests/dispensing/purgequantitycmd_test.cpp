@@ -1,46 +1,82 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/purgequantitycmd.h"
 
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
 
-#include <memory>
 #include <type_traits>
 
 namespace {
 
 using namespace testing_dispensing;
+using Command = PurgeQuantityCmd;
 
 constexpr char ofRule[] = "PurgeQuantityCmd::PurgeQuantityCmd(double, bool, int)";
 constexpr char ofHead[] = "PurgeQuantityCmd::PurgeQuantityCmd(double, int, int)";
 constexpr char ofValue[] = "PurgeQuantityCmd::PurgeQuantityCmd(const XmlRpc::XmlRpcValue&)";
 constexpr char ofList[] = "PurgeQuantityCmd::PurgeQuantityCmd(QList<QVariant>)";
-constexpr char ofBaseValue[] =
-    "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-constexpr char ofBaseList[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
 constexpr char invalid[] = "PurgeQuantityCmd failed: invalid PurgeFormula type parameter";
 
-TEST(PurgeQuantityCmd, purgesOneStrokeUnlessToldOtherwise)
+Value purgeStruct(double quantity, int unit, bool onlyFilled, int head)
 {
-    const PurgeQuantityCmd command;
-    EXPECT_EQ(command.command(), "PURGE");
-    EXPECT_EQ(command.protoType(), 1);
-    EXPECT_FALSE(command.machine());
-    EXPECT_EQ(command.parameters(), (List{1.0, 2, false, 0}));
+    return structOf({{"purge_quantity", Value(quantity)},
+                     {"quantity_unit", Value(unit)},
+                     {"only_filled", Value(onlyFilled)},
+                     {"head", Value(head)}});
 }
 
-TEST(PurgeQuantityCmd, isBuiltInAnyForm)
+Words purgeOf(const char *formula)
 {
-    EXPECT_EQ(PurgeQuantityCmd(2.5, true, 3).parameters(), (List{2.5, 3, true, 0}));
-    EXPECT_EQ(PurgeQuantityCmd(2.5, 2, 3).parameters(), (List{2.5, 3, false, 2}));
-    EXPECT_EQ(PurgeQuantityCmd(PurgeFormula(4, 1, 1)).parameters(), (List{4.0, 1, false, 1}));
-    EXPECT_EQ(PurgeQuantityCmd(List{2.5, 3, true, 2}).parameters(), (List{2.5, 3, true, 2}));
-    EXPECT_EQ(PurgeQuantityCmd(arrayOf(structOf({{"purge_quantity", Value(2.5)},
-                                                 {"quantity_unit", Value(1)},
-                                                 {"only_filled", Value(true)},
-                                                 {"head", Value(2)}})))
-                  .parameters(),
-              (List{2.5, 1, true, 2}));
-    EXPECT_EQ(PurgeQuantityCmd(2.5, 2, 3).purgeFormula(), PurgeFormula(2.5, 2, 3));
+    return {"Purge", "Purge in progress", formula};
+}
+
+CommandFacts facts()
+{
+    CommandFacts facts(formsOf<Command>());
+    facts.catalogue = {"PURGE", 17, "0017", 1};
+    facts.protoType = 1;
+    facts.readsByHand = true; // a struct, or the four members in their order
+    facts.getters = {getter(&Command::purgeFormula)};
+    facts.defaults =
+        Request()
+            .parameters({1.0, 2, false, 0})
+            .written(R"([{"head": 0, "only_filled": false, "purge_quantity": 1.00000, "quantity_unit": 2}])")
+            .holds({variantOf(PurgeFormula())})
+            .says(purgeOf("Purge of formula: 1 strokes of each circuit"));
+    facts.requests = {
+        Request({2.5, 3, true, 0})
+            .value(arrayOf(purgeStruct(2.5, 3, true, 0)))
+            .typed<Command>(2.5, true, 3)
+            .written(R"([{"head": 0, "only_filled": true, "purge_quantity": 2.50000, "quantity_unit": 3}])")
+            .holds({variantOf(PurgeFormula(2.5, true, 3))})
+            .says(purgeOf("Purge of formula: 2.5 of each circuit")),
+        Request({2.5, 2, false, 2})
+            .value(arrayOf(purgeStruct(2.5, 2, false, 2)))
+            .typed<Command>(2.5, 2, 2)
+            .written(R"([{"head": 2, "only_filled": false, "purge_quantity": 2.50000, "quantity_unit": 2}])")
+            .holds({variantOf(PurgeFormula(2.5, 2, 2))})
+            .says(purgeOf("Purge of formula: 2.5 strokes of each circuit")),
+        Request({4.0, 1, false, 1})
+            .value(arrayOf(purgeStruct(4, 1, false, 1)))
+            .typed<Command>(PurgeFormula(4, 1, 1))
+            .written(R"([{"head": 1, "only_filled": false, "purge_quantity": 4.00000, "quantity_unit": 1}])")
+            .holds({variantOf(PurgeFormula(4, 1, 1))})
+            .says(purgeOf("Purge of formula: 4 steps of each circuit")),
+    };
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+TEST(PurgeQuantityCmd, keepsTheCommandContract)
+{
+    expectCommandContract(facts());
+}
+
+TEST(PurgeQuantityCmd, takesAHeadAndARuleAtOnceFromAClient)
+{
+    const List both = {2.5, 3, true, 2};
+    EXPECT_EQ(PurgeQuantityCmd(both).parameters(), both);
+    EXPECT_EQ(PurgeQuantityCmd(arrayOf(purgeStruct(2.5, 1, true, 2))).parameters(), (List{2.5, 1, true, 2}));
 }
 
 TEST(PurgeQuantityCmd, takesAPurgeThatIsTheWholeRequest)
@@ -56,20 +92,6 @@ TEST(PurgeQuantityCmd, takesAPurgeThatIsTheWholeRequest)
             const PurgeQuantityCmd none(structOf({{"purge_quantity", bad}}));
         });
     }
-}
-
-TEST(PurgeQuantityCmd, isWrittenAsOneStruct)
-{
-    const PurgeQuantityCmd command(2.5, true, 3);
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)),
-              R"([{"head": 0, "only_filled": true, "purge_quantity": 2.50000, "quantity_unit": 3}])");
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(
-        dumped(command.toXmlRpcValue("user")),
-        R"(["user", "PURGE", {"head": 0, "only_filled": true, "purge_quantity": 2.50000, "quantity_unit": 3}])");
-    EXPECT_EQ(PurgeQuantityCmd(command.xmlrpc_parameters()).purgeFormula(), PurgeFormula(2.5, true, 3));
-    EXPECT_EQ(PurgeQuantityCmd(command.parameters()).purgeFormula(), PurgeFormula(2.5, true, 3));
 }
 
 TEST(PurgeQuantityCmd, refusesWhatIsNoPurge)
@@ -89,56 +111,12 @@ TEST(PurgeQuantityCmd, refusesWhatIsNoPurge)
     }
 }
 
-TEST(PurgeQuantityCmd, countsItsArgumentsFirst)
-{
-    expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBaseValue,
-                  [] { const PurgeQuantityCmd command{Value()}; });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue, [] {
-        const PurgeQuantityCmd command(structOf({{"head", Value(1)}}));
-    });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue,
-                  [] { const PurgeQuantityCmd command(Value(2.5)); });
-    expectRefusal("DE00312", "PURGE command : expected at least 1 parameters, received 0 instead!",
-                  ofBaseValue, [] { const PurgeQuantityCmd command(arrayOf()); });
-    expectRefusal("DE00313", "PURGE command : expected at least 1 parameters, received 0 instead!",
-                  ofBaseList, [] { const PurgeQuantityCmd command{List()}; });
-}
-
 TEST(PurgeQuantityCmd, doesNotMistakeOtherArgumentsForAPurge)
 {
     static_assert(!std::is_constructible_v<PurgeQuantityCmd, bool>);
     static_assert(!std::is_constructible_v<PurgeQuantityCmd, int>);
     static_assert(!std::is_constructible_v<PurgeQuantityCmd, double>);
     static_assert(!std::is_constructible_v<PurgeQuantityCmd, const char *>);
-}
-
-TEST(PurgeQuantityCmd, copiesThePurge)
-{
-    const PurgeQuantityCmd command(2.5, true, 3);
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    const auto *purging = dynamic_cast<const PurgeQuantityCmd *>(clone.get());
-    ASSERT_TRUE(purging);
-    EXPECT_EQ(purging->purgeFormula(), PurgeFormula(2.5, true, 3));
-}
-
-TEST(PurgeQuantityCmd, hasNoSerialFormAndNoTime)
-{
-    const FW_Dispenser machine = dispenser();
-    EXPECT_EQ(PurgeQuantityCmd().serialParameters(1), QList<int>());
-    EXPECT_EQ(PurgeQuantityCmd().getCmdEstimatedExecutionTime(&machine), 0);
-}
-
-TEST(PurgeQuantityCmd, saysWhatItPurges)
-{
-    const PurgeQuantityCmd command(2.5, 2, 2);
-    const TranslatedTexts translated;
-    EXPECT_EQ(command.commandString(), "Purge");
-    EXPECT_EQ(command.actionString(false).m_text, "Purge in progress");
-    EXPECT_EQ(command.actionString(false).m_translated, translation("Purge in progress"));
-    EXPECT_EQ(command.actionString(true).m_text, "Purge of formula: 2.5 strokes of each circuit");
-    EXPECT_EQ(command.actionString(true).m_translated,
-              translation("Purge of formula: 2.5 strokes of each circuit"));
-    EXPECT_STREQ(command.actionString(true).m_context, "QuvProtocol");
 }
 
 } // namespace

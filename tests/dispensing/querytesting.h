@@ -60,15 +60,6 @@ inline Value negativeFormulaStruct()
     return value;
 }
 
-inline QVariant variantOf(const Formula &held)
-{
-    return QVariant::fromValue(held);
-}
-inline QVariant variantOf(const PurgeFormula &held)
-{
-    return QVariant::fromValue(held);
-}
-
 inline Value envelope(int retCode, const Value &result)
 {
     return structOf({{"ret_code", Value(retCode)},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/tintcmd.h"
 
+#include "base/commandcontract.h"
 #include "catalogue/protocommandlist.h"
 #include "dispensing/dispensertesting.h"
 
@@ -16,9 +17,6 @@ using namespace testing_dispensing;
 constexpr char ofFormula[] = "TintCmd::TintCmd(const Formula&, const FW_Dispenser*)";
 constexpr char ofValue[] = "TintCmd::TintCmd(const XmlRpc::XmlRpcValue&, const FW_Dispenser*)";
 constexpr char ofList[] = "TintCmd::TintCmd(QList<QVariant>, const FW_Dispenser*)";
-constexpr char ofBaseValue[] =
-    "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-constexpr char ofBaseList[] = "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)";
 
 constexpr char noValve[] = "Nozzle valve ID is missing in steps based formula";
 constexpr char badValve[] =
@@ -64,76 +62,83 @@ void expectAccepted(const Formula &formula, const FW_Dispenser &machine)
 
 // ---------------------------------------------------------------- construction
 
-TEST(TintCmd, isEmptyAtFirst)
+Argument formulaArgument()
 {
-    TintCmd command;
-    EXPECT_EQ(command.command(), "TINT");
-    EXPECT_EQ(command.protoType(), 1);
-    EXPECT_FALSE(command.machine());
-    EXPECT_EQ(command.formula(), Formula());
-    EXPECT_EQ(command.serialParameters(1), QList<int>());
-    command.setDefaults();
-    EXPECT_EQ(command.command(), "TINT");
+    return required()
+        .refuses(
+            {Value(1), Value("B"), arrayOf(), structOf({{"quantity_unit", Value(3)}}), unreadableFormula()},
+            {QVariant(), 1, "B", QVariantMap(), QVariantMap{{"quantity_unit", 3}}, variantOf(PurgeFormula())},
+            {"DE00437", "DE00439", "TintCmd failed: invalid Formula type parameter",
+             "TintCmd failed: expected Formula type parameter"})
+        .refuses({}, {unreadableFormulaVariant()},
+                 {"", "DE00775", "TintCmd failed: incorrect Formula type parameter"});
 }
 
-TEST(TintCmd, keepsItsFormulaWhenItGoesBackToItsDefaults)
+Words tintOf(const char *formula)
 {
-    TintCmd command(grams({{"1", 30}}), nullptr);
-    command.setDefaults();
-    EXPECT_EQ(command.formula(), grams({{"1", 30}}));
+    return {"Dispense", "Dispensing in progress", untranslated(formula)};
 }
 
-TEST(TintCmd, hasItsRowsInTheCatalogue)
+CommandFacts facts(const FW_Dispenser *machine)
+{
+    const Formula formula = grams({{"1", 30}, {"2", 1}});
+    const Formula queued = grams({{"1", 30, 7}, {"2", 1.5}});
+    CommandFacts facts(formsOf<TintCmd>(machine));
+    facts.catalogue = {"TINT", 8, "0017", 1};
+    facts.protoType = 1;
+    facts.valueFunction = ofValue;
+    facts.listFunction = ofList;
+    facts.arguments = {formulaArgument()};
+    facts.getters = {getter(&TintCmd::formula)};
+    facts.defaults = Request()
+                         .parameters({variantOf(Formula())})
+                         .written(std::string("[") + emptyFormulaWritten + "]")
+                         .says(tintOf(""));
+    const Request request =
+        Request({variantOf(formula)})
+            .value(arrayOf(structOf({{"formula_type", Value(1)},
+                                     {"quantity_unit", Value(3)},
+                                     {"ids", arrayOf("1", "2")},
+                                     {"quantities", arrayOf(30.0, 1.0)}})))
+            .typed<TintCmd>(formula, machine)
+            .written(R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "2"], )"
+                     R"("levels_policy": 0, "quantities": [30.0000, 1.00000], "quantity_unit": 3}])")
+            .sends(machine ? QList<int>{2, 2, 1, 31, 40, 2, 54, 1, 2, 32, 40, 1, 10} : QList<int>())
+            .says(tintOf("1 30.000, 2 1.000"));
+    facts.requests = {
+        request,
+        request.alsoFromList({QVariantMap{{"formula_type", 1},
+                                          {"quantity_unit", 3},
+                                          {"ids", QVariantList{"1", "2"}},
+                                          {"quantities", QVariantList{30.0, 1.0}}}}),
+        Request({variantOf(queued)})
+            .value(arrayOf(queued.toXmlRpcValue()))
+            .typed<TintCmd>(queued, machine)
+            .written(
+                R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "2"], "levels_policy": 0, )"
+                R"("quantities": [30.0000, 1.50000], "quantity_unit": 3, "queue_ids": [7, 0]}])")
+            .sends(machine ? QList<int>{2, 2, 1, 7, 40, 2, 54, 1, 2, 32, 40, 1, 15} : QList<int>())
+            .says(tintOf("1 30.000, 2 1.500")),
+    };
+    facts.afterDefaults = request;
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+TEST(TintCmd, keepsTheCommandContract)
+{
+    const FW_Dispenser machine = dispenser();
+    expectCommandContract(facts(nullptr));
+    expectCommandContract(facts(&machine));
+}
+
+TEST(TintCmd, hasTwoRowsInTheCatalogue)
 {
     TintCmd command;
-    ASSERT_TRUE(ProtoCommandList::row(command.command()));
-    EXPECT_EQ(ProtoCommandList::row(command.command())->id, 8);
-    EXPECT_EQ(ProtoCommandList::row(command.command())->code, "0017");
     ASSERT_TRUE(command.setCommand("TINT2"));
     ASSERT_TRUE(ProtoCommandList::row(command.command()));
     EXPECT_EQ(ProtoCommandList::row(command.command())->id, 155);
     EXPECT_EQ(ProtoCommandList::row(command.command())->code, "0035");
-}
-
-TEST(TintCmd, isBuiltOfAFormulaInAnyForm)
-{
-    const FW_Dispenser machine = dispenser();
-    const Formula formula = grams({{"1", 30}, {"2", 1}});
-    const Value value = arrayOf(structOf({{"formula_type", Value(1)},
-                                          {"quantity_unit", Value(3)},
-                                          {"ids", arrayOf("1", "2")},
-                                          {"quantities", arrayOf(30.0, 1.0)}}));
-    const List map = {QVariantMap{{"formula_type", 1},
-                                  {"quantity_unit", 3},
-                                  {"ids", QVariantList{"1", "2"}},
-                                  {"quantities", QVariantList{30.0, 1.0}}}};
-    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine}) {
-        for (const TintCmd &command :
-             {TintCmd(formula, given), TintCmd(value, given),
-              TintCmd(List{QVariant::fromValue(formula)}, given), TintCmd(map, given)}) {
-            EXPECT_EQ(command.command(), "TINT");
-            EXPECT_EQ(command.formula(), formula);
-            EXPECT_EQ(command.machine() != nullptr, given != nullptr);
-            if (given) {
-                EXPECT_NE(command.machine(), given);
-            }
-        }
-    }
-}
-
-TEST(TintCmd, isWrittenAsItsFormula)
-{
-    const TintCmd command(grams({{"1", 30, 7}, {"2", 1.5}}), nullptr);
-    bool ok = false;
-    EXPECT_EQ(
-        dumped(command.xmlrpc_parameters(&ok)),
-        R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "2"], )"
-        R"("levels_policy": 0, "quantities": [30.0000, 1.50000], "quantity_unit": 3, "queue_ids": [7, 0]}])");
-    EXPECT_TRUE(ok);
-    EXPECT_NO_THROW(command.xmlrpc_parameters());
-    ASSERT_EQ(command.parameters().size(), 1);
-    EXPECT_EQ(command.parameters().constFirst().userType(), qMetaTypeId<Formula>());
-    EXPECT_EQ(command.parameters().constFirst().value<Formula>(), grams({{"1", 30, 7}, {"2", 1.5}}));
 }
 
 TEST(TintCmd, readsWhatItWrote)
@@ -144,40 +149,6 @@ TEST(TintCmd, readsWhatItWrote)
     const TintCmd command(formula, nullptr);
     EXPECT_EQ(TintCmd(command.xmlrpc_parameters(), nullptr).formula(), formula);
     EXPECT_EQ(TintCmd(command.parameters(), nullptr).formula(), formula);
-}
-
-TEST(TintCmd, refusesWhatCannotBeReadAsAFormula)
-{
-    const FW_Dispenser machine = dispenser();
-    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine}) {
-        for (const Value &bad : {Value(1), Value("B"), arrayOf(), structOf({{"quantity_unit", Value(3)}}),
-                                 unreadableFormula()}) {
-            SCOPED_TRACE(dumped(bad));
-            expectRefusal("DE00437", "TintCmd failed: invalid Formula type parameter", ofValue,
-                          [&] { TintCmd(arrayOf(bad), given); });
-        }
-        for (const QVariant &other :
-             {QVariant(), QVariant(1), QVariant("B"), QVariant(QVariantMap()),
-              QVariant(QVariantMap{{"quantity_unit", 3}}), QVariant::fromValue(PurgeFormula())}) {
-            expectRefusal("DE00439", "TintCmd failed: expected Formula type parameter", ofList,
-                          [&] { TintCmd(List{other}, given); });
-        }
-        expectRefusal("DE00775", "TintCmd failed: incorrect Formula type parameter", ofList,
-                      [&] { TintCmd(List{unreadableFormulaVariant()}, given); });
-    }
-}
-
-TEST(TintCmd, countsItsArgumentsFirst)
-{
-    expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBaseValue,
-                  [] { TintCmd(Value(), nullptr); });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue, [] {
-        TintCmd(grams({{"1", 30}}).toXmlRpcValue(), nullptr);
-    });
-    expectRefusal("DE00312", "TINT command : expected at least 1 parameters, received 0 instead!",
-                  ofBaseValue, [] { TintCmd(arrayOf(), nullptr); });
-    expectRefusal("DE00313", "TINT command : expected at least 1 parameters, received 0 instead!", ofBaseList,
-                  [] { TintCmd(List(), nullptr); });
 }
 
 TEST(TintCmd, copiesDeeply)
@@ -346,12 +317,6 @@ TEST(TintCmd, sendsNoStepsAsOneStep)
     EXPECT_EQ(TintCmd::getSerialParameters({item}, 0, false, false), (QList<int>{0, 1, 1, 0, 40, 1, 1}));
 }
 
-TEST(TintCmd, sendsNothingWithoutADispenser)
-{
-    EXPECT_EQ(TintCmd(grams({{"1", 30}}), nullptr).serialParameters(1), QList<int>());
-    EXPECT_EQ(TintCmd(grams({{"1", -30}}), nullptr).serialParameters(1), QList<int>());
-}
-
 TEST(TintCmd, sendsMoreOfEachCircuitAsTint2)
 {
     EXPECT_EQ(tint2(grams({{"1", 30}, {"2", 1}}), dispenser()).serialParameters(1),
@@ -489,19 +454,5 @@ TEST(TintCmd, takesNoTimeThatCannotBeTold)
 }
 
 // ---------------------------------------------------------------- texts
-
-TEST(TintCmd, saysWhatItPours)
-{
-    const TintCmd command(grams({{"1", 30}, {"2", 0.5}}), nullptr);
-    const TranslatedTexts translated;
-    EXPECT_EQ(command.commandString(), "Dispense");
-    EXPECT_EQ(command.actionString(false).m_text, "Dispensing in progress");
-    EXPECT_EQ(command.actionString(false).m_translated, translation("Dispensing in progress"));
-    EXPECT_STREQ(command.actionString(false).m_context, "QuvProtocol");
-    EXPECT_EQ(command.actionString(true).m_text, "1 30.000, 2 0.500");
-    EXPECT_EQ(command.actionString(true).m_translated, "1 30.000, 2 0.500");
-    EXPECT_STREQ(command.actionString(true).m_context, "");
-    EXPECT_EQ(TintCmd().actionString(true).m_text, "");
-}
 
 } // namespace
