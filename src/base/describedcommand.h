@@ -44,7 +44,6 @@ public:
     ~DescribedCommand() override;
 
     Base *clone() const override = 0; // each class writes its own: a forgotten one does not compile
-    void setDefaults();               ///< all arguments as in a command that was built without any
 
     QList<QVariant> parameters() const override;
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
@@ -67,6 +66,9 @@ protected:
     explicit DescribedCommand(const XmlRpc::XmlRpcValue &value, const FW_Machine *machine = nullptr);
     explicit DescribedCommand(const QList<QVariant> &list, const FW_Machine *machine = nullptr);
     DescribedCommand(const DescribedCommand &other);
+
+    /** All arguments as in a command that was built without any; for a class to make public. */
+    void setDefaults();
 
     // Both read the arguments as the description tells; refusals name the \a function.
     void read(const XmlRpc::XmlRpcValue &value, const char *function);

@@ -18,6 +18,7 @@ public:
     explicit ReadConfigurationParamCmd(QList<QVariant> list); ///< the same as a list, with the same codes
 
     ReadConfigurationParamCmd *clone() const override;
+    using DescribedCommand::setDefaults;
 
     int commandCode() const { return m_code; }
     int id() const { return m_id; }

@@ -21,6 +21,7 @@ public:
     Pack2Cmd(QList<QVariant> list, const FW_Dispenser *dispenser);
 
     Pack2Cmd *clone() const override;
+    using DescribedCommand::setDefaults;
 
     /** DE02325 no dispenser, DE02326 no circuits, DE02327 a circuit not enabled. */
     bool checkFormula(FW_DriverError &error) const;

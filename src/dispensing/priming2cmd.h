@@ -21,6 +21,7 @@ public:
     Priming2Cmd(QList<QVariant> list, const FW_Dispenser *dispenser);
 
     Priming2Cmd *clone() const override;
+    using DescribedCommand::setDefaults;
 
     /** DE02313 no dispenser, DE02314 no circuits, DE02315 a circuit not enabled, DE02316 one without strokes. */
     bool checkFormula(FW_DriverError &error) const;

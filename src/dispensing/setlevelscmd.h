@@ -26,6 +26,7 @@ public:
     explicit SetLevelsCmd(QList<QVariant> list);
 
     SetLevelsCmd *clone() const override;
+    using DescribedCommand::setDefaults;
 
     const Formula &formula() const { return m_formula; }
     bool delta() const { return m_delta; }   ///< true: the quantities are changes, not new levels

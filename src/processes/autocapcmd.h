@@ -33,6 +33,7 @@ public:
     explicit AutocapCmd(const char *) = delete;
 
     AutocapCmd *clone() const override;
+    using DescribedCommand::setDefaults;
 
     /** Empty, and \a ok false, for no movement. */
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;

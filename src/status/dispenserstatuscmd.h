@@ -21,4 +21,5 @@ public:
     explicit DispenserStatusCmd(const char *) = delete;
 
     DispenserStatusCmd *clone() const override;
+    using DescribedCommand::setDefaults;
 };
