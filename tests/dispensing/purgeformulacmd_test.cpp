@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/purgeformulacmd.h"
 
-#include "catalogue/protocommandlist.h"
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
 
 #include <QuvFramework/fw_mixer.h>
@@ -61,23 +61,60 @@ void expectRefused(const char *code, const char *text, const Formula &formula, c
 
 // ---------------------------------------------------------------- construction
 
-TEST(PurgeFormulaCmd, takesAFormulaInAnyForm)
+CommandFacts facts(const FW_Dispenser &machine)
 {
-    const FW_Dispenser machine = dispenser();
     const Formula formula = grams({{"1", 30}, {"2", 1}});
-    const List map = {QVariantMap{{"formula_type", 1},
-                                  {"quantity_unit", 3},
-                                  {"ids", QVariantList{"1", "2"}},
-                                  {"quantities", QVariantList{30.0, 1.0}}}};
-    for (const PurgeFormulaCmd &command :
-         {PurgeFormulaCmd(formula, &machine), PurgeFormulaCmd(arrayOf(formula.toXmlRpcValue()), &machine),
-          PurgeFormulaCmd(List{QVariant::fromValue(formula)}, &machine), PurgeFormulaCmd(map, &machine)}) {
-        EXPECT_EQ(command.command(), "PURGE");
-        EXPECT_EQ(command.protoType(), 1);
-        EXPECT_EQ(command.formula(), formula);
-        ASSERT_TRUE(command.machine());
-        EXPECT_NE(command.machine(), &machine);
-    }
+    CommandFacts facts(formsOf<PurgeFormulaCmd>(&machine));
+    facts.catalogue = {"PURGE", 17, "0017", 1};
+    facts.protoType = 1;
+    facts.readsByHand = true;           // two kinds of formula
+    facts.valueIsCheckedByBase = false; // a struct is a request, too
+    facts.getters = {getter(&PurgeFormulaCmd::formula)};
+    const Request pouring =
+        Request({variantOf(formula)})
+            .value(arrayOf(formula.toXmlRpcValue()))
+            .typed<PurgeFormulaCmd>(formula, &machine)
+            .written(R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "2"], )"
+                     R"("levels_policy": 0, "quantities": [30.0000, 1.00000], "quantity_unit": 3}])")
+            .sends({2, 2, 1, 31, 40, 2, 54, 1, 2, 32, 40, 1, 10})
+            .takes(2250 + 75)
+            .says({"Purge", "Purge in progress", "Purge of formula: 1 30.000, 2 1.000"});
+    const Request purging =
+        Request({variantOf(PurgeFormula())})
+            .value(arrayOf(oneStroke()))
+            .parameters({variantOf(oneStrokeOfAll())})
+            .written(
+                R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "2", "3", "4"], )"
+                R"("levels_policy": 0, "quantities": [1.00000, 1.00000, 1.00000, 1.00000], "quantity_unit": 2}])")
+            .sends({2,  4, 1,  31, 50, 2,  48, 12, 2,  32, 50, 2,  48,
+                    12, 3, 33, 50, 2,  48, 12, 4,  34, 50, 2,  48, 12})
+            .takes(4 * 18000)
+            .says({"Purge", "Purge in progress", "Purge of formula: 1 1, 2 1, 3 1, 4 1"});
+    facts.requests = {
+        pouring,
+        pouring.alsoFromList({QVariantMap{{"formula_type", 1},
+                                          {"quantity_unit", 3},
+                                          {"ids", QVariantList{"1", "2"}},
+                                          {"quantities", QVariantList{30.0, 1.0}}}}),
+        purging,
+        purging.alsoFromValue(oneStroke()),
+        purging.alsoFromList({QVariantMap{{"purge_quantity", 1.0}, {"quantity_unit", 2}}}),
+    };
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+TEST(PurgeFormulaCmd, keepsTheCommandContract)
+{
+    const DebugLog quiet;
+    expectCommandContract(facts(dispenser()));
+}
+
+TEST(PurgeFormulaCmd, purgesTheCircuitsOfOneHead)
+{
+    const FW_Dispenser dual = dualHead();
+    EXPECT_EQ(PurgeFormulaCmd(List{QVariant::fromValue(PurgeFormula(5, 2, 3))}, &dual).formula(),
+              grams({{"3", 5}, {"4", 5}}));
 }
 
 TEST(PurgeFormulaCmd, makesTheFormulaOneForTheDispenser)
@@ -90,23 +127,6 @@ TEST(PurgeFormulaCmd, makesTheFormulaOneForTheDispenser)
     EXPECT_EQ(PurgeFormulaCmd(arrayOf(asked.toXmlRpcValue()), &machine).formula(), built);
     EXPECT_EQ(PurgeFormulaCmd(List{QVariant::fromValue(asked)}, &machine).formula(), built);
     EXPECT_EQ(PurgeFormulaCmd(asked, nullptr).formula(), asked) << "a client only passes it on";
-}
-
-TEST(PurgeFormulaCmd, takesAPurgeByQuantity)
-{
-    const FW_Dispenser machine = dispenser();
-    const List map = {QVariantMap{{"purge_quantity", 1.0}, {"quantity_unit", 2}}};
-    for (const PurgeFormulaCmd &command :
-         {PurgeFormulaCmd(arrayOf(oneStroke()), &machine), PurgeFormulaCmd(oneStroke(), &machine),
-          PurgeFormulaCmd(List{QVariant::fromValue(PurgeFormula())}, &machine),
-          PurgeFormulaCmd(map, &machine)}) {
-        EXPECT_EQ(command.command(), "PURGE");
-        EXPECT_EQ(command.formula(), oneStrokeOfAll());
-        EXPECT_TRUE(command.machine());
-    }
-    const FW_Dispenser dual = dualHead();
-    EXPECT_EQ(PurgeFormulaCmd(List{QVariant::fromValue(PurgeFormula(5, 2, 3))}, &dual).formula(),
-              grams({{"3", 5}, {"4", 5}}));
 }
 
 TEST(PurgeFormulaCmd, looksForAFormulaBeforeAPurge)
@@ -196,21 +216,6 @@ TEST(PurgeFormulaCmd, checksWhatAPurgeByQuantityBecame)
     expectRefusal("DE01215", badSteps, ofValue, [&] { PurgeFormulaCmd(tenGrams.toXmlRpcValue(), &machine); });
     expectRefusal("DE01215", badSteps, ofList,
                   [&] { PurgeFormulaCmd(List{QVariant::fromValue(tenGrams)}, &machine); });
-}
-
-TEST(PurgeFormulaCmd, isWrittenAsItsFormula)
-{
-    const FW_Dispenser machine = dispenser();
-    const PurgeFormulaCmd command = purge(grams({{"1", 30}}), machine);
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)),
-              R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1"], )"
-              R"("levels_policy": 0, "quantities": [30.0000], "quantity_unit": 3}])");
-    EXPECT_TRUE(ok);
-    ASSERT_EQ(command.parameters().size(), 1);
-    EXPECT_EQ(command.parameters().constFirst().value<Formula>(), grams({{"1", 30}}));
-    EXPECT_EQ(PurgeFormulaCmd(command.xmlrpc_parameters(), &machine).formula(), grams({{"1", 30}}));
-    EXPECT_EQ(PurgeFormulaCmd(command.parameters(), &machine).formula(), grams({{"1", 30}}));
 }
 
 TEST(PurgeFormulaCmd, copiesDeeply)
@@ -350,17 +355,5 @@ TEST(PurgeFormulaCmd, takesNoTimeThatCannotBeTold)
 }
 
 // ---------------------------------------------------------------- texts
-
-TEST(PurgeFormulaCmd, saysWhatItPurges)
-{
-    const PurgeFormulaCmd command(grams({{"1", 30}, {"2", 0.5}}), nullptr);
-    const TranslatedTexts translated;
-    EXPECT_EQ(command.commandString(), "Purge");
-    EXPECT_EQ(command.actionString(false).m_text, "Purge in progress");
-    EXPECT_EQ(command.actionString(false).m_translated, translation("Purge in progress"));
-    EXPECT_EQ(command.actionString(true).m_text, "Purge of formula: 1 30.000, 2 0.500");
-    EXPECT_EQ(command.actionString(true).m_translated, translation("Purge of formula: 1 30.000, 2 0.500"));
-    EXPECT_STREQ(command.actionString(true).m_context, "QuvProtocol");
-}
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/turntablepurgeformulacmd.h"
 
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
 
 #include <QuvFramework/purgeformula.h>
@@ -25,20 +26,44 @@ Formula threeCircuits()
     return grams({{"1", 80}, {"3", 40}, {"4", 8}});
 }
 
+CommandFacts facts(const FW_Dispenser *machine)
+{
+    using Command = TurntablePurgeFormulaCmd;
+    const Formula formula = threeCircuits();
+    CommandFacts facts(formsOf<Command>(machine));
+    facts.forms.ofValue = [machine](const Value &value) -> Made {
+        return std::make_unique<Command>(value, 3, machine);
+    };
+    facts.forms.valueMachine = machine;
+    facts.catalogue = {"PURGE", 17, "0017", 1};
+    facts.protoType = 1;
+    facts.readsByHand = true;           // the position is the last element of a list, and not in a value
+    facts.valueIsCheckedByBase = false; // a struct is a request, too
+    facts.getters = {getter(&Command::formula), getter(&Command::currentPosition)};
+    facts.words = {"Purge", "Purge in progress", "Purge of formula: 1 80.000, 3 40.000, 4 8.000"};
+    facts.requests = {
+        Request({variantOf(formula), 3})
+            .value(arrayOf(formula.toXmlRpcValue()))
+            .typed<Command>(formula, 3, machine)
+            .written(R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "3", "4"], )"
+                     R"("levels_policy": 0, "quantities": [80.0000, 40.0000, 8.00000], "quantity_unit": 3}])")
+            .sends({2, 3, 3, 33, 40, 2, 154, 1, 4, 34, 40, 1, 80, 1, 31, 40, 2, 62, 3})
+            .takes(9600)};
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+TEST(TurntablePurgeFormulaCmd, keepsTheCommandContract)
+{
+    const DebugLog quiet;
+    const FW_Dispenser machine = withTurntable();
+    expectCommandContract(facts(&machine));
+}
+
 TEST(TurntablePurgeFormulaCmd, isAPurgeWithAPosition)
 {
     const FW_Dispenser machine = withTurntable();
-    const Formula formula = threeCircuits();
-    for (const TurntablePurgeFormulaCmd &command :
-         {TurntablePurgeFormulaCmd(formula, 3, &machine),
-          TurntablePurgeFormulaCmd(arrayOf(formula.toXmlRpcValue()), 3, &machine),
-          TurntablePurgeFormulaCmd(List{QVariant::fromValue(formula), 3}, &machine)}) {
-        EXPECT_EQ(command.command(), "PURGE");
-        EXPECT_EQ(command.formula(), formula);
-        EXPECT_EQ(command.currentPosition(), 3);
-        EXPECT_TRUE(command.machine());
-    }
-    EXPECT_EQ(TurntablePurgeFormulaCmd(formula, 3, nullptr).currentPosition(), 3);
+    EXPECT_EQ(TurntablePurgeFormulaCmd(threeCircuits(), 3, nullptr).currentPosition(), 3);
     EXPECT_EQ(
         TurntablePurgeFormulaCmd(List{QVariant::fromValue(PurgeFormula()), true, 2}, &machine).formula(),
         strokes({{"1", 1}, {"2", 1}, {"3", 1}, {"4", 1}}));
@@ -68,32 +93,6 @@ TEST(TurntablePurgeFormulaCmd, refusesWhatAPurgeRefuses)
     });
 }
 
-TEST(TurntablePurgeFormulaCmd, writesThePositionOnlyForItsOwnClient)
-{
-    const FW_Dispenser machine = withTurntable();
-    const TurntablePurgeFormulaCmd command(threeCircuits(), 3, &machine);
-    EXPECT_EQ(dumped(command.xmlrpc_parameters()),
-              R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "3", "4"], )"
-              R"("levels_policy": 0, "quantities": [80.0000, 40.0000, 8.00000], "quantity_unit": 3}])");
-    const List parameters = command.parameters();
-    ASSERT_EQ(parameters.size(), 2);
-    EXPECT_EQ(parameters.at(0).value<Formula>(), threeCircuits());
-    EXPECT_EQ(parameters.at(1), QVariant(3));
-    EXPECT_EQ(TurntablePurgeFormulaCmd(parameters, &machine).currentPosition(), 3);
-}
-
-TEST(TurntablePurgeFormulaCmd, copiesThePosition)
-{
-    const FW_Dispenser machine = withTurntable();
-    const TurntablePurgeFormulaCmd command(threeCircuits(), 3, &machine);
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    const auto *purging = dynamic_cast<const TurntablePurgeFormulaCmd *>(clone.get());
-    ASSERT_TRUE(purging);
-    EXPECT_EQ(purging->currentPosition(), 3);
-    EXPECT_EQ(purging->formula(), threeCircuits());
-    EXPECT_TRUE(purging->machine());
-}
-
 TEST(TurntablePurgeFormulaCmd, poursInTheOrderOfTheTable)
 {
     const FW_Dispenser machine = withTurntable();
@@ -115,21 +114,6 @@ TEST(TurntablePurgeFormulaCmd, logsWhatItSendsInTheOrderOfTheTable)
     command.serialParameters(1);
     EXPECT_EQ(log.lines(), QStringList{"circuit positions: 1 80.000, 3 40.000, 4 8.000 (weight or volume): "
                                        "circuit 3 400 steps, circuit 4 80 steps, circuit 1 800 steps"});
-}
-
-TEST(TurntablePurgeFormulaCmd, takesTheTimeOfThePoursAlone)
-{
-    const FW_Dispenser machine = withTurntable();
-    EXPECT_EQ(TurntablePurgeFormulaCmd(threeCircuits(), 3, &machine).getCmdEstimatedExecutionTime(nullptr),
-              9600);
-}
-
-TEST(TurntablePurgeFormulaCmd, speaksAsAPurge)
-{
-    const TurntablePurgeFormulaCmd command(grams({{"1", 30}}), 3, nullptr);
-    EXPECT_EQ(command.commandString(), "Purge");
-    EXPECT_EQ(command.actionString(false).m_text, "Purge in progress");
-    EXPECT_EQ(command.actionString(true).m_text, "Purge of formula: 1 30.000");
 }
 
 } // namespace

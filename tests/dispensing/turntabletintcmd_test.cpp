@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/turntabletintcmd.h"
 
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
 
 #include <memory>
@@ -21,35 +22,62 @@ Formula threeCircuits()
     return grams({{"1", 80}, {"3", 40}, {"4", 8}});
 }
 
-TEST(TurntableTintCmd, isEmptyAtFirst)
+constexpr char threeCircuitsWritten[] =
+    R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "3", "4"], )"
+    R"("levels_policy": 0, "quantities": [80.0000, 40.0000, 8.00000], "quantity_unit": 3}])";
+
+CommandFacts facts(const FW_Dispenser *machine)
 {
-    const TurntableTintCmd command;
-    EXPECT_EQ(command.command(), "TINT");
-    EXPECT_EQ(command.formula(), Formula());
-    EXPECT_EQ(command.currentPosition(), 0);
-    EXPECT_FALSE(command.machine());
-    EXPECT_EQ(command.serialParameters(1), QList<int>());
-    EXPECT_EQ(command.getCmdEstimatedExecutionTime(nullptr), 0);
+    const Formula formula = threeCircuits();
+    CommandFacts facts(formsOf<TurntableTintCmd>(machine));
+    facts.forms.ofValue = [machine](const Value &value) -> Made {
+        return std::make_unique<TurntableTintCmd>(value, 3, machine);
+    };
+    facts.forms.valueMachine = machine;
+    facts.catalogue = {"TINT", 8, "0017", 1};
+    facts.protoType = 1;
+    facts.readsByHand = true; // the position is the last element of a list, and not in a value
+    facts.getters = {getter(&TurntableTintCmd::formula), getter(&TurntableTintCmd::currentPosition)};
+    facts.words = {"Dispense", "Dispensing in progress", untranslated("1 80.000, 3 40.000, 4 8.000")};
+    facts.defaults = Request()
+                         .parameters({variantOf(Formula()), 0})
+                         .written(std::string("[") + emptyFormulaWritten + "]")
+                         .says({"Dispense", "Dispensing in progress", untranslated("")});
+    const Request request = Request({variantOf(formula), 3})
+                                .value(arrayOf(formula.toXmlRpcValue()))
+                                .typed<TurntableTintCmd>(formula, 3, machine)
+                                .written(threeCircuitsWritten);
+    facts.requests = {request, request.alsoFromList({variantOf(formula), "rest", 1, 3LL})};
+    facts.afterDefaults = Request().parameters({variantOf(formula), 0}).written(threeCircuitsWritten);
+    if (machine) {
+        for (Request &each : facts.requests)
+            each.takes(11600).sends({2, 3, 3, 33, 40, 2, 154, 1, 4, 34, 40, 1, 80, 1, 31, 40, 2, 62, 3});
+        facts.afterDefaults->takes(11600).sends(
+            {2, 3, 1, 31, 40, 2, 62, 3, 4, 34, 40, 1, 80, 3, 33, 40, 2, 154, 1});
+    }
+    facts.answers = serialAnswers();
+    return facts;
+}
+
+TEST(TurntableTintCmd, keepsTheCommandContract)
+{
+    const DebugLog quiet;
+    const FW_Dispenser machine = withTurntable();
+    expectCommandContract(facts(nullptr));
+    expectCommandContract(facts(&machine));
+}
+
+TEST(TurntableTintCmd, cannotBeCheckedAtFirst)
+{
     FW_DriverError error;
-    EXPECT_FALSE(command.checkFormula(error));
+    EXPECT_FALSE(TurntableTintCmd().checkFormula(error));
     expectError(error, "DE01103", "Invalid dispenser data");
 }
 
-TEST(TurntableTintCmd, isATintWithAPosition)
+TEST(TurntableTintCmd, takesThePositionThatIsGivenBesideAValue)
 {
-    const Formula formula = threeCircuits();
-    const FW_Dispenser machine = withTurntable();
-    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine}) {
-        for (const TurntableTintCmd &command :
-             {TurntableTintCmd(formula, 3, given),
-              TurntableTintCmd(arrayOf(formula.toXmlRpcValue()), 3, given),
-              TurntableTintCmd(List{QVariant::fromValue(formula), 3}, given)}) {
-            EXPECT_EQ(command.command(), "TINT");
-            EXPECT_EQ(command.formula(), formula);
-            EXPECT_EQ(command.currentPosition(), 3);
-            EXPECT_EQ(command.machine() != nullptr, given != nullptr);
-        }
-    }
+    const Value request = arrayOf(threeCircuits().toXmlRpcValue());
+    EXPECT_EQ(TurntableTintCmd(request, 2, nullptr).currentPosition(), 2);
 }
 
 TEST(TurntableTintCmd, takesThePositionFromTheEndOfTheList)
@@ -96,42 +124,6 @@ TEST(TurntableTintCmd, refusesWhatATintRefuses)
     });
 }
 
-TEST(TurntableTintCmd, writesThePositionOnlyForItsOwnClient)
-{
-    const TurntableTintCmd command(threeCircuits(), 3, nullptr);
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)),
-              R"([{"decimals": 3, "exec_criterion": 0, "formula_type": 1, "ids": ["1", "3", "4"], )"
-              R"("levels_policy": 0, "quantities": [80.0000, 40.0000, 8.00000], "quantity_unit": 3}])");
-    EXPECT_TRUE(ok);
-    const List parameters = command.parameters();
-    ASSERT_EQ(parameters.size(), 2);
-    EXPECT_EQ(parameters.at(0).value<Formula>(), threeCircuits());
-    EXPECT_EQ(parameters.at(1), QVariant(3));
-    EXPECT_EQ(TurntableTintCmd(parameters, nullptr).currentPosition(), 3);
-    EXPECT_EQ(TurntableTintCmd(command.xmlrpc_parameters(), 2, nullptr).currentPosition(), 2);
-}
-
-TEST(TurntableTintCmd, goesBackToItsDefaults)
-{
-    TurntableTintCmd command(threeCircuits(), 3, nullptr);
-    command.setDefaults();
-    EXPECT_EQ(command.currentPosition(), 0);
-    EXPECT_EQ(command.formula(), threeCircuits());
-}
-
-TEST(TurntableTintCmd, copiesThePosition)
-{
-    const FW_Dispenser machine = withTurntable();
-    const TurntableTintCmd command(threeCircuits(), 3, &machine);
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    const auto *tinting = dynamic_cast<const TurntableTintCmd *>(clone.get());
-    ASSERT_TRUE(tinting);
-    EXPECT_EQ(tinting->currentPosition(), 3);
-    EXPECT_EQ(tinting->formula(), threeCircuits());
-    EXPECT_EQ(tinting->getCmdEstimatedExecutionTime(nullptr), 11600);
-}
-
 TEST(TurntableTintCmd, poursInTheOrderOfTheTable)
 {
     const FW_Dispenser machine = withTurntable();
@@ -173,14 +165,6 @@ TEST(TurntableTintCmd, takesNoTimeThatCannotBeTold)
     const FW_Dispenser withoutTable = dispenser();
     EXPECT_EQ(TurntableTintCmd(threeCircuits(), 3, nullptr).getCmdEstimatedExecutionTime(&machine), 0);
     EXPECT_EQ(TurntableTintCmd(threeCircuits(), 3, &withoutTable).getCmdEstimatedExecutionTime(&machine), 0);
-}
-
-TEST(TurntableTintCmd, speaksAsATint)
-{
-    const TurntableTintCmd command(grams({{"1", 30}}), 3, nullptr);
-    EXPECT_EQ(command.commandString(), "Dispense");
-    EXPECT_EQ(command.actionString(false).m_text, "Dispensing in progress");
-    EXPECT_EQ(command.actionString(true).m_text, "1 30.000");
 }
 
 } // namespace
