@@ -36,7 +36,7 @@ public:
             throw UsageError(
                 QStringLiteral("\"%1\" needs a name, as it stands behind an argument with one").arg(word));
         else
-            m_given.push_back(Given{argumentFromWord(word), word});
+            m_given.emplace_back(Given{argumentFromWord(word), word});
     }
 
     TypedArguments result() const

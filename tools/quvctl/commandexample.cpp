@@ -118,7 +118,7 @@ QString quoted(QString word)
 QString wordOf(const OrderedJson &value)
 {
     if (value.is_string()) {
-        const auto text = QString::fromStdString(value.get<std::string>());
+        auto text = QString::fromStdString(value.get<std::string>());
         if (argumentFromWord(text) == nlohmann::json(value))
             return text;
     }

@@ -131,6 +131,7 @@ command. What a class does not tell yet is told as such.
 QString commandsMarkdown()
 {
     std::vector<CommandReference> commands;
+    commands.reserve(ProtoCommandList::rowCount);
     for (int id = 0; id < ProtoCommandList::rowCount; ++id)
         commands.push_back(referenceOf(*ProtoCommandList::row(id)));
     std::sort(commands.begin(), commands.end(),

@@ -56,9 +56,9 @@ ExitStatus run(const CommandLine &line)
 const Subcommand showSubcommand = {"show",
                                    "[NAME]",
                                    "one command in words",
-                                   "Tells what a command is for, its arguments, the members of its answer, "
-                                   "how it is refused, and who carries\n"
-                                   "it out, with an example for the shell and one for Python.",
+                                   "Tells what a command is for, its arguments, the members of its answer,\n"
+                                   "how it is refused, who carries it out, and how to call it from the\n"
+                                   "shell and from Python.",
                                    0,
                                    1,
                                    {{"json", nullptr, "one JSON object"},
