@@ -32,7 +32,7 @@ quv::CommandFacts cleaning()
 
 std::string taken(const QStringList &words, const quv::CommandFacts &command = cleaning())
 {
-    return argumentsFromWords(command, words).dump();
+    return argumentsFromWords(command, words).values.dump();
 }
 
 std::string refusal(const QStringList &words, const quv::CommandFacts &command = cleaning())

@@ -230,6 +230,11 @@ class Encode(CliTest):
             self.assertEqual(self.request("READ_CONFIG_ROW", *words), ["READ_CONFIG_ROW", 7, 2])
         self.assertEqual(self.request("WRITE_CONFIG_ROW", 'row={"cmd_value":7,"cmd_parameters":"1,300,2,3"}'),
                          ["WRITE_CONFIG_ROW", {"cmd_parameters": "1,300,2,3", "cmd_value": 7}])
+        self.assertEqual(self.request("GET_DISPENSED_FORMULA", "quantity_unit=2"), ["GET_DISPENSED_FORMULA", 1, 2])
+        formula = {"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [12.5]}
+        for form in ("value", "list"):
+            name, sent = self.request("TINT", f"formula={json.dumps(formula)}", "--form", form)
+            self.assertEqual((name, {key: sent[key] for key in formula}), ("TINT", formula))
         self.assertEqual(self.request("GET_CMD_STATUS", "a=b"), ["GET_CMD_STATUS", "a=b"])
         self.assertEqual(self.refused("encode", "GET_STATUS", "position=ten"),
                          "DE00298: Position ID: expected INT parameter\n")

@@ -56,19 +56,20 @@ TEST(RefusalLines, ofNothingAreNone)
 
 TEST(RefusalLines, sayWhenAnArgumentIsRefused)
 {
-    EXPECT_THAT(linesOf(withArgument({{"XML-RPC", "missing", "DE1", "no speed"},
-                                      {"XML-RPC", "another type", "DE2", "bad"},
-                                      {"XML-RPC", "missing or another type", "DE3", "bad"},
-                                      {"XML-RPC", "an element of another type", "DE4", "bad"},
-                                      {"list", "unreadable", "DE5", "bad"},
-                                      {"list", "out of range", "DE6", "too fast"},
-                                      {"list", "too late", "DE7", "bad"}})),
-                ElementsAre("DE1 (XML-RPC) speed is missing: no speed",
-                            "DE2 (XML-RPC) speed is of another type: bad",
-                            "DE3 (XML-RPC) speed is missing or of another type: bad",
-                            "DE4 (XML-RPC) speed has an element of another type: bad",
-                            "DE5 (list) speed cannot be read: bad",
-                            "DE6 (list) speed is out of range: too fast", "DE7 (list) speed: too late: bad"));
+    EXPECT_THAT(
+        linesOf(withArgument({{"XML-RPC", "missing", "DE1", "no speed"},
+                              {"XML-RPC", "another type", "DE2", "bad"},
+                              {"XML-RPC", "missing or another type", "DE3", "bad"},
+                              {"XML-RPC", "an element of another type", "DE4", "bad"},
+                              {"list", "unreadable", "DE5", "bad"},
+                              {"list", "out of range", "DE6", "too fast"},
+                              {"list", "an unreadable speed", "DE7", "bad"},
+                              {"list", "too late", "DE8", "bad"}})),
+        ElementsAre("DE1 (XML-RPC) speed is missing: no speed", "DE2 (XML-RPC) speed is of another type: bad",
+                    "DE3 (XML-RPC) speed is missing or of another type: bad",
+                    "DE4 (XML-RPC) speed has an element of another type: bad",
+                    "DE5 (list) speed cannot be read: bad", "DE6 (list) speed is out of range: too fast",
+                    "DE7 (list) speed is an unreadable speed: bad", "DE8 (list) speed: too late: bad"));
 }
 
 TEST(RefusalLines, tellFormsThatAreAlikeOnce)

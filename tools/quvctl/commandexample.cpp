@@ -28,7 +28,7 @@ struct Sample
 
 constexpr char formula[] = R"({"formula_type":4,"quantity_unit":3,"ids":["B","KX"],"quantities":[12.5,0.3]})";
 constexpr char circuits[] =
-    R"([{"exec_criterion":1,"target_circuits":[{"position_id":2,"queue_id":0,"speed":50,"strokes":3}]}])";
+    R"({"exec_criterion":1,"target_circuits":[{"position_id":2,"queue_id":0,"speed":50,"strokes":3}]})";
 
 /// A value of each type, for arguments of which no more is known.
 constexpr Sample samplesOfTypes[] = {
@@ -39,6 +39,7 @@ constexpr Sample samplesOfTypes[] = {
     {"array of ints", "[1,2]"},
     {"array of strings", R"(["B","KX"])"},
     {"formula", formula},
+    {"circuit list", circuits},
 };
 
 /// The arguments of commands for which their types do not tell enough.
@@ -51,9 +52,6 @@ constexpr Sample samplesOfCommands[] = {
     {"PRIMING", R"([{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[3,3]}])"},
     {"PACK", R"([0,{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[1,1]}])"},
     {"PURGE", R"([{"purge_quantity":2.5,"quantity_unit":3,"only_filled":true,"head":0}])"},
-    {"PRIMING2", circuits},
-    {"PACK2", circuits},
-    {"AIRPURGE", circuits},
 };
 
 template <std::size_t N>

@@ -29,7 +29,8 @@ QString inWords(const QString &when, const QString &of)
     for (const Phrase &phrase : phrases)
         if (when == QLatin1String(phrase.when))
             return QString::fromLatin1(phrase.words).arg(of);
-    return QStringLiteral("%1: %2").arg(of, when);
+    return (when.startsWith(QLatin1String("an ")) ? QStringLiteral("%1 is %2") : QStringLiteral("%1: %2"))
+        .arg(of, when);
 }
 
 bool areAlike(const RefusalLine &a, const RefusalLine &b)
