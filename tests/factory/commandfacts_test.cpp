@@ -73,8 +73,7 @@ TEST(CommandFacts, tellTheAnswerWithItsMembersAndFailures)
     ASSERT_TRUE(legacy);
     EXPECT_EQ(legacy->meaning, "always false");
     ASSERT_EQ(facts.answerRefusals.size(), 4);
-    EXPECT_EQ(lineOf(facts.answerRefusals.at(0)),
-              "tokens, : DE00097 Failed to create DispenserStatusAnswer");
+    EXPECT_EQ(lineOf(facts.answerRefusals.at(0)), "tokens, : DE00097 Failed to create DispenserStatusAnswer");
     EXPECT_EQ(lineOf(facts.answerRefusals.at(3)),
               "envelope, : DE00027 Failed to create DispenserStatusAnswer");
 }
