@@ -133,7 +133,7 @@ void expectFailed(ProtoCommand &command, const CodeAndText &failure, const std::
     EXPECT_FALSE(fail(&error));
     expectError(error, failure.code.c_str(), failure.text.c_str());
     if (!function.empty()) {
-        EXPECT_EQ(error.function(), function.c_str());
+        EXPECT_EQ(error.function(), QString(function.c_str()));
     }
     expectNoAnswer(command);
     holdAnswer(command);

@@ -123,8 +123,8 @@ std::string className(const ProtoAnswer *answer)
 
 void expectError(const FW_DriverError &error, const char *code, const char *text)
 {
-    EXPECT_EQ(error.code(), code);
-    EXPECT_EQ(error.text(), text);
+    EXPECT_EQ(error.code(), QString(code));
+    EXPECT_EQ(error.text(), QString(text));
 }
 
 } // namespace testing_base

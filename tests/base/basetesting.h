@@ -64,7 +64,7 @@ void expectRefusal(const char *code, const char *text, const char *function, Wor
         ADD_FAILURE() << "nothing was refused";
     } catch (const FW_Exception &refusal) {
         expectError(refusal, code, text);
-        EXPECT_EQ(refusal.function(), function);
+        EXPECT_EQ(refusal.function(), QString(function));
     }
 }
 

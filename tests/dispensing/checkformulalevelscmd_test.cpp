@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/checkformulalevelscmd.h"
 
-#include "catalogue/protocommandlist.h"
-#include "dispensing/checkformulalevelsanswer.h"
 #include "dispensing/querytesting.h"
 
 #include <QuvFramework/fw_mixer.h>
 
-#include <memory>
 #include <type_traits>
 
 namespace {
@@ -31,31 +28,95 @@ Value answerStruct()
         {{"canisters_below_critical", arrayOf(101)}, {"canisters_below_warning", arrayOf(101, 103)}});
 }
 
-TEST(CheckFormulaLevelsCmd, isCarriedOutByTheDriver)
+AnswerFacts answers()
 {
-    const CheckFormulaLevelsCmd command;
-    EXPECT_EQ(command.command(), "CHECK_FORMULA_LEVELS");
-    EXPECT_EQ(command.protoType(), 2);
-    EXPECT_EQ(command.parameters(), List());
-    EXPECT_FALSE(command.machine());
-    EXPECT_EQ(ProtoCommandList::row(command.command())->id, 73);
-    EXPECT_EQ(command.getCmdEstimatedExecutionTime(nullptr), 20000);
+    constexpr char answerClass[] = "CheckFormulaLevelsAnswer";
+    constexpr char notMade[] = "Failed to create CheckFormulaLevelsAnswer";
+    constexpr char written[] =
+        R"({"canisters_below_critical": [101], "canisters_below_warning": [101, 103]})";
+    const List list = {QVariant::fromValue(QList<int>{101}), QVariant::fromValue(QList<int>{101, 103})};
+    AnswerFacts answers = confAnswers();
+    answers.value =
+        AnswerOfValue(answerClass, answerStruct(), written)
+            .failsWith("DE01274", notMade)
+            .refuses(Value(0), "DE00460",
+                     "CheckFormulaLevelsAnswer: Errors during Canister below critical list creation",
+                     "CheckFormulaLevelsAnswer::CheckFormulaLevelsAnswer(const XmlRpc::XmlRpcValue&)");
+    answers.list =
+        AnswerOfList(answerClass, list, written)
+            .failsWith("DE00464", notMade)
+            .refuses({}, "DE00456",
+                     "CheckFormulaLevelsAnswer decoding failed: invalid QVariant value (expected list of "
+                     "canister below critical)",
+                     "CheckFormulaLevelsAnswer::CheckFormulaLevelsAnswer(QList<QVariant>&)");
+    answers.envelope = {"DE00463", notMade};
+    return answers;
+}
+
+Words checking(const Phrase &detailed)
+{
+    return {"Check formula levels", "Checking levels for formula", detailed};
+}
+
+/** A formula that is a purge or not. */
+Request requestOfFormula(bool isPurge)
+{
+    const Phrase ofPurge("Checking levels for purge formula: 1 2.500", "QuvProtocol",
+                         translation("Checking levels for " + translation("purge ") + "formula: 1 2.500"));
+    return Request({variantOf(formula()), isPurge})
+        .value(arrayOf(formulaStruct(), isPurge))
+        .typed<CheckFormulaLevelsCmd>(formula(), isPurge)
+        .written(std::string("[") + formulaWritten + (isPurge ? ", true]" : ", false]"))
+        .says(checking(isPurge ? ofPurge : Phrase("Checking levels for formula: 1 2.500")));
+}
+
+CommandFacts facts(const FW_Dispenser *machine)
+{
+    CommandFacts facts(formsOf<CheckFormulaLevelsCmd>(machine));
+    facts.catalogue = {"CHECK_FORMULA_LEVELS", 73, "", 1};
+    facts.protoType = 2;
+    facts.readsByHand = true; // two forms of a request
+    facts.defaults = Request().notWritten().says(checking("Checking levels for formula"));
+    const Request purging =
+        Request({variantOf(purge())})
+            .value(arrayOf(purgeStruct()))
+            .typed<CheckFormulaLevelsCmd>(purge())
+            .written(std::string("[") + purgeWritten + ']')
+            .says(checking("Checking levels for purge formula: 2 strokes of each circuit"));
+    facts.requests = {
+        requestOfFormula(true),
+        requestOfFormula(false),
+        requestOfFormula(true).alsoFromList({formulaMap(), true}),
+        purging,
+        purging.alsoFromList({purgeMap()}),
+    };
+    facts.answers = answers();
+    return facts;
+}
+
+TEST(CheckFormulaLevelsCmd, keepsTheCommandContract)
+{
+    const FW_Dispenser machine = dispenser();
+    expectCommandContract(facts(nullptr));
+    expectCommandContract(facts(&machine));
+}
+
+TEST(CheckFormulaLevelsCmd, keepsThePolicyOfAFormulaInAList)
+{
+    EXPECT_EQ(CheckFormulaLevelsCmd(List{variantOf(withPolicy(2)), true}).parameters(),
+              (List{variantOf(withPolicy(2)), true}))
+        << "as it is: the driver takes the policy away";
 }
 
 TEST(CheckFormulaLevelsCmd, takesAFormula)
 {
     for (bool isPurge : {false, true}) {
         const CheckFormulaLevelsCmd command(formula(), isPurge);
-        EXPECT_EQ(command.parameters(), (List{variantOf(formula()), isPurge}));
         Formula held;
         bool flag = !isPurge;
         EXPECT_TRUE(command.getFormula(held, flag));
         EXPECT_EQ(held, formula());
         EXPECT_EQ(flag, isPurge);
-        bool ok = false;
-        EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)),
-                  std::string("[") + formulaWritten + (isPurge ? ", true]" : ", false]"));
-        EXPECT_TRUE(ok);
         PurgeFormula none(7.0, 0, 3);
         EXPECT_TRUE(command.getPurgeFormula(none));
         EXPECT_EQ(none, PurgeFormula()) << "not the other form";
@@ -65,13 +126,9 @@ TEST(CheckFormulaLevelsCmd, takesAFormula)
 TEST(CheckFormulaLevelsCmd, takesAPurge)
 {
     const CheckFormulaLevelsCmd command(purge());
-    EXPECT_EQ(command.parameters(), List{variantOf(purge())});
     PurgeFormula held;
     EXPECT_TRUE(command.getPurgeFormula(held));
     EXPECT_EQ(held, purge());
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), std::string("[") + purgeWritten + ']');
-    EXPECT_TRUE(ok);
     Formula none = formula();
     bool flag = true;
     EXPECT_FALSE(command.getFormula(none, flag));
@@ -148,45 +205,12 @@ TEST(CheckFormulaLevelsCmd, refusesWhatIsNoFormula)
                       [&] { const CheckFormulaLevelsCmd command(request, nullptr); });
 }
 
-TEST(CheckFormulaLevelsCmd, needsAnArrayOfOneElementAtLeast)
+TEST(CheckFormulaLevelsCmd, doesNotMistakeAMachineForAFlag)
 {
-    constexpr char ofBase[] =
-        "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-    expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBase,
-                  [] { const CheckFormulaLevelsCmd command(Value(), nullptr); });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBase,
-                  [] { const CheckFormulaLevelsCmd command(purgeStruct(), nullptr); });
-    expectRefusal("DE00312",
-                  "CHECK_FORMULA_LEVELS command : expected at least 1 parameters, received 0 instead!",
-                  ofBase, [] { const CheckFormulaLevelsCmd command(arrayOf(), nullptr); });
-    expectRefusal("DE00313",
-                  "CHECK_FORMULA_LEVELS command : expected at least 1 parameters, received 0 instead!",
-                  "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)",
-                  [] { const CheckFormulaLevelsCmd command{List()}; });
     static_assert(!std::is_constructible_v<CheckFormulaLevelsCmd, const Formula &, const FW_Machine *>);
 }
 
 // ---------------------------------------------------------------- lists
-
-TEST(CheckFormulaLevelsCmd, takesAList)
-{
-    EXPECT_EQ(CheckFormulaLevelsCmd(List{variantOf(formula()), true}).parameters(),
-              (List{variantOf(formula()), true}));
-    EXPECT_EQ(CheckFormulaLevelsCmd(List{variantOf(purge())}).parameters(), List{variantOf(purge())});
-    EXPECT_EQ(CheckFormulaLevelsCmd(List{variantOf(withPolicy(2)), true}).parameters(),
-              (List{variantOf(withPolicy(2)), true}))
-        << "as it is: the driver takes the policy away";
-}
-
-TEST(CheckFormulaLevelsCmd, readsMapsInAList)
-{
-    const CheckFormulaLevelsCmd ofFormula(List{formulaMap(), true});
-    EXPECT_EQ(ofFormula.parameters(), (List{variantOf(formula()), true}));
-    EXPECT_EQ(dumped(ofFormula.xmlrpc_parameters()), std::string("[") + formulaWritten + ", true]");
-    const CheckFormulaLevelsCmd ofPurge(List{purgeMap()});
-    EXPECT_EQ(ofPurge.parameters(), List{variantOf(purge())});
-    EXPECT_EQ(dumped(ofPurge.xmlrpc_parameters()), std::string("[") + purgeWritten + ']');
-}
 
 TEST(CheckFormulaLevelsCmd, writesNothingOfAListThatIsNeitherForm)
 {
@@ -239,23 +263,10 @@ TEST(CheckFormulaLevelsCmd, givesADefaultPurgeForWhatIsNone)
     EXPECT_EQ(untouched, purge());
 }
 
-TEST(CheckFormulaLevelsCmd, comesBackAsItWasWritten)
-{
-    const CheckFormulaLevelsCmd ofFormula(formula(), true);
-    EXPECT_EQ(CheckFormulaLevelsCmd(ofFormula.xmlrpc_parameters(), nullptr).parameters(),
-              ofFormula.parameters());
-    EXPECT_EQ(CheckFormulaLevelsCmd(ofFormula.parameters()).parameters(), ofFormula.parameters());
-    const CheckFormulaLevelsCmd ofPurge(purge());
-    EXPECT_EQ(CheckFormulaLevelsCmd(ofPurge.xmlrpc_parameters(), nullptr).parameters(), ofPurge.parameters());
-    EXPECT_EQ(dumped(ofPurge.toXmlRpcValue("user")),
-              std::string(R"(["user", "CHECK_FORMULA_LEVELS", )") + purgeWritten + ']');
-}
-
 // ---------------------------------------------------------------- texts
 
 TEST(CheckFormulaLevelsCmd, saysWhatItDoes)
 {
-    EXPECT_EQ(CheckFormulaLevelsCmd().commandString(), "Check formula levels");
     const Formula two = grams({{"1", 2.5}, {"3", 0.125}});
     EXPECT_EQ(CheckFormulaLevelsCmd(two, true).actionString(false).m_text, "Checking levels for formula");
     EXPECT_EQ(CheckFormulaLevelsCmd(purge()).actionString(false).m_text, "Checking levels for formula");
@@ -272,61 +283,6 @@ TEST(CheckFormulaLevelsCmd, saysWhatItDoes)
     EXPECT_EQ(CheckFormulaLevelsCmd(List{variantOf(formula()), true, 1}).actionString(true).m_text,
               "Checking levels for formula");
     EXPECT_EQ(CheckFormulaLevelsCmd().actionString(true).m_text, "Checking levels for formula");
-}
-
-TEST(CheckFormulaLevelsCmd, saysItInTheRunningLanguage)
-{
-    const TranslatedTexts translated;
-    EXPECT_EQ(CheckFormulaLevelsCmd(purge()).actionString(false).m_translated,
-              translation("Checking levels for formula"));
-    EXPECT_EQ(CheckFormulaLevelsCmd(formula(), false).actionString(true).m_translated,
-              translation("Checking levels for formula: 1 2.500"));
-    EXPECT_EQ(CheckFormulaLevelsCmd(formula(), true).actionString(true).m_translated,
-              translation("Checking levels for " + translation("purge ") + "formula: 1 2.500"));
-    EXPECT_EQ(CheckFormulaLevelsCmd(purge()).actionString(true).m_translated,
-              translation("Checking levels for purge formula: 2 strokes of each circuit"));
-    EXPECT_EQ(CheckFormulaLevelsCmd(formula(), true).actionString(true).m_text,
-              "Checking levels for purge formula: 1 2.500");
-}
-
-// ---------------------------------------------------------------- answers and copies
-
-TEST(CheckFormulaLevelsCmd, isAnsweredByLists)
-{
-    CheckFormulaLevelsCmd command(formula(), false);
-    const List list = {QVariant::fromValue(QList<int>{101}), QVariant::fromValue(QList<int>{101, 103})};
-    expectAnswers(command, "CheckFormulaLevelsAnswer", answerStruct(), list, answerStruct());
-    expectAnswerFailures(command,
-                         {"Failed to create CheckFormulaLevelsAnswer", "DE01274", "DE00464", "DE00463"},
-                         answerStruct(), list);
-}
-
-TEST(CheckFormulaLevelsCmd, passesTheAnswersRefusalOn)
-{
-    CheckFormulaLevelsCmd command;
-    FW_DriverError error;
-    EXPECT_FALSE(command.buildProtoAnswer(Value(0), &error));
-    EXPECT_EQ(error.code(), "DE00460");
-    List none;
-    EXPECT_FALSE(command.setAnswer(none, &error));
-    EXPECT_EQ(error.code(), "DE00456");
-    EXPECT_FALSE(command.setAnswer(envelope(0, Value(0)), false, &error));
-    EXPECT_EQ(error.code(), "DE00460");
-    EXPECT_FALSE(command.buildProtoAnswer(Value(0), nullptr));
-}
-
-TEST(CheckFormulaLevelsCmd, copiesDeeply)
-{
-    const FW_Dispenser machine = dispenser();
-    CheckFormulaLevelsCmd command(arrayOf(formulaStruct(), true), &machine);
-    ASSERT_TRUE(command.buildProtoAnswer(answerStruct(), nullptr));
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    ASSERT_TRUE(dynamic_cast<CheckFormulaLevelsCmd *>(clone.get()));
-    EXPECT_EQ(clone->parameters(), command.parameters());
-    EXPECT_NE(clone->machine(), command.machine());
-    EXPECT_TRUE(clone->machine());
-    EXPECT_NE(clone->getProtoAnswer(), command.getProtoAnswer());
-    EXPECT_EQ(className(clone->getProtoAnswer()), "CheckFormulaLevelsAnswer");
 }
 
 } // namespace

@@ -6,8 +6,6 @@
 #include <QuvFramework/formulaprogress.h>
 #include <QuvFramework/fw_mixer.h>
 
-#include <memory>
-
 namespace {
 
 using namespace testing_dispensing;
@@ -22,53 +20,85 @@ Value lowLevelStruct()
     return structOf({{"low_level_formula", formulaStruct()}});
 }
 
-Value writtenLowLevel()
-{
-    Value written = formulaStruct();
-    written["decimals"] = 3;
-    written["exec_criterion"] = 0;
-    written["levels_policy"] = 0;
-    return structOf({{"low_level_formula", written}});
-}
-
 Value progressStruct()
 {
     return structOf({{"frm_progress", structOf({{"channels", arrayOf()}})}});
 }
 
-TEST(GenericFormulaCmd, isNamedByWhoeverAsks)
+AnswerFacts lowLevelAnswers()
 {
-    for (const char *name : names) {
-        SCOPED_TRACE(name);
-        const GenericFormulaCmd command{QString(name)};
-        EXPECT_EQ(command.command(), name);
-        EXPECT_EQ(command.protoType(), 2);
-        EXPECT_EQ(command.parameters(), List());
-        bool ok = true;
-        EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), "[]");
-        EXPECT_FALSE(ok);
-    }
+    constexpr char answerClass[] = "GetLowLevelFormulaAnswer";
+    const std::string written = std::string(R"({"low_level_formula": )") + formulaWritten + '}';
+    AnswerFacts answers = confAnswers();
+    answers.value =
+        AnswerOfValue(answerClass, lowLevelStruct(), written)
+            .failsWith("DE01278", notCreated)
+            .refuses(progressStruct(), "DE00904",
+                     "GetLowLevelFormulaAnswer failed: expected Formula type for first parameter",
+                     "GetLowLevelFormulaAnswer::GetLowLevelFormulaAnswer(const XmlRpc::XmlRpcValue&)");
+    answers.list =
+        AnswerOfList(answerClass, {variantOf(formula())}, written)
+            .failsWith("DE00901", notCreated)
+            .refuses(
+                {}, "DE00902",
+                "GetLowLevelFormulaAnswer decoding failed: invalid QVariant value (expected Formula type)",
+                "GetLowLevelFormulaAnswer::GetLowLevelFormulaAnswer(QList<QVariant>&)");
+    answers.envelope = {"DE00899", notCreated};
+    return answers;
 }
 
-TEST(GenericFormulaCmd, takesAFormula)
+AnswerFacts executionAnswers()
+{
+    constexpr char answerClass[] = "GetFormulaExecutionAnswer";
+    constexpr char written[] = R"({"frm_progress": {"channels": []}})";
+    AnswerFacts answers = confAnswers();
+    answers.value =
+        AnswerOfValue(answerClass, progressStruct(), written)
+            .failsWith("DE01278", notCreated)
+            .refuses(lowLevelStruct(), "DE02936",
+                     "GetFormulaExecutionAnswer failed: expected FormulaProgress type for first parameter",
+                     "GetFormulaExecutionAnswer::GetFormulaExecutionAnswer(const XmlRpc::XmlRpcValue&)");
+    answers.list = AnswerOfList(answerClass, {QVariant::fromValue(FormulaProgress())}, written)
+                       .failsWith("DE00901", notCreated)
+                       .refuses({}, "DE02935",
+                                "GetFormulaExecutionAnswer decoding failed: invalid QVariant value (expected "
+                                "FormulaProgress type)",
+                                "GetFormulaExecutionAnswer::GetFormulaExecutionAnswer(QList<QVariant>&)");
+    answers.envelope = {"DE00899", notCreated};
+    return answers;
+}
+
+/** Of the command by one of its names. */
+CommandFacts facts(const char *name, int row, const FW_Dispenser &machine)
+{
+    CommandFacts facts(formsOf<GenericFormulaCmd>(&machine, QString(name)));
+    facts.catalogue = {name, row, "", 1};
+    facts.protoType = 2;
+    facts.valueFunction = ofValue;
+    facts.listFunction = "-"; // a list is kept as it is
+    facts.keepsTheList = true;
+    facts.arguments = {required().refuses(
+        {Value(7), Value(true), unreadableFormula(), purgeStruct()}, {},
+        {"DE00898", "", "GenericFormulaCmd failed: expected Formula type for first parameter"})};
+    facts.defaults = Request().notWritten();
+    const Request request = Request({variantOf(formula())})
+                                .value(arrayOf(formulaStruct()))
+                                .typed<GenericFormulaCmd>(QString(name), formula())
+                                .written(std::string("[") + formulaWritten + ']');
+    facts.requests = {request, request.alsoFromList({formulaMap()})};
+    return facts;
+}
+
+TEST(GenericFormulaCmd, keepsTheCommandContractByBothNames)
 {
     const FW_Dispenser machine = dispenser();
-    for (const char *name : names) {
-        SCOPED_TRACE(name);
-        for (const GenericFormulaCmd &command :
-             {GenericFormulaCmd(name, formula()), GenericFormulaCmd(name, List{variantOf(formula())}),
-              GenericFormulaCmd(name, List{formulaMap()}),
-              GenericFormulaCmd(name, arrayOf(formulaStruct()), &machine),
-              GenericFormulaCmd(name, arrayOf(formulaStruct(), "rest"), &machine)}) {
-            EXPECT_EQ(command.command(), name);
-            EXPECT_EQ(command.parameters(), List{variantOf(formula())});
-            bool ok = false;
-            EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), std::string("[") + formulaWritten + ']');
-            EXPECT_TRUE(ok);
-        }
-        EXPECT_EQ(dumped(GenericFormulaCmd(name, formula()).toXmlRpcValue(QString())),
-                  std::string("[\"") + name + "\", " + formulaWritten + ']');
-    }
+    CommandFacts lowLevel = facts("GET_LOW_LEVEL_FORMULA", 75, machine);
+    lowLevel.answers = lowLevelAnswers();
+    expectCommandContract(lowLevel);
+    CommandFacts execution = facts("GET_FORMULA_EXECUTION", 164, machine);
+    execution.answers = executionAnswers();
+    execution.words = silence(); // it is asked over and over
+    expectCommandContract(execution);
 }
 
 TEST(GenericFormulaCmd, writesTheFirstElementAlone)
@@ -101,65 +131,12 @@ TEST(GenericFormulaCmd, needsADispenserToReadARequest)
     }
 }
 
-TEST(GenericFormulaCmd, refusesWhatIsNoFormula)
+TEST(GenericFormulaCmd, refusesNegativeQuantities)
 {
     const FW_Dispenser machine = dispenser();
-    for (const Value &request :
-         {arrayOf(7), arrayOf(unreadableFormula()), arrayOf(purgeStruct()), arrayOf(true, formulaStruct())})
-        expectRefusal("DE00898", "GenericFormulaCmd failed: expected Formula type for first parameter",
-                      ofValue, [&] { const GenericFormulaCmd command(names[1], request, &machine); });
     expectRefusal("DE00905", notPositive, ofValue, [&] {
         const GenericFormulaCmd command(names[1], arrayOf(negativeFormulaStruct()), &machine);
     });
-}
-
-TEST(GenericFormulaCmd, needsAnArrayOfOneElementAtLeast)
-{
-    constexpr char ofBase[] =
-        "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-    constexpr char tooFew[] =
-        "GET_LOW_LEVEL_FORMULA command : expected at least 1 parameters, received 0 instead!";
-    const FW_Dispenser machine = dispenser();
-    expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBase,
-                  [&] { const GenericFormulaCmd command(names[0], Value(), &machine); });
-    expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBase,
-                  [&] { const GenericFormulaCmd command(names[0], formulaStruct(), &machine); });
-    expectRefusal("DE00312", tooFew, ofBase,
-                  [&] { const GenericFormulaCmd command(names[0], arrayOf(), &machine); });
-    expectRefusal("DE00313", tooFew,
-                  "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)",
-                  [&] { const GenericFormulaCmd command(names[0], List()); });
-}
-
-TEST(GenericFormulaCmd, isAnsweredByItsName)
-{
-    GenericFormulaCmd lowLevel(names[0], formula());
-    const List formulaList = {variantOf(formula())};
-    expectAnswers(lowLevel, "GetLowLevelFormulaAnswer", lowLevelStruct(), formulaList, writtenLowLevel());
-    expectAnswerFailures(lowLevel, {notCreated, "DE01278", "DE00901", "DE00899"}, lowLevelStruct(),
-                         formulaList);
-
-    GenericFormulaCmd execution(names[1], formula());
-    const List progressList = {QVariant::fromValue(FormulaProgress())};
-    expectAnswers(execution, "GetFormulaExecutionAnswer", progressStruct(), progressList, progressStruct());
-    expectAnswerFailures(execution, {notCreated, "DE01278", "DE00901", "DE00899"}, progressStruct(),
-                         progressList);
-}
-
-TEST(GenericFormulaCmd, passesTheAnswersRefusalOn)
-{
-    FW_DriverError error;
-    List none;
-    GenericFormulaCmd lowLevel{QString(names[0])};
-    EXPECT_FALSE(lowLevel.buildProtoAnswer(progressStruct(), &error));
-    EXPECT_EQ(error.code(), "DE00904");
-    EXPECT_FALSE(lowLevel.buildProtoAnswer(none, &error));
-    EXPECT_EQ(error.code(), "DE00902");
-    GenericFormulaCmd execution{QString(names[1])};
-    EXPECT_FALSE(execution.buildProtoAnswer(lowLevelStruct(), &error));
-    EXPECT_EQ(error.code(), "DE02936");
-    EXPECT_FALSE(execution.buildProtoAnswer(none, &error));
-    EXPECT_EQ(error.code(), "DE02935");
 }
 
 TEST(GenericFormulaCmd, getsNoAnswerUnderAnotherName)
@@ -185,29 +162,6 @@ TEST(GenericFormulaCmd, getsNoAnswerUnderAnotherName)
     EXPECT_FALSE(renamed.buildProtoAnswer(lowLevelStruct(), &error));
     expectError(error, "DE02937", notCreated);
     EXPECT_FALSE(renamed.getProtoAnswer()) << "the old answer is gone as well";
-}
-
-TEST(GenericFormulaCmd, saysNothingOfItself)
-{
-    EXPECT_EQ(GenericFormulaCmd(names[0], formula()).commandString(), QString());
-    EXPECT_EQ(GenericFormulaCmd(names[0], formula()).actionString(true).m_text, "In progress");
-    EXPECT_EQ(GenericFormulaCmd(names[1], formula()).actionString(true).m_text, QString())
-        << "it is asked over and over";
-}
-
-TEST(GenericFormulaCmd, copiesDeeply)
-{
-    const FW_Dispenser machine = dispenser();
-    GenericFormulaCmd command(names[0], arrayOf(formulaStruct()), &machine);
-    ASSERT_TRUE(command.buildProtoAnswer(lowLevelStruct(), nullptr));
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    ASSERT_TRUE(dynamic_cast<GenericFormulaCmd *>(clone.get()));
-    EXPECT_EQ(clone->command(), names[0]);
-    EXPECT_EQ(clone->parameters(), command.parameters());
-    EXPECT_TRUE(clone->machine());
-    EXPECT_NE(clone->machine(), command.machine());
-    EXPECT_EQ(className(clone->getProtoAnswer()), "GetLowLevelFormulaAnswer");
-    EXPECT_NE(clone->getProtoAnswer(), command.getProtoAnswer());
 }
 
 } // namespace

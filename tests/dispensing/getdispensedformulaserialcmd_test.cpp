@@ -2,59 +2,46 @@
 #include "dispensing/getdispensedformulaserialcmd.h"
 
 #include "dispensing/dispensedformulacmdtesting.h"
-#include "dispensing/getdispensedformulaanswer.h"
-#include "dispensing/querytesting.h"
+
+#include <type_traits>
 
 namespace {
 
 using namespace testing_dispensing;
 
-struct Serial
+AnswerFacts answers()
 {
-    using Command = GetDispensedFormulaSerialCmd;
-    static constexpr int protoType = 1;
-    static constexpr bool takesNumbers = false;
-};
-INSTANTIATE_TYPED_TEST_SUITE_P(GetDispensedFormulaSerialCmd, DispensedFormulaCommand, Serial);
+    const std::string poured = R"({"decimals": 3, "exec_criterion": 1, "formula_type": 1, "ids": [], )"
+                               R"("levels_policy": 0, "quantities": [], "quantity_unit": 1})";
+    const std::string written = R"({"dispensed_formula": )" + poured + R"(, "remaining_formula": )" +
+                                emptyFormulaWritten + R"(, "total_formula": )" + poured + '}';
+    AnswerFacts answers = serialAnswers(); // what comes not from the firmware is left to the base
+    answers.tokens =
+        AnswerOfTokens("GetDispensedFormulaAnswer", {"2", "1", "0"}, written)
+            .failsWith("DE01726", "Failed to create GetDispensedFormulaAnswer")
+            .refuses({"1", "1"}, "DE01698",
+                     "Error during dispensed formula serial answer decoding: bad answer received",
+                     "GetDispensedFormulaAnswer::GetDispensedFormulaAnswer(QStringList)");
+    return answers;
+}
 
-TEST(GetDispensedFormulaSerialCmd, sendsNoParametersToTheFirmware)
+TEST(GetDispensedFormulaSerialCmd, keepsTheCommandContract)
+{
+    CommandFacts facts = dispensedFormulaFacts<GetDispensedFormulaSerialCmd>();
+    facts.protoType = 1;
+    facts.answers = answers();
+    expectCommandContract(facts);
+}
+
+TEST(GetDispensedFormulaSerialCmd, takesNoPlainNumbers)
+{
+    static_assert(!std::is_constructible_v<GetDispensedFormulaSerialCmd, int, int>);
+}
+
+TEST(GetDispensedFormulaSerialCmd, sendsNoParametersToAFirmwareOfAnyFamily)
 {
     for (int family : {0, 1, 2})
-        EXPECT_EQ(GetDispensedFormulaSerialCmd(List{3, 2}).serialParameters(family), QList<int>());
-    EXPECT_EQ(GetDispensedFormulaSerialCmd().moduleID(), 0);
-}
-
-TEST(GetDispensedFormulaSerialCmd, isAnsweredByTheFirmware)
-{
-    GetDispensedFormulaSerialCmd command;
-    FW_DriverError error;
-    EXPECT_TRUE(command.setSerialAnswer({"2", "1", "0"}, &error));
-    ASSERT_EQ(className(command.getProtoAnswer()), "GetDispensedFormulaAnswer");
-    const auto &answer = dynamic_cast<const GetDispensedFormulaAnswer &>(*command.getProtoAnswer());
-    EXPECT_EQ(answer.dispensedFormula().executionCriterion(), 1);
-
-    EXPECT_FALSE(command.setSerialAnswer({"1", "1"}, &error));
-    expectError(error, "DE01698",
-                "Error during dispensed formula serial answer decoding: bad answer received");
-    EXPECT_FALSE(command.getProtoAnswer());
-    EXPECT_FALSE(command.buildProtoAnswer(QStringList{"1", "1"}, nullptr));
-
-    const QStringList tokens = {"2", "1", "0"};
-    EXPECT_FALSE(outOfMemoryOnce([&] { return command.buildProtoAnswer(tokens, &error); }));
-    expectError(error, "DE01726", "Failed to create GetDispensedFormulaAnswer");
-    EXPECT_FALSE(outOfMemoryOnce([&] { return command.setSerialAnswer(tokens, nullptr); }));
-}
-
-TEST(GetDispensedFormulaSerialCmd, leavesOtherAnswersToItsBase)
-{
-    const Value value = dispensedAnswerStruct();
-    List list;
-    FW_DriverError error;
-    GetDispensedFormulaSerialCmd command;
-    EXPECT_FALSE(outOfMemoryOnce([&] { return command.buildProtoAnswer(value, &error); }));
-    EXPECT_EQ(error.code(), "DE01295");
-    EXPECT_FALSE(outOfMemoryOnce([&] { return command.buildProtoAnswer(list, &error); }));
-    EXPECT_EQ(error.code(), "DE00473");
+        EXPECT_EQ(GetDispensedFormulaSerialCmd(List{3, 2}).serialParameters(family), QList<int>()) << family;
 }
 
 } // namespace

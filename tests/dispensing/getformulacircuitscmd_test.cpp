@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/getformulacircuitscmd.h"
 
-#include "catalogue/protocommandlist.h"
 #include "dispensing/querytesting.h"
 
 #include <QuvFramework/fw_mixer.h>
 
-#include <memory>
 #include <type_traits>
 
 namespace {
@@ -25,19 +23,71 @@ Value answerStruct()
         {{"circuits", arrayOf(11, 13)}, {"positions", arrayOf(1, 3)}, {"quantities", arrayOf(2.5, 0.5)}});
 }
 
-TEST(GetFormulaCircuitsCmd, isCarriedOutByTheDriver)
+AnswerFacts answers()
 {
-    const GetFormulaCircuitsCmd command;
-    EXPECT_EQ(command.command(), "GET_FORMULA_CIRCUITS");
-    EXPECT_EQ(command.protoType(), 2);
-    EXPECT_EQ(command.parameters(), List());
-    EXPECT_EQ(ProtoCommandList::row(command.command())->id, 74);
-    EXPECT_EQ(command.commandString(), QString());
-    EXPECT_EQ(command.actionString(false).m_text, "In progress");
-    EXPECT_EQ(GetFormulaCircuitsCmd(formula(), true).actionString(true).m_text, "In progress");
-    bool ok = true;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), "[]");
-    EXPECT_FALSE(ok);
+    constexpr char answerClass[] = "GetFormulaCircuitsAnswer";
+    constexpr char notMade[] = "Failed to create GetFormulaCircuitsAnswer";
+    constexpr char written[] =
+        R"({"circuits": [11, 13], "positions": [1, 3], "quantities": [2.50000, 0.500000]})";
+    const List list = {QVariant::fromValue(QList<int>{11, 13}), QVariant::fromValue(QList<int>{1, 3}),
+                       QVariant::fromValue(QList<double>{2.5, 0.5})};
+    AnswerFacts answers = confAnswers();
+    answers.value =
+        AnswerOfValue(answerClass, answerStruct(), written)
+            .failsWith("DE01276", notMade)
+            .refuses(Value(0), "DE00717", "GetFormulaCircuitsAnswer: Errors during Circuits ID list creation",
+                     "GetFormulaCircuitsAnswer::GetFormulaCircuitsAnswer(const XmlRpc::XmlRpcValue&)");
+    answers.list = AnswerOfList(answerClass, list, written)
+                       .failsWith("DE00210", notMade)
+                       .refuses({}, "DE00713",
+                                "GetFormulaCircuitsAnswer decoding failed: invalid QVariant value (expected "
+                                "list of circuit IDs)",
+                                "GetFormulaCircuitsAnswer::GetFormulaCircuitsAnswer(QList<QVariant>&)");
+    answers.envelope = {"DE00211", notMade};
+    return answers;
+}
+
+CommandFacts facts(const FW_Dispenser *machine)
+{
+    using Command = GetFormulaCircuitsCmd;
+    CommandFacts facts(formsOf<Command>(machine));
+    facts.catalogue = {"GET_FORMULA_CIRCUITS", 74, "", 1};
+    facts.protoType = 2;
+    facts.readsByHand = true;           // two forms of a request
+    facts.valueIsCheckedByBase = false; // a struct is one of them
+    facts.defaults = Request().notWritten();
+    const Request pouring = Request({variantOf(formula()), true})
+                                .value(arrayOf(formulaStruct(), true))
+                                .typed<Command>(formula(), true)
+                                .written(std::string("[") + formulaWritten + ", true]");
+    const Request purging = Request({variantOf(purge())})
+                                .value(arrayOf(purgeStruct()))
+                                .typed<Command>(purge())
+                                .written(std::string("[") + purgeWritten + ']');
+    facts.requests = {
+        pouring,
+        pouring.alsoFromList({formulaMap(), true}),
+        pouring.alsoFromValue(arrayOf(formulaStruct(), true, 7)),
+        purging,
+        purging.alsoFromList({purgeMap()}),
+        purging.alsoFromValue(purgeStruct()),
+        purging.alsoFromValue(arrayOf(purgeStruct(), true)),
+    };
+    for (const Value &withoutFlag : {arrayOf(formulaStruct()), arrayOf(formulaStruct(), false),
+                                     arrayOf(formulaStruct(), 1), arrayOf(formulaStruct(), "true", true)})
+        facts.requests.push_back(Request({variantOf(formula()), false})
+                                     .value(withoutFlag)
+                                     .typed<Command>(formula(), false)
+                                     .written(std::string("[") + formulaWritten + ", false]"));
+    facts.answers = answers();
+    return facts;
+}
+
+TEST(GetFormulaCircuitsCmd, keepsTheCommandContract)
+{
+    const FW_Dispenser machine = dispenser();
+    expectCommandContract(facts(nullptr));
+    expectCommandContract(facts(&machine));
 }
 
 TEST(GetFormulaCircuitsCmd, takesAFormulaAsItIs)
@@ -50,35 +100,7 @@ TEST(GetFormulaCircuitsCmd, takesAFormulaAsItIs)
     EXPECT_EQ(GetFormulaCircuitsCmd(arrayOf(value), nullptr).parameters(),
               (List{variantOf(checking), false}));
 
-    bool ok = false;
-    EXPECT_EQ(dumped(GetFormulaCircuitsCmd(formula(), true).xmlrpc_parameters(&ok)),
-              std::string("[") + formulaWritten + ", true]");
-    EXPECT_TRUE(ok);
     static_assert(!std::is_constructible_v<GetFormulaCircuitsCmd, const Formula &, const FW_Machine *>);
-}
-
-TEST(GetFormulaCircuitsCmd, takesAPurge)
-{
-    const GetFormulaCircuitsCmd command(purge());
-    EXPECT_EQ(command.parameters(), List{variantOf(purge())});
-    bool ok = false;
-    EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), std::string("[") + purgeWritten + ']');
-    EXPECT_TRUE(ok);
-}
-
-TEST(GetFormulaCircuitsCmd, readsAFormulaWithOrWithoutAFlag)
-{
-    for (const Value &request : {arrayOf(formulaStruct()), arrayOf(formulaStruct(), false),
-                                 arrayOf(formulaStruct(), 1), arrayOf(formulaStruct(), "true", true)})
-        EXPECT_EQ(GetFormulaCircuitsCmd(request, nullptr).parameters(), (List{variantOf(formula()), false}));
-    EXPECT_EQ(GetFormulaCircuitsCmd(arrayOf(formulaStruct(), true, 7), nullptr).parameters(),
-              (List{variantOf(formula()), true}));
-}
-
-TEST(GetFormulaCircuitsCmd, readsAPurgeWithOrWithoutItsArray)
-{
-    for (const Value &request : {purgeStruct(), arrayOf(purgeStruct()), arrayOf(purgeStruct(), true)})
-        EXPECT_EQ(GetFormulaCircuitsCmd(request, nullptr).parameters(), List{variantOf(purge())});
 }
 
 TEST(GetFormulaCircuitsCmd, checksNeitherSignNorMachine)
@@ -111,21 +133,6 @@ TEST(GetFormulaCircuitsCmd, refusesWhatCannotBeRead)
                       [&] { const GetFormulaCircuitsCmd command(request, nullptr); });
 }
 
-TEST(GetFormulaCircuitsCmd, takesAList)
-{
-    const GetFormulaCircuitsCmd ofFormula(List{formulaMap(), true});
-    EXPECT_EQ(ofFormula.parameters(), (List{variantOf(formula()), true}));
-    EXPECT_EQ(dumped(ofFormula.xmlrpc_parameters()), std::string("[") + formulaWritten + ", true]");
-    EXPECT_EQ(GetFormulaCircuitsCmd(ofFormula.parameters()).parameters(), ofFormula.parameters());
-    const GetFormulaCircuitsCmd ofPurge(List{purgeMap()});
-    EXPECT_EQ(ofPurge.parameters(), List{variantOf(purge())});
-    EXPECT_EQ(GetFormulaCircuitsCmd(ofPurge.parameters()).parameters(), ofPurge.parameters());
-    expectRefusal("DE00313",
-                  "GET_FORMULA_CIRCUITS command : expected at least 1 parameters, received 0 instead!",
-                  "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)",
-                  [] { const GetFormulaCircuitsCmd command{List()}; });
-}
-
 TEST(GetFormulaCircuitsCmd, writesNothingOfAListThatIsNeitherForm)
 {
     for (const List &list :
@@ -137,45 +144,6 @@ TEST(GetFormulaCircuitsCmd, writesNothingOfAListThatIsNeitherForm)
         EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), "[]");
         EXPECT_FALSE(ok);
     }
-}
-
-TEST(GetFormulaCircuitsCmd, comesBackAsItWasWritten)
-{
-    const GetFormulaCircuitsCmd ofFormula(formula(), true);
-    EXPECT_EQ(GetFormulaCircuitsCmd(ofFormula.xmlrpc_parameters(), nullptr).parameters(),
-              ofFormula.parameters());
-    const GetFormulaCircuitsCmd ofPurge(purge());
-    EXPECT_EQ(GetFormulaCircuitsCmd(ofPurge.xmlrpc_parameters(), nullptr).parameters(), ofPurge.parameters());
-}
-
-TEST(GetFormulaCircuitsCmd, isAnsweredByLists)
-{
-    GetFormulaCircuitsCmd command(formula(), false);
-    const List list = {QVariant::fromValue(QList<int>{11, 13}), QVariant::fromValue(QList<int>{1, 3}),
-                       QVariant::fromValue(QList<double>{2.5, 0.5})};
-    expectAnswers(command, "GetFormulaCircuitsAnswer", answerStruct(), list, answerStruct());
-    expectAnswerFailures(command,
-                         {"Failed to create GetFormulaCircuitsAnswer", "DE01276", "DE00210", "DE00211"},
-                         answerStruct(), list);
-    FW_DriverError error;
-    EXPECT_FALSE(command.buildProtoAnswer(Value(0), &error));
-    EXPECT_EQ(error.code(), "DE00717");
-    List none;
-    EXPECT_FALSE(command.buildProtoAnswer(none, &error));
-    EXPECT_EQ(error.code(), "DE00713");
-}
-
-TEST(GetFormulaCircuitsCmd, copiesDeeply)
-{
-    const FW_Dispenser machine = dispenser();
-    GetFormulaCircuitsCmd command(arrayOf(formulaStruct(), true), &machine);
-    ASSERT_TRUE(command.buildProtoAnswer(answerStruct(), nullptr));
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    ASSERT_TRUE(dynamic_cast<GetFormulaCircuitsCmd *>(clone.get()));
-    EXPECT_EQ(clone->parameters(), command.parameters());
-    EXPECT_NE(clone->machine(), command.machine());
-    EXPECT_EQ(className(clone->getProtoAnswer()), "GetFormulaCircuitsAnswer");
-    EXPECT_NE(clone->getProtoAnswer(), command.getProtoAnswer());
 }
 
 } // namespace

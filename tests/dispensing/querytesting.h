@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/asyncanswer.h"
-#include "base/outofmemory.h"
-#include "base/protocommand.h"
-#include "base/xmlrpcanswer.h"
+#include "base/commandcontract.h"
 #include "dispensing/dispensertesting.h"
-
-#include <QuvFramework/purgeformula.h>
 
 // What the tests of the questions about a formula share.
 
@@ -58,71 +53,6 @@ inline Value negativeFormulaStruct()
     Value value = formulaStruct();
     value["quantities"][0] = -2.5;
     return value;
-}
-
-inline Value envelope(int retCode, const Value &result)
-{
-    return structOf({{"ret_code", Value(retCode)},
-                     {"info", Value("as it went")},
-                     {"ret_value", result},
-                     {"errors", arrayOf()}});
-}
-
-/** What a command says of an answer that could not be made, by the way in which it came. */
-struct AnswerFailures
-{
-    const char *text = "";
-    const char *valueCode = "";
-    const char *listCode = "";
-    const char *envelopeCode = "";
-};
-
-/** Expects that the command makes the answer of its class from what is right, in all ways to take one. */
-inline void expectAnswers(ProtoCommand &command, const char *answerClass, const Value &value, List list,
-                          const Value &result)
-{
-    FW_DriverError error;
-    EXPECT_TRUE(command.buildProtoAnswer(value, &error));
-    ASSERT_EQ(className(command.getProtoAnswer()), answerClass);
-    EXPECT_EQ(dumped(command.getProtoAnswer()->toXmlRpcValue()), dumped(result));
-
-    command.clearProtoAnswer();
-    EXPECT_TRUE(command.buildProtoAnswer(list, &error));
-    ASSERT_EQ(className(command.getProtoAnswer()), answerClass);
-    EXPECT_EQ(dumped(command.getProtoAnswer()->toXmlRpcValue()), dumped(result));
-
-    command.clearProtoAnswer();
-    EXPECT_TRUE(command.setAnswer(envelope(0, value), false, &error));
-    ASSERT_EQ(className(command.getProtoAnswer()), answerClass);
-    EXPECT_EQ(dumped(command.getProtoAnswer()->toXmlRpcValue()), dumped(result));
-    ASSERT_TRUE(command.getXmlRpcAnswer());
-    EXPECT_EQ(command.getXmlRpcAnswer()->infoMsg(), "as it went");
-
-    EXPECT_TRUE(command.setAnswer(envelope(0, structOf({{"ticket_id", Value("T7")}})), true, &error));
-    EXPECT_EQ(className(command.getProtoAnswer()), "AsyncAnswer");
-    EXPECT_TRUE(command.setAnswer(envelope(4, Value(0)), false, &error));
-    EXPECT_FALSE(command.getProtoAnswer());
-    EXPECT_EQ(error.code(), "");
-}
-
-/** Expects that the command says why no answer could be made of what is right. */
-inline void expectAnswerFailures(ProtoCommand &command, const AnswerFailures &failures, const Value &value,
-                                 List list)
-{
-    const Value whole = envelope(0, value);
-    FW_DriverError error;
-    const auto expectFailure = [&](const char *code, auto work) {
-        SCOPED_TRACE(code);
-        ASSERT_TRUE(work(&error));
-        EXPECT_FALSE(outOfMemoryOnce([&] { return work(&error); }));
-        expectError(error, code, failures.text);
-        EXPECT_FALSE(command.getProtoAnswer());
-        EXPECT_FALSE(outOfMemoryOnce([&] { return work(nullptr); }));
-    };
-    expectFailure(failures.valueCode, [&](FW_DriverError *e) { return command.buildProtoAnswer(value, e); });
-    expectFailure(failures.listCode, [&](FW_DriverError *e) { return command.buildProtoAnswer(list, e); });
-    expectFailure(failures.envelopeCode,
-                  [&](FW_DriverError *e) { return command.setAnswer(whole, false, e); });
 }
 
 } // namespace testing_dispensing

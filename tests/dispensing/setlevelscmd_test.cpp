@@ -1,123 +1,105 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/setlevelscmd.h"
 
-#include "catalogue/protocommandlist.h"
 #include "dispensing/querytesting.h"
-
-#include <memory>
 
 namespace {
 
 using namespace testing_dispensing;
 
-constexpr char ofValue[] = "SetLevelsCmd::SetLevelsCmd(const XmlRpc::XmlRpcValue&, const FW_Machine*)";
-constexpr char ofList[] = "SetLevelsCmd::SetLevelsCmd(QList<QVariant>)";
-constexpr char noFlag[] = "SetLevelsCmd failed: expected Bool type for first parameter";
-constexpr char noFormula[] = "SetLevelsCmd failed: expected Formula type for second parameter";
-
 using Refills = QList<FW_CanisterRefill>;
 
-TEST(SetLevelsCmd, isCarriedOutByTheDriver)
+/** The text for displays is put together of texts of their own. */
+Words updating(const char *source, const QString &translated)
 {
-    const SetLevelsCmd command;
-    EXPECT_EQ(command.command(), "SET_LEVELS");
-    EXPECT_EQ(command.protoType(), 2);
-    EXPECT_EQ(ProtoCommandList::row(command.command())->id, 72);
-    EXPECT_EQ(command.formula(), Formula());
-    EXPECT_TRUE(command.delta());
-    EXPECT_TRUE(command.refill());
-    EXPECT_EQ(command.parameters(), (List{true, variantOf(Formula()), true}));
+    return {"Update levels", "Updating levels", {source, "QuvProtocol", translated}};
 }
 
-TEST(SetLevelsCmd, takesAFormulaAndTwoFlags)
+/** In every form but the typed one somebody is taken to have refilled. */
+Request request(bool delta, bool refill, const Words &words)
 {
-    for (bool delta : {false, true}) {
-        for (bool refill : {false, true}) {
-            const SetLevelsCmd command(formula(), delta, refill);
-            EXPECT_EQ(command.formula(), formula());
-            EXPECT_EQ(command.delta(), delta);
-            EXPECT_EQ(command.refill(), refill);
-            EXPECT_EQ(command.parameters(), (List{delta, variantOf(formula()), refill}));
-            bool ok = false;
-            EXPECT_EQ(dumped(command.xmlrpc_parameters(&ok)), std::string(delta ? "[true, " : "[false, ") +
-                                                                  formulaWritten +
-                                                                  (refill ? ", true]" : ", false]"));
-            EXPECT_TRUE(ok);
-        }
-    }
+    Request request({delta, variantOf(formula())});
+    if (!refill)
+        request.onlyTyped().notReadBack();
+    return request.value(arrayOf(delta, formulaStruct()))
+        .typed<SetLevelsCmd>(formula(), delta, refill)
+        .parameters({delta, variantOf(formula()), refill})
+        .written(std::string(delta ? "[true, " : "[false, ") + formulaWritten +
+                 (refill ? ", true]" : ", false]"))
+        .says(words);
 }
 
-TEST(SetLevelsCmd, readsOnlyTheFirstTwo)
+std::vector<Request> requests()
 {
-    for (bool delta : {false, true}) {
-        for (const SetLevelsCmd &command : {SetLevelsCmd(arrayOf(delta, formulaStruct()), nullptr),
-                                            SetLevelsCmd(arrayOf(delta, formulaStruct(), false), nullptr),
-                                            SetLevelsCmd(arrayOf(delta, formulaStruct(), "rest"), nullptr),
-                                            SetLevelsCmd(List{delta, variantOf(formula())}),
-                                            SetLevelsCmd(List{delta, variantOf(formula()), false}),
-                                            SetLevelsCmd(List{delta, formulaMap(), QVariant()})}) {
-            EXPECT_EQ(command.delta(), delta);
-            EXPECT_EQ(command.formula(), formula());
-            EXPECT_TRUE(command.refill()) << "whatever was sent";
-        }
-    }
+    const QString one = "circuit positions: 1 2.500 (weight or volume) (circuit positions)";
+    const QString levels = "Updating levels with the ";
+    const Request refilled = request(
+        false, true,
+        updating("Updating levels with the formula (refill): circuit positions: 1 2.500 (weight or volume) "
+                 "(circuit positions)",
+                 translation(levels + "formula" + translation(" (refill)") + ": " + one)));
+    return {
+        refilled,
+        refilled.alsoFromList({false, formulaMap(), QVariant()}),
+        refilled.alsoFromList({false, variantOf(formula()), false}),
+        refilled.alsoFromValue(arrayOf(false, formulaStruct(), false)),
+        request(true, true,
+                updating("Updating levels with the delta formula (refill): circuit positions: 1 2.500 "
+                         "(weight or volume) (circuit positions)",
+                         translation(levels + translation("delta ") + "formula" + translation(" (refill)") +
+                                     ": " + one))),
+        request(
+            true, false,
+            updating("Updating levels with the delta formula: circuit positions: 1 2.500 (weight or volume) "
+                     "(circuit positions)",
+                     translation(levels + translation("delta ") + "formula: " + one))),
+        request(false, false,
+                updating("Updating levels with the formula: circuit positions: 1 2.500 (weight or volume) "
+                         "(circuit positions)",
+                         translation(levels + "formula: " + one))),
+    };
 }
 
-TEST(SetLevelsCmd, comesBackAsItWasWrittenButForTheRefill)
+CommandFacts facts(const FW_Dispenser *machine)
 {
-    const SetLevelsCmd command(formula(), false, false);
-    EXPECT_EQ(SetLevelsCmd(command.xmlrpc_parameters(), nullptr).parameters(),
-              (List{false, variantOf(formula()), true}));
-    EXPECT_EQ(SetLevelsCmd(command.parameters()).parameters(), (List{false, variantOf(formula()), true}));
-    EXPECT_EQ(dumped(command.toXmlRpcValue("user")),
-              std::string(R"(["user", "SET_LEVELS", false, )") + formulaWritten + ", false]");
+    CommandFacts facts(formsOf<SetLevelsCmd>(machine));
+    facts.catalogue = {"SET_LEVELS", 72, "", 2};
+    facts.protoType = 2;
+    facts.valueFunction = "SetLevelsCmd::SetLevelsCmd(const XmlRpc::XmlRpcValue&, const FW_Machine*)";
+    facts.listFunction = "SetLevelsCmd::SetLevelsCmd(QList<QVariant>)";
+    facts.arguments = {
+        required(Flag, {"DE00435", "DE01322", "SetLevelsCmd failed: expected Bool type for first parameter"}),
+        required().refuses(
+            {Value(7), Value(true), purgeStruct(), unreadableFormula(), arrayOf(formulaStruct())},
+            {7, QVariant(), variantOf(purge()), unreadableFormulaVariant(), List{formulaMap()}},
+            {"DE00436", "DE01323", "SetLevelsCmd failed: expected Formula type for second parameter"})};
+    facts.getters = {getter(&SetLevelsCmd::delta), getter(&SetLevelsCmd::formula),
+                     getter(&SetLevelsCmd::refill)};
+    facts.defaults =
+        Request()
+            .parameters({true, variantOf(Formula()), true})
+            .written(std::string("[true, ") + emptyFormulaWritten + ", true]")
+            .says(updating("Updating levels with the delta formula (refill): circuit positions:  "
+                           "(weight or volume) (circuit positions)",
+                           translation("Updating levels with the " + translation("delta ") + "formula" +
+                                       translation(" (refill)") +
+                                       ": circuit positions:  (weight or volume) (circuit positions)")));
+    facts.requests = requests();
+    facts.answers = confAnswers();
+    return facts;
 }
 
-TEST(SetLevelsCmd, refusesAFlagThatIsNone)
+TEST(SetLevelsCmd, keepsTheCommandContract)
 {
-    for (const Value &bad : {Value(1), Value("true"), Value(1.0), formulaStruct(), arrayOf(true)})
-        expectRefusal("DE00435", noFlag, ofValue,
-                      [&] { const SetLevelsCmd command(arrayOf(bad, Value(7)), nullptr); });
-    for (const QVariant &bad : {QVariant(1), QVariant("true"), QVariant(), variantOf(formula())})
-        expectRefusal("DE01322", noFlag, ofList, [&] { const SetLevelsCmd command(List{bad, 7}); });
+    const FW_Dispenser machine = dispenser();
+    expectCommandContract(facts(nullptr));
+    expectCommandContract(facts(&machine));
 }
 
-TEST(SetLevelsCmd, refusesWhatIsNoFormula)
-{
-    for (const Value &bad :
-         {Value(7), Value(true), purgeStruct(), unreadableFormula(), arrayOf(formulaStruct())})
-        expectRefusal("DE00436", noFormula, ofValue,
-                      [&] { const SetLevelsCmd command(arrayOf(true, bad), nullptr); });
-    for (const QVariant &bad : {QVariant(7), QVariant(), variantOf(purge()), unreadableFormulaVariant(),
-                                QVariant(List{formulaMap()})})
-        expectRefusal("DE01323", noFormula, ofList, [&] { const SetLevelsCmd command(List{true, bad}); });
-}
-
-TEST(SetLevelsCmd, needsTwoArguments)
-{
-    constexpr char tooFew[] = "SET_LEVELS command : expected at least 2 parameters, received 1 instead!";
-    expectRefusal("DE00312", tooFew,
-                  "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)",
-                  [] { const SetLevelsCmd command(arrayOf(true), nullptr); });
-    expectRefusal("DE00313", tooFew,
-                  "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)",
-                  [] { const SetLevelsCmd command(List{true}); });
-}
-
-TEST(SetLevelsCmd, goesBackToItsDefaults)
-{
-    SetLevelsCmd command(formula(), false, false);
-    command.setDefaults();
-    EXPECT_EQ(command.parameters(), (List{true, variantOf(Formula()), true}));
-    EXPECT_EQ(command.command(), "SET_LEVELS");
-}
-
-TEST(SetLevelsCmd, saysWhatItDoes)
+TEST(SetLevelsCmd, saysWhatTheFormulaNamesAndMeasures)
 {
     const Formula colorants =
         formulaOf(Formula::ColorantCodes, Formula::WeightOrVolume, {{"B", 12.5}, {"KX", -0.3}});
-    EXPECT_EQ(SetLevelsCmd().commandString(), "Update levels");
-    EXPECT_EQ(SetLevelsCmd(colorants, true, true).actionString(false).m_text, "Updating levels");
     EXPECT_EQ(
         SetLevelsCmd(colorants, false, false).actionString(true).m_text,
         "Updating levels with the formula: colorants: B 12.500, KX -0.300 (weight or volume) (colorants)");
@@ -132,41 +114,9 @@ TEST(SetLevelsCmd, saysWhatItDoes)
               "(circuit positions)");
 }
 
-TEST(SetLevelsCmd, saysItInTheRunningLanguage)
-{
-    const TranslatedTexts translated;
-    const Formula one = steps({{"2", 40}});
-    EXPECT_EQ(SetLevelsCmd(one, true, true).actionString(false).m_translated, translation("Updating levels"));
-    EXPECT_EQ(SetLevelsCmd(one, false, false).actionString(true).m_translated,
-              translation("Updating levels with the formula: circuit positions: 2 40 (steps) "
-                          "(circuit positions)"));
-    EXPECT_EQ(SetLevelsCmd(one, true, true).actionString(true).m_translated,
-              translation("Updating levels with the " + translation("delta ") + "formula" +
-                          translation(" (refill)") +
-                          ": circuit positions: 2 40 (steps) (circuit positions)"));
-}
-
-TEST(SetLevelsCmd, isAnsweredPlainly)
-{
-    SetLevelsCmd command(formula(), true, true);
-    EXPECT_TRUE(command.setAnswer(envelope(0, Value(0)), false, nullptr));
-    EXPECT_EQ(className(command.getProtoAnswer()), "ConfProtoAnswer");
-}
-
-TEST(SetLevelsCmd, copiesDeeply)
-{
-    const FW_Dispenser machine = dispenser();
-    const SetLevelsCmd command(arrayOf(false, formulaStruct()), &machine);
-    const std::unique_ptr<ProtoCommand> clone(static_cast<const ProtoCommand &>(command).clone());
-    ASSERT_TRUE(dynamic_cast<SetLevelsCmd *>(clone.get()));
-    EXPECT_EQ(clone->parameters(), (List{false, variantOf(formula()), true}));
-    EXPECT_TRUE(clone->machine());
-    EXPECT_NE(clone->machine(), command.machine());
-}
-
 // ---------------------------------------------------------------- what was refilled
 
-TEST(SetLevelsCmd, noteWhatTheCanistersOfAFormulaHold)
+TEST(SetLevelsCmd, notesWhatTheCanistersOfAFormulaHold)
 {
     const FW_Dispenser machine = withContent(3, 120.25);
     Refills refills = {{7, 7, 7}};
