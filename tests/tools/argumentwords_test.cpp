@@ -52,6 +52,11 @@ TEST(ArgumentWords, areTakenByTheirPlaces)
     EXPECT_EQ(taken({"1", "2.5", "true", "[1,2]", "word"}), R"([1,2.5,true,[1,2],"word"])");
 }
 
+TEST(ArgumentWords, knowWhichWordGaveThem)
+{
+    EXPECT_EQ(argumentsFromWords(cleaning(), {"1", "note=x"}).words, (QStringList{"1", "", "note=x"}));
+}
+
 TEST(ArgumentWords, areTakenByTheirNamesInAnyOrder)
 {
     EXPECT_EQ(taken({"type=1"}), "[1]");

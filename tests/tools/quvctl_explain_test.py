@@ -25,6 +25,14 @@ def explained(code):
     return json.loads(out) if status == 0 else {"refused": err}
 
 
+def shown_refusals():
+    """Code, form and circumstance of what quvctl show tells of arguments, answers and their members."""
+    _, out, _ = run("show", "--markdown")
+    return {(code, form.replace("XML-RPC", "XML-RPC value"), when)
+            for code, forms, when in re.findall(r"^\| (DE\d{5}) \| ([^|]*) \| ([^|]*) \|", out, re.MULTILINE)
+            for form in forms.split(", ") if not re.match(r"there are |the arguments are ", when)}
+
+
 class Explain(unittest.TestCase):
     maxDiff = None
 
@@ -54,8 +62,8 @@ CLASS      FORM     WHEN          FUNCTION            FILE
 MOT_cdata  machine  null machine  referenceStructure  src/configuration/mot_cdata.cpp
 
 DE01930: Priming2Cmd failed: invalid Formula type parameter
-CLASS        FORM           WHEN  FUNCTION                  FILE
-Priming2Cmd  XML-RPC value  -     Priming2Cmd::Priming2Cmd  src/dispensing/priming2cmd.cpp
+CLASS        FORM           WHEN                                    FUNCTION                  FILE
+Priming2Cmd  XML-RPC value  circuits is missing or of another type  Priming2Cmd::Priming2Cmd  src/dispensing/priming2cmd.cpp
 """, ""))
 
     def test_forms_of_a_code(self):
@@ -64,10 +72,18 @@ Priming2Cmd  XML-RPC value  -     Priming2Cmd::Priming2Cmd  src/dispensing/primi
 
     def test_arguments(self):
         for code, form in [("DE00298", "XML-RPC value"), ("DE00300", "list")]:
-            (text, owner, told_form, when, _, file), = self.refusals(code)
+            (text, owner, told_form, when, functions, file), = self.refusals(code)
             self.assertEqual((text, owner, told_form, when, file),
-                             ("Position ID: expected INT parameter", "DispenserStatusCmd", form, "other type",
-                              "src/status/dispenserstatuscmd.cpp"))
+                             ("Position ID: expected INT parameter", "DispenserStatusCmd", form,
+                              "position is of another type", "src/status/dispenserstatuscmd.cpp"))
+            self.assertEqual(functions, ["DispenserStatusCmd::DispenserStatusCmd"])
+        for code, owner, form, when in [
+                ("DE00289", "AutocapCmd", "XML-RPC value", "movement_type is missing"),
+                ("DE00291", "AutocapCmd", "list", "movement_type is missing"),
+                ("DE00992", "PackCmd", "list", "movement_type is out of range"),
+                ("DE00993", "PackCmd", "list", "formula cannot be read"),
+                ("DE01424", "ChannelTintCmd", "XML-RPC value", "channel is missing or of another type")]:
+            self.assertEqual([refusal[1:5] for refusal in self.refusals(code)], [(owner, form, when, [f"{owner}::{owner}"])])
         self.assertEqual(self.refusals("DE00312"), [
             ("\u2026 command : expected at least \u2026 parameters, received \u2026 instead!", "ProtoCommand",
              "XML-RPC value", "", ["ProtoCommand::ProtoCommand"], "src/base/protocommand.cpp")])
@@ -94,7 +110,15 @@ Priming2Cmd  XML-RPC value  -     Priming2Cmd::Priming2Cmd  src/dispensing/primi
 
     def test_answers(self):
         self.assertEqual([refusal[:4] for refusal in self.refusals("DE00097")],
-                         [("Failed to create DispenserStatusAnswer", "DispenserStatusCmd", "answer, tokens", "")])
+                         [("Failed to create DispenserStatusAnswer", "DispenserStatusCmd", "answer, tokens",
+                           "the answer cannot be made")])
+        for code, form, function in [("DE00097", "answer, tokens", "buildProtoAnswer"),
+                                     ("DE01266", "answer, XML-RPC value", "buildProtoAnswer"),
+                                     ("DE01267", "answer, list", "buildProtoAnswer"),
+                                     ("DE00027", "answer, envelope", "setAnswer")]:
+            self.assertEqual(self.refusals(code), [
+                ("Failed to create DispenserStatusAnswer", "DispenserStatusCmd", form, "the answer cannot be made",
+                 [f"DispenserStatusCmd::{function}"], "src/status/dispenserstatuscmd.cpp")])
         self.assertEqual([refusal[:4] for refusal in self.refusals("DE01152")],
                          [("Failed to create answer", "ConfProtoCommand", "answer", "null")])
 
@@ -105,6 +129,27 @@ Priming2Cmd  XML-RPC value  -     Priming2Cmd::Priming2Cmd  src/dispensing/primi
                           "no_48_voltage", "punching"])
         self.assertIn("hw_error", told[("MachineStatusAnswer", "MachineStatusAnswer: expected \u2026 value")])
         self.assertEqual(told[("MachineStatusAnswer", "DispenserStatusAnswer: expected \u2026 value")], ["can_present"])
+
+    def test_members_of_a_described_answer(self):
+        for code, owner, form, when in [
+                ("DE01178", "GetCmdEstimatedExecTimeAnswer", "list", "exec_time is missing or of another type"),
+                ("DE00459", "CheckFormulaLevelsAnswer", "XML-RPC value",
+                 "canisters_below_critical has an element of another type"),
+                ("DE00460", "CheckFormulaLevelsAnswer", "XML-RPC value",
+                 "canisters_below_critical is missing or of another type"),
+                ("DE01710", "GetDispensedFormulaAnswer", "XML-RPC value", "dispensed_formula is of another type"),
+                ("DE01711", "GetDispensedFormulaAnswer", "XML-RPC value", "dispensed_formula is missing")]:
+            self.assertEqual([refusal[1:5] for refusal in self.refusals(code)], [(owner, form, when, [f"{owner}::{owner}"])])
+
+    def test_show_says_the_same(self):
+        alike = 0
+        for code, form, when in sorted(shown_refusals()):
+            told = {told_when for _, _, told_form, told_when, _, _ in self.refusals(code)
+                    if told_form in (form, f"answer, {form}")}
+            alike += when in told
+            with self.subTest(code):  # nothing is told of what a class reads by hand, or of members in a table of their own
+                self.assertTrue(when in told or "" in told, (when, told))
+        self.assertGreater(alike, 100)
 
     def test_several_places(self):
         self.assertEqual({refusal[1] for refusal in self.refusals("DE01295")},

@@ -367,10 +367,10 @@ class Described(Collected):
             ''', arguments=ARGUMENTS.replace("T &field,", "const char *name, T &field,"),
             answered=REFUSAL + "template <class Answer> struct AnsweredBy { Refusal value; Refusal list; };")
         self.assertEqual([(one.code, one.text, one.names, one.refuser, one.form, one.when) for one in found],
-                         [("DE00001", "\u2026: too few", ("type",), "FooCmd", "XML-RPC value", "absent"),
-                          ("DE00002", "\u2026: too few", ("type",), "FooCmd", "list", "absent"),
-                          ("DE00003", "expected INT", (), "FooCmd", "XML-RPC value", "other type"),
-                          ("DE00004", "expected INT", (), "FooCmd", "list", "other type"),
+                         [("DE00001", "\u2026: too few", ("type",), "FooCmd", "XML-RPC value", "missing"),
+                          ("DE00002", "\u2026: too few", ("type",), "FooCmd", "list", "missing"),
+                          ("DE00003", "expected INT", (), "FooCmd", "XML-RPC value", "another type"),
+                          ("DE00004", "expected INT", (), "FooCmd", "list", "another type"),
                           ("DE00005", "no value", (), "FooCmd", "answer, XML-RPC value", ""),
                           ("DE00006", "no list", (), "FooCmd", "answer, list", "")])
 
@@ -405,12 +405,136 @@ class Described(Collected):
             {
                 template <class T> void optional(const ArgumentName &, T &field, const ArgumentRefusal &otherType) { go(); }
             };
-            '''), [("DE00001", "expected INT", "FooCmd", "XML-RPC value", "other type"),
-                   ("DE00002", "expected INT", "FooCmd", "list", "other type"),
-                   ("DE00003", "no value", "FooCmd", "XML-RPC value", "other type"),
+            '''), [("DE00001", "expected INT", "FooCmd", "XML-RPC value", "another type"),
+                   ("DE00002", "expected INT", "FooCmd", "list", "another type"),
+                   ("DE00003", "no value", "FooCmd", "XML-RPC value", "another type"),
                    ("DE00004", "Failed to create FooAnswer", "FooCmd", "answer, tokens", ""),
                    ("DE00005", "Failed", "FooCmd", "answer, envelope", ""),
-                   ("DE00006", "no list", "FooCmd", "list", "other type")])
+                   ("DE00006", "no list", "FooCmd", "list", "another type")])
+
+    def places(self, source, **headers):
+        """Code, form, subject, circumstance and functions of each."""
+        return [(one.code, one.form, one.subject, one.when, one.functions) for one in self.refusals(source, **headers)]
+
+    def test_place_of_each_argument(self):
+        made = ("FooCmd::FooCmd",)
+        self.assertEqual(self.places('''
+            struct FooCmd::Description : quv::Description
+            {
+                static constexpr char speed[] = "speed";
+                static constexpr Refusal badFormula = {"DE00010", "bad"};
+                static constexpr AnsweredBy<FooAnswer> answer = {{"DE00013", "failed"}, {}, {}, {"DE00014", "failed"}};
+
+                template <class Self, class Archive> static void arguments(Self &self, Archive &archive)
+                {
+                    constexpr ArgumentRefusal noId = {"DE00001", "DE00002", "no ID"};
+                    archive.required({"id", "of a circuit"}, self.m_id, noId, noId);
+                    archive.convertible(speed, self.m_speed, {{"DE00003", "no"}, {"DE00004", "no"}});
+                    archive.whenRead([&self](const char *function) { self.check(function); });
+                    archive.refuseUnless(self.m_speed < 9, {"DE00005", "DE00006", "too fast"});
+                    archive.object("formula", self.m_formula, {{"DE00007", "no"}, badFormula}, {"DE00008", "bad"});
+                    archive.object("other", self.m_other, {{"DE00009", "no"}, badFormula}, badFormula);
+                    archive.unread("rest", self.m_rest);
+                    archive.optional("last", self.m_last, {{}, {"DE00011", "no"}});
+                }
+            };
+            ''', base=REFUSAL + '''
+            template <class Answer> struct AnsweredBy { Refusal tokens; Refusal value; Refusal list; Refusal envelope; };
+            struct ArgumentRefusal
+            {
+                constexpr ArgumentRefusal(const char *valueCode, const char *listCode, const char *text)
+                    : value{valueCode, text}, list{listCode, text} {}
+                constexpr ArgumentRefusal(const Refusal &ofValue, const Refusal &ofList) : value(ofValue), list(ofList) {}
+                Refusal value;
+                Refusal list;
+            };
+            template <class Source> class ArgumentReader
+            {
+                template <class T>
+                void required(const Name &, T &, const ArgumentRefusal &absent, const ArgumentRefusal &otherType) { go(); }
+                template <class T> void optional(const Name &, T &field, const ArgumentRefusal &otherType) { go(); }
+                void convertible(const Name &, int &field, const ArgumentRefusal &refusal) { go(); }
+                template <class T>
+                void object(const Name &, T &field, const ArgumentRefusal &refusal, const Refusal &unreadable) { go(); }
+                void refuseUnless(bool good, const ArgumentRefusal &refusal) const { go(); }
+            };
+            '''), [("DE00001", "XML-RPC value", "id", "another type", made),
+                   ("DE00001", "XML-RPC value", "id", "missing", made),
+                   ("DE00002", "list", "id", "another type", made), ("DE00002", "list", "id", "missing", made),
+                   ("DE00003", "XML-RPC value", "speed", "missing or another type", made),
+                   ("DE00004", "list", "speed", "missing or another type", made),
+                   ("DE00005", "XML-RPC value", "speed", "out of range", made),
+                   ("DE00006", "list", "speed", "out of range", made),
+                   ("DE00007", "XML-RPC value", "formula", "missing or another type", made),
+                   ("DE00008", "list", "formula", "unreadable", made),
+                   ("DE00009", "XML-RPC value", "other", "missing or another type", made),
+                   ("DE00010", "list", "formula", "missing or another type", made),
+                   ("DE00010", "list", "other", "missing or another type", made),
+                   ("DE00010", "list", "other", "unreadable", made),
+                   ("DE00011", "list", "last", "another type", made),
+                   ("DE00013", "answer, tokens", "the answer", "", ("FooCmd::buildProtoAnswer",)),
+                   ("DE00014", "answer, envelope", "the answer", "", ("FooCmd::setAnswer",))])
+
+    def test_place_of_each_member(self):
+        made = ("FooAnswer::FooAnswer",)
+        self.assertEqual(self.places('''
+            struct FooAnswer::Description
+            {
+                using Answer = FooAnswer;
+                static std::vector<quv::Member<Answer>> members()
+                {
+                    return {quv::Member<Answer>(TIME, &Answer::m_time, {"DE00001", "no"}, {"DE00002", "no"})
+                                .as(cutToInt()).otherType({"DE00003", "bad"}).meaning("s"),
+                            quv::Member<Answer>("ids", &Answer::m_ids, {"DE00004", "no"})
+                                .meaning("circuits").element({"DE00005", "bad"}),
+                            {"rest", &Answer::m_rest, {"DE00006", "no"}, {"DE00007", "no"}}};
+                }
+            };
+            ''', record=REFUSAL + '''
+            template <class T> class Member
+            {
+            public:
+                template <class C, class V>
+                Member(const char *key, V C::*field, const Refusal &refusal = {}, const Refusal &inList = {}) { go(); }
+                Member &otherType(const Refusal &refusal) { return *this; }
+                Member &element(const Refusal &refusal) { return *this; }
+            private:
+                MemberRow m_row;
+            };
+            ''', fooanswer='class FooAnswer { static constexpr char TIME[] = "time"; int m_time = 0; };'),
+            [("DE00001", "XML-RPC value", "time", "missing", made),
+             ("DE00002", "list", "time", "missing or another type", made),
+             ("DE00003", "XML-RPC value", "time", "another type", made),
+             ("DE00004", "XML-RPC value", "ids", "missing or another type", made),
+             ("DE00005", "XML-RPC value", "ids", "an element of another type", made),
+             ("DE00006", "XML-RPC value", "rest", "missing or another type", made),
+             ("DE00007", "list", "rest", "missing or another type", made)])
+
+    def test_flags_that_are_required(self):
+        found = self.refusals('''
+            constexpr StatusFlag<Foo> flags[] = {
+                {"first", &Foo::first, 1, Required | Lasting, "Required"},
+                {"second", &Foo::second, 2, Lasting, "not Required"},
+                {"third", &Foo::third, 3, quv::Required},
+            };
+            constexpr Refusal flagMissing = {"DE00001", "Foo: expected %1 value"};
+            std::vector<Member<Foo>> members()
+            {
+                return membersOf(flags, flagMissing);
+            }
+            Foo::Foo(const XmlRpcValue &value) { read(members(), value, Q_FUNC_INFO); }
+            ''', flags=REFUSAL + '''
+            template <class T> struct StatusFlag { const char *key = ""; bool T::*flag = nullptr; int bit = 0;
+                                                   unsigned traits = Plain; const char *on = nullptr; };
+            template <class T, std::size_t count>
+            std::vector<Member<T>> membersOf(const StatusFlag<T> (&flags)[count], const Refusal &missing)
+            {
+                for (const StatusFlag<T> &row : flags)
+                    members.emplace_back(row.key, row.flag, row.has(Required) ? missing : Refusal());
+            }
+            ''')
+        self.assertEqual([(one.text, one.names, one.refuser, one.form) for one in found],
+                         [("Foo: expected \u2026 value", ("first", "third"), "Foo", "XML-RPC value")])
 
     def test_table_of_an_answer(self):
         self.assertEqual(self.raised('''

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "explanations.h"
 #include "jsonvalue.h"
+#include "refusallines.h"
 #include "subcommands.h"
 #include "terminal.h"
 
@@ -65,9 +66,20 @@ Explanations explanationsOf(const QString &code)
     return found;
 }
 
+QString cell(const QString &text)
+{
+    return text.isEmpty() ? QStringLiteral("-") : text;
+}
+
 QString cell(const char *text)
 {
-    return *text == '\0' ? QStringLiteral("-") : QString::fromUtf8(text);
+    return cell(QString::fromUtf8(text));
+}
+
+QString whenInWords(const Explanation &explanation)
+{
+    const QString when = QString::fromUtf8(explanation.when);
+    return *explanation.subject == '\0' ? when : inWords(when, QString::fromUtf8(explanation.subject));
 }
 
 OrderedJson listed(const char *texts)
@@ -86,7 +98,7 @@ OrderedJson inJson(const QString &code, const Explanations &found)
                                                 {"names", listed(explanation.names)},
                                                 {"class", explanation.refuser},
                                                 {"form", explanation.form},
-                                                {"when", explanation.when},
+                                                {"when", toJson(whenInWords(explanation))},
                                                 {"functions", listed(explanation.functions)},
                                                 {"file", explanation.file}}));
     return OrderedJson::object({{"code", toJson(code)}, {"refusals", std::move(refusals)}});
@@ -111,7 +123,7 @@ void printText(const QString &text, const Explanations &found)
     for (const Explanation &explanation : found) {
         if (text != QString::fromUtf8(explanation.text))
             continue;
-        columns.add({cell(explanation.refuser), cell(explanation.form), cell(explanation.when),
+        columns.add({cell(explanation.refuser), cell(explanation.form), cell(whenInWords(explanation)),
                      cell(explanation.functions), cell(explanation.file)});
         if (*explanation.names != '\0')
             names.append(namesInWords(explanation));

@@ -13,9 +13,10 @@ struct Explanation
     const char *names;     ///< what stands in its place, when that is known before; several by ", "
     const char *refuser;   ///< the class
     const char *form;      ///< in which what was refused came, or what was being done
-    const char *when;      ///< a word or two
+    const char *when;      ///< a word or two; of the subject, where there is one
     const char *functions; ///< where it is raised; several by ", "
     const char *file;
+    const char *subject = ""; ///< the argument, the member or the answer that a description refuses
 };
 
 /// All, sorted by code. Made from the sources when quvctl is built.

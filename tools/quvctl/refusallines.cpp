@@ -22,16 +22,8 @@ constexpr Phrase phrases[] = {
     {"an element of another type", "%1 has an element of another type"},
     {"unreadable", "%1 cannot be read"},
     {"out of range", "%1 is out of range"},
+    {"", "%1 cannot be made"}, // as an answer
 };
-
-QString inWords(const QString &when, const QString &of)
-{
-    for (const Phrase &phrase : phrases)
-        if (when == QLatin1String(phrase.when))
-            return QString::fromLatin1(phrase.words).arg(of);
-    return (when.startsWith(QLatin1String("an ")) ? QStringLiteral("%1 is %2") : QStringLiteral("%1: %2"))
-        .arg(of, when);
-}
 
 bool areAlike(const RefusalLine &a, const RefusalLine &b)
 {
@@ -94,6 +86,15 @@ void addMembers(QList<RefusalLine> &lines, const QList<MemberFacts> &members)
 
 } // namespace
 
+QString inWords(const QString &when, const QString &of)
+{
+    for (const Phrase &phrase : phrases)
+        if (when == QLatin1String(phrase.when))
+            return QString::fromLatin1(phrase.words).arg(of);
+    return (when.startsWith(QLatin1String("an ")) ? QStringLiteral("%1 is %2") : QStringLiteral("%1: %2"))
+        .arg(of, when);
+}
+
 QList<RefusalLine> refusalLines(const QList<RefusalFacts> &ofRequest, const CommandFacts &command)
 {
     QList<RefusalLine> lines;
@@ -104,7 +105,8 @@ QList<RefusalLine> refusalLines(const QList<RefusalFacts> &ofRequest, const Comm
             add(lines, {refusal.code, refusal.form, inWords(refusal.when, argument.name), refusal.text});
     addMembers(lines, command.members);
     for (const RefusalFacts &refusal : command.answerRefusals)
-        add(lines, {refusal.code, refusal.form, QStringLiteral("the answer cannot be made"), refusal.text});
+        add(lines,
+            {refusal.code, refusal.form, inWords(refusal.when, QStringLiteral("the answer")), refusal.text});
     return lines;
 }
 

@@ -17,6 +17,9 @@ struct RefusalLine
     QString text;  ///< with an ellipsis for the member, when it is that of several
 };
 
+/// When an argument, a member or an answer is refused: "position is of another type" for "another type" and "position".
+QString inWords(const QString &when, const QString &of);
+
 /// Those of a request as a whole come as they are, before those that the command tells of its arguments and its answer.
 QList<RefusalLine> refusalLines(const QList<RefusalFacts> &ofRequest, const CommandFacts &command);
 

@@ -42,7 +42,7 @@ def literal(text):
 
 def row(refusal):
     cells = [refusal.code, refusal.text, ", ".join(refusal.names), refusal.refuser, refusal.form, refusal.when,
-             ", ".join(refusal.functions), refusal.file]
+             ", ".join(refusal.functions), refusal.file, *filter(None, [refusal.subject])]
     return "        {" + ", ".join(map(literal, cells)) + "},\n"
 
 

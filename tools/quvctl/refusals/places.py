@@ -3,7 +3,7 @@
 
 from cpptokens import elements, is_group, is_name, is_sign
 from declarations import CONTAINERS, NO_CALLS, is_block
-from sources import callee_of, function_of, owners_of
+from sources import callee_of, function_of, is_header, owners_of
 
 # Calls that give the text that they are given, and what else gives what it is given.
 TEXT_MAKERS = {"QStringLiteral", "QLatin1String", "QString", "fromLatin1", "fromUtf8", "TString", "QT_TRANSLATE_NOOP",
@@ -126,6 +126,18 @@ def declared_with(sources, name):
     if not is_name(name):
         return None
     return next((one for one in sources.variables.get(name.text, []) if one.declared is name), None)
+
+
+def uses_of(sources, name):
+    """Where a variable is used, by the name in its declaration."""
+    variable = declared_with(sources, name)
+    if variable is None:
+        return []
+    everywhere = variable.function is None and any(
+        is_header(one.root.path) for one in sources.variables[name.text] if one.owners == variable.owners)
+    return [node for node in sources.names[name.text]
+            if node is not name and (everywhere or node.root() is variable.root) and
+            not is_sign(node.beside(-1), ".", "->") and sources.variable_near(name.text, node) is variable]
 
 
 @kept

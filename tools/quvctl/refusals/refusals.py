@@ -4,27 +4,21 @@
 import re
 from dataclasses import dataclass
 
-from cpptokens import Token, elements, is_group, is_name, is_sign
+from cpptokens import Token, elements, is_group, is_name, is_sign, walk
 from declarations import CONTAINERS, Function
-from places import called_by, declared_with, handed_to, list_around, makers_of, struct_of
+from descriptions import THE_ANSWER, Descriptions, answering_function, is_described
+from forms import FORM_NAMES, MACHINE, MACHINES, form_of, in_words
+from places import called_by, declared_before, declared_with, handed_to, list_around, makers_of, struct_of, uses_of
 from sources import Sources, callee_of, function_of, is_header, stem
 from texts import CODE, DEEPEST, PLACE, Binding, Scope, Texts, unique
 
 # What takes a code and behind it its text.
 SINKS = {"FW_Exception", "FW_DriverError", "D_E"}
 
-VALUE, LIST, TYPED, TOKENS, ROW, MACHINE, ENVELOPE = \
-    "XML-RPC value", "list", "typed", "tokens", "text", "machine", "envelope"
-
-# A member or a parameter of such a name says in which form its code is raised; any other name says when.
-FORM_NAMES = {"value": VALUE, "xmlRpc": VALUE, "struct": VALUE, "list": LIST, "typed": TYPED, "tokens": TOKENS,
-              "envelope": ENVELOPE}
 ANSWERED = "AnsweredBy"  # the struct of the refusals of a command's answer, by the form in which the answer comes
 ANSWER = "*answer*"  # the step that leads through it
 NAMES_WITHOUT_WORDS = {"code", "codes", "refusal", "refusals", "text", "error", "failure", "expected", "incorrect",
                        "levels"}
-
-MACHINES = {"FW_Machine", "FW_Dispenser", "FW_Mixer"}
 
 
 class Unresolved(Exception):
@@ -43,6 +37,7 @@ class Refusal:
     when: str
     functions: tuple
     file: str
+    subject: str = ""  # the argument, the member or the answer that a description refuses
 
 
 @dataclass(frozen=True)
@@ -108,11 +103,11 @@ def merged(refusals):
     """One refusal for those that differ in nothing but the function or the names."""
     found = {}
     for one in refusals:
-        key = (one.code, one.text, one.refuser, one.form, one.when, one.file)
+        key = (one.code, one.text, one.refuser, one.form, one.subject, one.when, one.file)
         names, functions = found.get(key, ((), ()))
         found[key] = (unique([*names, *one.names]), unique([*functions, *one.functions]))
-    return [Refusal(code, text, tuple(names), refuser, form, when, tuple(functions), file)
-            for (code, text, refuser, form, when, file), (names, functions) in
+    return [Refusal(code, text, tuple(names), refuser, form, when, tuple(functions), file, subject)
+            for (code, text, refuser, form, subject, when, file), (names, functions) in
             sorted(found.items(), key=lambda item: item[0])]
 
 
@@ -120,13 +115,20 @@ class Collector:
     def __init__(self, sources):
         self.sources = sources
         self.texts = Texts(sources)
+        self.descriptions = Descriptions(sources, self.texts)
         self.classes = {name.lower(): name for name in sources.structs}
 
     def refusals_of(self, literal):
+        found = unique(self.raised(literal, Scope(), ()))
+        path = literal.root().path
+        places = self.descriptions.places(literal)
+        if places:
+            return [Refusal(literal.value, raised.text, raised.names, one.refuser, one.form, one.when, (one.function,), path,
+                            one.subject) for raised in found for one in places]
         return [Refusal(literal.value, raised.text, raised.names, refuser,
-                        raised.form or form or raised.form_of_path, raised.when, (function,), literal.root().path)
-                for raised in unique(self.raised(literal, Scope(), ()))
-                for refuser, function, form in self.users(raised.use or literal, raised)]
+                        raised.form or form or raised.form_of_path, raised.when, (function,), path,
+                        THE_ANSWER if ANSWER in raised.steps() else "")
+                for raised in found for refuser, function, form in self.users(raised.use or literal, raised)]
 
     # The text
 
@@ -236,7 +238,7 @@ class Collector:
                     for one in self.raised(call.beside(-1), self.outside(function, call, scope), path)]
         name = begin.beside(-1) if is_sign(begin, "=") else node.beside(-1)  # or Type name{...}
         name = name.beside(-1) if is_group(name, "[") else name
-        return [one for use in self.uses_of(name) for one in self.raised(use, scope.deeper(), path + (use,))]
+        return [one for use in uses_of(self.sources, name) for one in self.raised(use, scope.deeper(), path + (use,))]
 
     def outside(self, function, call, scope):
         """The names that were bound in a function, as its caller calls them."""
@@ -246,26 +248,35 @@ class Collector:
                 bindings[nodes[0].text] = scope.bindings[parameter.name]
         return scope.within(bindings)
 
-    def uses_of(self, name):
-        """Where a variable is used, by the name in its declaration."""
-        variable = declared_with(self.sources, name)
-        if variable is None:
-            return []
-        everywhere = variable.function is None and any(
-            is_header(one.root.path) for one in self.sources.variables[name.text] if one.owners == variable.owners)
-        return [node for node in self.sources.names[name.text]
-                if node is not name and (everywhere or node.root() is variable.root) and
-                not is_sign(node.beside(-1), ".", "->") and self.sources.variable_near(name.text, node) is variable]
-
     def key_of(self, group, scope):
         """The texts with which the lists around a text begin, of the innermost that begins with one: what the text is of."""
-        while group:
+        while True:
             texts = self.texts.of(elements(group)[0], scope.deeper())
             if texts and not CODE.fullmatch(texts[0]):
                 return tuple(texts)
             around = list_around(group)
-            group = around[0] if around else None
-        return ()
+            if around is None:
+                return self.keys_of_uses(group, scope)
+            group = around[0]
+
+    def keys_of_uses(self, group, scope):
+        """The same for a list that has a name: of all lists that it is used in."""
+        variable = declared_before(self.sources, group) if scope.depth < DEEPEST else None
+        uses = uses_of(self.sources, variable.declared) if variable else []
+        return tuple(unique(key for use in uses if (around := list_around(use))
+                            for key in self.keys_of_rows(*around) or self.key_of(around[0], scope.deeper())))
+
+    def keys_of_rows(self, call, place):
+        """The same for what a call gives to those rows of a table that have a trait."""
+        traits = {trait for function in handed_to(self.sources, call) if place < len(function.parameters)
+                  for node in function.holds() if is_name(node, function.parameters[place].name)
+                  for trait in asked_before(node)}
+        tables = [self.sources.variable_near(nodes[0].text, nodes[0]) for nodes in elements(call)
+                  if traits and len(nodes) == 1 and is_name(nodes[0])]
+        return [text for table in tables if table and table.is_array and table.value and is_group(table.value[-1], "{")
+                for nodes in elements(table.value[-1])
+                if nodes and is_group(nodes[0], "{") and any(is_name(node, *traits) for node in walk(nodes[0]))
+                for text in self.texts.of(elements(nodes[0])[0], Scope())]
 
     def words_of(self, group, place):
         """The names of the members that a code stands for, the innermost first, up to the parameter that they are given to."""
@@ -294,13 +305,15 @@ class Collector:
         if function:
             return self.users_of_function(function.outermost, raised, seen)
         name = declared_name(node)
-        uses = [use for use in self.uses_of(name) if id(use) not in seen]
+        uses = [use for use in uses_of(self.sources, name) if id(use) not in seen]
         fitting = [use for use in uses if self.leads_to(use, raised)]
         found = unique(user for use in fitting or uses for user in self.users(use, raised, seen | {id(use)}))
         variable = declared_with(self.sources, name)
         path = node.root().path
         owner = variable.owners[0] if variable and variable.owners else self.class_of_file(path) or stem(path)
         place = "::".join([*variable.owners, variable.name]) if variable else ""
+        if variable and is_described(variable.owners) and ANSWER in raised.steps():
+            place = answering_function(variable.owners, raised.form)
         return in_one_form(found, raised.form) or [(owner, place, "")]
 
     def users_of_function(self, function, raised, seen):
@@ -362,6 +375,13 @@ def declared_name(node):
     return name.beside(-1) if is_group(name, "[") else name
 
 
+def asked_before(node):
+    """The names that a condition asks for, as in row.has(Trait) ? node : other."""
+    asked = node.beside(-2) if is_sign(node.beside(-1), "?") else None
+    return [one.text for one in asked.nodes if is_name(one)] if is_group(asked, "(") and \
+        is_name(asked.beside(-1), "has") else []
+
+
 def is_inside(node, group):
     while node and node is not group:
         node = node.parent
@@ -371,24 +391,3 @@ def is_inside(node, group):
 def plain(name):
     name = re.sub(r"(?:Code|Refusal)$", "", name)
     return name[2].lower() + name[3:] if re.match(r"(?:of|in)[A-Z]", name) else name
-
-
-def in_words(name):
-    return re.sub(r"(?<=[a-z0-9])(?=[A-Z])", " ", name).lower()
-
-
-def form_of(function):
-    """The form of what a function reads or checks; empty when its signature does not tell."""
-    types = {name for parameter in function.parameters for name in parameter.type}
-    form = VALUE if "XmlRpcValue" in types else LIST if "QVariant" in types else TOKENS if "QStringList" in types else ""
-    if not form and function.owners and function.owners[-1] == function.name:
-        if types and types <= MACHINES | {"const", "int", "char"} and types & MACHINES:
-            return MACHINE
-        is_row = any(parameter.name == "row" and parameter.type == ["QString"] for parameter in function.parameters)
-        return ROW if is_row else TYPED
-    if function.name.startswith("check") and "FW_DriverError" in types:
-        return f"check of the {in_words(function.name[len('check'):])}".replace(" id", " ID")
-    if re.fullmatch(r"buildProtoAnswer|set[A-Za-z]*Answer", function.name):
-        form = ENVELOPE if function.name == "setAnswer" and form == VALUE else form
-        return f"answer, {form}" if form else "answer"
-    return form
