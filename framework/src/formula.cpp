@@ -7,7 +7,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <iterator>
 #include <stdexcept>
+#include <string>
+#include <string_view>
 
 // The formula by itself: read, checked and written.
 
@@ -25,18 +29,70 @@ const bool isRegistered = RegisterTravellingType<Formula>("Formula");
     throw std::invalid_argument(text);
 }
 
-const XmlRpcValue &requiredArray(const XmlRpcValue &value, const char *key)
+/** The members of a formula's struct; null for those that are left out. */
+struct Members
 {
-    const XmlRpcValue *member = FindXmlRpcMember(value, key);
+    const XmlRpcValue *type = nullptr;
+    const XmlRpcValue *unit = nullptr;
+    const XmlRpcValue *ids = nullptr;
+    const XmlRpcValue *quantities = nullptr;
+    const XmlRpcValue *queues = nullptr;
+    const XmlRpcValue *valves = nullptr;
+    const XmlRpcValue *criterion = nullptr;
+    const XmlRpcValue *levelsPolicy = nullptr;
+    const XmlRpcValue *decimals = nullptr;
+};
+
+struct Key
+{
+    std::string_view name;
+    const XmlRpcValue *Members::*member;
+};
+
+/** Sorted, as a struct's members are, so that one walk finds all. */
+constexpr Key keys[] = {
+    {Formula::DECIMALS, &Members::decimals},          {Formula::EXEC_CRITERION, &Members::criterion},
+    {Formula::FORMULA_TYPE, &Members::type},          {Formula::IDS, &Members::ids},
+    {Formula::LEVELS_POLICY, &Members::levelsPolicy}, {Formula::NOZZLE_VALVES, &Members::valves},
+    {Formula::QUANTITIES, &Members::quantities},      {Formula::QUANTITY_UNIT, &Members::unit},
+    {Formula::QUEUE_IDS, &Members::queues},
+};
+
+constexpr bool isSorted()
+{
+    for (std::size_t i = 1; i < std::size(keys); ++i) {
+        if (keys[i - 1].name >= keys[i].name)
+            return false;
+    }
+    return true;
+}
+static_assert(isSorted());
+
+Members membersOf(const XmlRpcValue &value)
+{
+    Members members;
+    if (value.getType() != XmlRpcValue::TypeStruct)
+        return members;
+    auto key = std::begin(keys);
+    for (const auto &[name, member] : value) {
+        while (key != std::end(keys) && key->name < name)
+            ++key;
+        if (key != std::end(keys) && key->name == name)
+            members.*key->member = &member;
+    }
+    return members;
+}
+
+const XmlRpcValue &requiredArray(const XmlRpcValue *member)
+{
     if (!member || member->getType() != XmlRpcValue::TypeArray)
         refuse("an array of the formula is missing");
     return *member;
 }
 
 /** An array of \a count elements, or null when it is left out or empty. */
-const XmlRpcValue *optionalArray(const XmlRpcValue &value, const char *key, int count)
+const XmlRpcValue *optionalArray(const XmlRpcValue *member, int count)
 {
-    const XmlRpcValue *member = FindXmlRpcMember(value, key);
     if (!member)
         return nullptr;
     if (member->getType() != XmlRpcValue::TypeArray || (member->size() != 0 && member->size() != count))
@@ -52,21 +108,22 @@ int decodedInt(const XmlRpcValue *value)
     return number;
 }
 
-int optionalInt(const XmlRpcValue &value, const char *key, int otherwise)
+int optionalInt(const XmlRpcValue *member, int otherwise)
 {
-    const XmlRpcValue *member = FindXmlRpcMember(value, key);
     return member ? decodedInt(member) : otherwise;
 }
 
 QString decodedId(const XmlRpcValue &value)
 {
-    QString text;
+    if (value.getType() == XmlRpcValue::TypeString) {
+        const auto &text = static_cast<const std::string &>(value);
+        const int number = quv::numberNamed(text);
+        return number < 0 ? DecodeXmlRpcText(text) : quv::nameOf(number);
+    }
     int number = 0;
-    if (DecodeXmlRpcValue(value, text))
-        return text;
     if (!DecodeXmlRpcValue(value, number))
         refuse("an item of the formula has no name");
-    return QString::number(number);
+    return quv::nameOf(number);
 }
 
 double decodedQuantity(const XmlRpcValue &value)
@@ -133,25 +190,31 @@ Formula::Formula(QList<QString> &ids, QList<QVariant> &quantities, QList<int> &q
 }
 
 Formula::Formula(const XmlRpcValue &value)
-    : m_type(decodedInt(FindXmlRpcMember(value, FORMULA_TYPE))),
-      m_quantityUnit(decodedInt(FindXmlRpcMember(value, QUANTITY_UNIT))),
-      m_executionCriterion(optionalInt(value, EXEC_CRITERION, 0)),
-      m_levelsPolicy(optionalInt(value, LEVELS_POLICY, 0)),
-      m_decimals(optionalInt(value, DECIMALS, 3))
 {
+    const Members members = membersOf(value);
+    m_type = decodedInt(members.type);
+    m_quantityUnit = decodedInt(members.unit);
+    m_executionCriterion = optionalInt(members.criterion, m_executionCriterion);
+    m_levelsPolicy = optionalInt(members.levelsPolicy, m_levelsPolicy);
+    m_decimals = optionalInt(members.decimals, m_decimals);
     checkMembers();
-    const XmlRpcValue &ids = requiredArray(value, IDS);
-    const XmlRpcValue &quantities = requiredArray(value, QUANTITIES);
+    const XmlRpcValue &ids = requiredArray(members.ids);
+    const XmlRpcValue &quantities = requiredArray(members.quantities);
     const int count = ids.size();
     if (quantities.size() != count)
         refuse("the formula has not as many quantities as items");
-    const XmlRpcValue *queues = optionalArray(value, QUEUE_IDS, count);
-    const XmlRpcValue *valves = optionalArray(value, NOZZLE_VALVES, count);
-    m_items.reserve(count);
-    for (int i = 0; i < count; ++i) {
-        m_items.append({decodedId(ids[i]), decodedQuantity(quantities[i]),
-                        queues ? decodedInt(FindXmlRpcElement(*queues, i)) : 0,
-                        valves ? decodedInt(FindXmlRpcElement(*valves, i)) : 0});
+    const XmlRpcValue *queues = optionalArray(members.queues, count);
+    const XmlRpcValue *valves = optionalArray(members.valves, count);
+    m_items.resize(count);
+    int index = 0;
+    for (FormulaItem &item : m_items) {
+        item.id = decodedId(ids[index]);
+        item.quantity = decodedQuantity(quantities[index]);
+        if (queues)
+            item.queueID = decodedInt(FindXmlRpcElement(*queues, index));
+        if (valves)
+            item.nozzleValveID = decodedInt(FindXmlRpcElement(*valves, index));
+        ++index;
     }
 }
 

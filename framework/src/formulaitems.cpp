@@ -17,21 +17,21 @@ using quv::Source;
 CircuitFormulaItem::Result<int> speedOf(const Portion &portion, int unit)
 {
     const FW_Circuit &circuit = *portion.source.circuit;
-    CircuitFormulaItem::Result<int> speed{circuit.maxSpeed(), circuit.maxSpeed() > 0};
-    if (quv::isByCalibration(unit))
-        speed.value = circuit.calibration().speed(portion.quantity, &speed.ok);
-    return speed;
+    if (!quv::isByCalibration(unit))
+        return {circuit.maxSpeed(), circuit.maxSpeed() > 0};
+    bool ok = false;
+    const int speed = circuit.calibration().speed(portion.quantity, &ok);
+    return {speed, ok};
 }
 
 CircuitFormulaItem::Result<int> nozzleValveOf(const Portion &portion, int unit)
 {
     const FW_Circuit &circuit = *portion.source.circuit;
-    CircuitFormulaItem::Result<int> valve{portion.nozzleValveID, true};
-    if (valve.value == 0 && quv::isByCalibration(unit))
-        valve.value = circuit.calibration().nozzleValveID(portion.quantity, &valve.ok);
-    if (valve.value != 0 && !circuit.nozzleValvesID().contains(valve.value))
-        valve.ok = false;
-    return valve;
+    bool ok = true;
+    int valve = portion.nozzleValveID;
+    if (valve == 0 && quv::isByCalibration(unit))
+        valve = circuit.calibration().nozzleValveID(portion.quantity, &ok);
+    return {valve, ok && (valve == 0 || circuit.nozzleValvesID().contains(valve))};
 }
 
 int contentInSteps(const Source &source)
@@ -40,9 +40,8 @@ int contentInSteps(const Source &source)
     return static_cast<int>(std::clamp(steps, 0LL, static_cast<long long>(std::numeric_limits<int>::max())));
 }
 
-CircuitFormulaItem itemOf(const Portion &portion, int unit)
+void fill(CircuitFormulaItem &item, const Portion &portion, int unit)
 {
-    CircuitFormulaItem item(*portion.source.circuit);
     const auto steps = quv::stepsOf(portion, unit);
     item.setSteps(steps);
     item.setStrokes(quv::strokesOf(portion, unit, steps));
@@ -50,7 +49,6 @@ CircuitFormulaItem itemOf(const Portion &portion, int unit)
     item.setNozzleValveID(nozzleValveOf(portion, unit));
     item.setQueueID(portion.queueID != 0 ? portion.queueID : portion.source.circuit->queueID());
     item.setCurrentCheckLevelSteps(contentInSteps(portion.source));
-    return item;
 }
 
 /** Nearest first, beginning with the circuit nearest to \a position. */
@@ -73,13 +71,16 @@ bool Formula::getCircuitFormulaItems(CircuitFormulaItemList &items, const FW_Dis
                                      FW_DriverError *error) const
 {
     items.clear();
-    QVector<Portion> portions;
+    std::vector<Portion> portions;
     if (!quv::portionsOf(*this, dispenser, portions, error))
         return false;
     items.setParallelism(dispenser->tintingParallelism());
-    items.reserve(portions.size());
+    items.reserve(static_cast<int>(portions.size()));
     for (const Portion &portion : portions)
-        items.append(itemOf(portion, m_quantityUnit));
+        items.append(CircuitFormulaItem(*portion.source.circuit));
+    auto item = items.begin();
+    for (const Portion &portion : portions)
+        fill(*item++, portion, m_quantityUnit);
     return true;
 }
 
@@ -102,15 +103,15 @@ bool Formula::getCircuitFormulaItems(CircuitFormulaItemList &items, int position
 bool Formula::convertToCircuitPositions(Formula &converted, const FW_Dispenser *dispenser,
                                         FW_DriverError *error) const
 {
-    QVector<Portion> portions;
+    std::vector<Portion> portions;
     if (!quv::portionsOf(*this, dispenser, portions, error))
         return false;
     Formula formula = *this;
     formula.setFormulaType(CircuitPositions);
     formula.m_items.clear();
     for (const Portion &portion : portions)
-        formula.addItem({QString::number(portion.source.circuit->positionId()), portion.quantity,
-                         portion.queueID, portion.nozzleValveID});
+        formula.addItem({quv::nameOf(portion.source.circuit->positionId()), portion.quantity, portion.queueID,
+                         portion.nozzleValveID});
     converted = formula;
     return true;
 }

@@ -3,23 +3,65 @@
 
 #include <QuvFramework/fw_dispenser.h>
 
-#include <QtCore/QHash>
-
 #include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
 
 // What a formula does to the levels of the canisters.
 
+namespace {
+
+/** What a formula takes from one canister. */
+struct Share
+{
+    const FW_Canister *canister = nullptr;
+    double quantity = 0;
+};
+
+/** Each canister once, in the formula's order. False and \a error filled when the formula does not fit the dispenser. */
+bool sharesOf(const Formula &formula, const FW_Dispenser *dispenser, std::vector<Share> &shares,
+              FW_DriverError *error)
+{
+    std::vector<quv::Portion> portions;
+    if (!quv::portionsOf(formula, dispenser, portions, error))
+        return false;
+    shares.reserve(portions.size());
+    std::vector<std::pair<int, std::size_t>>
+        known; // canisters by their ID, sorted, with the place of their share
+    known.reserve(portions.size());
+    for (const quv::Portion &portion : portions) {
+        double weight = 0;
+        if (!quv::weightOf(portion, formula.quantityUnit(), weight))
+            return quv::fail(error, "DE03023",
+                             QStringLiteral("Formula: the calibration of circuit %1 tells no quantity")
+                                 .arg(portion.source.circuit->positionId()));
+        const FW_Canister &canister = *portion.source.canister;
+        const auto place =
+            std::lower_bound(known.begin(), known.end(), std::make_pair(canister.id(), std::size_t(0)));
+        if (place != known.end() && place->first == canister.id()) {
+            shares[place->second].quantity += weight;
+            continue;
+        }
+        known.insert(place, {canister.id(), shares.size()});
+        shares.push_back({&canister, weight});
+    }
+    return true;
+}
+
+} // namespace
+
 bool Formula::convertToNegativeQuantities(const FW_Dispenser *dispenser, FW_DriverError *error)
 {
-    CanisterFormulaItemList canisters;
-    if (!getCanisterItems(&canisters, dispenser, error))
+    std::vector<Share> shares;
+    if (!sharesOf(*this, dispenser, shares, error))
         return false;
     m_type = CanisterIDs;
     m_quantityUnit = WeightOrVolume;
     m_items.clear();
-    m_items.reserve(canisters.size());
-    for (const CanisterFormulaItem &canister : canisters)
-        m_items.append({QString::number(canister.id()), -canister.quantity()});
+    m_items.reserve(static_cast<int>(shares.size()));
+    for (const Share &share : shares)
+        m_items.append({quv::nameOf(share.canister->id()), -share.quantity});
     return true;
 }
 
@@ -30,12 +72,13 @@ bool Formula::convertToNegativeQuantities(const FW_Dispenser *dispenser, FW_Driv
 
 bool Formula::checkDispenserLevels(const FW_Dispenser *dispenser, int *result, bool delta) const
 {
-    CanisterFormulaItemList canisters;
-    if (!getCanisterItems(&canisters, dispenser, nullptr))
+    std::vector<Share> shares;
+    if (!sharesOf(*this, dispenser, shares, nullptr))
         return false;
     int worst = LevelsGood;
-    for (const CanisterFormulaItem &canister : canisters) {
-        const double level = canister.quantity() + (delta ? canister.currentQuantity() : 0);
+    for (const Share &share : shares) {
+        const FW_Canister &canister = *share.canister;
+        const double level = share.quantity + (delta ? canister.currentQuantity() : 0);
         worst = std::max(worst, level > canister.maximumQuantity()   ? int(AboveMaximum)
                                 : level < 0                          ? int(BelowZero)
                                 : level < canister.reserveQuantity() ? int(BelowReserve)
@@ -50,27 +93,14 @@ bool Formula::checkDispenserLevels(const FW_Dispenser *dispenser, int *result, b
 bool Formula::getCanisterItems(CanisterFormulaItemList *items, const FW_Dispenser *dispenser,
                                FW_DriverError *error) const
 {
-    CanisterFormulaItemList found;
-    QVector<quv::Portion> portions;
-    if (!quv::portionsOf(*this, dispenser, portions, error))
+    std::vector<Share> shares;
+    if (!sharesOf(*this, dispenser, shares, error))
         return false;
-    QHash<int, int> indexes;
-    for (const quv::Portion &portion : portions) {
-        double weight = 0;
-        if (!quv::weightOf(portion, m_quantityUnit, weight))
-            return quv::fail(error, "DE03023",
-                             QStringLiteral("Formula: the calibration of circuit %1 tells no quantity")
-                                 .arg(portion.source.circuit->positionId()));
-        const FW_Canister &canister = *portion.source.canister;
-        const auto known = indexes.constFind(canister.id());
-        if (known != indexes.constEnd()) {
-            found[*known].setQuantity(found.at(*known).quantity() + weight);
-            continue;
-        }
-        indexes.insert(canister.id(), found.size());
-        found.append(CanisterFormulaItem(canister, weight));
-    }
-    if (items)
-        *items = found;
+    if (!items)
+        return true;
+    items->clear();
+    items->reserve(static_cast<int>(shares.size()));
+    for (const Share &share : shares)
+        items->append(CanisterFormulaItem(*share.canister, share.quantity));
     return true;
 }

@@ -56,11 +56,6 @@ Sources::Entry *chosen(Sources &sources, Sources::Entry *first, int unit)
 
 namespace quv {
 
-bool isByCalibration(int unit)
-{
-    return unit != Formula::Steps && unit != Formula::Strokes;
-}
-
 CircuitFormulaItem::Result<long long> stepsOf(const Portion &portion, int unit)
 {
     const FW_Circuit &circuit = *portion.source.circuit;
@@ -73,9 +68,9 @@ CircuitFormulaItem::Result<long long> stepsOf(const Portion &portion, int unit)
                                   : CircuitFormulaItem::Result<long long>();
     }
     default: {
-        CircuitFormulaItem::Result<long long> steps;
-        steps.value = circuit.calibration().steps(portion.quantity, &steps.ok);
-        return steps;
+        bool ok = false;
+        const long long steps = circuit.calibration().steps(portion.quantity, &ok);
+        return {steps, ok};
     }
     }
 }
@@ -103,7 +98,7 @@ bool weightOf(const Portion &portion, int unit, double &weight)
     return steps.ok && ok;
 }
 
-bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, QVector<Portion> &portions,
+bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, std::vector<Portion> &portions,
                 FW_DriverError *error)
 {
     if (!dispenser)
@@ -117,7 +112,7 @@ bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, QVector<P
             first->asked += item.quantity;
         named.append(first);
     }
-    portions.reserve(formula.items().size());
+    portions.reserve(static_cast<std::size_t>(formula.items().size()));
     for (int i = 0; i < formula.items().size(); ++i) {
         const FormulaItem &item = formula.items().at(i);
         if (!named[i])
@@ -127,11 +122,15 @@ bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, QVector<P
         if (!entry)
             return fail(error, "DE03022", QStringLiteral("Formula: \"%1\" is disabled").arg(item.id));
         if (entry->portion >= 0) {
-            portions[entry->portion].quantity += item.quantity;
+            portions[static_cast<std::size_t>(entry->portion)].quantity += item.quantity;
             continue;
         }
-        entry->portion = portions.size();
-        portions.append({entry->source, item.quantity, item.queueID, item.nozzleValveID});
+        entry->portion = static_cast<int>(portions.size());
+        Portion &portion = portions.emplace_back();
+        portion.source = entry->source;
+        portion.quantity = item.quantity;
+        portion.queueID = item.queueID;
+        portion.nozzleValveID = item.nozzleValveID;
     }
     return true;
 }

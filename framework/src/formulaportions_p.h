@@ -6,7 +6,7 @@
 #include <QuvFramework/circuitformulaitem.h>
 #include <QuvFramework/formula.h>
 
-#include <QtCore/QVector>
+#include <vector>
 
 class FW_Dispenser;
 class FW_DriverError;
@@ -28,11 +28,14 @@ struct Portion
 };
 
 /** False and \a error filled when the formula does not fit the dispenser. */
-bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, QVector<Portion> &portions,
+bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, std::vector<Portion> &portions,
                 FW_DriverError *error);
 
 /** True for a weight or volume, which only a calibration turns into steps. */
-bool isByCalibration(int unit);
+inline bool isByCalibration(int unit)
+{
+    return unit != Formula::Steps && unit != Formula::Strokes;
+}
 
 CircuitFormulaItem::Result<long long> stepsOf(const Portion &portion, int unit);
 CircuitFormulaItem::Result<int> strokesOf(const Portion &portion, int unit,

@@ -5,20 +5,32 @@
 #include <QuvFramework/fw_dispenser.h>
 
 #include <algorithm>
+#include <cstddef>
 
 namespace {
 
 using quv::Sources;
 
-/** The number that a name is, written as QString::number writes it; -1 for any other name. */
-int numberNamed(const QString &name)
+int codeOf(char character)
+{
+    return character;
+}
+
+int codeOf(QChar character)
+{
+    return character.unicode();
+}
+
+template <class Text>
+int numberOf(const Text &name)
 {
     constexpr int MaxDigits = 9;
-    if (name.isEmpty() || name.size() > MaxDigits || (name.size() > 1 && name.at(0) == QLatin1Char('0')))
+    const int size = static_cast<int>(name.size());
+    if (size == 0 || size > MaxDigits || (size > 1 && codeOf(name[0]) == '0'))
         return -1;
     int number = 0;
-    for (const QChar character : name) {
-        const int digit = character.unicode() - '0';
+    for (const auto character : name) {
+        const int digit = codeOf(character) - '0';
         if (digit < 0 || digit > 9)
             return -1;
         number = number * 10 + digit;
@@ -42,6 +54,30 @@ bool isBefore(const Sources::Entry &left, const Sources::Entry &right)
 
 namespace quv {
 
+int numberNamed(const QString &name)
+{
+    return numberOf(name);
+}
+
+int numberNamed(const std::string &name)
+{
+    return numberOf(name);
+}
+
+QString nameOf(int number)
+{
+    constexpr int SharedNames = 256;
+    static const std::vector<QString> names = [] {
+        std::vector<QString> all;
+        all.reserve(SharedNames);
+        for (int i = 0; i < SharedNames; ++i)
+            all.push_back(QString::number(i));
+        return all;
+    }();
+    return number >= 0 && number < SharedNames ? names[static_cast<std::size_t>(number)]
+                                               : QString::number(number);
+}
+
 Sources::Sources(int formulaType, const FW_Dispenser &dispenser)
     : m_isByCode(formulaType == Formula::ColorantCodes)
 {
@@ -52,14 +88,14 @@ Sources::Sources(int formulaType, const FW_Dispenser &dispenser)
         switch (formulaType) {
         case Formula::CircuitPositions:
             for (const FW_Circuit &circuit : canister.circuits())
-                m_entries.push_back({circuit.positionId(), {&canister, &circuit}});
+                add(circuit.positionId(), canister, &circuit);
             break;
         case Formula::CircuitIDs:
             for (const FW_Circuit &circuit : canister.circuits())
-                m_entries.push_back({circuit.id(), {&canister, &circuit}});
+                add(circuit.id(), canister, &circuit);
             break;
         case Formula::CanisterIDs:
-            m_entries.push_back({canister.id(), {&canister, firstEnabledCircuit(canister)}});
+            add(canister.id(), canister, firstEnabledCircuit(canister));
             break;
         case Formula::ColorantCodes: {
             const int key = keyOf(canister.colorantCode());
@@ -67,7 +103,7 @@ Sources::Sources(int formulaType, const FW_Dispenser &dispenser)
                 break;
             // a disabled one has a canister, but no way out of it
             const bool isEnabled = dispenser.colorants().at(key).isEnabled();
-            m_entries.push_back({key, {&canister, isEnabled ? firstEnabledCircuit(canister) : nullptr}});
+            add(key, canister, isEnabled ? firstEnabledCircuit(canister) : nullptr);
             break;
         }
         default:
@@ -76,6 +112,14 @@ Sources::Sources(int formulaType, const FW_Dispenser &dispenser)
     }
     if (!std::is_sorted(m_entries.cbegin(), m_entries.cend(), isBefore))
         std::stable_sort(m_entries.begin(), m_entries.end(), isBefore);
+}
+
+void Sources::add(int key, const FW_Canister &canister, const FW_Circuit *circuit)
+{
+    Entry &entry = m_entries.emplace_back();
+    entry.key = key;
+    entry.source.canister = &canister;
+    entry.source.circuit = circuit;
 }
 
 int Sources::keyOf(const QString &name) const

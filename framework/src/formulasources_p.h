@@ -4,6 +4,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QString>
 
+#include <string>
 #include <vector>
 
 class FW_Canister;
@@ -13,6 +14,12 @@ class FW_Dispenser;
 // What the items of a formula name on a machine.
 
 namespace quv {
+
+/** The number that a name is, written as QString::number writes it, of nine digits at most; -1 for any other name. */
+int numberNamed(const QString &name);
+int numberNamed(const std::string &name);
+/** The name of a position or an ID. Small ones, which are nearly all, share one text each. */
+QString nameOf(int number);
 
 /** What an item of a formula comes down to. */
 struct Source
@@ -44,6 +51,7 @@ public:
     Entry *next(Entry *entry);
 
 private:
+    void add(int key, const FW_Canister &canister, const FW_Circuit *circuit);
     int keyOf(const QString &name) const; ///< -1 for a name that stands for none
 
     std::vector<Entry> m_entries;

@@ -39,15 +39,8 @@ double interpolated(const Points &points, double x, From from, To to)
     return to(left) + (x - from(left)) * (to(*right) - to(left)) / (from(*right) - from(left));
 }
 
-double stepsOf(const FW_CalibrationPoint &point)
-{
-    return double(point.steps);
-}
-
-double quantityOf(const FW_CalibrationPoint &point)
-{
-    return point.quantity;
-}
+constexpr auto stepsOf = [](const FW_CalibrationPoint &point) { return double(point.steps); };
+constexpr auto quantityOf = [](const FW_CalibrationPoint &point) { return point.quantity; };
 
 template <class T>
 T result(T value, bool good, bool *ok)

@@ -150,6 +150,11 @@ void setMember(XmlRpcValue &value, const QString &key, const XmlRpcValue &member
     value[EncodeXmlRpcText(key)] = member;
 }
 
+bool isAscii(char character)
+{
+    return (static_cast<unsigned char>(character) & 0x80U) == 0;
+}
+
 /** The element of a list when its stored type is one of the given ones. */
 const QVariant *elementOfType(const QList<QVariant> &list, int index, std::initializer_list<int> types)
 {
@@ -170,8 +175,11 @@ constexpr std::initializer_list<int> wholeNumberTypes = {QMetaType::Int, QMetaTy
 
 QString DecodeXmlRpcText(const std::string &bytes)
 {
-    static QTextCodec *const utf8 = QTextCodec::codecForMib(106);
     const int size = static_cast<int>(bytes.size());
+    // nearly all texts of the protocol are, and need no codec
+    if (std::all_of(bytes.begin(), bytes.end(), isAscii))
+        return QString::fromLatin1(bytes.data(), size);
+    static QTextCodec *const utf8 = QTextCodec::codecForMib(106);
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
     const QString text = utf8->toUnicode(bytes.data(), size, &state);
     return state.invalidChars == 0 && state.remainingChars == 0 ? text

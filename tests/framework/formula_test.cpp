@@ -348,6 +348,33 @@ TEST(Formula, readsAStruct)
                  QVector<FormulaItem>{{"4", 3, 0, 1}, {QString::fromLatin1("caf\xe9"), -0.5, 0, 2}}));
 }
 
+TEST(Formula, readsNamesToTheLetter)
+{
+    const auto read = [](const XmlRpcValue &name) {
+        const Formula formula(structOf({{"formula_type", 1},
+                                        {"quantity_unit", 3},
+                                        {"ids", arrayOf({name})},
+                                        {"quantities", arrayOf({1.0})}}));
+        return formula.items().constFirst().id;
+    };
+    for (const char *name : {"", "0", "7", "07", "244", "255", "256", "0255", "999999999", "4294967303", "-1",
+                             "+7", " 7", "7 ", "7a", "B", "\x37\x2e\x30"}) {
+        EXPECT_EQ(read(XmlRpcValue(name)), QString::fromLatin1(name));
+    }
+    EXPECT_EQ(read(XmlRpcValue(std::string("7\0", 2))), QString("7") + QChar(0));
+    EXPECT_EQ(read(XmlRpcValue(0)), "0");
+    EXPECT_EQ(read(XmlRpcValue(255)), "255");
+    EXPECT_EQ(read(XmlRpcValue(256)), "256");
+    EXPECT_EQ(read(XmlRpcValue(-5)), "-5");
+    // the names of two formulas are not one text
+    Formula first = positions({{"7", 1}});
+    first = Formula(first.toXmlRpcValue());
+    QVector<FormulaItem> items = first.items();
+    items[0].id.append("x");
+    EXPECT_EQ(first.items().constFirst().id, "7");
+    EXPECT_EQ(read(XmlRpcValue("7")), "7");
+}
+
 TEST(Formula, valuesThatAreNone)
 {
     const XmlRpcValue good = structOf({{"formula_type", 1},
@@ -662,6 +689,8 @@ TEST(Formula, whatEachCanisterGives)
     };
     using Expected = std::vector<std::pair<int, double>>;
     EXPECT_EQ(canistersOf(positions({{"2", 3}, {"5", 2}, {"1", 4}})), (Expected{{1, 7}, {3, 2}}));
+    EXPECT_EQ(canistersOf(positions({{"8", 1}, {"1", 4}, {"5", 2}, {"2", 3}})),
+              (Expected{{7, 1}, {1, 7}, {3, 2}}));                     // in the formula's order
     EXPECT_EQ(canistersOf(positions({{"8", 3}})), (Expected{{7, 3}})); // a weight needs no calibration
     EXPECT_EQ(canistersOf(formulaOf(1, Formula::Steps, {{"1", 500}})), (Expected{{1, 5.5}}));
     EXPECT_EQ(canistersOf(formulaOf(1, Formula::Strokes, {{"1", 1}})),
