@@ -89,7 +89,7 @@ QList<int> tintInParts(const Case &small, int parts)
 
 void quv::addDispensingRatios()
 {
-    addRatio("tint: 16 circuits, value to integers", 0, repeat([work = Case(16)] { return work.tint(); }),
+    addRatio("tint: 16 circuits, value to integers", 2.0, repeat([work = Case(16)] { return work.tint(); }),
              repeat([arguments = tintOf(16)] { return splitByHand(arguments); }));
     addRatio("tint: 200 circuits as 10 times 20", 1.2, repeat([work = Case(200)] { return work.tint(); }),
              repeat([small = Case(20)] { return tintInParts(small, 10); }));

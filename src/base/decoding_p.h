@@ -85,7 +85,7 @@ T decodedValue(const XmlRpc::XmlRpcValue *value, const Refusal &refusal, const c
     });
 }
 
-/** A copy. Throws \a refusal when there is none to be had. */
+/** A copy. Throws \a refusal when there is none to be had: the contract, since a formula shares its content with its copies. */
 template <class T>
 T copied(const T &original, const Refusal &refusal, const char *function)
 {

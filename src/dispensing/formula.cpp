@@ -10,17 +10,35 @@
 
 namespace {
 
+bool levelsAllow(const Formula &pour, const FW_Dispenser *dispenser, const quv::LevelsCodes &codes,
+                 FW_DriverError *error)
+{
+    constexpr char checkFailed[] = "Formula interrupted because of errors in level check";
+    int result = Formula::LevelsGood;
+    if (!pour.checkDispenserLevels(dispenser, &result, true))
+        return FW_DriverError::D_E(codes.failed, checkFailed, error);
+    if (result == Formula::BelowReserve)
+        return FW_DriverError::D_E(
+            codes.belowReserve,
+            "Formula interrupted because the current amount will would below the critical level", error);
+    if (result == Formula::BelowZero)
+        return FW_DriverError::D_E(
+            codes.belowZero, "Formula interrupted because the current amount would go below zero", error);
+    if (result > Formula::BelowZero)
+        return FW_DriverError::D_E(codes.worse, checkFailed, error);
+    return true;
+}
+
 bool hasGoodLevels(const Formula &formula, const FW_Dispenser *dispenser, const quv::LevelsCodes &codes,
-                   FW_DriverError &error)
+                   FW_DriverError *error)
 {
     if (!(formula.levelsManagementPolicy() & Formula::CheckLevels))
         return true;
     Formula pour = formula;
-    return pour.convertToNegativeQuantities(dispenser, error) &&
-           quv::levelsSuffice(pour, dispenser, codes, error);
+    return pour.convertToNegativeQuantities(dispenser, error) && levelsAllow(pour, dispenser, codes, error);
 }
 
-bool canPourItem(const CircuitFormulaItem &item, const quv::PourCodes &codes, FW_DriverError &error)
+bool canPourItem(const CircuitFormulaItem &item, const quv::PourCodes &codes, FW_DriverError *error)
 {
     bool ok = false;
     item.steps(&ok);
@@ -35,7 +53,7 @@ bool canPourItem(const CircuitFormulaItem &item, const quv::PourCodes &codes, FW
 }
 
 bool hasNozzleValve(const CircuitFormulaItem &item, int quantityUnit, const quv::PourCodes &codes,
-                    FW_DriverError &error)
+                    FW_DriverError *error)
 {
     // nothing but the formula itself can tell the valve of a number of steps
     if (quantityUnit == Formula::Steps && item.nozzleValveID() == 0)
@@ -47,6 +65,29 @@ bool hasNozzleValve(const CircuitFormulaItem &item, int quantityUnit, const quv:
            FW_DriverError::D_E(
                codes.nozzleValve,
                "Formula stopped because of errors in nozzle valve id calculus due to bad calibration", error);
+}
+
+/** The check, with the circuits that it worked out. */
+bool canPourItems(const ProtoCommand &command, const Formula &formula, const quv::PourCodes &codes,
+                  CircuitFormulaItemList &items, FW_DriverError *error)
+{
+    const FW_Dispenser *dispenser = quv::dispenserOf(command);
+    if (!dispenser)
+        return FW_DriverError::D_E(codes.dispenser, "Invalid dispenser data", error);
+    if (formula.hasNegativeValues(dispenser))
+        return FW_DriverError::D_E(codes.negative, "Bad values in formula! Values have to be positive",
+                                   error);
+    if (!hasGoodLevels(formula, dispenser, codes.levels, error))
+        return false;
+    if (!formula.getCircuitFormulaItems(items, dispenser, error))
+        return false;
+    if (items.isEmpty())
+        return FW_DriverError::D_E(codes.empty, "Empty Formula found", error);
+    const bool byNozzle = codes.noNozzleValve && dispenser->hasNozzleBasedDosing();
+    return std::all_of(items.cbegin(), items.cend(), [&](const CircuitFormulaItem &item) {
+        return canPourItem(item, codes, error) &&
+               (!byNozzle || hasNozzleValve(item, formula.quantityUnit(), codes, error));
+    });
 }
 
 /** The formula's own criterion, or what suits the queues. */
@@ -72,43 +113,38 @@ const FW_Dispenser *dispenserOf(const ProtoCommand &command)
 bool levelsSuffice(const Formula &pour, const FW_Dispenser *dispenser, const LevelsCodes &codes,
                    FW_DriverError &error)
 {
-    constexpr char checkFailed[] = "Formula interrupted because of errors in level check";
-    int result = Formula::LevelsGood;
-    if (!pour.checkDispenserLevels(dispenser, &result, true))
-        return FW_DriverError::D_E(codes.failed, checkFailed, error);
-    if (result == Formula::BelowReserve)
-        return FW_DriverError::D_E(
-            codes.belowReserve,
-            "Formula interrupted because the current amount will would below the critical level", error);
-    if (result == Formula::BelowZero)
-        return FW_DriverError::D_E(
-            codes.belowZero, "Formula interrupted because the current amount would go below zero", error);
-    if (result > Formula::BelowZero)
-        return FW_DriverError::D_E(codes.worse, checkFailed, error);
-    return true;
+    return levelsAllow(pour, dispenser, codes, &error);
 }
 
 bool canPour(const ProtoCommand &command, const Formula &formula, const PourCodes &codes,
              FW_DriverError &error)
 {
-    const FW_Dispenser *dispenser = dispenserOf(command);
-    if (!dispenser)
-        return FW_DriverError::D_E(codes.dispenser, "Invalid dispenser data", error);
-    if (formula.hasNegativeValues(dispenser))
-        return FW_DriverError::D_E(codes.negative, "Bad values in formula! Values have to be positive",
-                                   error);
-    if (!hasGoodLevels(formula, dispenser, codes.levels, error))
-        return false;
     CircuitFormulaItemList items;
-    if (!formula.getCircuitFormulaItems(items, dispenser, error))
-        return false;
-    if (items.isEmpty())
-        return FW_DriverError::D_E(codes.empty, "Empty Formula found", error);
-    const bool byNozzle = codes.noNozzleValve && dispenser->hasNozzleBasedDosing();
-    return std::all_of(items.cbegin(), items.cend(), [&](const CircuitFormulaItem &item) {
-        return canPourItem(item, codes, error) &&
-               (!byNozzle || hasNozzleValve(item, formula.quantityUnit(), codes, error));
-    });
+    return canPourItems(command, formula, codes, items, &error);
+}
+
+std::shared_ptr<const CheckedPour> checkedPour(const ProtoCommand &command, const Formula &formula,
+                                               const FW_Dispenser *dispenser, const PourCodes &codes,
+                                               const char *function)
+{
+    if (!dispenser)
+        return nullptr;
+    const auto checked = std::make_shared<CheckedPour>();
+    // an error tells the time, which takes its own: only a formula that is refused gets one
+    if (!canPourItems(command, formula, codes, checked->items, nullptr))
+        require(function, [&](FW_DriverError &error) { return canPour(command, formula, codes, error); });
+    checked->formula = formula;
+    return checked;
+}
+
+bool pouredItems(const ProtoCommand &command, const Formula &formula,
+                 const std::shared_ptr<const CheckedPour> &checked, CircuitFormulaItemList &items)
+{
+    const FW_Dispenser *dispenser = dispenserOf(command);
+    if (!dispenser || !checked || checked->formula != formula)
+        return dispenser && formula.getCircuitFormulaItems(items, dispenser, nullptr);
+    items = checked->items;
+    return true;
 }
 
 bool isTint2(const ProtoCommand &command)
@@ -132,6 +168,20 @@ void appendCounted(QList<int> &parameters, const QList<int> &digits)
 {
     parameters.append(digits.size());
     parameters.append(digits);
+}
+
+void appendCountedDigits(QList<int> &parameters, long long number)
+{
+    // as splitValue does, but without a list for each of a formula's numbers
+    const int place = parameters.size();
+    parameters.append(0);
+    if (number < 0)
+        return;
+    do {
+        parameters.append(static_cast<int>(number % serialBase));
+        number /= serialBase;
+    } while (number > 0);
+    parameters[place] = parameters.size() - place - 1;
 }
 
 } // namespace quv

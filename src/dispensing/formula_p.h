@@ -18,6 +18,7 @@
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
+#include <memory>
 #include <stdexcept>
 
 class ProtoCommand;
@@ -61,7 +62,7 @@ const FW_Dispenser *dispenserOf(const ProtoCommand &command);
 /** What the three commands that check levels call the outcomes; the texts are the same for all. */
 struct LevelsCodes
 {
-    const char *failed = "";       ///< no check was possible
+    const char *failed = ""; ///< no check was possible; where levels are taken off before, that fails first
     const char *belowReserve = ""; ///< result 200
     const char *belowZero = "";    ///< result 300
     const char *worse = "";        ///< above 300
@@ -88,6 +89,25 @@ struct PourCodes
 bool canPour(const ProtoCommand &command, const Formula &formula, const PourCodes &codes,
              FW_DriverError &error);
 
+/** What the check of a pour has worked out. The command's machine never changes, so it is good for this formula for ever. */
+struct CheckedPour
+{
+    Formula formula;
+    CircuitFormulaItemList items;
+};
+
+/** Throws what canPour fails with, when there is a dispenser to check the formula by; without one null. */
+std::shared_ptr<const CheckedPour> checkedPour(const ProtoCommand &command, const Formula &formula,
+                                               const FW_Dispenser *dispenser, const PourCodes &codes,
+                                               const char *function);
+
+/**
+ * The circuits of a command's formula on its own machine, worked out only when it is not the formula of the check. False when
+ * the command has no dispenser, or none that has all that the formula names.
+ */
+bool pouredItems(const ProtoCommand &command, const Formula &formula,
+                 const std::shared_ptr<const CheckedPour> &checked, CircuitFormulaItemList &items);
+
 /** True for a command that has been renamed to TINT2, which tells the firmware more of each circuit. */
 bool isTint2(const ProtoCommand &command);
 
@@ -100,5 +120,7 @@ long long autocapTime(const FW_Dispenser *dispenser);
 
 /** Appends the number of digits, then the digits. */
 void appendCounted(QList<int> &parameters, const QList<int> &digits);
+/** The same of a number's digits; none for a negative one. */
+void appendCountedDigits(QList<int> &parameters, long long number);
 
 } // namespace quv

@@ -34,7 +34,7 @@ void PurgeFormulaCmd::build(const Asked &asked, const FW_Dispenser &dispenser, c
     quv::require(function, [&](FW_DriverError &error) {
         return FormulaUtils::buildPurgeFormula(asked, m_formula, dispenser, &error);
     });
-    quv::requireGoodFormula(*this, &dispenser, function);
+    m_checked = quv::checkedPour(*this, m_formula, &dispenser, codes, function);
 }
 
 PurgeFormulaCmd::PurgeFormulaCmd(const Formula &formula, const FW_Dispenser *dispenser) : PurgeCmd(dispenser)
@@ -101,20 +101,19 @@ QList<int> PurgeFormulaCmd::serialParameters(int) const
         return {};
     qCDebug(quv::dispensingLog).noquote() << m_formula.toPrintableString(false, dispenser);
     CircuitFormulaItemList items;
-    if (!m_formula.getCircuitFormulaItems(items, dispenser, nullptr))
+    if (!quv::pouredItems(*this, m_formula, m_checked, items))
         return {};
     return quv::pourParameters(*this, m_formula, items, true);
 }
 
 long long PurgeFormulaCmd::getCmdEstimatedExecutionTime(const FW_Machine *) const
 {
-    const FW_Dispenser *dispenser = quv::dispenserOf(*this);
     CircuitFormulaItemList items;
-    if (!dispenser || !m_formula.getCircuitFormulaItems(items, dispenser, nullptr))
+    if (!quv::pouredItems(*this, m_formula, m_checked, items))
         return 0;
     long long time = 0;
     items.getEstimatedDosingTime(time); // what cannot be told takes no time
-    return time + quv::autocapTime(dispenser);
+    return time + quv::autocapTime(quv::dispenserOf(*this));
 }
 
 TString PurgeFormulaCmd::actionString(bool detailed) const

@@ -5,12 +5,13 @@
 
 #include <QuvFramework/formula.h>
 
+#include <memory>
+
 struct FW_Version;
 
 namespace quv {
-
+struct CheckedPour;
 struct CommandFacts;
-
 } // namespace quv
 
 /**
@@ -65,4 +66,6 @@ private:
     /** Makes what a client asks for, of whichever kind, the formula for the dispenser. */
     template <class Asked>
     void build(const Asked &asked, const FW_Dispenser &dispenser, const char *function);
+
+    std::shared_ptr<const quv::CheckedPour> m_checked; ///< null when nothing was checked
 };

@@ -46,20 +46,20 @@ TintCmd::TintCmd(const Formula &formula, const FW_Dispenser *dispenser) : Descri
 {
     const char *function = Q_FUNC_INFO;
     m_formula = quv::copied(formula, {"DE00491", invalidFormula}, function);
-    quv::requireGoodFormula(*this, dispenser, function);
+    m_checked = quv::checkedPour(*this, m_formula, dispenser, codes, function);
 }
 
 TintCmd::TintCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser)
     : DescribedCommand(value, dispenser)
 {
     read(value, Q_FUNC_INFO);
-    quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
+    m_checked = quv::checkedPour(*this, m_formula, dispenser, codes, Q_FUNC_INFO);
 }
 
 TintCmd::TintCmd(QList<QVariant> list, const FW_Dispenser *dispenser) : DescribedCommand(list, dispenser)
 {
     read(list, Q_FUNC_INFO);
-    quv::requireGoodFormula(*this, dispenser, Q_FUNC_INFO);
+    m_checked = quv::checkedPour(*this, m_formula, dispenser, codes, Q_FUNC_INFO);
 }
 
 TintCmd *TintCmd::clone() const
@@ -69,9 +69,8 @@ TintCmd *TintCmd::clone() const
 
 QList<int> TintCmd::serialParameters(int) const
 {
-    const FW_Dispenser *dispenser = quv::dispenserOf(*this);
     CircuitFormulaItemList items;
-    if (!dispenser || !m_formula.getCircuitFormulaItems(items, dispenser, nullptr))
+    if (!quv::pouredItems(*this, m_formula, m_checked, items))
         return {};
     return quv::pourParameters(*this, m_formula, items, false);
 }
@@ -115,20 +114,19 @@ QList<int> TintCmd::getSerialParameters(const CircuitFormulaItemList &items, int
     constexpr int withoutQueues = 1;
     const bool queued = criterion != withoutQueues && !items.hasNullQueueID();
 
-    QList<int> parameters = {purge && tint2 ? criterion | purgeMark : criterion, items.size()};
+    constexpr int usualNumbers = 8; // of a circuit
+    QList<int> parameters;
+    parameters.reserve((items.size() + 1) * usualNumbers);
+    parameters << (purge && tint2 ? criterion | purgeMark : criterion) << items.size();
     if (tint2)
         parameters.append(fieldsOfCircuit);
     for (const CircuitFormulaItem &item : items) {
-        const QList<int> digits = splitValue(std::max(item.steps(), 1LL), quv::serialBase);
-        if (digits.isEmpty())
-            continue;
         parameters << item.positionId() << (queued ? item.queueID() : 0) << item.speed();
         if (tint2)
             parameters.append(item.nozzleValveID());
-        quv::appendCounted(parameters, digits);
+        quv::appendCountedDigits(parameters, std::max(item.steps(), 1LL));
         if (tint2)
-            quv::appendCounted(parameters,
-                               splitValue(sentLevel(item.currentCheckLevelSteps()), quv::serialBase));
+            quv::appendCountedDigits(parameters, sentLevel(item.currentCheckLevelSteps()));
     }
     return parameters;
 }

@@ -6,7 +6,13 @@
 #include <QuvFramework/circuitformulaitem.h>
 #include <QuvFramework/formula.h>
 
+#include <memory>
+
 class FW_Dispenser;
+
+namespace quv {
+struct CheckedPour;
+}
 
 /**
  * TINT: the firmware pours a formula. The driver renames it to TINT2, which tells more of each circuit, for a firmware that
@@ -57,4 +63,7 @@ public:
 
 protected:
     Formula m_formula;
+
+private:
+    std::shared_ptr<const quv::CheckedPour> m_checked; ///< null when nothing was checked
 };

@@ -303,6 +303,45 @@ TEST(PurgeFormulaCmd, isMarkedAsTint2)
     EXPECT_EQ(purge(unqueued, dispenser()).serialParameters(1).mid(0, 4), (QList<int>{1, 2, 1, 0}));
 }
 
+TEST(PurgeFormulaCmd, sendsWhatItCheckedUnderEitherNameAndAsACopy)
+{
+    const QList<int> asPurge = {2, 1, 1, 31, 40, 2, 54, 1};
+    const QList<int> asTint2 = {66, 1, 6, 1, 31, 40, 0, 2, 54, 1, 1, 50};
+    FW_Dispenser machine = dispenser();
+    auto command = std::make_unique<PurgeFormulaCmd>(grams({{"1", 30}}), &machine);
+    machine = withoutCalibration(1); // not the command's own
+    EXPECT_EQ(command->serialParameters(1), asPurge);
+    ASSERT_TRUE(command->setCommand("TINT2"));
+    EXPECT_EQ(command->serialParameters(1), asTint2);
+    const std::unique_ptr<PurgeFormulaCmd> clone(command->clone());
+    command.reset();
+    EXPECT_EQ(clone->serialParameters(1), asTint2);
+    EXPECT_EQ(clone->getCmdEstimatedExecutionTime(nullptr), 2250);
+    ASSERT_TRUE(clone->setCommand("PURGE"));
+    EXPECT_EQ(clone->serialParameters(1), asPurge);
+}
+
+/** A purge that pours something else in the end. */
+class ChangedPurge : public PurgeFormulaCmd
+{
+public:
+    using PurgeFormulaCmd::PurgeFormulaCmd;
+
+    Formula &changeableFormula() { return m_formula; }
+};
+
+TEST(PurgeFormulaCmd, sendsAFormulaThatIsChangedAfterItsCheck)
+{
+    const FW_Dispenser machine = dispenser();
+    ChangedPurge command(grams({{"1", 30}}), &machine);
+    command.changeableFormula() = grams({{"2", 80}});
+    EXPECT_EQ(command.serialParameters(1), (QList<int>{2, 1, 2, 32, 40, 2, 62, 3}));
+    EXPECT_EQ(command.getCmdEstimatedExecutionTime(nullptr), 6000);
+    command.changeableFormula() = grams({{"9", 30}});
+    EXPECT_EQ(command.serialParameters(1), QList<int>()) << "there is no such circuit";
+    EXPECT_EQ(command.getCmdEstimatedExecutionTime(nullptr), 0);
+}
+
 TEST(PurgeFormulaCmd, logsWhatItSends)
 {
     const PurgeFormulaCmd command = purge(grams({{"1", 30}, {"2", 1}}), dispenser());

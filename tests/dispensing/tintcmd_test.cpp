@@ -307,6 +307,54 @@ TEST(TintCmd, sendsAllCircuitsInOneList)
     EXPECT_EQ(parameters.mid(317), (QList<int>{64, 5, 50, 1, 7}));
 }
 
+TEST(TintCmd, sendsWhatItCheckedUnderEitherNameAndAsACopy)
+{
+    const QList<int> asTint = {2, 2, 1, 31, 40, 2, 54, 1, 2, 32, 40, 1, 10};
+    const QList<int> asTint2 = {2, 2, 6, 1, 31, 40, 0, 2, 54, 1, 1, 50, 2, 32, 40, 0, 1, 10, 1, 50};
+    FW_Dispenser machine = dispenser();
+    auto command = std::make_unique<TintCmd>(grams({{"1", 30}, {"2", 1}}), &machine);
+    machine = withoutCalibration(1); // not the command's own
+    EXPECT_EQ(command->serialParameters(1), asTint);
+    ASSERT_TRUE(command->setCommand("TINT2"));
+    EXPECT_EQ(command->serialParameters(1), asTint2);
+    const std::unique_ptr<TintCmd> clone(command->clone());
+    command.reset();
+    EXPECT_EQ(clone->serialParameters(1), asTint2);
+    ASSERT_TRUE(clone->setCommand("TINT"));
+    EXPECT_EQ(clone->serialParameters(1), asTint);
+}
+
+/** A tint that pours something else in the end. */
+class ChangedTint : public TintCmd
+{
+public:
+    using TintCmd::TintCmd;
+
+    Formula &changeableFormula() { return m_formula; }
+};
+
+TEST(TintCmd, sendsAFormulaThatIsChangedAfterItsCheck)
+{
+    const QList<int> checked = {2, 1, 1, 31, 40, 2, 54, 1};
+    const FW_Dispenser machine = dispenser();
+    ChangedTint command(grams({{"1", 30}}), &machine);
+    command.changeableFormula().addItem({"2", 1});
+    EXPECT_EQ(command.serialParameters(1), (QList<int>{2, 2, 1, 31, 40, 2, 54, 1, 2, 32, 40, 1, 10}));
+    command.changeableFormula() = grams({{"1", 30}});
+    EXPECT_EQ(command.serialParameters(1), checked);
+    command.changeableFormula().setQuantityUnit(Formula::Steps);
+    EXPECT_EQ(command.serialParameters(1), (QList<int>{2, 1, 1, 31, 50, 1, 30}));
+    command.changeableFormula().setQuantityUnit(Formula::WeightOrVolume);
+    command.changeableFormula().setExecutionCriterion(1);
+    EXPECT_EQ(command.serialParameters(1), (QList<int>{1, 1, 1, 0, 40, 2, 54, 1}));
+    command.changeableFormula() = grams({{"9", 30}});
+    EXPECT_EQ(command.serialParameters(1), QList<int>()) << "there is no such circuit";
+
+    ChangedTint unchecked(grams({{"1", 30}}), nullptr);
+    unchecked.changeableFormula() = grams({{"2", 30}});
+    EXPECT_EQ(unchecked.serialParameters(1), QList<int>());
+}
+
 TEST(TintCmd, sendsNoStepsAsOneStep)
 {
     EXPECT_EQ(tint(steps({{"1", 0}, {"2", 1}}), dispenser()).serialParameters(1),

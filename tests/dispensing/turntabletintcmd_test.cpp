@@ -138,6 +138,18 @@ TEST(TurntableTintCmd, poursInTheOrderOfTheTable)
     EXPECT_EQ(TurntableTintCmd(threeCircuits(), 3, nullptr).serialParameters(1), QList<int>());
 }
 
+TEST(TurntableTintCmd, poursInTheOrderOfTheTableAsACopy)
+{
+    FW_Dispenser machine = withTurntable();
+    auto command = std::make_unique<TurntableTintCmd>(threeCircuits(), 3, &machine);
+    const std::unique_ptr<TurntableTintCmd> clone(command->clone());
+    machine = dispenser(); // not the command's own
+    command.reset();
+    ASSERT_TRUE(clone->setCommand("TINT2"));
+    EXPECT_EQ(clone->serialParameters(1), (QList<int>{2, 3, 6,  3, 33, 40, 0,  2,  154, 1, 1,  50, 4, 34, 40,
+                                                      0, 1, 80, 1, 50, 1,  31, 40, 0,   2, 62, 3,  1, 50}));
+}
+
 TEST(TurntableTintCmd, takesTheTimeOfPoursAndWaysOnItsOwnMachine)
 {
     const FW_Dispenser machine = withTurntable();
