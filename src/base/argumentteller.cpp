@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/argumentteller_p.h"
 
+#include "catalogue/protocommandlist.h"
+
+#include <algorithm>
 #include <cstdlib>
 #include <cxxabi.h>
 #include <memory>
@@ -12,6 +15,11 @@ void appendRefusal(QList<RefusalFacts> &refusals, const char *form, const char *
     if (isGiven(refusal))
         refusals.append({QString::fromLatin1(form), QString::fromLatin1(when),
                          QString::fromLatin1(refusal.code), QString::fromUtf8(refusal.text)});
+}
+
+bool ArgumentTeller::isCountedByBase() const
+{
+    return m_facts.arguments.size() <= ProtoCommandList::cmdParamNum(m_facts.name, true);
 }
 
 void ArgumentTeller::tell(const ArgumentName &name, const char *type)
@@ -33,6 +41,16 @@ void ArgumentTeller::refuse(const char *form, const char *when, const Refusal &r
 {
     if (!m_facts.arguments.isEmpty())
         appendRefusal(m_facts.arguments.last().refusals, form, when, refusal);
+}
+
+void leaveOutForm(const char *form, CommandFacts &facts)
+{
+    const auto isLeftOut = [form](const RefusalFacts &refusal) {
+        return refusal.form == QLatin1String(form);
+    };
+    for (MemberFacts &member : facts.members)
+        member.refusals.erase(std::remove_if(member.refusals.begin(), member.refusals.end(), isLeftOut),
+                              member.refusals.end());
 }
 
 QString nameOfClass(const std::type_info &type)

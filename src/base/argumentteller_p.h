@@ -28,7 +28,8 @@ public:
                   const ArgumentRefusal &otherType)
     {
         tell(name, fieldType<T>().name);
-        refuse("missing", absent);
+        if (!isCountedByBase())
+            refuse("missing", absent);
         refuse("another type", otherType);
     }
 
@@ -43,7 +44,7 @@ public:
     void convertible(const ArgumentName &name, const T &, const ArgumentRefusal &refusal)
     {
         tell(name, fieldType<T>().name);
-        refuse("missing or another type", refusal);
+        refuse(whenNotThere(), refusal);
     }
 
     template <class T>
@@ -51,8 +52,14 @@ public:
                 const Refusal &unreadable)
     {
         tell(name, nameOf<T>);
-        refuse("missing or another type", refusal);
-        refuse("list", "unreadable", unreadable);
+        if (ownRefusals<T>.empty()) {
+            refuse(whenNotThere(), refusal);
+            refuse("list", "unreadable", unreadable);
+            return;
+        }
+        refuse("list", whenNotThere(), refusal.list);
+        for (const auto &[when, own] : ownRefusals<T>) // which pass through those of the command
+            refuse("XML-RPC", when, own);
     }
 
     template <class T>
@@ -73,6 +80,13 @@ public:
     {}
 
 private:
+    /** Whether the base refuses a request without the argument that was told last, before the class looks at it. */
+    bool isCountedByBase() const;
+    const char *whenNotThere() const
+    {
+        return isCountedByBase() ? "another type" : "missing or another type";
+    }
+
     void tell(const ArgumentName &name, const char *type);
     void refuse(const char *form, const char *when, const Refusal &refusal);
 
@@ -98,6 +112,9 @@ void tellAnswerClass(CommandFacts &facts)
     }
 }
 
+/** Takes back the refusals of members in a form in which the command's answer never comes. */
+void leaveOutForm(const char *form, CommandFacts &facts);
+
 /** Tells the answer, and what a failure to make it is called. */
 template <class Answer, class Ways>
 void tellAnswer(const Ways &ways, CommandFacts &facts)
@@ -107,6 +124,10 @@ void tellAnswer(const Ways &ways, CommandFacts &facts)
         {"tokens", ways.tokens}, {"XML-RPC", ways.value}, {"list", ways.list}, {"envelope", ways.envelope}};
     for (const auto &[form, refusal] : refusals)
         appendRefusal(facts.answerRefusals, form, "", refusal);
+    if (!isGiven(ways.value))
+        leaveOutForm("XML-RPC", facts);
+    if (!isGiven(ways.list))
+        leaveOutForm("list", facts);
 }
 
 } // namespace quv

@@ -14,7 +14,9 @@
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
+#include <array>
 #include <stdexcept>
+#include <utility>
 
 // Reading one value, or one variant of a list, of which a command or an answer is made.
 
@@ -40,6 +42,10 @@ inline constexpr const char *markOf = nullptr;
 /** What people call such a type. */
 template <class T>
 inline constexpr const char *nameOf = "struct";
+
+/** What an object is refused with by its own class, over XML-RPC. */
+template <class T>
+inline constexpr std::array<std::pair<const char *, Refusal>, 0> ownRefusals = {};
 
 /** True for a T, and for a map that is meant for one. */
 template <class T>

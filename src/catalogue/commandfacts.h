@@ -38,7 +38,7 @@ struct MemberFacts
     QString key;
     QString type;
     QString meaning;
-    bool required = false; ///< an answer without it is refused
+    bool required = false; ///< always there; an answer that is read without it is refused
     QList<RefusalFacts> refusals;
 };
 
@@ -50,7 +50,8 @@ struct CommandFacts
         className; ///< empty for a plain command, whose arguments are counted and do not travel over XML-RPC
     bool tellsArguments = false; ///< true when \a arguments are all that the command has
     QList<ArgumentFacts> arguments;
-    QString answerClass; ///< empty for a plain answer
+    QString answerClass;       ///< empty for a plain answer
+    bool answerToCome = false; ///< plain only until the answer has its class
     bool tellsMembers = false;
     QList<MemberFacts> members;
     QList<RefusalFacts> answerRefusals; ///< what a failure to make the answer is called

@@ -68,8 +68,8 @@ XmlRpc::XmlRpcValue GetConfigCmdsAnswer::toXmlRpcValue() const
 
 QList<quv::MemberFacts> GetConfigCmdsAnswer::memberFacts()
 {
-    return {{versionKey, "int", "", false, {}},
-            {minorVersionKey, "int", "", false, {}},
+    return {{versionKey, "int", "", true, {}},
+            {minorVersionKey, "int", "", true, {}},
             {commandsKey,
              "array of structs",
              "\"cmd_code\" and \"field_count\" of each structure; left out when there is none",

@@ -88,7 +88,7 @@ XmlRpc::XmlRpcValue ReadConfigurationParamAnswer::toXmlRpcValue() const
 
 QList<quv::MemberFacts> ReadConfigurationParamAnswer::memberFacts()
 {
-    return {{nameKey, "string", "the structure's name", false, {}},
-            {codeKey, "int", "the structure's code", false, {}},
-            {rowKey, "string", "the row as text", false, {}}};
+    return {{nameKey, "string", "the structure's name", true, {}},
+            {codeKey, "int", "the structure's code", true, {}},
+            {rowKey, "string", "the row as text", true, {}}};
 }

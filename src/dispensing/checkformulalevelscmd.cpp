@@ -32,9 +32,9 @@ struct CheckFormulaLevelsCmd::Description : quv::Description
 
     static void tellArguments(quv::ArgumentTeller &teller)
     {
-        teller.object({"formula", "or a purge formula"}, Formula(), {noFormula, {}}, {});
-        teller.optional({"is_purge", "whether the formula is a purge; a purge formula goes without it"},
-                        false, {});
+        teller.object({"formula", "or a purge formula"}, Formula(), {}, {});
+        teller.refuse("unreadable", {noFormula, {}});
+        teller.argument({"is_purge", "whether the formula is a purge; a purge formula stands alone"}, "bool");
     }
 };
 

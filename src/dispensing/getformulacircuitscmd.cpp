@@ -32,7 +32,8 @@ struct GetFormulaCircuitsCmd::Description : quv::Description
 
     static void tellArguments(quv::ArgumentTeller &teller)
     {
-        teller.object({"formula", "or a purge formula"}, Formula(), {neither, {}}, {});
+        teller.object({"formula", "or a purge formula"}, Formula(), {}, {});
+        teller.refuse("missing", {neither, {}});
         teller.refuse("an unreadable formula", {noFormula, {}});
         teller.refuse("an unreadable purge formula", {noPurge, {}});
         teller.optional({"is_purge", "whether the formula is a purge"}, false, {});

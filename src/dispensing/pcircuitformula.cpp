@@ -21,14 +21,14 @@ const bool isRegistered = RegisterTravellingType<PCircuitFormula>("PCircuitFormu
 PCircuitFormula::PCircuitFormula(const XmlRpcValue &value)
 {
     if (value.getType() != XmlRpcValue::TypeStruct)
-        throw FW_Exception("DE02318", quv::badPCircuit.text, Q_FUNC_INFO);
+        quv::throwRefusal(quv::noCircuitList, Q_FUNC_INFO);
     if (!DecodeXmlRpcValue(value, executionCriterion_TAG, executionCriterion))
-        throw FW_Exception("DE02319", quv::badPCircuit.text, Q_FUNC_INFO);
+        quv::throwRefusal(quv::noCriterion, Q_FUNC_INFO);
     const XmlRpcValue *circuits = FindXmlRpcMember(value, targetCircuits_TAG);
     if (!circuits)
         return;
     if (circuits->getType() != XmlRpcValue::TypeArray)
-        throw FW_Exception(quv::badPCircuit.code, quv::badPCircuit.text, Q_FUNC_INFO);
+        quv::throwRefusal(quv::badPCircuit, Q_FUNC_INFO);
     targetCircuits.reserve(circuits->size());
     for (int i = 0; i < circuits->size(); ++i)
         targetCircuits.append(PCircuit((*circuits)[i]));

@@ -134,7 +134,9 @@ bool PurgeFormulaCmd::isTint2CmdSupported(const FW_Version &version)
 void PurgeFormulaCmd::tell(quv::CommandFacts &facts)
 {
     quv::ArgumentTeller teller(facts);
-    teller.object({"formula", "or a purge formula"}, Formula(), {neitherInValue, neitherInList}, {});
+    teller.object({"formula", "or a purge formula"}, Formula(), {}, {});
+    teller.refuse("missing", {neitherInValue, {}});
+    teller.refuse("another type", {{}, neitherInList});
     teller.refuse("an unreadable formula", {badFormulaInValue, badFormulaInList});
     teller.refuse("an unreadable purge formula", {badPurgeInValue, badPurgeInList});
 }

@@ -43,7 +43,8 @@ struct SetLevelsCmd::Description : quv::Description
         archive.required({"delta", "true: the quantities are changes; false: they are new levels"},
                          self.m_delta, {noFlagInValue, {}}, {noFlagInValue, {"DE01322", noFlag}});
         archive.object("formula", self.m_formula, {{"DE00436", noFormula}, noFormulaInList}, noFormulaInList);
-        archive.unread({"refill", "whether somebody refilled; sent, but never read"}, self.m_refill);
+        archive.unread({"refill", "whether somebody refilled; always sent as true, and never read"},
+                       self.m_refill);
     }
 };
 

@@ -46,20 +46,25 @@ TintCmd::TintCmd(const Formula &formula, const FW_Dispenser *dispenser) : Descri
 {
     const char *function = Q_FUNC_INFO;
     m_formula = quv::copied(formula, {"DE00491", invalidFormula}, function);
-    m_checked = quv::checkedPour(*this, m_formula, dispenser, codes, function);
+    check(dispenser, function);
 }
 
 TintCmd::TintCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser)
     : DescribedCommand(value, dispenser)
 {
     read(value, Q_FUNC_INFO);
-    m_checked = quv::checkedPour(*this, m_formula, dispenser, codes, Q_FUNC_INFO);
+    check(dispenser, Q_FUNC_INFO);
 }
 
 TintCmd::TintCmd(QList<QVariant> list, const FW_Dispenser *dispenser) : DescribedCommand(list, dispenser)
 {
     read(list, Q_FUNC_INFO);
-    m_checked = quv::checkedPour(*this, m_formula, dispenser, codes, Q_FUNC_INFO);
+    check(dispenser, Q_FUNC_INFO);
+}
+
+void TintCmd::check(const FW_Dispenser *dispenser, const char *function)
+{
+    m_checked = quv::checkedPour(*this, m_formula, dispenser, codes, function);
 }
 
 TintCmd *TintCmd::clone() const

@@ -65,5 +65,8 @@ protected:
     Formula m_formula;
 
 private:
+    /** Throws what checkFormula fails with, when there is a dispenser to check the formula by. */
+    void check(const FW_Dispenser *dispenser, const char *function);
+
     std::shared_ptr<const quv::CheckedPour> m_checked; ///< null when nothing was checked
 };

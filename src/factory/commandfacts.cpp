@@ -6,6 +6,8 @@
 #include "factory/commandtables_p.h"
 #include "factory/pending_p.h"
 
+#include <algorithm>
+
 namespace quv {
 
 namespace {
@@ -21,10 +23,14 @@ bool tellFrom(const CommandTable<Command> &table, const CMD_STRUCT &row, Command
     return isPending(table.dispatch(), ValueForm, row.id) || isPending(table.dispatch(), ListForm, row.id);
 }
 
-void tellAnswerOf(const AnswerRow *answer, CommandFacts &facts)
+void tellAnswerOf(const AnswerRow *answer, int row, CommandFacts &facts)
 {
     if (answer && facts.answerClass.isEmpty())
         answer->tell(facts);
+    const auto &pending = pendingAnswers();
+    facts.answerToCome = facts.answerClass.isEmpty() &&
+                         std::any_of(pending.begin(), pending.end(),
+                                     [row](const PendingAnswer &come) { return come.command == row; });
 }
 
 // The tables are asked in the order in which the factory asks them.
@@ -61,10 +67,10 @@ CommandFacts commandFacts(const QString &name)
     facts.purpose = QString::fromUtf8(commandPurpose(row->id));
     if (ProtoCommandList::isSerialCommand(name, false)) {
         tellSerial(*row, facts);
-        tellAnswerOf(serialAnswerRow(name), facts);
+        tellAnswerOf(serialAnswerRow(name), row->id, facts);
     } else if (ProtoCommandList::isConfigurationCommand(name, false)) {
         tellConfiguration(*row, facts);
-        tellAnswerOf(configurationAnswerRow(name), facts);
+        tellAnswerOf(configurationAnswerRow(name), row->id, facts);
     } else {
         tellFrom(scaleTable, *row, facts);
     }

@@ -117,7 +117,9 @@ json argumentFromWord(const QString &word)
     // who begins like this means JSON, and wants to hear of a mistake
     static const QRegularExpression start(QStringLiteral(R"(^([\[{"]|-?\d+(\.\d+)?([eE][+-]?\d+)?$))"));
     try {
-        return parseJson(word.toStdString());
+        json value = parseJson(word.toStdString());
+        toXmlRpcValue(value); // which not all of JSON can become
+        return value;
     } catch (const JsonError &error) {
         if (start.match(word).hasMatch())
             throw UsageError(QStringLiteral("argument %1: %2").arg(word, QString::fromUtf8(error.what())));

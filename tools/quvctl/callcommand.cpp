@@ -59,7 +59,7 @@ const Subcommand callSubcommand = {
     "is a JSON value; a word that is none is a string. quvctl show NAME tells the arguments' names, by\n"
     "which they can be given as well: position=3. With --async it shows a ticket and does not wait:\n"
     "quvctl ticket asks for the answer. The driver has the machine; a few commands read their formula\n"
-    "by one here too, and --machine tells them which. Nothing is sent when an argument would\n"
+    "by one here too, and --machine tells them which. Nothing is sent when a whole argument would\n"
     "be lost on the way.",
     1,
     -1,

@@ -2,9 +2,12 @@
 #include "commandreference.h"
 
 #include "catalogwords.h"
+#include "explanations.h"
 #include "requestrefusals.h"
 
 #include "catalogue/protocommandlist.h"
+
+#include <QtCore/QSet>
 
 namespace quv {
 
@@ -44,6 +47,8 @@ QString answerNote(const CommandReference &command)
         return facts.tellsMembers
                    ? facts.answerClass
                    : QStringLiteral("%1, whose members are not told yet").arg(facts.answerClass);
+    if (facts.answerToCome)
+        return QStringLiteral("a plain one, as long as its class is still to come");
     return facts.tellsArguments ? QStringLiteral("a plain one, without members") : QString();
 }
 
@@ -64,7 +69,20 @@ QString codesInWords(const MemberFacts &member)
 
 QList<RefusalLine> refusalsInWords(const CommandReference &command)
 {
-    return refusalLines(command.requestRefusals, command.facts);
+    QList<RefusalLine> lines = refusalLines(command.requestRefusals, command.facts);
+    QSet<QString> told;
+    for (const RefusalLine &line : qAsConst(lines))
+        told.insert(line.code);
+    // what the classes refuse by themselves: ranges, checks against a machine, the tokens of an answer
+    for (const Explanation &explanation : explanations()) {
+        const QString refuser = QString::fromUtf8(explanation.refuser);
+        const QString code = QString::fromLatin1(explanation.code);
+        if ((refuser == command.facts.className || refuser == command.facts.answerClass) &&
+            !refuser.isEmpty() && !told.contains(code))
+            lines.append({code, QString::fromUtf8(explanation.form), whenInWords(explanation),
+                          QString::fromUtf8(explanation.text)});
+    }
+    return lines;
 }
 
 } // namespace quv

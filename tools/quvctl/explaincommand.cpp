@@ -76,12 +76,6 @@ QString cell(const char *text)
     return cell(QString::fromUtf8(text));
 }
 
-QString whenInWords(const Explanation &explanation)
-{
-    const QString when = QString::fromUtf8(explanation.when);
-    return *explanation.subject == '\0' ? when : inWords(when, QString::fromUtf8(explanation.subject));
-}
-
 OrderedJson listed(const char *texts)
 {
     OrderedJson array = OrderedJson::array();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "refusallines.h"
 
+#include "explanations.h"
+
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
@@ -93,6 +95,12 @@ QString inWords(const QString &when, const QString &of)
             return QString::fromLatin1(phrase.words).arg(of);
     return (when.startsWith(QLatin1String("an ")) ? QStringLiteral("%1 is %2") : QStringLiteral("%1: %2"))
         .arg(of, when);
+}
+
+QString whenInWords(const Explanation &explanation)
+{
+    const QString when = QString::fromUtf8(explanation.when);
+    return *explanation.subject == '\0' ? when : inWords(when, QString::fromUtf8(explanation.subject));
 }
 
 QList<RefusalLine> refusalLines(const QList<RefusalFacts> &ofRequest, const CommandFacts &command)

@@ -8,6 +8,8 @@
 
 namespace quv {
 
+struct Explanation;
+
 /// A refusal as people read it. What is alike in several forms, or of several members, stands once.
 struct RefusalLine
 {
@@ -19,6 +21,9 @@ struct RefusalLine
 
 /// When an argument, a member or an answer is refused: "position is of another type" for "another type" and "position".
 QString inWords(const QString &when, const QString &of);
+
+/// The same of an explanation; empty when the sources do not tell.
+QString whenInWords(const Explanation &explanation);
 
 /// Those of a request as a whole come as they are, before those that the command tells of its arguments and its answer.
 QList<RefusalLine> refusalLines(const QList<RefusalFacts> &ofRequest, const CommandFacts &command);

@@ -37,7 +37,10 @@ public:
             const std::unique_ptr<ProtoCommand> made(
                 ProtoCommandList::getProtoCommand(m_command.name, args, m_machine.get()));
         } catch (const FW_Exception &refusal) {
-            add({QString::fromLatin1(form), when, refusal.code(), refusal.text()});
+            // how many came is for the request to say
+            add({QString::fromLatin1(form), when, refusal.code(),
+                 refusal.text().replace(QLatin1String("received 0 instead"),
+                                        QStringLiteral("received \u2026 instead"))});
         }
     }
 

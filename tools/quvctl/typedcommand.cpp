@@ -8,6 +8,7 @@
 #include "base/confprotocommand.h"
 #include "base/scaleprotocommand.h"
 #include "base/serialprotocommand.h"
+#include "catalogue/commandfacts.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
 
@@ -71,14 +72,21 @@ QString argumentsInWords(int count)
 
 QString whyLost(const ProtoCommand &command, int given, int lost)
 {
-    const int needed = ProtoCommandList::cmdParamNum(command.command(), true);
-    if (isPlain(command) && needed > 0)
-        return QStringLiteral("cannot be called yet: it needs %1, and quvctl cannot send any")
-            .arg(argumentsInWords(needed));
     if (!isPlain(command) && lost == given)
         return QStringLiteral("would be sent without arguments");
     return lost == given ? QStringLiteral("carries no arguments")
                          : QStringLiteral("takes %1").arg(argumentsInWords(given - lost));
+}
+
+/// A plain command counts its arguments and sends none, so one that needs some cannot do what it is for.
+void requireCallable(const CommandFacts &command)
+{
+    const int needed = ProtoCommandList::cmdParamNum(command.name, true);
+    const bool sendsNone =
+        command.className.isEmpty() || (command.tellsArguments && command.arguments.isEmpty());
+    if (sendsNone && needed > 0)
+        throw UsageError(QStringLiteral("%1 cannot be called yet: it needs %2, and quvctl cannot send any")
+                             .arg(command.name, argumentsInWords(needed)));
 }
 
 } // namespace
@@ -86,6 +94,7 @@ QString whyLost(const ProtoCommand &command, int given, int lost)
 std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request)
 {
     const QString &name = line.words().first();
+    requireCallable(commandFacts(name));
     auto command = withCommandName(name, [&request] { return makeCommand(Request(request)); });
     const QStringList words = typedArguments(line).words;
     QStringList lost;
@@ -94,6 +103,10 @@ std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohma
             lost.append(words.at(place));
     if (lost.isEmpty())
         return command;
+    const CommandFacts facts = commandFacts(name);
+    if (facts.tellsArguments && lost.size() < words.size() && words.size() <= facts.arguments.size())
+        throw UsageError(
+            QStringLiteral("%1 would not send \"%2\" as it is given").arg(name, lost.join(QLatin1Char(' '))));
     const QString why = whyLost(*command, words.size(), lost.size());
     throw UsageError(
         QStringLiteral("%1 %2; \"%3\" would be lost").arg(name, why, lost.join(QLatin1Char(' '))));
