@@ -219,6 +219,7 @@ void expectSetter(ProtoCommand &command)
     EXPECT_EQ(Counted::alive, 1);
 
     for (const Failure failure : {Failure::OfFramework, Failure::OfStandard, Failure::OfNoClass}) {
+        SCOPED_TRACE(static_cast<int>(failure));
         UncopyableAnswer<ProtoAnswer> uncopyable(failure);
         command.setProtoAnswer(&answer);
         EXPECT_NO_THROW(command.setProtoAnswer(&uncopyable));
@@ -249,6 +250,7 @@ void expectReadyAnswer(ProtoCommand &command, const AnswerFacts &facts)
     };
     expectFailed(command, {facts.nullCode, notMade}, "", set(nullptr));
     for (const Failure failure : {Failure::OfStandard, Failure::OfNoClass}) {
+        SCOPED_TRACE(static_cast<int>(failure));
         UncopyableAnswer<ProtoAnswer> uncopyable(failure);
         expectFailed(command, {facts.cloneCode, notMade}, "", set(&uncopyable));
     }
@@ -283,6 +285,7 @@ void expectEnvelopes(ProtoCommand &command, const AnswerFacts &facts)
     FW_DriverError error;
     for (const int retCode : {4, 1, -1}) {
         for (const bool async : {false, true}) {
+            SCOPED_TRACE(std::to_string(retCode) + (async ? " with a ticket asked for" : ""));
             holdAnswer(command);
             EXPECT_TRUE(command.setAnswer(envelope(retCode, right), async, &error));
             expectNoAnswer(command);
@@ -332,6 +335,7 @@ void expectEnvelopeFailures(ProtoCommand &command, const AnswerFacts &facts)
     EXPECT_NE(command.getXmlRpcAnswer(), nullptr);
 
     for (const bool async : {false, true}) {
+        SCOPED_TRACE(async ? "with a ticket asked for" : "without a ticket asked for");
         const Value taken = async ? ticket("ticket_id") : good;
         expectFailedForLackOfMemory(command, facts.envelope, [&](FW_DriverError *error) {
             return command.setAnswer(taken, async, error);

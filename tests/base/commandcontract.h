@@ -11,16 +11,11 @@
 
 namespace testing_base {
 
-/** Expects all that follows, and that no fact is left out. */
-void expectCommandContract(const CommandFacts &facts);
-
 /**
- * Expects of every request in every form, of its copies and of what is read back: name, parameters, request, integers, module,
- * time and words; and of the default constructor.
+ * Expects that no fact is left out, and then: the row of the catalogue; every request in every form, its copies and what is
+ * read back of it; the default constructor and setDefaults; which firmware has the command; the refusals of arguments; and
+ * the contract of answers.
  */
-void expectRequests(const CommandFacts &facts);
-
-/** Expects that arguments which are absent, of another type or out of range are refused, each in both forms. */
-void expectRefusals(const CommandFacts &facts);
+void expectCommandContract(const CommandFacts &facts);
 
 } // namespace testing_base

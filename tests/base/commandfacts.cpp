@@ -84,6 +84,11 @@ Request &Request::onlyFromValue()
     return *this;
 }
 
+std::string Request::name() const
+{
+    return shown(arguments) + (valueForm ? " or " + dumped(*valueForm) : "");
+}
+
 Request Request::alsoFromList(List other) const
 {
     Request same = *this;

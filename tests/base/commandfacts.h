@@ -101,6 +101,12 @@ struct Request
     Request &says(const Words &expected);
     Request &holds(List expected); ///< by the getters in their order, where that is not the parameters
 
+    /** What a command of this request gives back: of parameters(), and of the getters. */
+    const List &madeParameters() const { return expectedParameters ? *expectedParameters : arguments; }
+    const List &madeHeld() const { return held ? *held : madeParameters(); }
+    /** The arguments, as a failure names them. */
+    std::string name() const;
+
     /** The same command from another list, or another value. */
     Request alsoFromList(List other) const;
     Request alsoFromValue(const Value &other) const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "base/commandcontract.h"
+#include "base/commandrefusals.h"
 
 namespace testing_base {
 
@@ -78,16 +78,18 @@ void expectBaseRefusals(const CommandFacts &facts)
         expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofBaseValue,
                       [&] { facts.forms.ofValue(Value()); });
         for (const Value &other :
-             {Value(7), Value(true), Value(7.5), Value("7"), structOf({}), structOf({{"value", Value(7)}})})
+             {Value(7), Value(true), Value(7.5), Value("7"), structOf({}), structOf({{"value", Value(7)}})}) {
+            SCOPED_TRACE(dumped(other));
             expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofBaseValue,
                           [&] { facts.forms.ofValue(other); });
-        for (int count = 0; count < facts.catalogue.minimum; ++count)
+        }
+    }
+    for (int count = 0; count < facts.catalogue.minimum; ++count) {
+        SCOPED_TRACE(count);
+        if (facts.valueIsCheckedByBase)
             expectRefusal("DE00312", tooFew(facts, count).c_str(), ofBaseValue,
                           [&] { facts.forms.ofValue(arguments.firstValues(count)); });
-    }
-    if (facts.listIsCountedByBase) {
-        SCOPED_TRACE("list form");
-        for (int count = 0; count < facts.catalogue.minimum; ++count)
+        if (facts.listIsCountedByBase)
             expectRefusal("DE00313", tooFew(facts, count).c_str(), ofBaseList,
                           [&] { facts.forms.ofList(arguments.firstVariants(count)); });
     }
@@ -154,7 +156,7 @@ void expectSameTaken(const CommandFacts &facts, int index, const Argument &argum
         const Made command = tryToMake([&] { return facts.forms.ofList(arguments.with(index, same)); });
         if (!command)
             continue;
-        EXPECT_EQ(command->parameters(), request.expectedParameters.value_or(request.arguments));
+        EXPECT_EQ(command->parameters(), request.madeParameters());
         EXPECT_EQ(dumped(command->xmlrpc_parameters()), request.expectedDump);
     }
 }
