@@ -93,7 +93,7 @@ void expectDefaultsAfterName(const Wash &wash)
 
 } // namespace
 
-TEST(Arguments, AreReadByPosition)
+TEST(Arguments, areReadByPosition)
 {
     expectFull(readValue(arrayOf(5, "north", true, 0.25, 12, arrayOf("a", "b"), arrayOf(1, 2))));
     expectFull(readList(
@@ -101,19 +101,19 @@ TEST(Arguments, AreReadByPosition)
     expectFull(readList({5, "north", true, 0.25, 12, List{"a", "b"}, QVariant(List{1, 2})}));
 }
 
-TEST(Arguments, NotGivenLeaveTheirFieldsAlone)
+TEST(Arguments, leaveTheirFieldsAloneWhenTheyAreNotGiven)
 {
     expectDefaultsAfterName(readValue(arrayOf(5, "north")));
     expectDefaultsAfterName(readList({5, "north"}));
 }
 
-TEST(Arguments, BeyondTheLastAreNotRead)
+TEST(Arguments, areNotReadBeyondTheLast)
 {
     EXPECT_EQ(readValue(arrayOf(5, "north", true, 0.25, 12, arrayOf("a"), arrayOf(1), "more")).steps,
               QList<int>({1}));
 }
 
-TEST(Arguments, MissingAreRefusedInTheFormsOwnCode)
+TEST(Arguments, areRefusedInTheFormsOwnCodeWhenTheyAreMissing)
 {
     expectValueRefused("V1", "Circuit missing", arrayOf());
     expectValueRefused("V1", "Circuit missing", Value());
@@ -124,7 +124,7 @@ TEST(Arguments, MissingAreRefusedInTheFormsOwnCode)
     expectListRefused("L3", "Name missing", {5});
 }
 
-TEST(Arguments, OfAnotherTypeAreRefusedInTheFormsOwnCode)
+TEST(Arguments, areRefusedInTheFormsOwnCodeWhenTheyAreOfAnotherType)
 {
     expectValueRefused("V2", "Circuit: int expected", arrayOf("5", "north"));
     expectValueRefused("V2", "Circuit: int expected", arrayOf(true, "north"));
@@ -151,7 +151,7 @@ TEST(Arguments, OfAnotherTypeAreRefusedInTheFormsOwnCode)
                       {5, "north", true, 0.25, 12, QStringList(), QVariant(List{1, "2"})});
 }
 
-TEST(Arguments, WholeNumbersStandForNumbers)
+TEST(Arguments, takeWholeNumbersForNumbers)
 {
     EXPECT_EQ(readValue(arrayOf(5, "north", true, 3)).share, 3.0);
     EXPECT_EQ(readList({5, "north", true, 3}).share, 3.0);
@@ -159,7 +159,7 @@ TEST(Arguments, WholeNumbersStandForNumbers)
     EXPECT_EQ(readList({5, "north", true, 0.5, 5000000000LL}).stamp, 5000000000LL);
 }
 
-TEST(Arguments, AreWrittenInOrder)
+TEST(Arguments, areWrittenInOrder)
 {
     Wash wash;
     wash.circuit = 5;
@@ -192,13 +192,13 @@ TEST(Arguments, AreWrittenInOrder)
     expectFull(readList(list));
 }
 
-TEST(Arguments, NoneAreAnEmptyArray)
+TEST(Arguments, areAnEmptyArrayWhenThereAreNone)
 {
     EXPECT_EQ(dumped(quv::writtenArguments([](auto &) {})), "[]");
     EXPECT_EQ(quv::ListWriter().result(), List());
 }
 
-TEST(Arguments, WrittenTextIsUtf8)
+TEST(Arguments, areWrittenInUtf8)
 {
     Wash wash;
     wash.name = QString::fromUtf8("Größe");

@@ -17,7 +17,7 @@ void expectNoTicket(const Value &value)
 
 } // namespace
 
-TEST(AsyncAnswer, HoldsATicket)
+TEST(AsyncAnswer, holdsATicket)
 {
     EXPECT_STREQ(AsyncAnswer::ticketID_TAG, "ticket_id");
     EXPECT_EQ(AsyncAnswer().ticketID(), QString());
@@ -28,7 +28,7 @@ TEST(AsyncAnswer, HoldsATicket)
     EXPECT_EQ(AsyncAnswer(list).ticketID(), "T-3");
 }
 
-TEST(AsyncAnswer, RefusesAValueWithoutATicket)
+TEST(AsyncAnswer, refusesAValueWithoutATicket)
 {
     expectNoTicket(Value());
     expectNoTicket(Value("T-1"));
@@ -37,7 +37,7 @@ TEST(AsyncAnswer, RefusesAValueWithoutATicket)
     expectNoTicket(structOf({{"ticket_id", 5}}));
 }
 
-TEST(AsyncAnswer, RefusesAnEmptyList)
+TEST(AsyncAnswer, refusesAnEmptyList)
 {
     expectRefusal("DE00572", "AsyncAnswer decoding failed: invalid QVariant value",
                   "AsyncAnswer::AsyncAnswer(QList<QVariant>&)", [] {
@@ -46,13 +46,13 @@ TEST(AsyncAnswer, RefusesAnEmptyList)
                   });
 }
 
-TEST(AsyncAnswer, WritesTheTicket)
+TEST(AsyncAnswer, writesTheTicket)
 {
     EXPECT_EQ(dumped(AsyncAnswer(QString("T-1")).toXmlRpcValue()), R"({"ticket_id": "T-1"})");
     EXPECT_EQ(dumped(AsyncAnswer().toXmlRpcValue()), R"({"ticket_id": ""})");
 }
 
-TEST(AsyncAnswer, TakesATicketThatIsThere)
+TEST(AsyncAnswer, takesATicketThatIsThere)
 {
     AsyncAnswer answer(QString("T-1"));
     answer.setTicketID(QVariant("T-2"));
@@ -63,7 +63,7 @@ TEST(AsyncAnswer, TakesATicketThatIsThere)
     EXPECT_EQ(answer.ticketID(), "T-3");
 }
 
-TEST(AsyncAnswer, KeepsTheTicketWhenThereIsNoneToTake)
+TEST(AsyncAnswer, keepsTheTicketWhenThereIsNoneToTake)
 {
     AsyncAnswer answer(QString("T-1"));
     answer.setTicketID(QVariant());
@@ -75,7 +75,7 @@ TEST(AsyncAnswer, KeepsTheTicketWhenThereIsNoneToTake)
     EXPECT_EQ(answer.ticketID(), "T-1");
 }
 
-TEST(AsyncAnswer, ClonesAndCompares)
+TEST(AsyncAnswer, clonesAndCompares)
 {
     const AsyncAnswer answer(QString("T-1"));
     const std::unique_ptr<ProtoAnswer> copy(static_cast<const ProtoAnswer &>(answer).clone());

@@ -84,7 +84,7 @@ private:
 
 } // namespace
 
-TEST(CmdStatus, StartsWithoutAState)
+TEST(CmdStatus, startsWithoutAState)
 {
     const CmdStatus status;
     EXPECT_EQ(status.status(), -5);
@@ -96,7 +96,7 @@ TEST(CmdStatus, StartsWithoutAState)
     EXPECT_TRUE(status.timeTrackingAvailable());
 }
 
-TEST(CmdStatus, TellsTheTextOfEachState)
+TEST(CmdStatus, tellsTheTextOfEachState)
 {
     EXPECT_EQ(CmdStatus::getDescription(3), "Created...");
     EXPECT_EQ(CmdStatus::getDescription(2), "Queued...");
@@ -109,7 +109,7 @@ TEST(CmdStatus, TellsTheTextOfEachState)
         EXPECT_EQ(CmdStatus::getDescription(state), "Unknown") << state;
 }
 
-TEST(CmdStatus, TakesTheStatesFromTimeoutToCreated)
+TEST(CmdStatus, takesTheStatesFromTimeoutToCreated)
 {
     for (int state = -4; state <= 3; ++state) {
         CmdStatus status;
@@ -125,9 +125,10 @@ TEST(CmdStatus, TakesTheStatesFromTimeoutToCreated)
     }
 }
 
-TEST(CmdStatus, HoldsProgressWhileRunning)
+TEST(CmdStatus, holdsProgressWhileRunning)
 {
     for (const int state : {3, 2, 1}) {
+        SCOPED_TRACE(state);
         CmdStatus status;
         ASSERT_TRUE(status.setStatus(state));
         status.setTimeLeft(5000000000LL);
@@ -141,6 +142,7 @@ TEST(CmdStatus, HoldsProgressWhileRunning)
         status.setPercentage(-3);
         EXPECT_EQ(status.percentage(), 0);
         for (const int tooMuch : {100, 120}) {
+            SCOPED_TRACE(tooMuch);
             status.setPercentage(0);
             status.setPercentage(tooMuch);
             EXPECT_EQ(status.percentage(), 99);
@@ -148,9 +150,10 @@ TEST(CmdStatus, HoldsProgressWhileRunning)
     }
 }
 
-TEST(CmdStatus, EndsWithNoTimeAndAHundredPerCent)
+TEST(CmdStatus, endsWithNoTimeAndAHundredPerCent)
 {
     for (const int state : {0, -1, -2, -3, -4}) {
+        SCOPED_TRACE(state);
         CmdStatus status(1, 2500, 40, "Filling");
         ASSERT_TRUE(status.setStatus(state));
         EXPECT_EQ(status.timeLeft(), 0);
@@ -166,7 +169,7 @@ TEST(CmdStatus, EndsWithNoTimeAndAHundredPerCent)
     EXPECT_EQ(unknown, CmdStatus());
 }
 
-TEST(CmdStatus, GoesOnBetweenRunningStatesWithoutALoss)
+TEST(CmdStatus, goesOnBetweenRunningStatesWithoutALoss)
 {
     CmdStatus status(3, 2500, 40, "Filling");
     EXPECT_TRUE(status.setStatus(1));
@@ -174,7 +177,7 @@ TEST(CmdStatus, GoesOnBetweenRunningStatesWithoutALoss)
     EXPECT_EQ(status.percentage(), 40);
 }
 
-TEST(CmdStatus, IsMadeAsTheSettersAllow)
+TEST(CmdStatus, isMadeAsTheSettersAllow)
 {
     const CmdStatus running(2, 2500, 120, "Waiting");
     EXPECT_EQ(running.status(), 2);
@@ -191,7 +194,7 @@ TEST(CmdStatus, IsMadeAsTheSettersAllow)
     EXPECT_EQ(dumped(ended.resultValue()), "7");
 }
 
-TEST(CmdStatus, SaysItsOwnTextBeforeThatOfTheState)
+TEST(CmdStatus, saysItsOwnTextBeforeThatOfTheState)
 {
     CmdStatus status(1, 0, 0, "Filling");
     EXPECT_EQ(status.info(), "Filling");
@@ -203,7 +206,7 @@ TEST(CmdStatus, SaysItsOwnTextBeforeThatOfTheState)
     EXPECT_EQ(status.extraInfo(), "White");
 }
 
-TEST(CmdStatus, GivesTheResultOnlyWhenEnded)
+TEST(CmdStatus, givesTheResultOnlyWhenEnded)
 {
     CmdStatus status = executing();
     EXPECT_FALSE(status.hasResultValue());
@@ -220,7 +223,7 @@ TEST(CmdStatus, GivesTheResultOnlyWhenEnded)
     }
 }
 
-TEST(CmdStatus, TracksTimeUnlessItExecutesSilently)
+TEST(CmdStatus, tracksTimeUnlessItExecutesSilently)
 {
     CmdStatus status = executing();
     EXPECT_FALSE(status.timeTrackingAvailable());
@@ -233,7 +236,7 @@ TEST(CmdStatus, TracksTimeUnlessItExecutesSilently)
         EXPECT_TRUE(CmdStatus(state, 0, 0, QString()).timeTrackingAvailable()) << state;
 }
 
-TEST(CmdStatus, GivesTheResultAsAnEnvelope)
+TEST(CmdStatus, givesTheResultAsAnEnvelope)
 {
     bool ok = false;
     const CmdStatus ended(-1, 0, 0, envelope(4), QString());
@@ -245,13 +248,14 @@ TEST(CmdStatus, GivesTheResultAsAnEnvelope)
     EXPECT_EQ(ended.getXmlRpcAnswer().retCode(), 4);
 }
 
-TEST(CmdStatus, GivesTheDefaultEnvelopeWithoutAResult)
+TEST(CmdStatus, givesTheDefaultEnvelopeWithoutAResult)
 {
     Value broken = envelope(4);
     broken["errors"] = 5; // the last member that is read
     const XmlRpcAnswer plain;
     for (const CmdStatus &status :
          {CmdStatus(1, 0, 0, envelope(4), QString()), CmdStatus(), CmdStatus(0, 0, 0, broken, QString())}) {
+        SCOPED_TRACE(dumped(status.toXmlRpcValue()));
         bool ok = true;
         const XmlRpcAnswer answer = status.getXmlRpcAnswer(&ok);
         EXPECT_FALSE(ok);
@@ -262,7 +266,7 @@ TEST(CmdStatus, GivesTheDefaultEnvelopeWithoutAResult)
     }
 }
 
-TEST(CmdStatus, WritesTheTimeLeft)
+TEST(CmdStatus, writesTheTimeLeft)
 {
     EXPECT_EQ(timeLeftStr(0, false), "00:00");
     EXPECT_EQ(timeLeftStr(999, false), "00:00");
@@ -274,7 +278,7 @@ TEST(CmdStatus, WritesTheTimeLeft)
     EXPECT_EQ(timeLeftStr(86399000, false), "23:59:59");
 }
 
-TEST(CmdStatus, TimeLeftWrapsAroundAfterADay)
+TEST(CmdStatus, wrapsTheTimeLeftAroundAfterADay)
 {
     EXPECT_EQ(timeLeftStr(86400000, false), "00:00");
     EXPECT_EQ(timeLeftStr(86400000, true), "About 1 seconds remaining...");
@@ -282,7 +286,7 @@ TEST(CmdStatus, TimeLeftWrapsAroundAfterADay)
     EXPECT_EQ(timeLeftStr(5000000000LL, false), "20:53:20"); // beyond 32 bits
 }
 
-TEST(CmdStatus, TellsTheTimeLeftInWords)
+TEST(CmdStatus, tellsTheTimeLeftInWords)
 {
     EXPECT_EQ(timeLeftStr(0, true), "About 1 seconds remaining...");
     EXPECT_EQ(timeLeftStr(5000, true), "About 6 seconds remaining...");
@@ -294,7 +298,7 @@ TEST(CmdStatus, TellsTheTimeLeftInWords)
     EXPECT_EQ(timeLeftStr(7384000, true), "About 2 hours, 3 minutes and 5 seconds remaining...");
 }
 
-TEST_F(TranslatedCmdStatus, DescribesStates)
+TEST_F(TranslatedCmdStatus, describesStates)
 {
     EXPECT_EQ(CmdStatus::getDescription(3), "<Created...>");
     EXPECT_EQ(CmdStatus::getDescription(2), "<Queued...>");
@@ -306,7 +310,7 @@ TEST_F(TranslatedCmdStatus, DescribesStates)
     EXPECT_EQ(CmdStatus::getDescription(-5), "<Unknown>");
 }
 
-TEST_F(TranslatedCmdStatus, TellsTheTimeLeft)
+TEST_F(TranslatedCmdStatus, tellsTheTimeLeft)
 {
     EXPECT_EQ(timeLeftStr(5000, true), "<About 6 seconds remaining...>");
     EXPECT_EQ(timeLeftStr(185000, true), "<About 3 minutes and 6 seconds remaining...>");
@@ -314,7 +318,7 @@ TEST_F(TranslatedCmdStatus, TellsTheTimeLeft)
     EXPECT_EQ(timeLeftStr(5000, false), "00:05");
 }
 
-TEST(CmdStatus, WritesAllMembers)
+TEST(CmdStatus, writesAllMembers)
 {
     CmdStatus status(1, 2500, 40, Value(7), "Filling");
     status.setExtraInfo("White");
@@ -327,14 +331,14 @@ TEST(CmdStatus, WritesAllMembers)
               R"("status": 0, "time_left": 0})");
 }
 
-TEST(CmdStatus, WritesWhatItWasGivenNotTheTextOfTheState)
+TEST(CmdStatus, writesWhatItWasGivenNotTheTextOfTheState)
 {
     EXPECT_EQ(dumped(CmdStatus().toXmlRpcValue()),
               R"({"cmd_answer": 0, "extra_info": "", "info": "", "percentage": 0, "status": -5, )"
               R"("time_left": 0})");
 }
 
-TEST(CmdStatus, WritesTextsInLatin1)
+TEST(CmdStatus, writesTextsInLatin1)
 {
     CmdStatus status(1, 0, 0, QString::fromUtf8("Blå"));
     status.setExtraInfo(QString::fromUtf8("20 °C"));
@@ -346,7 +350,7 @@ TEST(CmdStatus, WritesTextsInLatin1)
     EXPECT_EQ(read.extraInfo(), QString::fromUtf8("20 °C"));
 }
 
-TEST(CmdStatus, CutsTheTimeLeftTo32Bits)
+TEST(CmdStatus, cutsTheTimeLeftTo32Bits)
 {
     CmdStatus status = executing();
     status.setTimeLeft(2147483647LL);
@@ -355,7 +359,7 @@ TEST(CmdStatus, CutsTheTimeLeftTo32Bits)
     EXPECT_EQ(dumped(status.toXmlRpcValue()["time_left"]), "5");
 }
 
-TEST(CmdStatus, ReadsAllMembers)
+TEST(CmdStatus, readsAllMembers)
 {
     const CmdStatus running(written());
     EXPECT_EQ(running.status(), 1);
@@ -371,10 +375,11 @@ TEST(CmdStatus, ReadsAllMembers)
     EXPECT_EQ(CmdStatus(CmdStatus().toXmlRpcValue()), CmdStatus());
 }
 
-TEST(CmdStatus, ReadsAResultOfAnyType)
+TEST(CmdStatus, readsAResultOfAnyType)
 {
     for (const Value &result :
          {Value(7), Value("filled"), Value(true), Value(1.5), arrayOf(1, 2), structOf({{"a", 1}})}) {
+        SCOPED_TRACE(dumped(result));
         Value status = written("cmd_answer", result);
         status["status"] = 0;
         const CmdStatus read(status);
@@ -383,7 +388,7 @@ TEST(CmdStatus, ReadsAResultOfAnyType)
     }
 }
 
-TEST(CmdStatus, RefusesAMemberThatIsMissingOrOfAnotherType)
+TEST(CmdStatus, refusesAMemberThatIsMissingOrOfAnotherType)
 {
     struct Row
     {
@@ -400,6 +405,7 @@ TEST(CmdStatus, RefusesAMemberThatIsMissingOrOfAnotherType)
         {"percentage", "DE00389", "CmdStatus: expected percentage value", Value("40")},
     };
     for (const Row &row : rows) {
+        SCOPED_TRACE(row.member);
         expectRefusal(row.code, row.text, decodingFunction, [&] { CmdStatus{writtenWithout(row.member)}; });
         expectRefusal(row.code, row.text, decodingFunction,
                       [&] { CmdStatus{written(row.member, row.otherType)}; });
@@ -408,7 +414,7 @@ TEST(CmdStatus, RefusesAMemberThatIsMissingOrOfAnotherType)
                   [] { CmdStatus{writtenWithout("cmd_answer")}; });
 }
 
-TEST(CmdStatus, RefusesTheFirstMemberFirst)
+TEST(CmdStatus, refusesTheFirstMemberFirst)
 {
     Value status = structOf({});
     const std::pair<const char *, const char *> rows[] = {
@@ -427,14 +433,16 @@ TEST(CmdStatus, RefusesTheFirstMemberFirst)
     EXPECT_NO_THROW(CmdStatus{status});
 }
 
-TEST(CmdStatus, RefusesWhatIsNoStruct)
+TEST(CmdStatus, refusesWhatIsNoStruct)
 {
-    for (const Value &value : {Value(), Value(1), Value("1"), arrayOf(1)})
+    for (const Value &value : {Value(), Value(1), Value("1"), arrayOf(1)}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE00386", "CmdStatus: expected status value", decodingFunction,
                       [&] { CmdStatus{value}; });
+    }
 }
 
-TEST(CmdStatus, CopiesStandAlone)
+TEST(CmdStatus, makesCopiesThatStandAlone)
 {
     CmdStatus status(1, 2500, 40, structOf({{"a", 1}}), "Filling");
     const std::unique_ptr<CmdStatus> copy(status.clone());
@@ -445,7 +453,7 @@ TEST(CmdStatus, CopiesStandAlone)
     EXPECT_EQ(dumped(copy->resultValue()), R"({"a": 1})");
 }
 
-TEST(CmdStatus, ComparesAllFields)
+TEST(CmdStatus, comparesAllFields)
 {
     const CmdStatus status(1, 2500, 40, Value(7), "Filling");
     EXPECT_TRUE(status == CmdStatus(1, 2500, 40, Value(7), "Filling"));
@@ -459,7 +467,7 @@ TEST(CmdStatus, ComparesAllFields)
     EXPECT_TRUE(status != other);
 }
 
-TEST(CmdStatus, TravelsInAVariant)
+TEST(CmdStatus, travelsInAVariant)
 {
     const CmdStatus status(1, 2500, 40, "Filling");
     const QVariant variant = QVariant::fromValue(status);

@@ -216,6 +216,7 @@ void expectActions(const char *name, const char *text, const char *context)
     SCOPED_TRACE(name);
     const QString command = name;
     for (const bool detailed : {false, true}) {
+        SCOPED_TRACE(detailed);
         expectAction(ProtoCommand(command).actionString(detailed), text, context);
         expectAction(SerialProtoCommand(command, nullptr).actionString(detailed), text, context);
         expectAction(ConfProtoCommand(command, nullptr).actionString(detailed), text, context);
@@ -225,12 +226,12 @@ void expectActions(const char *name, const char *text, const char *context)
 
 } // namespace
 
-TEST(CommandTexts, ListsCoverTheCatalogue)
+TEST(CommandTexts, coverTheCatalogue)
 {
     EXPECT_EQ(std::size(actionTexts) + std::size(silentCommands) + std::size(otherCommands), 167U);
 }
 
-TEST(CommandTexts, FourNamesHaveALabelInTheLog)
+TEST(CommandTexts, labelFourNamesInTheLog)
 {
     for (const NamedText &row : commandTexts) {
         SCOPED_TRACE(row.command);
@@ -242,7 +243,7 @@ TEST(CommandTexts, FourNamesHaveALabelInTheLog)
     }
 }
 
-TEST(CommandTexts, AllOtherNamesHaveNoLabel)
+TEST(CommandTexts, labelNoOtherName)
 {
     EXPECT_TRUE(ProtoCommand(QStringLiteral("GET_SCALE_CONFIG")).commandString().isNull());
     for (const char *name : silentCommands)
@@ -253,22 +254,28 @@ TEST(CommandTexts, AllOtherNamesHaveNoLabel)
     EXPECT_TRUE(ProtoCommand().commandString().isNull());
 }
 
-TEST(CommandTexts, FiveNamesSayWhatTheyDo)
+TEST(CommandTexts, sayOfFiveNamesWhatTheyDo)
 {
-    for (const NamedText &row : actionTexts)
+    for (const NamedText &row : actionTexts) {
+        SCOPED_TRACE(row.command);
         expectActions(row.command, row.text, "QuvProtocol");
+    }
 }
 
-TEST(CommandTexts, PollingSaysNothing)
+TEST(CommandTexts, sayNothingOfPolling)
 {
-    for (const char *name : silentCommands)
+    for (const char *name : silentCommands) {
+        SCOPED_TRACE(name);
         expectActions(name, "", "");
+    }
 }
 
-TEST(CommandTexts, AllOtherNamesAreInProgress)
+TEST(CommandTexts, sayOfAllOtherNamesThatTheyAreInProgress)
 {
-    for (const char *name : otherCommands)
+    for (const char *name : otherCommands) {
+        SCOPED_TRACE(name);
         expectActions(name, "In progress", "");
+    }
     expectActions("NO_SUCH_COMMAND", "In progress", "");
     expectAction(ProtoCommand().actionString(false), "In progress", "");
 }

@@ -21,7 +21,7 @@ public:
 
 } // namespace
 
-TEST(ConfProtoAnswer, IsOfItsType)
+TEST(ConfProtoAnswer, isOfItsType)
 {
     List list = {1};
     EXPECT_EQ(ConfProtoAnswer().protoType(), 2);
@@ -29,7 +29,7 @@ TEST(ConfProtoAnswer, IsOfItsType)
     EXPECT_EQ(ConfProtoAnswer(Value(1)).protoType(), 2);
 }
 
-TEST(ConfProtoAnswer, KeepsTheListThatItIsMadeOf)
+TEST(ConfProtoAnswer, keepsTheListThatItIsMadeOf)
 {
     List list = {1, "two"};
     OpenConfAnswer answer(list);
@@ -44,7 +44,7 @@ TEST(ConfProtoAnswer, KeepsTheListThatItIsMadeOf)
     EXPECT_EQ(OpenConfAnswer(*copy).stored(), (List{1, "two"}));
 }
 
-TEST(ConfProtoAnswer, KeepsNothingOfAValue)
+TEST(ConfProtoAnswer, keepsNothingOfAValue)
 {
     EXPECT_EQ(OpenConfAnswer(arrayOf(1, 2)).stored(), List());
     expectRefusal("DE00909", "ProtoAnswer decoding failed: invalid xml-rpc type",
@@ -52,7 +52,7 @@ TEST(ConfProtoAnswer, KeepsNothingOfAValue)
                   [] { ConfProtoAnswer{Value()}; });
 }
 
-TEST(ConfProtoAnswer, OfAnotherAnswerKeepsTheTypeOnly)
+TEST(ConfProtoAnswer, keepsTheTypeOnlyOfAnotherAnswer)
 {
     List list = {1};
     const ConfProtoAnswer full(list);
@@ -62,13 +62,13 @@ TEST(ConfProtoAnswer, OfAnotherAnswerKeepsTheTypeOnly)
     EXPECT_EQ(ConfProtoAnswer(ProtoAnswer(3)).protoType(), 3);
 }
 
-TEST(ConfProtoAnswer, WritesZeroWhateverItHolds)
+TEST(ConfProtoAnswer, writesZeroWhateverItHolds)
 {
     List list = {1, 2};
     EXPECT_EQ(dumped(ConfProtoAnswer(list).toXmlRpcValue()), "0");
 }
 
-TEST(ConfProtoAnswer, ComparesTypesOnly)
+TEST(ConfProtoAnswer, comparesTypesOnly)
 {
     List list = {1, 2};
     const ConfProtoAnswer full(list);

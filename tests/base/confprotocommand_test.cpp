@@ -9,7 +9,7 @@
 
 using namespace testing_base;
 
-TEST(ConfProtoCommand, IsMadeInFourForms)
+TEST(ConfProtoCommand, isMadeInFourForms)
 {
     const CountedMachine machine;
     const ConfProtoCommand empty;
@@ -32,7 +32,7 @@ TEST(ConfProtoCommand, IsMadeInFourForms)
     EXPECT_EQ(CountedMachine::alive, 4);
 }
 
-TEST(ConfProtoCommand, ConstructorsCheckTheNumberOfArguments)
+TEST(ConfProtoCommand, checksTheNumberOfArguments)
 {
     expectRefusal("DE00312", "LOGIN command : expected at least 2 parameters, received 0 instead!",
                   "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)",
@@ -42,7 +42,7 @@ TEST(ConfProtoCommand, ConstructorsCheckTheNumberOfArguments)
                   [] { ConfProtoCommand("LOGIN", List(), nullptr); });
 }
 
-TEST(ConfProtoCommand, ClonesAreOfItsClass)
+TEST(ConfProtoCommand, clonesToItsOwnClass)
 {
     const ConfProtoCommand command("LOGIN", List{"me", "secret"}, nullptr);
     const std::unique_ptr<ProtoCommand> copy(static_cast<const ProtoCommand &>(command).clone());
@@ -51,7 +51,7 @@ TEST(ConfProtoCommand, ClonesAreOfItsClass)
     EXPECT_EQ(copy->protoType(), 2);
 }
 
-TEST(ConfProtoCommand, EstimatesItsTime)
+TEST(ConfProtoCommand, estimatesItsTime)
 {
     const FW_Dispenser dispenser;
     EXPECT_EQ(ConfProtoCommand("GET_USS_W_STATUS", nullptr).getCmdEstimatedExecutionTime(nullptr), 240000);
@@ -60,13 +60,13 @@ TEST(ConfProtoCommand, EstimatesItsTime)
         EXPECT_EQ(ConfProtoCommand(name, nullptr).getCmdEstimatedExecutionTime(&dispenser), 20000) << name;
 }
 
-TEST(ConfProtoCommand, KeepsTheAnswerContract)
+TEST(ConfProtoCommand, keepsTheAnswerContract)
 {
     ConfProtoCommand command("LOGIN", nullptr);
     expectAnswerContract(command, confAnswers());
 }
 
-TEST(ConfProtoCommand, AnswerClassFollowsTheName)
+TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
 {
     const AnswerRow rows[] = {
         {"GET_CALIB_PROFILES", "GetCalibrationProfilesAnswer"},

@@ -50,7 +50,7 @@ QList<QString> describe(const Pump &before, const Pump &after, bool isDispenser)
 
 } // namespace
 
-TEST(Flags, AreSetFromTheBitsOfTheirWords)
+TEST(Flags, areSetFromTheBitsOfTheirWords)
 {
     const unsigned masks[] = {0xFFFFFFFF, 0x41, 0x08, 0x00};
     Pump pump;
@@ -61,7 +61,7 @@ TEST(Flags, AreSetFromTheBitsOfTheirWords)
     EXPECT_TRUE(pump.idle) << "true while the bit is clear";
 }
 
-TEST(Flags, AreClearedFromTheBitsOfTheirWords)
+TEST(Flags, areClearedFromTheBitsOfTheirWords)
 {
     const unsigned masks[] = {0, ~0x41U, ~0x08U, 0x02};
     Pump pump = {true, true, true, true};
@@ -72,7 +72,7 @@ TEST(Flags, AreClearedFromTheBitsOfTheirWords)
     EXPECT_FALSE(pump.idle);
 }
 
-TEST(Flags, OfWordsThatAreNotThereStay)
+TEST(Flags, stayWhenTheirWordIsNotThere)
 {
     const unsigned masks[] = {0, 0x40};
     Pump pump = {true, true, false, true};
@@ -85,7 +85,7 @@ TEST(Flags, OfWordsThatAreNotThereStay)
     EXPECT_TRUE(pump.hot);
 }
 
-TEST(Flags, ThatHoldAreDescribedInTheTablesOrder)
+TEST(Flags, areDescribedInTheTablesOrderWhenTheyHold)
 {
     EXPECT_EQ(describe(Pump(), true), (QList<QPair<QString, bool>>()));
     const Pump pump = {true, true, true, true};
@@ -97,14 +97,14 @@ TEST(Flags, ThatHoldAreDescribedInTheTablesOrder)
                   {"Pump too hot", true}, {"Pump of the mixer running", false}, {"Pump ready", false}}));
 }
 
-TEST(Flags, DescriptionsAreAppended)
+TEST(Flags, appendTheirDescriptions)
 {
     QList<QPair<QString, bool>> lines = {{"first", true}};
     quv::describeConditions(conditions, Pump{false, true, false, false}, true, lines);
     EXPECT_EQ(lines, (QList<QPair<QString, bool>>{{"first", true}, {"Pump ready", false}}));
 }
 
-TEST(Flags, ThatChangeAreDescribedOnAndOff)
+TEST(Flags, areDescribedOnAndOffWhenTheyChange)
 {
     const Pump off;
     const Pump on = {true, true, true, true};
@@ -116,7 +116,7 @@ TEST(Flags, ThatChangeAreDescribedOnAndOff)
     EXPECT_EQ(describe(on, off, false), (QList<QString>{"Mixer off", "No longer ready"}));
 }
 
-TEST(Flags, TextOfADispenserServesAMixerWithoutOneOfItsOwn)
+TEST(Flags, takeTheDispensersTextForAMixerWithoutOneOfItsOwn)
 {
     const quv::DeviceText both("Door");
     EXPECT_STREQ(both.of(true), "Door");

@@ -14,7 +14,7 @@ bool passes(int family, int revision)
 
 } // namespace
 
-TEST(Gate, OpensAboveTheRevision)
+TEST(Gate, opensAboveTheRevision)
 {
     EXPECT_FALSE(passes(63, 0));
     EXPECT_FALSE(passes(63, 38));
@@ -24,20 +24,20 @@ TEST(Gate, OpensAboveTheRevision)
     EXPECT_TRUE(passes(42, 1));
 }
 
-TEST(Gate, IsAlwaysOpenWithoutARevision)
+TEST(Gate, isAlwaysOpenWithoutARevision)
 {
     EXPECT_TRUE(passes(19, 0));
     EXPECT_TRUE(passes(19, 500));
 }
 
-TEST(Gate, IsClosedForOtherFamilies)
+TEST(Gate, isClosedForOtherFamilies)
 {
     EXPECT_FALSE(passes(62, 100));
     EXPECT_FALSE(passes(0, 100));
     EXPECT_FALSE(quv::passesGate(gates, FW_Version()));
 }
 
-TEST(Gate, ReadsFamilyAndRevisionOnly)
+TEST(Gate, readsFamilyAndRevisionOnly)
 {
     EXPECT_TRUE(quv::passesGate(gates, FW_Version(63, 0, 0, 0, 0, 39)));
     EXPECT_FALSE(quv::passesGate(gates, FW_Version(63, 99, 99, 99, 99, 38)));

@@ -7,7 +7,7 @@
 
 using namespace testing_base;
 
-TEST(GetCmdEstimatedExecTimeAnswer, HoldsATime)
+TEST(GetCmdEstimatedExecTimeAnswer, holdsATime)
 {
     EXPECT_STREQ(GetCmdEstimatedExecTimeAnswer::EXEC_TIME, "exec_time");
     EXPECT_EQ(GetCmdEstimatedExecTimeAnswer().executionTime(), 0);
@@ -22,32 +22,36 @@ TEST(GetCmdEstimatedExecTimeAnswer, HoldsATime)
     EXPECT_EQ(GetCmdEstimatedExecTimeAnswer(list).protoType(), 2);
 }
 
-TEST(GetCmdEstimatedExecTimeAnswer, WritesTheTime)
+TEST(GetCmdEstimatedExecTimeAnswer, writesTheTime)
 {
     EXPECT_EQ(dumped(GetCmdEstimatedExecTimeAnswer(2500).toXmlRpcValue()), R"({"exec_time": 2500})");
     EXPECT_EQ(dumped(GetCmdEstimatedExecTimeAnswer().toXmlRpcValue()), R"({"exec_time": 0})");
     EXPECT_EQ(dumped(GetCmdEstimatedExecTimeAnswer(4294967296LL + 5).toXmlRpcValue()), R"({"exec_time": 5})");
 }
 
-TEST(GetCmdEstimatedExecTimeAnswer, RefusesAValueWithoutATime)
+TEST(GetCmdEstimatedExecTimeAnswer, refusesAValueWithoutATime)
 {
     for (const Value &value : {Value(), Value(5), arrayOf(5), structOf({}), structOf({{"exec_time", "5"}}),
-                               structOf({{"exec_time", 5.0}})})
+                               structOf({{"exec_time", 5.0}})}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE01180", "GetCmdEstimatedExecTimeAnswer: cannot find execution time tag",
                       "GetCmdEstimatedExecTimeAnswer::GetCmdEstimatedExecTimeAnswer(const "
                       "XmlRpc::XmlRpcValue&)",
                       [&] { GetCmdEstimatedExecTimeAnswer{value}; });
+    }
 }
 
-TEST(GetCmdEstimatedExecTimeAnswer, RefusesAListWithoutATime)
+TEST(GetCmdEstimatedExecTimeAnswer, refusesAListWithoutATime)
 {
-    for (List list : {List(), List{"5"}, List{5.5}, List{QVariant()}, List{"5", 5}})
+    for (List list : {List(), List{"5"}, List{5.5}, List{QVariant()}, List{"5", 5}}) {
+        SCOPED_TRACE(shown(list));
         expectRefusal("DE01178", "GetCmdEstimatedExecTimeAnswer decoding failed: invalid QVariant value",
                       "GetCmdEstimatedExecTimeAnswer::GetCmdEstimatedExecTimeAnswer(QList<QVariant>&)",
                       [&] { GetCmdEstimatedExecTimeAnswer{list}; });
+    }
 }
 
-TEST(GetCmdEstimatedExecTimeAnswer, ClonesAndCompares)
+TEST(GetCmdEstimatedExecTimeAnswer, clonesAndCompares)
 {
     const GetCmdEstimatedExecTimeAnswer answer(2500);
     const std::unique_ptr<ProtoAnswer> copy(static_cast<const ProtoAnswer &>(answer).clone());

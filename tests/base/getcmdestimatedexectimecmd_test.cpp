@@ -104,7 +104,7 @@ TEST(GetCmdEstimatedExecTimeCmd, writesTheNameAloneOfACommandWithoutArguments)
     EXPECT_EQ(dumped(command.xmlrpc_parameters()), R"([{"command": ["LOGOUT"]}])");
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, KeepsACloneOfTheCommand)
+TEST(GetCmdEstimatedExecTimeCmd, keepsACloneOfTheCommand)
 {
     GetCmdEstimatedExecTimeCmd command;
     {
@@ -124,7 +124,7 @@ TEST(GetCmdEstimatedExecTimeCmd, KeepsACloneOfTheCommand)
     EXPECT_EQ(GetCmdEstimatedExecTimeCmd(nullptr).commandToEstimate(), nullptr);
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, ReadsTheCommandInBothForms)
+TEST(GetCmdEstimatedExecTimeCmd, readsTheCommandInBothForms)
 {
     const GetCmdEstimatedExecTimeCmd ofValue(requestFor("GET_CMD_STATUS", "T-1"), nullptr);
     expectAsksForTicket(&ofValue, "T-1");
@@ -138,7 +138,7 @@ TEST(GetCmdEstimatedExecTimeCmd, ReadsTheCommandInBothForms)
     EXPECT_EQ(bareList.commandToEstimate()->command(), "ERRORS_NUM");
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, PassesTheMachineOn)
+TEST(GetCmdEstimatedExecTimeCmd, passesTheMachineOn)
 {
     const FW_Dispenser dispenser;
     const GetCmdEstimatedExecTimeCmd ofValue(
@@ -152,7 +152,7 @@ TEST(GetCmdEstimatedExecTimeCmd, PassesTheMachineOn)
     EXPECT_NE(ofList.commandToEstimate()->machine(), nullptr);
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, RefusesTheFormsInOrder)
+TEST(GetCmdEstimatedExecTimeCmd, refusesTheFormsInOrder)
 {
     expectValueRefusal("DE01181", invalid, arrayOf("GET_CMD_STATUS"));
     expectValueRefusal("DE01181", invalid, arrayOf(arrayOf("GET_CMD_STATUS", "T-1")));
@@ -163,22 +163,26 @@ TEST(GetCmdEstimatedExecTimeCmd, RefusesTheFormsInOrder)
     expectValueRefusal("DE01185", "Invalid parameters: command expected", requestFor());
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, RefusesUnknownNames)
+TEST(GetCmdEstimatedExecTimeCmd, refusesUnknownNames)
 {
     for (const Value &request : {requestFor("NO_SUCH_COMMAND"), requestFor(""), requestFor(5),
-                                 requestFor("errors_num"), requestFor(arrayOf("ERRORS_NUM"))})
+                                 requestFor("errors_num"), requestFor(arrayOf("ERRORS_NUM"))}) {
+        SCOPED_TRACE(dumped(request));
         expectValueRefusal("DE01184", "Invalid parameters: command does not exists", request);
+    }
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, RefusesAListWithoutAName)
+TEST(GetCmdEstimatedExecTimeCmd, refusesAListWithoutAName)
 {
-    for (const List &list : {List{5}, List{QVariant()}, List{5, "GET_CMD_STATUS"}})
+    for (const List &list : {List{5}, List{QVariant()}, List{5, "GET_CMD_STATUS"}}) {
+        SCOPED_TRACE(shown(list));
         expectRefusal("DE01188", decodingFailed, fromList, [&] {
             GetCmdEstimatedExecTimeCmd{list, nullptr};
         });
+    }
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, PassesOnWhatTheCommandSays)
+TEST(GetCmdEstimatedExecTimeCmd, passesOnWhatTheCommandSays)
 {
     expectRefusal("DE00371", "GetCommandStatusCmd: expected String type parameter",
                   "GetCommandStatusCmd::GetCommandStatusCmd(const XmlRpc::XmlRpcValue&)", [] {
@@ -201,7 +205,7 @@ TEST(GetCmdEstimatedExecTimeCmd, PassesOnWhatTheCommandSays)
                   });
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, HasACodeForAnythingElse)
+TEST(GetCmdEstimatedExecTimeCmd, hasACodeForAnythingElse)
 {
     const Value request = requestFor("ERRORS_NUM");
     expectRefusal("DE01187", decodingFailed, fromValue, [&] {
@@ -209,13 +213,14 @@ TEST(GetCmdEstimatedExecTimeCmd, HasACodeForAnythingElse)
     });
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, ComesFromTheFactoryInBothForms)
+TEST(GetCmdEstimatedExecTimeCmd, comesFromTheFactoryInBothForms)
 {
     const FW_Dispenser dispenser;
     const FW_Mixer mixer;
     for (const FW_Machine *machine :
          {static_cast<const FW_Machine *>(nullptr), static_cast<const FW_Machine *>(&dispenser),
           static_cast<const FW_Machine *>(&mixer)}) {
+        SCOPED_TRACE(machine ? "with a machine" : "without a machine");
         Value value = requestFor("GET_CMD_STATUS", "T-1");
         const std::unique_ptr<ProtoCommand> ofValue(
             ProtoCommandList::getProtoCommand("GET_CMD_EST_EXEC_TIME", value, machine));
@@ -229,7 +234,7 @@ TEST(GetCmdEstimatedExecTimeCmd, ComesFromTheFactoryInBothForms)
                   [&] { ProtoCommandList::getProtoCommand("GET_CMD_EST_EXEC_TIME", unknown, nullptr); });
 }
 
-TEST(GetCmdEstimatedExecTimeCmd, CopiesStandAlone)
+TEST(GetCmdEstimatedExecTimeCmd, makesCopiesThatStandAlone)
 {
     GetCommandStatusCmd inner(QString("T-1"));
     GetCmdEstimatedExecTimeCmd command(&inner);

@@ -18,7 +18,7 @@ CmdStatus filling()
 
 } // namespace
 
-TEST(GetCommandStatusAnswer, HoldsAStatus)
+TEST(GetCommandStatusAnswer, holdsAStatus)
 {
     EXPECT_EQ(GetCommandStatusAnswer().cmdStatus(), CmdStatus());
     EXPECT_EQ(GetCommandStatusAnswer().protoType(), 2);
@@ -29,7 +29,7 @@ TEST(GetCommandStatusAnswer, HoldsAStatus)
     EXPECT_EQ(list.size(), 2);
 }
 
-TEST(GetCommandStatusAnswer, TravelsInTheFormOfTheStatus)
+TEST(GetCommandStatusAnswer, travelsInTheFormOfTheStatus)
 {
     const Value value = GetCommandStatusAnswer(filling()).toXmlRpcValue();
     EXPECT_EQ(dumped(value),
@@ -39,26 +39,31 @@ TEST(GetCommandStatusAnswer, TravelsInTheFormOfTheStatus)
     EXPECT_EQ(GetCommandStatusAnswer(value).protoType(), 2);
 }
 
-TEST(GetCommandStatusAnswer, RefusesWhatIsNoStatus)
+TEST(GetCommandStatusAnswer, refusesWhatIsNoStatus)
 {
-    for (const Value &value : {Value(), Value(1), Value("1"), arrayOf(1)})
+    for (const Value &value : {Value(), Value(1), Value("1"), arrayOf(1)}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE00374", "GetCommandStatusAnswer decoding failed: invalid xml-rpc value",
                       "GetCommandStatusAnswer::GetCommandStatusAnswer(const XmlRpc::XmlRpcValue&)",
                       [&] { GetCommandStatusAnswer{value}; });
+    }
     expectRefusal("DE00387", "CmdStatus: expected info value",
                   "CmdStatus::CmdStatus(const XmlRpc::XmlRpcValue&)", [] {
                       GetCommandStatusAnswer{structOf({{"status", 1}})};
                   });
 }
 
-TEST(GetCommandStatusAnswer, RefusesAListWithoutAStatus)
+TEST(GetCommandStatusAnswer, refusesAListWithoutAStatus)
 {
-    for (List list : {List(), List{1}, List{"1"}, List{QVariant()}, List{1, QVariant::fromValue(filling())}})
+    for (List list :
+         {List(), List{1}, List{"1"}, List{QVariant()}, List{1, QVariant::fromValue(filling())}}) {
+        SCOPED_TRACE(shown(list));
         expectRefusal("DE00375", "GetCommandStatusAnswer decoding failed: invalid QVariant value",
                       fromListFunction, [&] { GetCommandStatusAnswer{list}; });
+    }
 }
 
-TEST(GetCommandStatusAnswer, TakesAStatusOutOfAVariant)
+TEST(GetCommandStatusAnswer, takesAStatusOutOfAVariant)
 {
     GetCommandStatusAnswer answer;
     answer.setCmdStatus(QVariant::fromValue(filling()));
@@ -68,7 +73,7 @@ TEST(GetCommandStatusAnswer, TakesAStatusOutOfAVariant)
     EXPECT_EQ(answer.cmdStatus(), filling());
 }
 
-TEST(GetCommandStatusAnswer, HoldsACopyWhileTheTicketGoesOn)
+TEST(GetCommandStatusAnswer, holdsACopyWhileTheTicketGoesOn)
 {
     CmdStatus ticket = filling();
     GetCommandStatusAnswer answer(ticket);
@@ -80,7 +85,7 @@ TEST(GetCommandStatusAnswer, HoldsACopyWhileTheTicketGoesOn)
     EXPECT_EQ(dynamic_cast<const GetCommandStatusAnswer &>(*copy).cmdStatus(), filling());
 }
 
-TEST(GetCommandStatusAnswer, ComparesStatus)
+TEST(GetCommandStatusAnswer, comparesStatus)
 {
     const GetCommandStatusAnswer answer(filling());
     const GetCommandStatusAnswer same(filling());

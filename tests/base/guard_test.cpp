@@ -33,7 +33,7 @@ void rethrown(void (*work)())
 
 } // namespace
 
-TEST(Guard, LetsWorkDoItsWork)
+TEST(Guard, letsWorkDoItsWork)
 {
     FW_DriverError error("DE0", "untouched");
     int done = 0;
@@ -43,7 +43,7 @@ TEST(Guard, LetsWorkDoItsWork)
     expectError(error, "DE0", "untouched");
 }
 
-TEST(Guard, KeepsTheFrameworksCodeAndText)
+TEST(Guard, keepsTheFrameworksCodeAndText)
 {
     FW_DriverError error;
     EXPECT_FALSE(quv::guarded("DE9", "Went wrong", &error, throwOwn));
@@ -51,9 +51,10 @@ TEST(Guard, KeepsTheFrameworksCodeAndText)
     EXPECT_EQ(error.function(), "Maker::Maker(int)");
 }
 
-TEST(Guard, GivesAnythingElseTheCodeAndTextAtHand)
+TEST(Guard, givesAnythingElseTheCodeAndTextAtHand)
 {
     for (void (*work)() : {&throwStandard, &throwNumber}) {
+        SCOPED_TRACE(work == &throwNumber ? "a number" : "a standard exception");
         FW_DriverError error;
         EXPECT_FALSE(quv::guarded("DE9", "Went wrong", &error, work));
         expectError(error, "DE9", "Went wrong");
@@ -61,19 +62,19 @@ TEST(Guard, GivesAnythingElseTheCodeAndTextAtHand)
     }
 }
 
-TEST(Guard, NeedsNoError)
+TEST(Guard, needsNoError)
 {
     EXPECT_FALSE(quv::guarded("DE9", "Went wrong", nullptr, throwOwn));
     EXPECT_FALSE(quv::guarded("DE9", "Went wrong", nullptr, throwStandard));
     EXPECT_FALSE(quv::guarded("DE9", "Went wrong", nullptr, throwNumber));
 }
 
-TEST(Guard, RethrowsTheFrameworksException)
+TEST(Guard, rethrowsTheFrameworksException)
 {
     expectRefusal("DE1", "Own text", "Maker::Maker(int)", [] { rethrown(throwOwn); });
 }
 
-TEST(Guard, RethrowsAnythingElseUnderTheCodeAtHand)
+TEST(Guard, rethrowsAnythingElseUnderTheCodeAtHand)
 {
     expectRefusal("DE9", "Went wrong", "Factory::make()", [] { rethrown(throwStandard); });
     expectRefusal("DE9", "Went wrong", "Factory::make()", [] { rethrown(throwNumber); });

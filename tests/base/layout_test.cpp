@@ -145,7 +145,7 @@ template struct Expose<ExecutionTime, &XmlRpcAnswer::m_executionTime>;
 
 } // namespace
 
-TEST(Layout, ProtoCommandsOperations)
+TEST(Layout, keepsTheOperationsOfProtoCommand)
 {
     EXPECT_EQ(slotOf(&ProtoCommand::clone), 2);
     EXPECT_EQ(slotOf(&ProtoCommand::parameters), 3);
@@ -166,7 +166,7 @@ TEST(Layout, ProtoCommandsOperations)
     EXPECT_EQ(slotOf(&Extended<ProtoCommand>::next), 18);
 }
 
-TEST(Layout, SerialProtoCommandsOperations)
+TEST(Layout, keepsTheOperationsOfSerialProtoCommand)
 {
     using TokenBuilder = bool (SerialProtoCommand::*)(QStringList, FW_DriverError *);
     EXPECT_EQ(slotOf(&SerialProtoCommand::moduleID), 18);
@@ -181,7 +181,7 @@ TEST(Layout, SerialProtoCommandsOperations)
     EXPECT_EQ(overriddenSlots(&base, &serial, 18), (std::vector<int>{2, 9, 10, 11, 12, 13}));
 }
 
-TEST(Layout, ConfProtoCommandsOperations)
+TEST(Layout, keepsTheOperationsOfConfProtoCommand)
 {
     EXPECT_EQ(slotOf(&Extended<ConfProtoCommand>::next), 18);
     const ProtoCommand base;
@@ -189,7 +189,7 @@ TEST(Layout, ConfProtoCommandsOperations)
     EXPECT_EQ(overriddenSlots(&base, &configuration, 18), (std::vector<int>{2, 9, 10, 11, 12, 13, 15}));
 }
 
-TEST(Layout, ScaleProtoCommandsOperations)
+TEST(Layout, keepsTheOperationsOfScaleProtoCommand)
 {
     EXPECT_EQ(slotOf(&ScaleProtoCommand::setScaleAnswer), 18);
     EXPECT_EQ(slotOf(&Extended<ScaleProtoCommand>::next), 19);
@@ -198,7 +198,7 @@ TEST(Layout, ScaleProtoCommandsOperations)
     EXPECT_EQ(overriddenSlots(&base, &scale, 18), (std::vector<int>{2, 9, 10, 11, 12}));
 }
 
-TEST(Layout, AnswersOperations)
+TEST(Layout, keepsTheOperationsOfAnswers)
 {
     EXPECT_EQ(slotOf(&ProtoAnswer::clone), 2);
     EXPECT_EQ(slotOf(&ProtoAnswer::equalTo), 3);
@@ -218,7 +218,7 @@ TEST(Layout, AnswersOperations)
     EXPECT_EQ(overriddenSlots(&base, &scale, 5), std::vector<int>({2}));
 }
 
-TEST(Layout, MachineStatusAnswersOperations)
+TEST(Layout, keepsTheOperationsOfMachineStatusAnswer)
 {
     EXPECT_EQ(slotOf(&MachineStatusAnswer::clone), 2);
     EXPECT_EQ(slotOf(&MachineStatusAnswer::decodeSerialStatus), 3);
@@ -229,7 +229,7 @@ TEST(Layout, MachineStatusAnswersOperations)
     EXPECT_EQ(slotOf(&Extended<MachineStatusAnswer>::next), 8);
 }
 
-TEST(Layout, SubclassesTakeThePlaceOfTheirBase)
+TEST(Layout, putsSubclassesInThePlaceOfTheirBase)
 {
     using Counted = CountedAnswer<ScaleProtoAnswer>;
     EXPECT_EQ(slotOf(&Counted::clone), 2);
@@ -240,7 +240,7 @@ TEST(Layout, SubclassesTakeThePlaceOfTheirBase)
     EXPECT_EQ(slotOf(&ConfProtoCommand::getCmdEstimatedExecutionTime), 15);
 }
 
-TEST(Layout, CommandsMembers)
+TEST(Layout, keepsTheMembersOfCommands)
 {
     const std::vector<std::ptrdiff_t> members = OpenCommand::members();
     EXPECT_TRUE(isAscending(members));
@@ -252,7 +252,7 @@ TEST(Layout, CommandsMembers)
     EXPECT_EQ(sizeof(ScaleProtoCommand), sizeof(ProtoCommand));
 }
 
-TEST(Layout, AnswersMembers)
+TEST(Layout, keepsTheMembersOfAnswers)
 {
     EXPECT_EQ(OpenAnswer::type(), static_cast<std::ptrdiff_t>(sizeof(void *)));
     EXPECT_LT(OpenAnswer::type(), OpenChildAnswer<SerialProtoAnswer>::stored());
@@ -260,21 +260,21 @@ TEST(Layout, AnswersMembers)
     EXPECT_LT(OpenAnswer::type(), OpenChildAnswer<ScaleProtoAnswer>::stored());
 }
 
-TEST(Layout, EnvelopesMembers)
+TEST(Layout, keepsTheMembersOfEnvelopes)
 {
     EXPECT_TRUE(isAscending({envelopeOffset(RetValue()), envelopeOffset(RetCode()), envelopeOffset(InfoMsg()),
                              envelopeOffset(Errors()), envelopeOffset(ExecutionTime())}));
     EXPECT_EQ(envelopeOffset(RetValue()), 0);
 }
 
-TEST(Layout, TextsMembers)
+TEST(Layout, keepsTheMembersOfTexts)
 {
     EXPECT_EQ(offsetOf(&TString::m_text), 0);
     EXPECT_TRUE(isAscending(
         {offsetOf(&TString::m_text), offsetOf(&TString::m_translated), offsetOf(&TString::m_context)}));
 }
 
-TEST(Layout, MachineStatusAnswersMembers)
+TEST(Layout, keepsTheMembersOfMachineStatusAnswer)
 {
     using Status = MachineStatusAnswer;
     const std::vector<bool Status::*> flags = {&Status::offline_pressed,
@@ -302,6 +302,8 @@ TEST(Layout, MachineStatusAnswersMembers)
     EXPECT_EQ(flags.size(), 22U);
     EXPECT_EQ(offsetOf(&Status::disp_status), static_cast<std::ptrdiff_t>(sizeof(void *)));
     std::ptrdiff_t expected = offsetOf(&Status::disp_status) + static_cast<std::ptrdiff_t>(sizeof(int));
-    for (const auto flag : flags)
+    for (const auto flag : flags) {
+        SCOPED_TRACE(expected);
         EXPECT_EQ(offsetOf(flag), expected++);
+    }
 }

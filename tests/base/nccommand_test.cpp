@@ -71,7 +71,7 @@ void expectTimes(const NCCommand &command, int interval, int timeout)
 
 } // namespace
 
-TEST(NCCommand, StartsWithoutACommand)
+TEST(NCCommand, startsWithoutACommand)
 {
     EXPECT_STREQ(NCCommand::CMD_PARAMETERS, "cmd_parameters");
     EXPECT_STREQ(NCCommand::LAST_ANSWER, "last_answer");
@@ -102,7 +102,7 @@ TEST(NCCommand, StartsWithoutACommand)
     EXPECT_FALSE(command.toXmlRpcValue("key").valid());
 }
 
-TEST(NCCommand, KeepsClonesOfCommandAndAnswer)
+TEST(NCCommand, keepsClonesOfCommandAndAnswer)
 {
     GetCommandStatusCmd inner(QString("T-1"));
     {
@@ -122,14 +122,14 @@ TEST(NCCommand, KeepsClonesOfCommandAndAnswer)
     EXPECT_EQ(withoutAnswer.lastAnswer(), nullptr);
 }
 
-TEST(NCCommand, RefusesToBeMadeOfNoCommand)
+TEST(NCCommand, refusesToBeMadeOfNoCommand)
 {
     Counted answer(5);
     expectRefusal("DE01417", decodingFailed, ofCommand, [&] { NCCommand(nullptr, &answer, 100, 2000); });
     EXPECT_EQ(Counted::alive, 1);
 }
 
-TEST(NCCommand, IsMadeByName)
+TEST(NCCommand, isMadeByName)
 {
     Counted answer(5);
     const NCCommand command("ERRORS_NUM", &answer, 100, 2000, nullptr);
@@ -145,7 +145,7 @@ TEST(NCCommand, IsMadeByName)
                   [&] { NCCommand("GET_CMD_STATUS", &answer, 100, 2000, nullptr); });
 }
 
-TEST(NCCommand, IsMadeByNameAndArguments)
+TEST(NCCommand, isMadeByNameAndArguments)
 {
     Counted answer(5);
     const NCCommand command("GET_CMD_STATUS", List{"T-1"}, &answer, 100, 2000, nullptr);
@@ -156,7 +156,7 @@ TEST(NCCommand, IsMadeByNameAndArguments)
     expectTimes(command, 100, 2000);
 }
 
-TEST(NCCommand, IsMadeByNameArgumentsAndWhatTheAnswerIsMadeOf)
+TEST(NCCommand, isMadeByNameArgumentsAndWhatTheAnswerIsMadeOf)
 {
     const List answer = {QVariant::fromValue(CmdStatus(1, 2500, 40, "Filling"))};
     const NCCommand command("GET_CMD_STATUS", List{"T-1"}, answer, 100, 2000, nullptr);
@@ -168,7 +168,7 @@ TEST(NCCommand, IsMadeByNameArgumentsAndWhatTheAnswerIsMadeOf)
                   [] { NCCommand("GET_CMD_STATUS", List{"T-1"}, List{5}, 100, 2000, nullptr); });
 }
 
-TEST(NCCommand, PassesTheMachineOn)
+TEST(NCCommand, passesTheMachineOn)
 {
     const FW_Dispenser dispenser;
     const List inner = {"GET_STATUS", 7};
@@ -180,13 +180,15 @@ TEST(NCCommand, PassesTheMachineOn)
         NCCommand("GET_CMD_EST_EXEC_TIME", inner, List{2500}, 1, 2, &dispenser),
         NCCommand("GET_CMD_EST_EXEC_TIME", args, &dispenser),
     };
+    int form = 0;
     for (const NCCommand &command : commands) {
+        SCOPED_TRACE(++form);
         ASSERT_NE(command.protoCommand(), nullptr);
         EXPECT_NE(command.protoCommand()->machine(), nullptr);
     }
 }
 
-TEST(NCCommand, PassesOnWhatTheCommandSays)
+TEST(NCCommand, passesOnWhatTheCommandSays)
 {
     Counted answer(5);
     const char ticket[] = "GetCommandStatusCmd: expected String type parameter";
@@ -210,10 +212,11 @@ TEST(NCCommand, PassesOnWhatTheCommandSays)
                   [&] { NCCommand("NO_SUCH_COMMAND", empty, nullptr); });
 }
 
-TEST(NCCommand, HasACodeOfItsOwnForAnAnswerThatCannotBeCopied)
+TEST(NCCommand, hasACodeOfItsOwnForAnAnswerThatCannotBeCopied)
 {
     GetCommandStatusCmd inner(QString("T-1"));
     for (const Failure failure : {Failure::OfStandard, Failure::OfNoClass}) {
+        SCOPED_TRACE(static_cast<int>(failure));
         UncopyableAnswer<ProtoAnswer> answer(failure);
         expectRefusal("DE01418", decodingFailed, ofCommand, [&] { NCCommand(&inner, &answer, 1, 2); });
         expectRefusal("DE01176", decodingFailed, ofAnswer,
@@ -230,14 +233,14 @@ TEST(NCCommand, HasACodeOfItsOwnForAnAnswerThatCannotBeCopied)
                   [&] { NCCommand("ERRORS_NUM", List{}, &answer, 1, 2, nullptr); });
 }
 
-TEST(NCCommand, HasACodeOfItsOwnForAnythingElseInARequest)
+TEST(NCCommand, hasACodeOfItsOwnForAnythingElseInARequest)
 {
     Value args = arrayOf();
     expectRefusal("DE00774", decodingFailed, ofValue,
                   [&] { outOfMemoryOnce([&] { NCCommand("ERRORS_NUM", args, nullptr); }); });
 }
 
-TEST(NCCommand, ReadsAWholeRequest)
+TEST(NCCommand, readsAWholeRequest)
 {
     const NCCommand command = decoded(arrayOf(arguments(), lastAnswer(), 100, 2000));
     EXPECT_EQ(ticketOf(command), "T-1");
@@ -246,7 +249,7 @@ TEST(NCCommand, ReadsAWholeRequest)
     expectTimes(command, 100, 2000);
 }
 
-TEST(NCCommand, ReadsARequestWithElementsLeftOut)
+TEST(NCCommand, readsARequestWithElementsLeftOut)
 {
     const NCCommand withoutAnswer = decoded(arrayOf(arguments(), 100, 2000));
     EXPECT_EQ(ticketOf(withoutAnswer), "T-1");
@@ -269,21 +272,23 @@ TEST(NCCommand, ReadsARequestWithElementsLeftOut)
     EXPECT_EQ(percentageOf(decoded(arrayOf(arguments(), lastAnswer()))), 40);
 }
 
-TEST(NCCommand, TakesOnlyIntegersAsTimes)
+TEST(NCCommand, takesOnlyIntegersAsTimes)
 {
     expectTimes(decodedBare(arrayOf("100", 2000)), 500, 10000);
     expectTimes(decodedBare(arrayOf(100, "2000")), 100, 10000);
     expectTimes(decodedBare(arrayOf(1.5, 2000)), 500, 10000);
 }
 
-TEST(NCCommand, RefusesARequestThatIsNoArray)
+TEST(NCCommand, refusesARequestThatIsNoArray)
 {
-    for (Value args : {Value(), Value(5), Value("T-1"), arguments()})
+    for (Value args : {Value(), Value(5), Value("T-1"), arguments()}) {
+        SCOPED_TRACE(dumped(args));
         expectRefusal("DE00755", "Error in type decoding (xml-rpc)", ofValue,
                       [&] { NCCommand("GET_CMD_STATUS", args, nullptr); });
+    }
 }
 
-TEST(NCCommand, RefusesALastAnswerThatIsNone)
+TEST(NCCommand, refusesALastAnswerThatIsNone)
 {
     expectRefusal("DE00756", decodingFailed, ofValue, [] {
         decoded(arrayOf(arguments(), structOf({{"answer", 5}}), 100, 2000));
@@ -294,7 +299,7 @@ TEST(NCCommand, RefusesALastAnswerThatIsNone)
     });
 }
 
-TEST(NCCommand, WritesAWholeRequest)
+TEST(NCCommand, writesAWholeRequest)
 {
     GetCommandStatusCmd inner(QString("T-1"));
     Counted answer(5);
@@ -307,7 +312,7 @@ TEST(NCCommand, WritesAWholeRequest)
               R"(["GET_CMD_STATUS", {"cmd_parameters": ["T-1"]}, {"last_answer": 5}, 100, 2000])");
 }
 
-TEST(NCCommand, LeavesOutWhatThereIsNot)
+TEST(NCCommand, leavesOutWhatThereIsNot)
 {
     GetCommandStatusCmd inner(QString("T-1"));
     ConfProtoCommand bare("LOGOUT", nullptr);
@@ -320,7 +325,7 @@ TEST(NCCommand, LeavesOutWhatThereIsNot)
               R"(["LOGOUT", 100, 2000])");
 }
 
-TEST(NCCommand, MakesNoRequestOfACommandWithoutAName)
+TEST(NCCommand, makesNoRequestOfACommandWithoutAName)
 {
     ConfProtoCommand nameless;
     bool ok = true;
@@ -328,7 +333,7 @@ TEST(NCCommand, MakesNoRequestOfACommandWithoutAName)
     EXPECT_FALSE(ok);
 }
 
-TEST(NCCommand, WritesNoEmptyValue)
+TEST(NCCommand, writesNoEmptyValue)
 {
     class EmptyAnswer : public ProtoAnswer
     {
@@ -342,7 +347,7 @@ TEST(NCCommand, WritesNoEmptyValue)
               R"(["LOGOUT", {"last_answer": 0}, 100, 2000])");
 }
 
-TEST(NCCommand, ForwardsToTheCommand)
+TEST(NCCommand, forwardsToTheCommand)
 {
     GetCommandStatusCmd inner(QString("T-1"));
     NCCommand command(&inner, nullptr, 100, 2000);
@@ -375,7 +380,7 @@ TEST(NCCommand, ForwardsToTheCommand)
     expectError(error, "DE00355", "XmlRpcAnswer: expected struct type for xmlrpc type");
 }
 
-TEST(NCCommand, ReplacesTheCommandByAClone)
+TEST(NCCommand, replacesTheCommandByAClone)
 {
     NCCommand command;
     {
@@ -393,7 +398,7 @@ TEST(NCCommand, ReplacesTheCommandByAClone)
     EXPECT_EQ(ticketOf(command), "T-2");
 }
 
-TEST(NCCommand, CopiesStandAlone)
+TEST(NCCommand, makesCopiesThatStandAlone)
 {
     GetCommandStatusCmd inner(QString("T-1"));
     const Counted answer(5);
@@ -406,8 +411,10 @@ TEST(NCCommand, CopiesStandAlone)
         EXPECT_EQ(Counted::alive, 5);
         const GetCommandStatusCmd next(QString("T-2"));
         command.setProtoCommand(&next);
+        int form = 0;
         for (const NCCommand *other : {&copy, static_cast<const NCCommand *>(clone.get()),
                                        static_cast<const NCCommand *>(&assigned)}) {
+            SCOPED_TRACE(++form);
             EXPECT_EQ(ticketOf(*other), "T-1");
             ASSERT_NE(other->lastAnswer(), nullptr);
             EXPECT_NE(other->lastAnswer(), command.lastAnswer());
@@ -423,7 +430,7 @@ TEST(NCCommand, CopiesStandAlone)
     EXPECT_EQ(Counted::alive, 1);
 }
 
-TEST(NCCommand, SurvivesAssignmentToItself)
+TEST(NCCommand, survivesAssignmentToItself)
 {
     GetCommandStatusCmd inner(QString("T-1"));
     Counted answer(5);

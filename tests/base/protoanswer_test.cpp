@@ -8,7 +8,7 @@
 
 using namespace testing_base;
 
-TEST(ProtoAnswer, KnowsWhoAnswered)
+TEST(ProtoAnswer, knowsWhoAnswered)
 {
     EXPECT_EQ(ProtoAnswer().protoType(), 0);
     EXPECT_EQ(ProtoAnswer(2).protoType(), 2);
@@ -20,7 +20,7 @@ TEST(ProtoAnswer, KnowsWhoAnswered)
     EXPECT_EQ(ProtoAnswer(original).protoType(), 2);
 }
 
-TEST(ProtoAnswer, RefusesAnEmptyValue)
+TEST(ProtoAnswer, refusesAnEmptyValue)
 {
     expectRefusal("DE00909", "ProtoAnswer decoding failed: invalid xml-rpc type",
                   "ProtoAnswer::ProtoAnswer(int, const XmlRpc::XmlRpcValue&)",
@@ -29,14 +29,14 @@ TEST(ProtoAnswer, RefusesAnEmptyValue)
     EXPECT_NO_THROW(ProtoAnswer(1, Value(0)));
 }
 
-TEST(ProtoAnswer, ClearingForgetsTheType)
+TEST(ProtoAnswer, forgetsItsTypeWhenCleared)
 {
     ProtoAnswer answer(2);
     answer.clearProtoAnswer();
     EXPECT_EQ(answer.protoType(), 0);
 }
 
-TEST(ProtoAnswer, ClonesBelongToTheCaller)
+TEST(ProtoAnswer, givesItsClonesToTheCaller)
 {
     const ProtoAnswer answer(3);
     const std::unique_ptr<ProtoAnswer> copy(answer.clone());
@@ -44,7 +44,7 @@ TEST(ProtoAnswer, ClonesBelongToTheCaller)
     EXPECT_EQ(copy->protoType(), 3);
 }
 
-TEST(ProtoAnswer, EqualsAnyAnswerOfItsType)
+TEST(ProtoAnswer, equalsAnyAnswerOfItsType)
 {
     const ProtoAnswer plain(2);
     const ConfProtoAnswer configuration;
@@ -56,12 +56,12 @@ TEST(ProtoAnswer, EqualsAnyAnswerOfItsType)
     EXPECT_FALSE(plain.equalTo(nullptr));
 }
 
-TEST(ProtoAnswer, WritesZero)
+TEST(ProtoAnswer, writesZero)
 {
     EXPECT_EQ(dumped(ProtoAnswer(2).toXmlRpcValue()), "0");
 }
 
-TEST(ProtoAnswer, TellsReturnCodesInWords)
+TEST(ProtoAnswer, tellsReturnCodesInWords)
 {
     const struct
     {

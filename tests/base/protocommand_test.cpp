@@ -58,7 +58,7 @@ public:
 
 } // namespace
 
-TEST(ProtoCommand, StartsEmpty)
+TEST(ProtoCommand, startsEmpty)
 {
     const ProtoCommand command;
     EXPECT_TRUE(command.command().isNull());
@@ -75,7 +75,7 @@ TEST(ProtoCommand, StartsEmpty)
     EXPECT_EQ(command.getXmlRpcAnswer(nullptr), nullptr);
 }
 
-TEST(ProtoCommand, IsMadeFromANameOrATypeOrBoth)
+TEST(ProtoCommand, isMadeFromANameOrATypeOrBoth)
 {
     const ProtoCommand named(QStringLiteral("TINT"));
     EXPECT_EQ(named.command(), "TINT");
@@ -89,12 +89,12 @@ TEST(ProtoCommand, IsMadeFromANameOrATypeOrBoth)
     EXPECT_EQ(both.machine(), nullptr);
 }
 
-TEST(ProtoCommand, NamesAreNotCheckedWhenMade)
+TEST(ProtoCommand, doesNotCheckItsNameWhenMade)
 {
     EXPECT_EQ(ProtoCommand(QStringLiteral("NO_SUCH_COMMAND")).command(), "NO_SUCH_COMMAND");
 }
 
-TEST(ProtoCommand, KeepsACloneOfTheMachine)
+TEST(ProtoCommand, keepsACloneOfTheMachine)
 {
     {
         std::unique_ptr<ProtoCommand> command;
@@ -126,7 +126,7 @@ TEST(ProtoCommand, KeepsACloneOfTheMachine)
     EXPECT_NE(dynamic_cast<const FW_Mixer *>(fromList.machine()), nullptr);
 }
 
-TEST(ProtoCommand, DeletesTheMachineWhenConstructionFails)
+TEST(ProtoCommand, deletesTheMachineWhenConstructionFails)
 {
     const CountedMachine machine;
     expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", valueConstructor,
@@ -136,7 +136,7 @@ TEST(ProtoCommand, DeletesTheMachineWhenConstructionFails)
     EXPECT_EQ(CountedMachine::alive, 1);
 }
 
-TEST(ProtoCommand, ValueMustBeAnArrayOfEnoughElements)
+TEST(ProtoCommand, needsAnArrayOfEnoughElements)
 {
     expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", valueConstructor,
                   [] { ProtoCommand(1, "RESET", Value(), nullptr); });
@@ -156,7 +156,7 @@ TEST(ProtoCommand, ValueMustBeAnArrayOfEnoughElements)
     EXPECT_EQ(none.command(), "RESET");
 }
 
-TEST(ProtoCommand, ListMustHoldEnoughElements)
+TEST(ProtoCommand, needsAListOfEnoughElements)
 {
     expectRefusal("DE00313", "TINT command : expected at least 1 parameters, received 0 instead!",
                   listConstructor, [] { ProtoCommand(1, "TINT", List(), nullptr); });
@@ -169,19 +169,19 @@ TEST(ProtoCommand, ListMustHoldEnoughElements)
     EXPECT_EQ(enough.protoType(), 2);
 }
 
-TEST(ProtoCommand, NeverRefusesMoreThanTheGreatestNumberOfParameters)
+TEST(ProtoCommand, neverRefusesMoreThanTheGreatestNumberOfParameters)
 {
     EXPECT_NO_THROW(ProtoCommand(1, "RESET", List{1, 2, 3, 4, 5, 6}, nullptr));
     EXPECT_NO_THROW(ProtoCommand(1, "RESET", arrayOf(1, 2, 3, 4, 5, 6), nullptr));
 }
 
-TEST(ProtoCommand, UnknownNamesNeedNoParameters)
+TEST(ProtoCommand, needsNoParametersUnderAnUnknownName)
 {
     EXPECT_NO_THROW(ProtoCommand(1, "NO_SUCH_COMMAND", List(), nullptr));
     EXPECT_NO_THROW(ProtoCommand(1, "NO_SUCH_COMMAND", arrayOf(), nullptr));
 }
 
-TEST(ProtoCommand, ChecksTheNumberOfParameters)
+TEST(ProtoCommand, checksTheNumberOfParameters)
 {
     const ProtoCommand command;
     QString error = "untouched";
@@ -197,12 +197,13 @@ TEST(ProtoCommand, ChecksTheNumberOfParameters)
     EXPECT_EQ(error, "NO_SUCH_%2_COMMAND command : expected at least -1 parameters, received -2 instead!");
 }
 
-TEST(ProtoCommand, IsRenamedWithinTheCatalogueOnly)
+TEST(ProtoCommand, isRenamedWithinTheCatalogueOnly)
 {
     ProtoCommand command(QStringLiteral("TINT"));
     EXPECT_TRUE(command.setCommand("PURGE"));
     EXPECT_EQ(command.command(), "PURGE");
     for (const char *unknown : {"NO_SUCH_COMMAND", "tint", "TIN", "TINT ", ""}) {
+        SCOPED_TRACE(unknown);
         EXPECT_FALSE(command.setCommand(unknown));
         EXPECT_EQ(command.command(), "PURGE");
     }
@@ -211,9 +212,10 @@ TEST(ProtoCommand, IsRenamedWithinTheCatalogueOnly)
     EXPECT_EQ(nameless.command(), "PAUSE");
 }
 
-TEST(ProtoCommand, DefaultsForgetNameAndType)
+TEST(ProtoCommand, forgetsNameAndTypeWithItsDefaults)
 {
     for (void (OpenCommand::*reset)() : {&OpenCommand::clear, &OpenCommand::setDefaults}) {
+        SCOPED_TRACE(reset == &OpenCommand::clear ? "clear" : "setDefaults");
         OpenCommand command(3, "WEIGHT", List{1}, nullptr);
         (command.*reset)();
         EXPECT_TRUE(command.command().isNull());
@@ -222,10 +224,11 @@ TEST(ProtoCommand, DefaultsForgetNameAndType)
     }
 }
 
-TEST(ProtoCommand, DefaultsForgetPointersWithoutDeletingThem)
+TEST(ProtoCommand, forgetsPointersWithoutDeletingThem)
 {
     const CountedMachine machine;
     for (void (OpenCommand::*reset)() : {&OpenCommand::clear, &OpenCommand::setDefaults}) {
+        SCOPED_TRACE(reset == &OpenCommand::clear ? "clear" : "setDefaults");
         const int before = CountedMachine::alive;
         OpenCommand command(1, "RESET", &machine);
         CountedAnswer<ProtoAnswer> answer(1);
@@ -248,7 +251,7 @@ TEST(ProtoCommand, DefaultsForgetPointersWithoutDeletingThem)
     }
 }
 
-TEST(ProtoCommand, BaseSupportsEverythingAndEstimatesNothing)
+TEST(ProtoCommand, supportsEverythingAndEstimatesNothing)
 {
     const ProtoCommand command(QStringLiteral("TINT"));
     EXPECT_TRUE(command.isSupportedCommand(FW_Version()));
@@ -259,7 +262,7 @@ TEST(ProtoCommand, BaseSupportsEverythingAndEstimatesNothing)
     EXPECT_EQ(ProtoCommand(QStringLiteral("GET_USS_W_STATUS")).getCmdEstimatedExecutionTime(nullptr), 0);
 }
 
-TEST(ProtoCommand, BaseHasNoXmlRpcArguments)
+TEST(ProtoCommand, hasNoXmlRpcArguments)
 {
     const ProtoCommand command(1, "LOGIN", List{"me", "secret"}, nullptr);
     bool ok = false;
@@ -268,7 +271,7 @@ TEST(ProtoCommand, BaseHasNoXmlRpcArguments)
     EXPECT_EQ(dumped(command.xmlrpc_parameters(nullptr)), "[]");
 }
 
-TEST(ProtoCommand, ParametersAreACopy)
+TEST(ProtoCommand, givesACopyOfItsParameters)
 {
     const ProtoCommand command(1, "LOGIN", List{"me", "secret"}, nullptr);
     List parameters = command.parameters();
@@ -276,7 +279,7 @@ TEST(ProtoCommand, ParametersAreACopy)
     EXPECT_EQ(command.parameters(), (List{"me", "secret"}));
 }
 
-TEST(ProtoCommand, WritesTheRequest)
+TEST(ProtoCommand, writesTheRequest)
 {
     bool ok = false;
     EXPECT_EQ(dumped(ProtoCommand(QStringLiteral("TINT")).toXmlRpcValue("", &ok)), R"(["TINT"])");
@@ -295,7 +298,7 @@ TEST(ProtoCommand, WritesTheRequest)
     EXPECT_FALSE(ok);
 }
 
-TEST(ProtoCommand, WithoutANameThereIsNoRequest)
+TEST(ProtoCommand, makesNoRequestWithoutAName)
 {
     bool ok = true;
     EXPECT_EQ(dumped(ProtoCommand().toXmlRpcValue("", &ok)), "[]");
@@ -306,7 +309,7 @@ TEST(ProtoCommand, WithoutANameThereIsNoRequest)
     EXPECT_EQ(dumped(ProtoCommand().toXmlRpcValue("first", nullptr)), "[]");
 }
 
-TEST(ProtoCommand, BuildsRequestsOfAnyArguments)
+TEST(ProtoCommand, buildsRequestsOfAnyArguments)
 {
     const Value arguments = arrayOf(5, true, 2.5, "text", arrayOf(1, 2), structOf({{"a", 1}}));
     bool ok = false;
@@ -323,9 +326,10 @@ TEST(ProtoCommand, BuildsRequestsOfAnyArguments)
     EXPECT_TRUE(ok);
 }
 
-TEST(ProtoCommand, BuildsNoRequestOfAnythingButAnArray)
+TEST(ProtoCommand, buildsNoRequestOfAnythingButAnArray)
 {
     for (const Value &bad : {Value(), Value(5), Value("text"), structOf({{"a", 1}})}) {
+        SCOPED_TRACE(dumped(bad));
         bool ok = true;
         EXPECT_EQ(dumped(ProtoCommand::buildXmlRpcValue("TINT", bad, "first", &ok)), "[]");
         EXPECT_FALSE(ok);
@@ -338,7 +342,7 @@ TEST(ProtoCommand, BuildsNoRequestOfAnythingButAnArray)
     EXPECT_FALSE(ok);
 }
 
-TEST(ProtoCommand, WritesLeadingTextAndNameInLatin1)
+TEST(ProtoCommand, writesLeadingTextAndNameInLatin1)
 {
     const QString leading = QString::fromUtf8("Müller");
     const QString name = QString::fromUtf8("Größe");
@@ -348,13 +352,13 @@ TEST(ProtoCommand, WritesLeadingTextAndNameInLatin1)
                                                                  "e\"]");
 }
 
-TEST(ProtoCommand, KeepsTheAnswerContract)
+TEST(ProtoCommand, keepsTheAnswerContract)
 {
     ProtoCommand command(QStringLiteral("TINT"));
     expectAnswerContract(command, plainAnswers());
 }
 
-TEST(ProtoCommand, PlainAnswersHaveTypeZero)
+TEST(ProtoCommand, givesItsAnswersTypeZero)
 {
     ProtoCommand command(2, "GET_CALIB_PROFILES", nullptr);
     List list = {1};
@@ -364,7 +368,7 @@ TEST(ProtoCommand, PlainAnswersHaveTypeZero)
     EXPECT_EQ(command.getProtoAnswer()->protoType(), 0);
 }
 
-TEST(ProtoCommand, ClearingDeletesTheAnswer)
+TEST(ProtoCommand, deletesItsAnswerWhenCleared)
 {
     ProtoCommand command(QStringLiteral("TINT"));
     {
@@ -379,10 +383,11 @@ TEST(ProtoCommand, ClearingDeletesTheAnswer)
     EXPECT_EQ(command.getProtoAnswer(), nullptr);
 }
 
-TEST(ProtoCommand, EnvelopesSurviveASubclassThatThrows)
+TEST(ProtoCommand, keepsTheEnvelopeOfASubclassThatThrows)
 {
     const Value envelope = structOf({{"ret_code", 0}, {"info", ""}, {"ret_value", 1}, {"errors", arrayOf()}});
     for (const Failure failure : {Failure::OfStandard, Failure::OfNoClass}) {
+        SCOPED_TRACE(static_cast<int>(failure));
         ThrowingCommand command(failure);
         FW_DriverError error;
         EXPECT_FALSE(command.setAnswer(envelope, false, &error));
@@ -399,7 +404,7 @@ TEST(ProtoCommand, EnvelopesSurviveASubclassThatThrows)
     EXPECT_EQ(CountedAnswer<ProtoAnswer>::alive, 0);
 }
 
-TEST(ProtoCommand, DeletesItsAnswers)
+TEST(ProtoCommand, deletesItsAnswers)
 {
     {
         ProtoCommand command(QStringLiteral("TINT"));
@@ -410,7 +415,7 @@ TEST(ProtoCommand, DeletesItsAnswers)
     EXPECT_EQ(CountedAnswer<ProtoAnswer>::alive, 0);
 }
 
-TEST(ProtoCommand, CopiesAreIndependent)
+TEST(ProtoCommand, makesIndependentCopies)
 {
     CountedAnswer<ProtoAnswer> answer(9);
     ProtoCommand command(2, "LOGIN", List{"me", "secret"}, nullptr);
@@ -442,7 +447,7 @@ TEST(ProtoCommand, CopiesAreIndependent)
     EXPECT_EQ(command.getXmlRpcAnswer()->retCode(), 3);
 }
 
-TEST(ProtoCommand, CopiesOfAnEmptyCommandAreEmpty)
+TEST(ProtoCommand, makesEmptyCopiesOfAnEmptyCommand)
 {
     const ProtoCommand empty;
     const ProtoCommand copy(empty);
@@ -453,7 +458,7 @@ TEST(ProtoCommand, CopiesOfAnEmptyCommandAreEmpty)
     EXPECT_EQ(copy.getXmlRpcAnswer(), nullptr);
 }
 
-TEST(ProtoCommand, IsDeletedThroughTheRoot)
+TEST(ProtoCommand, isDeletedThroughTheRoot)
 {
     const CountedMachine machine;
     std::unique_ptr<ProtoCommand> command = std::make_unique<SerialProtoCommand>("RESET", &machine);

@@ -76,7 +76,7 @@ constexpr char fullText[] =
 
 } // namespace
 
-TEST(Record, ReadsMembersOfAllTypes)
+TEST(Record, readsMembersOfAllTypes)
 {
     const Valve valve = decoded(structOf({{"cycles", 12},
                                           {"flow", 2.25},
@@ -98,7 +98,7 @@ TEST(Record, ReadsMembersOfAllTypes)
     EXPECT_TRUE(valve.ignored);
 }
 
-TEST(Record, OptionalMembersKeepTheirFields)
+TEST(Record, leavesTheFieldsOfOptionalMembersAlone)
 {
     const Value missing = structOf({{"open", true}, {"position", 3}, {"flow", 2}});
     const Value ofOtherType = structOf({{"open", true},
@@ -120,7 +120,7 @@ TEST(Record, OptionalMembersKeepTheirFields)
     }
 }
 
-TEST(Record, OtherMembersAreNotRead)
+TEST(Record, readsNoOtherMembers)
 {
     const Value value = structOf({{"aaa", 1},
                                   {"flow", 2.5},
@@ -134,7 +134,7 @@ TEST(Record, OtherMembersAreNotRead)
     EXPECT_EQ(dumped(value), before);
 }
 
-TEST(Record, RefusesTheFirstInTheTablesOrder)
+TEST(Record, refusesTheFirstInTheTablesOrder)
 {
     const auto refused = [](const char *code, const char *text, const Value &value) {
         expectRefusal(code, text, signature, [&] { decoded(value); });
@@ -151,7 +151,7 @@ TEST(Record, RefusesTheFirstInTheTablesOrder)
     refused("DE3", "The flow is missing", structOf({{"position", 3}, {"open", false}}));
 }
 
-TEST(Record, WritesAllButWhatIsNotWritten)
+TEST(Record, writesAllButWhatIsNotWritten)
 {
     EXPECT_EQ(dumped(valveRecord().encode(fullValve())), fullText);
     EXPECT_EQ(dumped(valveRecord().encode(Valve())),
@@ -160,7 +160,7 @@ TEST(Record, WritesAllButWhatIsNotWritten)
     EXPECT_EQ(dumped(valveRecord().encode(fullValve())), fullText) << "nothing of the last one is left";
 }
 
-TEST(Record, WritesIntoWhatIsThere)
+TEST(Record, writesIntoWhatIsThere)
 {
     Value value = structOf({{"more", 1}, {"open", "of another type"}, {"position", true}});
     valveRecord().encodeInto(fullValve(), value);
@@ -175,7 +175,7 @@ TEST(Record, WritesIntoWhatIsThere)
     EXPECT_EQ(dumped(number), fullText);
 }
 
-TEST(Record, ReadsWhatItWrote)
+TEST(Record, readsWhatItWrote)
 {
     const Valve full = fullValve();
     Valve again = decoded(valveRecord().encode(full));
@@ -184,7 +184,7 @@ TEST(Record, ReadsWhatItWrote)
     EXPECT_TRUE(valveRecord().equal(full, again));
 }
 
-TEST(Record, EveryComparedFieldCounts)
+TEST(Record, comparesEveryFieldThatCounts)
 {
     const Valve valve = fullValve();
     EXPECT_TRUE(valveRecord().equal(valve, fullValve()));
@@ -194,7 +194,9 @@ TEST(Record, EveryComparedFieldCounts)
         [](Valve &v) { v.label = "south"; }, [](Valve &v) { v.notes.removeLast(); },
         [](Valve &v) { v.steps.append(3); }, [](Valve &v) { v.hidden = false; },
     };
+    int row = 0;
     for (const auto change : changes) {
+        SCOPED_TRACE(++row);
         Valve other = fullValve();
         change(other);
         EXPECT_FALSE(valveRecord().equal(valve, other));
@@ -205,7 +207,7 @@ TEST(Record, EveryComparedFieldCounts)
     EXPECT_TRUE(valveRecord().equal(valve, other));
 }
 
-TEST(Record, ResetEmptiesWhatIsRead)
+TEST(Record, emptiesWhatIsReadWhenReset)
 {
     Valve valve = fullValve();
     valveRecord().reset(valve);
@@ -220,7 +222,7 @@ TEST(Record, ResetEmptiesWhatIsRead)
     EXPECT_FALSE(valve.ignored);
 }
 
-TEST(Record, ResetLeavesWhatIsOnlyWritten)
+TEST(Record, leavesWhatIsOnlyWrittenWhenReset)
 {
     const quv::Record<Valve> record({Row("open", &Valve::open, {"DE1", expected}).uses(quv::Write)});
     Valve valve = fullValve();
@@ -231,7 +233,7 @@ TEST(Record, ResetLeavesWhatIsOnlyWritten)
     EXPECT_NO_THROW(record.decode(structOf({}), valve, signature)) << "nor asked for";
 }
 
-TEST(Record, OfADerivedClassBeginsWithTheBase)
+TEST(Record, beginsWithTheBaseOfADerivedClass)
 {
     const quv::Record<LockedValve> record(valveRecord(),
                                           {{"locked", &LockedValve::locked, {"DE9", "Locked: %1 missing"}}});
@@ -254,7 +256,7 @@ TEST(Record, OfADerivedClassBeginsWithTheBase)
     EXPECT_FALSE(record.equal(valve, other));
 }
 
-TEST(Record, WithoutMembersIsAnEmptyStruct)
+TEST(Record, isAnEmptyStructWithoutMembers)
 {
     const quv::Record<Valve> record{std::vector<Row>()};
     EXPECT_EQ(dumped(record.encode(fullValve())), "{}");
@@ -263,7 +265,7 @@ TEST(Record, WithoutMembersIsAnEmptyStruct)
     EXPECT_TRUE(record.equal(valve, Valve()));
 }
 
-TEST(Record, OfTwoRowsWithOneKeyTheLaterHolds)
+TEST(Record, takesTheLaterOfTwoRowsWithOneKey)
 {
     const quv::Record<Valve> record({{"state", &Valve::hidden}, {"state", &Valve::open}});
     Valve valve;

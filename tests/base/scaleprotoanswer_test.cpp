@@ -21,7 +21,7 @@ public:
 
 } // namespace
 
-TEST(ScaleProtoAnswer, IsOfItsType)
+TEST(ScaleProtoAnswer, isOfItsType)
 {
     List list = {1};
     EXPECT_EQ(ScaleProtoAnswer().protoType(), 3);
@@ -29,7 +29,7 @@ TEST(ScaleProtoAnswer, IsOfItsType)
     EXPECT_EQ(ScaleProtoAnswer(Value(1)).protoType(), 3);
 }
 
-TEST(ScaleProtoAnswer, KeepsTheListThatItIsMadeOf)
+TEST(ScaleProtoAnswer, keepsTheListThatItIsMadeOf)
 {
     List list = {1, "two"};
     OpenScaleAnswer answer(list);
@@ -44,7 +44,7 @@ TEST(ScaleProtoAnswer, KeepsTheListThatItIsMadeOf)
     EXPECT_EQ(OpenScaleAnswer(*copy).stored(), (List{1, "two"}));
 }
 
-TEST(ScaleProtoAnswer, KeepsNothingOfAValue)
+TEST(ScaleProtoAnswer, keepsNothingOfAValue)
 {
     EXPECT_EQ(OpenScaleAnswer(arrayOf(1, 2)).stored(), List());
     expectRefusal("DE00909", "ProtoAnswer decoding failed: invalid xml-rpc type",
@@ -52,7 +52,7 @@ TEST(ScaleProtoAnswer, KeepsNothingOfAValue)
                   [] { ScaleProtoAnswer{Value()}; });
 }
 
-TEST(ScaleProtoAnswer, OfAnotherAnswerKeepsTheTypeOnly)
+TEST(ScaleProtoAnswer, keepsTheTypeOnlyOfAnotherAnswer)
 {
     List list = {1};
     const ScaleProtoAnswer full(list);
@@ -62,13 +62,13 @@ TEST(ScaleProtoAnswer, OfAnotherAnswerKeepsTheTypeOnly)
     EXPECT_EQ(ScaleProtoAnswer(ProtoAnswer(1)).protoType(), 1);
 }
 
-TEST(ScaleProtoAnswer, WritesZeroWhateverItHolds)
+TEST(ScaleProtoAnswer, writesZeroWhateverItHolds)
 {
     List list = {1, 2};
     EXPECT_EQ(dumped(ScaleProtoAnswer(list).toXmlRpcValue()), "0");
 }
 
-TEST(ScaleProtoAnswer, ComparesTypesOnly)
+TEST(ScaleProtoAnswer, comparesTypesOnly)
 {
     List list = {1, 2};
     const ScaleProtoAnswer full(list);
@@ -79,7 +79,7 @@ TEST(ScaleProtoAnswer, ComparesTypesOnly)
     EXPECT_FALSE(full.equalTo(&plain));
 }
 
-TEST(ScaleProtoAnswer, TellsNoParametersWhateverItHolds)
+TEST(ScaleProtoAnswer, tellsNoParametersWhateverItHolds)
 {
     List list = {1, 2};
     EXPECT_EQ(ScaleProtoAnswer(list).parameters(), List());

@@ -9,7 +9,7 @@
 
 using namespace testing_base;
 
-TEST(ScaleProtoCommand, IsMadeInFourFormsWithoutAMachine)
+TEST(ScaleProtoCommand, isMadeInFourFormsWithoutAMachine)
 {
     const ScaleProtoCommand empty;
     EXPECT_TRUE(empty.command().isNull());
@@ -20,14 +20,16 @@ TEST(ScaleProtoCommand, IsMadeInFourFormsWithoutAMachine)
     EXPECT_EQ(ofValue.parameters(), List());
     const ScaleProtoCommand ofList("TARE", List{1});
     EXPECT_EQ(ofList.parameters(), List{1});
+    int form = 0;
     for (const ScaleProtoCommand *command : {&empty, &named, &ofValue, &ofList}) {
+        SCOPED_TRACE(++form);
         EXPECT_EQ(command->protoType(), 3);
         EXPECT_EQ(command->machine(), nullptr);
         EXPECT_EQ(command->getCmdEstimatedExecutionTime(nullptr), 0);
     }
 }
 
-TEST(ScaleProtoCommand, ConstructorsCheckTheNumberOfArguments)
+TEST(ScaleProtoCommand, checksTheNumberOfArguments)
 {
     expectRefusal("DE00312", "LOGIN command : expected at least 2 parameters, received 1 instead!",
                   "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)",
@@ -37,7 +39,7 @@ TEST(ScaleProtoCommand, ConstructorsCheckTheNumberOfArguments)
                   [] { ScaleProtoCommand("LOGIN", List{"me"}); });
 }
 
-TEST(ScaleProtoCommand, ClonesAreOfItsClass)
+TEST(ScaleProtoCommand, clonesToItsOwnClass)
 {
     const ScaleProtoCommand command("TARE", List{1});
     const std::unique_ptr<ProtoCommand> copy(static_cast<const ProtoCommand &>(command).clone());
@@ -46,13 +48,13 @@ TEST(ScaleProtoCommand, ClonesAreOfItsClass)
     EXPECT_EQ(copy->protoType(), 3);
 }
 
-TEST(ScaleProtoCommand, KeepsTheAnswerContract)
+TEST(ScaleProtoCommand, keepsTheAnswerContract)
 {
     ScaleProtoCommand command(QStringLiteral("WEIGHT"));
     expectAnswerContract(command, scaleAnswers());
 }
 
-TEST(ScaleProtoCommand, AnswersOfAnyNameArePlain)
+TEST(ScaleProtoCommand, givesPlainAnswersUnderAnyName)
 {
     for (const char *name : {"WEIGHT", "GET_CURRENT_WEIGHT", "GET_SCALE_STATUS", "NO_SUCH_COMMAND"}) {
         ScaleProtoCommand command{QString(name)};
@@ -65,7 +67,7 @@ TEST(ScaleProtoCommand, AnswersOfAnyNameArePlain)
     }
 }
 
-TEST(ScaleProtoCommand, StoresACloneOfTheScalesAnswer)
+TEST(ScaleProtoCommand, storesACloneOfTheScalesAnswer)
 {
     using Counted = CountedAnswer<ScaleProtoAnswer>;
     ScaleProtoCommand command(QStringLiteral("WEIGHT"));
@@ -89,12 +91,13 @@ TEST(ScaleProtoCommand, StoresACloneOfTheScalesAnswer)
     EXPECT_FALSE(command.setScaleAnswer(nullptr, nullptr));
 }
 
-TEST(ScaleProtoCommand, AnAnswerThatCannotBeClonedLeavesNone)
+TEST(ScaleProtoCommand, holdsNoAnswerThatCannotBeCloned)
 {
     ScaleProtoCommand command(QStringLiteral("WEIGHT"));
     ScaleProtoAnswer good;
     FW_DriverError error;
     for (const Failure failure : {Failure::OfStandard, Failure::OfNoClass}) {
+        SCOPED_TRACE(static_cast<int>(failure));
         UncopyableAnswer<ScaleProtoAnswer> bad(failure);
         EXPECT_TRUE(command.setScaleAnswer(&good, nullptr));
         EXPECT_FALSE(command.setScaleAnswer(&bad, &error));

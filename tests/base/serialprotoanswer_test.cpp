@@ -18,7 +18,7 @@ QStringList parametersOf(const QStringList &tokens)
 
 } // namespace
 
-TEST(SerialProtoAnswer, IsOfTypeOne)
+TEST(SerialProtoAnswer, isOfTypeOne)
 {
     EXPECT_EQ(SerialProtoAnswer().protoType(), 1);
     EXPECT_EQ(SerialProtoAnswer(QStringList{"0"}).protoType(), 1);
@@ -27,7 +27,7 @@ TEST(SerialProtoAnswer, IsOfTypeOne)
     EXPECT_EQ(SerialProtoAnswer(list).protoType(), 1);
 }
 
-TEST(SerialProtoAnswer, KeepsTheTokensAfterTheLength)
+TEST(SerialProtoAnswer, keepsTheTokensAfterTheLength)
 {
     EXPECT_EQ(parametersOf({"0"}), QStringList());
     EXPECT_EQ(parametersOf({"1", "A"}), QStringList({"A"}));
@@ -36,18 +36,18 @@ TEST(SerialProtoAnswer, KeepsTheTokensAfterTheLength)
               (QStringList{"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}));
 }
 
-TEST(SerialProtoAnswer, KeepsTokensBeyondTheLength)
+TEST(SerialProtoAnswer, keepsTokensBeyondTheLength)
 {
     EXPECT_EQ(parametersOf({"1", "A", "B"}), (QStringList{"A", "B"}));
     EXPECT_EQ(parametersOf({"0", "A", "B"}), (QStringList{"A", "B"}));
 }
 
-TEST(SerialProtoAnswer, DoesNotReadTheParameters)
+TEST(SerialProtoAnswer, doesNotReadTheParameters)
 {
     EXPECT_EQ(parametersOf({"2", "not a number", ""}), (QStringList{"not a number", ""}));
 }
 
-TEST(SerialProtoAnswer, LengthMayHaveAnyNumberOfDigits)
+TEST(SerialProtoAnswer, takesALengthOfAnyNumberOfDigits)
 {
     EXPECT_EQ(parametersOf({"01", "A"}), QStringList({"A"}));
     EXPECT_EQ(parametersOf({"0001", "A"}), QStringList({"A"}));
@@ -56,7 +56,7 @@ TEST(SerialProtoAnswer, LengthMayHaveAnyNumberOfDigits)
     EXPECT_EQ(parametersOf({"0x1", "A"}), QStringList({"A"}));
 }
 
-TEST(SerialProtoAnswer, LeavesTheCallersTokensAlone)
+TEST(SerialProtoAnswer, leavesTheCallersTokensAlone)
 {
     const QStringList tokens = {"1", "A"};
     const SerialProtoAnswer answer(tokens);
@@ -65,13 +65,13 @@ TEST(SerialProtoAnswer, LeavesTheCallersTokensAlone)
     EXPECT_EQ(SerialProtoAnswer(std::move(handedOver)).serialParameters(), QStringList({"B"}));
 }
 
-TEST(SerialProtoAnswer, RefusesNoTokens)
+TEST(SerialProtoAnswer, refusesNoTokens)
 {
     expectRefusal("DE00076", "Empty answer received", tokensFunction,
                   [] { SerialProtoAnswer{QStringList()}; });
 }
 
-TEST(SerialProtoAnswer, RefusesALengthThatIsNoNumber)
+TEST(SerialProtoAnswer, refusesALengthThatIsNoNumber)
 {
     for (const char *length : {"ZZ", "", " ", "-1", "G", "1G", "1 1", "100000000", "FFFFFFFFFFFFFFFF"}) {
         SCOPED_TRACE(length);
@@ -81,7 +81,7 @@ TEST(SerialProtoAnswer, RefusesALengthThatIsNoNumber)
     }
 }
 
-TEST(SerialProtoAnswer, RefusesFewerTokensThanTheLength)
+TEST(SerialProtoAnswer, refusesFewerTokensThanTheLength)
 {
     const QStringList rows[] = {{"1"},
                                 {"2", "A"},
@@ -95,7 +95,7 @@ TEST(SerialProtoAnswer, RefusesFewerTokensThanTheLength)
     }
 }
 
-TEST(SerialProtoAnswer, KeepsNothingOfListsAndValues)
+TEST(SerialProtoAnswer, keepsNothingOfListsAndValues)
 {
     List list = {1, 2};
     EXPECT_EQ(SerialProtoAnswer(list).serialParameters(), QStringList());
@@ -105,7 +105,7 @@ TEST(SerialProtoAnswer, KeepsNothingOfListsAndValues)
                   [] { SerialProtoAnswer{Value()}; });
 }
 
-TEST(SerialProtoAnswer, OfAnotherAnswerKeepsTheTypeOnly)
+TEST(SerialProtoAnswer, keepsTheTypeOnlyOfAnotherAnswer)
 {
     const SerialProtoAnswer tokens(QStringList{"1", "A"});
     const SerialProtoAnswer ofRoot(static_cast<const ProtoAnswer &>(tokens));
@@ -114,7 +114,7 @@ TEST(SerialProtoAnswer, OfAnotherAnswerKeepsTheTypeOnly)
     EXPECT_EQ(SerialProtoAnswer(ProtoAnswer(3)).protoType(), 3);
 }
 
-TEST(SerialProtoAnswer, CopiesKeepTheTokens)
+TEST(SerialProtoAnswer, keepsItsTokensInCopies)
 {
     SerialProtoAnswer answer(QStringList{"1", "A"});
     const SerialProtoAnswer copy(answer);
@@ -128,12 +128,12 @@ TEST(SerialProtoAnswer, CopiesKeepTheTokens)
     EXPECT_EQ(serial->serialParameters(), QStringList({"A"}));
 }
 
-TEST(SerialProtoAnswer, TokensDoNotTravel)
+TEST(SerialProtoAnswer, sendsNoTokens)
 {
     EXPECT_EQ(dumped(SerialProtoAnswer(QStringList{"1", "A"}).toXmlRpcValue()), "0");
 }
 
-TEST(SerialProtoAnswer, ComparesTypesOnly)
+TEST(SerialProtoAnswer, comparesTypesOnly)
 {
     const SerialProtoAnswer one(QStringList{"1", "A"});
     const SerialProtoAnswer other(QStringList{"1", "B"});

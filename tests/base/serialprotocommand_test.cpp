@@ -10,7 +10,7 @@
 
 using namespace testing_base;
 
-TEST(SerialProtoCommand, IsMadeInFourForms)
+TEST(SerialProtoCommand, isMadeInFourForms)
 {
     const CountedMachine machine;
     const SerialProtoCommand empty;
@@ -31,12 +31,15 @@ TEST(SerialProtoCommand, IsMadeInFourForms)
     EXPECT_EQ(ofList.parameters(), (List{1, 2}));
     EXPECT_EQ(ofList.protoType(), 1);
     EXPECT_NE(ofList.machine(), nullptr);
-    for (const SerialProtoCommand *command : {&empty, &named, &ofValue, &ofList})
+    int form = 0;
+    for (const SerialProtoCommand *command : {&empty, &named, &ofValue, &ofList}) {
+        SCOPED_TRACE(++form);
         EXPECT_EQ(command->moduleID(), 0);
+    }
     EXPECT_EQ(CountedMachine::alive, 4);
 }
 
-TEST(SerialProtoCommand, ConstructorsCheckTheNumberOfArguments)
+TEST(SerialProtoCommand, checksTheNumberOfArguments)
 {
     expectRefusal("DE00312", "STIRRING command : expected at least 2 parameters, received 1 instead!",
                   "ProtoCommand::ProtoCommand(int, QString, const XmlRpc::XmlRpcValue&, const FW_Machine*)",
@@ -46,7 +49,7 @@ TEST(SerialProtoCommand, ConstructorsCheckTheNumberOfArguments)
                   [] { SerialProtoCommand("STIRRING", List{1}, nullptr); });
 }
 
-TEST(SerialProtoCommand, HasAModuleThatCopiesKeep)
+TEST(SerialProtoCommand, hasAModuleThatCopiesKeep)
 {
     SerialProtoCommand command("RESET", nullptr);
     EXPECT_TRUE(command.setModuleID(17));
@@ -59,25 +62,25 @@ TEST(SerialProtoCommand, HasAModuleThatCopiesKeep)
     EXPECT_EQ(copy->protoType(), 1);
 }
 
-TEST(SerialProtoCommand, SendsNoIntegersOfItsOwn)
+TEST(SerialProtoCommand, sendsNoIntegersOfItsOwn)
 {
     const SerialProtoCommand command("STIRRING", List{1, 2}, nullptr);
     EXPECT_EQ(command.serialParameters(1), QList<int>());
     EXPECT_EQ(command.serialParameters(2), QList<int>());
 }
 
-TEST(SerialProtoCommand, EstimatesNothing)
+TEST(SerialProtoCommand, estimatesNothing)
 {
     EXPECT_EQ(SerialProtoCommand("RESET", nullptr).getCmdEstimatedExecutionTime(nullptr), 0);
 }
 
-TEST(SerialProtoCommand, KeepsTheAnswerContract)
+TEST(SerialProtoCommand, keepsTheAnswerContract)
 {
     SerialProtoCommand command("RESET", nullptr);
     expectAnswerContract(command, serialAnswers());
 }
 
-TEST(SerialProtoCommand, TakesTokens)
+TEST(SerialProtoCommand, takesTokens)
 {
     SerialProtoCommand command("RESET", nullptr);
     FW_DriverError error;
@@ -91,7 +94,7 @@ TEST(SerialProtoCommand, TakesTokens)
     EXPECT_EQ(command.getXmlRpcAnswer(), nullptr);
 }
 
-TEST(SerialProtoCommand, LeavesTheCallersTokensAlone)
+TEST(SerialProtoCommand, leavesTheCallersTokensAlone)
 {
     const QStringList tokens = {"1", "A"};
     SerialProtoCommand command("RESET", nullptr);
@@ -99,7 +102,7 @@ TEST(SerialProtoCommand, LeavesTheCallersTokensAlone)
     EXPECT_EQ(tokens, (QStringList{"1", "A"}));
 }
 
-TEST(SerialProtoCommand, AnswerClassFollowsTheName)
+TEST(SerialProtoCommand, choosesTheAnswerClassByTheName)
 {
     const AnswerRow rows[] = {
         {"GET_ERRORS", "GetErrorsAnswer"},

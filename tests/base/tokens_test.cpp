@@ -12,7 +12,7 @@ constexpr quv::Refusal refusal = {"DE7", "Bad token"};
 
 } // namespace
 
-TEST(Tokens, HexadecimalNumbers)
+TEST(Tokens, areHexadecimalNumbers)
 {
     const struct
     {
@@ -46,7 +46,7 @@ TEST(Tokens, HexadecimalNumbers)
     }
 }
 
-TEST(Tokens, AnythingElseIsNoNumber)
+TEST(Tokens, areNoNumbersOtherwise)
 {
     const QString tokens[] = {"",
                               " ",
@@ -77,7 +77,7 @@ TEST(Tokens, AnythingElseIsNoNumber)
     }
 }
 
-TEST(TokenReader, GivesNumberAfterNumber)
+TEST(TokenReader, givesNumberAfterNumber)
 {
     const QStringList tokens = {"skipped", "1", "A", "FFFFFFFF"};
     quv::TokenReader reader(tokens, 1, signature);
@@ -92,10 +92,11 @@ TEST(TokenReader, GivesNumberAfterNumber)
     EXPECT_TRUE(reader.atEnd());
 }
 
-TEST(TokenReader, AtTheEndThereIsNothing)
+TEST(TokenReader, findsNothingAtTheEnd)
 {
     const QStringList tokens = {"1"};
     for (const int first : {1, 2, 100}) {
+        SCOPED_TRACE(first);
         quv::TokenReader reader(tokens, first, signature);
         EXPECT_EQ(reader.remaining(), 0);
         EXPECT_TRUE(reader.atEnd());
@@ -108,7 +109,7 @@ TEST(TokenReader, AtTheEndThereIsNothing)
     }
 }
 
-TEST(TokenReader, StepsOverBadTokens)
+TEST(TokenReader, stepsOverBadTokens)
 {
     const QStringList tokens = {"ZZ", "5", "ZZ", "6"};
     quv::TokenReader reader(tokens, 0, signature);
@@ -120,9 +121,10 @@ TEST(TokenReader, StepsOverBadTokens)
     EXPECT_EQ(reader.next(refusal), 6);
 }
 
-TEST(TokenReader, RefusesBadTokens)
+TEST(TokenReader, refusesBadTokens)
 {
     for (const char *bad : {"ZZ", "", "-1", "80000000", "FFFFFFFF"}) {
+        SCOPED_TRACE(bad);
         const QStringList tokens = {bad};
         quv::TokenReader reader(tokens, 0, signature);
         expectRefusal("DE7", "Bad token", signature, [&] { reader.next(refusal); });
@@ -131,7 +133,7 @@ TEST(TokenReader, RefusesBadTokens)
     EXPECT_EQ(quv::TokenReader(greatest, 0, signature).next(refusal), 2147483647);
 }
 
-TEST(TokenReader, JoinsDigitsLowDigitFirst)
+TEST(TokenReader, joinsDigitsLowDigitFirst)
 {
     const QStringList tokens = {"36", "1", "0", "0", "1", "5"};
     quv::TokenReader reader(tokens, 0, signature);
@@ -143,7 +145,7 @@ TEST(TokenReader, JoinsDigitsLowDigitFirst)
     EXPECT_TRUE(reader.atEnd());
 }
 
-TEST(TokenReader, RefusesDigitsThatAreMissingOrBad)
+TEST(TokenReader, refusesDigitsThatAreMissingOrBad)
 {
     const QStringList tokens = {"1", "ZZ", "3"};
     quv::TokenReader tooFew(tokens, 0, signature);
@@ -156,7 +158,7 @@ TEST(TokenReader, RefusesDigitsThatAreMissingOrBad)
     expectRefusal("DE7", "Bad token", signature, [&] { great.nextNumber(9, refusal); });
 }
 
-TEST(TokenReader, RequiresWhatMustFollow)
+TEST(TokenReader, requiresWhatMustFollow)
 {
     const QStringList tokens = {"1", "2"};
     const quv::TokenReader reader(tokens, 0, signature);

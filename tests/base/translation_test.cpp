@@ -50,7 +50,7 @@ Texts collectTexts(QString &complaints)
 
 } // namespace
 
-TEST(Translation, ToolFindsAllTextsInOneContext)
+TEST(Translation, findsAllTextsInOneContext)
 {
     QString complaints;
     const Texts texts = collectTexts(complaints);
@@ -98,7 +98,7 @@ TEST(Translation, ToolFindsAllTextsInOneContext)
         EXPECT_TRUE(found.contains(text)) << text;
 }
 
-TEST(Translation, LogTextsAreNotForTranslators)
+TEST(Translation, leavesTheTextsOfLogsOut)
 {
     QString complaints;
     const QSet<QString> found = collectTexts(complaints)["QuvProtocol"];

@@ -50,7 +50,7 @@ public:
 
 } // namespace
 
-TEST(TString, StartsEmpty)
+TEST(TString, startsEmpty)
 {
     const TString text;
     EXPECT_TRUE(text.m_text.isEmpty());
@@ -58,7 +58,7 @@ TEST(TString, StartsEmpty)
     EXPECT_STREQ(text.m_context, "");
 }
 
-TEST(TString, WithoutATranslationSaysTheSourceText)
+TEST(TString, saysTheSourceTextWithoutATranslation)
 {
     const TString literal("In progress", "QuvProtocol");
     expectTexts(literal, "In progress", "In progress");
@@ -68,7 +68,7 @@ TEST(TString, WithoutATranslationSaysTheSourceText)
     EXPECT_STREQ(string.m_context, "QuvProtocol");
 }
 
-TEST(TString, FillsTheNextPlaceInBothTexts)
+TEST(TString, fillsTheNextPlaceInBothTexts)
 {
     TString text("Circuit %1: %2", "QuvProtocol");
     TString &same = text.arg("4", false);
@@ -80,20 +80,20 @@ TEST(TString, FillsTheNextPlaceInBothTexts)
                 "b before a");
 }
 
-TEST_F(TStringInItalian, ShowsSourceAndTranslationSideBySide)
+TEST_F(TStringInItalian, showsSourceAndTranslationSideBySide)
 {
     expectTexts(TString("In progress", "QuvProtocol"), "In progress", "In corso");
     expectTexts(TString(QStringLiteral("In progress"), "QuvProtocol"), "In progress", "In corso");
 }
 
-TEST_F(TStringInItalian, TextsGoThroughUtf8)
+TEST_F(TStringInItalian, passesTextsThroughUtf8)
 {
     expectTexts(TString("Nozzle at 20 °C", "QuvProtocol"), "Nozzle at 20 °C", "Ugello a 20 °C, città");
     expectTexts(TString(QString::fromUtf8("Nozzle at 20 °C"), "QuvProtocol"), "Nozzle at 20 °C",
                 "Ugello a 20 °C, città");
 }
 
-TEST_F(TStringInItalian, LooksUpInItsContext)
+TEST_F(TStringInItalian, looksUpInItsContext)
 {
     expectTexts(TString("open", "QuvProtocol"), "open", "aperto");
     expectTexts(TString("open", "Elsewhere"), "open", "spalancato");
@@ -102,7 +102,7 @@ TEST_F(TStringInItalian, LooksUpInItsContext)
     expectTexts(TString("no such text", "QuvProtocol"), "no such text", "no such text");
 }
 
-TEST_F(TStringInItalian, TranslatesAValueWhenAsked)
+TEST_F(TStringInItalian, translatesAValueWhenAsked)
 {
     expectTexts(TString("Circuit %1: %2", "QuvProtocol").arg("4", false).arg("open", true), "Circuit 4: open",
                 "aperto nel circuito 4");
@@ -113,7 +113,7 @@ TEST_F(TStringInItalian, TranslatesAValueWhenAsked)
                 "Porta In progress");
 }
 
-TEST_F(TStringInItalian, CommandsSayWhatGoesOn)
+TEST_F(TStringInItalian, saysWhatGoesOn)
 {
     const TString own = ProtoCommand(QStringLiteral("GET_ERRORS")).actionString(false);
     expectTexts(own, "Searching for hardware errors", "Ricerca di errori hardware");
@@ -126,7 +126,7 @@ TEST_F(TStringInItalian, CommandsSayWhatGoesOn)
     EXPECT_EQ(ProtoCommand(QStringLiteral("GET_ERRORS")).commandString(), "Errors read");
 }
 
-TEST_F(TStringInItalian, StatusIsToldInItalian)
+TEST_F(TStringInItalian, tellsAStatus)
 {
     StatusWords status;
     status.emergency_pressed = true;

@@ -67,7 +67,7 @@ int returnCodeOf(const Value &value)
 
 } // namespace
 
-TEST(XmlRpcAnswer, NamesItsMembers)
+TEST(XmlRpcAnswer, namesItsMembers)
 {
     EXPECT_STREQ(XmlRpcAnswer::retCode_TAG, "ret_code");
     EXPECT_STREQ(XmlRpcAnswer::infoMsg_TAG, "info");
@@ -76,7 +76,7 @@ TEST(XmlRpcAnswer, NamesItsMembers)
     EXPECT_STREQ(XmlRpcAnswer::executionTime_TAG, "exec_time");
 }
 
-TEST(XmlRpcAnswer, StartsCleared)
+TEST(XmlRpcAnswer, startsCleared)
 {
     const XmlRpcAnswer answer;
     EXPECT_EQ(dumped(answer.xmlrpcRetValue()), "0");
@@ -88,7 +88,7 @@ TEST(XmlRpcAnswer, StartsCleared)
               R"({"errors": [], "exec_time": 0, "info": "", "ret_code": -1, "ret_value": 0})");
 }
 
-TEST(XmlRpcAnswer, ClearingGivesTheFirstState)
+TEST(XmlRpcAnswer, goesBackToItsFirstStateWhenCleared)
 {
     XmlRpcAnswer answer(4, arrayOf(1), someErrors(), "TINT", 70);
     answer.clear();
@@ -99,7 +99,7 @@ TEST(XmlRpcAnswer, ClearingGivesTheFirstState)
     EXPECT_EQ(answer.executionTime(), 0);
 }
 
-TEST(XmlRpcAnswer, IsMadeOfCodeMessageAndValue)
+TEST(XmlRpcAnswer, isMadeOfCodeMessageAndValue)
 {
     const XmlRpcAnswer answer(3, "as told", Value("V"));
     EXPECT_EQ(answer.retCode(), 3);
@@ -110,7 +110,7 @@ TEST(XmlRpcAnswer, IsMadeOfCodeMessageAndValue)
     EXPECT_EQ(XmlRpcAnswer(0, "", Value(1)).infoMsg(), "");
 }
 
-TEST(XmlRpcAnswer, IsMadeOfCodeValueCommandAndTime)
+TEST(XmlRpcAnswer, isMadeOfCodeValueCommandAndTime)
 {
     const XmlRpcAnswer good(0, Value(5), "TINT", 70);
     EXPECT_EQ(good.retCode(), 0);
@@ -121,7 +121,7 @@ TEST(XmlRpcAnswer, IsMadeOfCodeValueCommandAndTime)
     EXPECT_EQ(XmlRpcAnswer(7, Value(5), "TINT", 70).infoMsg(), "TINT : Command has been interrupted!");
 }
 
-TEST(XmlRpcAnswer, IsMadeWithErrors)
+TEST(XmlRpcAnswer, isMadeWithErrors)
 {
     const XmlRpcAnswer answer(4, Value(5), someErrors(), "TINT", 5000000000LL);
     EXPECT_EQ(answer.retCode(), 4);
@@ -133,7 +133,7 @@ TEST(XmlRpcAnswer, IsMadeWithErrors)
     EXPECT_EQ(textAt(answer.errors(), 2), "second");
 }
 
-TEST(XmlRpcAnswer, IsMadeOfErrorsAlone)
+TEST(XmlRpcAnswer, isMadeOfErrorsAlone)
 {
     const XmlRpcAnswer one(6, driverError("DE00001", "only"), "RESET");
     EXPECT_EQ(one.retCode(), 6);
@@ -152,7 +152,7 @@ TEST(XmlRpcAnswer, IsMadeOfErrorsAlone)
     EXPECT_EQ(list.executionTime(), 0);
 }
 
-TEST(XmlRpcAnswer, IsMadeWithOrWithoutAValue)
+TEST(XmlRpcAnswer, isMadeWithOrWithoutAValue)
 {
     const Value value("V");
     const XmlRpcAnswer with(0, "as told", &value, "TINT");
@@ -169,7 +169,7 @@ TEST(XmlRpcAnswer, IsMadeWithOrWithoutAValue)
         R"("ret_code": 1, "ret_value": 0})");
 }
 
-TEST(XmlRpcAnswer, SetsOneFieldEach)
+TEST(XmlRpcAnswer, setsOneFieldEach)
 {
     XmlRpcAnswer answer;
     answer.setXmlrpcRetValue(arrayOf(1, 2));
@@ -186,7 +186,7 @@ TEST(XmlRpcAnswer, SetsOneFieldEach)
     EXPECT_TRUE(answer.errors().isEmpty());
 }
 
-TEST(XmlRpcAnswer, AppendsErrorsInOrder)
+TEST(XmlRpcAnswer, appendsErrorsInOrder)
 {
     XmlRpcAnswer answer;
     answer.appendDriverError(driverError("DE00009", "zeroth"));
@@ -203,7 +203,7 @@ TEST(XmlRpcAnswer, AppendsErrorsInOrder)
     EXPECT_EQ(answer.errors().size(), 10);
 }
 
-TEST(XmlRpcAnswer, MessageFollowsFromCommandAndCode)
+TEST(XmlRpcAnswer, takesItsMessageFromCommandAndCode)
 {
     const struct
     {
@@ -223,13 +223,14 @@ TEST(XmlRpcAnswer, MessageFollowsFromCommandAndCode)
     XmlRpcAnswer answer;
     answer.setRetCode(8);
     for (const auto &row : rows) {
+        SCOPED_TRACE(row.text);
         answer.setInfoMsgFromCommand(row.command, row.retCode);
         EXPECT_EQ(answer.infoMsg(), row.text);
     }
     EXPECT_EQ(answer.retCode(), 8) << "the code that is told is not stored";
 }
 
-TEST(XmlRpcAnswer, WritesTheEnvelope)
+TEST(XmlRpcAnswer, writesTheEnvelope)
 {
     XmlRpcAnswer answer(4, structOf({{"a", true}}), "TINT", 70);
     answer.appendDriverError(driverError("DE00001", "only"));
@@ -240,7 +241,7 @@ TEST(XmlRpcAnswer, WritesTheEnvelope)
               R"("ret_code": 4, "ret_value": {"a": true}})");
 }
 
-TEST(XmlRpcAnswer, WritesZeroForAnEmptyValue)
+TEST(XmlRpcAnswer, writesZeroForAnEmptyValue)
 {
     XmlRpcAnswer answer(0, Value(), "TINT", 0);
     EXPECT_EQ(dumped(answer.toXmlRpcValue()["ret_value"]), "0");
@@ -248,14 +249,14 @@ TEST(XmlRpcAnswer, WritesZeroForAnEmptyValue)
     EXPECT_EQ(dumped(answer.toXmlRpcValue()["ret_value"]), "0");
 }
 
-TEST(XmlRpcAnswer, WritesTheMessageInLatin1)
+TEST(XmlRpcAnswer, writesTheMessageInLatin1)
 {
     const XmlRpcAnswer answer(0, QString::fromUtf8("Größe"), Value(1));
     EXPECT_EQ(dumped(answer.toXmlRpcValue()["info"]), "\"Gr\xF6\xDF"
                                                       "e\"");
 }
 
-TEST(XmlRpcAnswer, ReadsTheMessageInLatin1AndInUtf8)
+TEST(XmlRpcAnswer, readsTheMessageInLatin1AndInUtf8)
 {
     const QString text = QString::fromUtf8("Größe");
     EXPECT_EQ(XmlRpcAnswer(envelope("info", Value("Gr\xF6\xDF"
@@ -269,7 +270,7 @@ TEST(XmlRpcAnswer, ReadsTheMessageInLatin1AndInUtf8)
     EXPECT_EQ(XmlRpcAnswer(XmlRpcAnswer(0, text, Value(1)).toXmlRpcValue()).infoMsg(), text);
 }
 
-TEST(XmlRpcAnswer, CutsTheTimeTo32Bits)
+TEST(XmlRpcAnswer, cutsTheTimeTo32Bits)
 {
     const struct
     {
@@ -282,6 +283,7 @@ TEST(XmlRpcAnswer, CutsTheTimeTo32Bits)
         {-1LL, "-1"},
     };
     for (const auto &row : rows) {
+        SCOPED_TRACE(row.held);
         const XmlRpcAnswer answer(0, Value(1), "TINT", row.held);
         EXPECT_EQ(answer.executionTime(), row.held);
         EXPECT_EQ(dumped(answer.toXmlRpcValue()["exec_time"]), row.written);
@@ -290,7 +292,7 @@ TEST(XmlRpcAnswer, CutsTheTimeTo32Bits)
     EXPECT_EQ(XmlRpcAnswer(answer.toXmlRpcValue()).executionTime(), 5);
 }
 
-TEST(XmlRpcAnswer, ReadsTheEnvelope)
+TEST(XmlRpcAnswer, readsTheEnvelope)
 {
     const Value value = envelope("errors", arrayOf(driverError("DE00001", "first").toXmlRpcValue(),
                                                    FW_ConfError(1, 2, 3, false).toXmlRpcValue(),
@@ -308,7 +310,7 @@ TEST(XmlRpcAnswer, ReadsTheEnvelope)
     EXPECT_EQ(dumped(answer.toXmlRpcValue()), dumped(value));
 }
 
-TEST(XmlRpcAnswer, ReadingChangesNothing)
+TEST(XmlRpcAnswer, changesNothingWhenRead)
 {
     const Value value = envelope("exec_time");
     const std::string before = dumped(value);
@@ -318,14 +320,14 @@ TEST(XmlRpcAnswer, ReadingChangesNothing)
     EXPECT_EQ(dumped(value), before);
 }
 
-TEST(XmlRpcAnswer, ReadsAnyReturnValue)
+TEST(XmlRpcAnswer, readsAnyReturnValue)
 {
     EXPECT_EQ(dumped(XmlRpcAnswer(envelope("ret_value", structOf({{"a", arrayOf(1, 2)}}))).xmlrpcRetValue()),
               R"({"a": [1, 2]})");
     EXPECT_EQ(dumped(XmlRpcAnswer(envelope("ret_value", Value(false))).xmlrpcRetValue()), "false");
 }
 
-TEST(XmlRpcAnswer, RefusesWhatIsNoEnvelope)
+TEST(XmlRpcAnswer, refusesWhatIsNoEnvelope)
 {
     const char *noStruct = "XmlRpcAnswer: expected struct type for xmlrpc type";
     expectRefused("DE00355", noStruct, Value());
@@ -348,7 +350,7 @@ TEST(XmlRpcAnswer, RefusesWhatIsNoEnvelope)
     expectRefused("DE00523", badTime, envelope("exec_time", Value(true)));
 }
 
-TEST(XmlRpcAnswer, RefusesInTheOrderOfReading)
+TEST(XmlRpcAnswer, refusesInTheOrderOfReading)
 {
     // each envelope lacks all from one member on, and one before it is told
     expectRefused("DE00356", "XmlRpcAnswer: expected ret_value value", structOf({{"exec_time", "bad"}}));
@@ -360,7 +362,7 @@ TEST(XmlRpcAnswer, RefusesInTheOrderOfReading)
                   structOf({{"ret_value", 0}, {"ret_code", 0}, {"info", ""}, {"exec_time", "bad"}}));
 }
 
-TEST(XmlRpcAnswer, PassesOnWhatAnErrorIsRefusedFor)
+TEST(XmlRpcAnswer, passesOnWhatAnErrorIsRefusedFor)
 {
     const Value good = driverError("DE00001", "first").toXmlRpcValue();
     Value noText = structOf({{"error_type", 1}, {"timestamp", "2024-03-05T06:07:08.009Z"}, {"code", "DE1"}});
@@ -370,7 +372,7 @@ TEST(XmlRpcAnswer, PassesOnWhatAnErrorIsRefusedFor)
     EXPECT_THROW(XmlRpcAnswer{envelope("errors", arrayOf(5))}, FW_Exception);
 }
 
-TEST(XmlRpcAnswer, SaysSoWhenAnErrorCannotBeMade)
+TEST(XmlRpcAnswer, saysSoWhenAnErrorCannotBeMade)
 {
     // the first thing that is allocated is the error: all else is small
     const Value value = structOf({{"ret_code", 4},
@@ -383,7 +385,7 @@ TEST(XmlRpcAnswer, SaysSoWhenAnErrorCannotBeMade)
                   [&] { outOfMemoryOnce([&] { return XmlRpcAnswer(value).retCode(); }); });
 }
 
-TEST(XmlRpcAnswer, CopiesAreIndependent)
+TEST(XmlRpcAnswer, makesIndependentCopies)
 {
     XmlRpcAnswer answer(4, arrayOf(1), someErrors(), "TINT", 70);
     const XmlRpcAnswer copy(answer);
@@ -395,7 +397,7 @@ TEST(XmlRpcAnswer, CopiesAreIndependent)
     EXPECT_EQ(copy.infoMsg(), "TINT : Failed! Command not executed due to errors on firmware.");
 }
 
-TEST(XmlRpcAnswer, KnowsAnEnvelopeByItsFourMembers)
+TEST(XmlRpcAnswer, knowsAnEnvelopeByItsFourMembers)
 {
     EXPECT_TRUE(XmlRpcAnswer::isValidAnswer(envelope()));
     EXPECT_TRUE(XmlRpcAnswer::isValidAnswer(envelope("exec_time")));
@@ -407,7 +409,7 @@ TEST(XmlRpcAnswer, KnowsAnEnvelopeByItsFourMembers)
     EXPECT_FALSE(XmlRpcAnswer::isValidAnswer(arrayOf("ret_code", "info", "ret_value", "errors")));
 }
 
-TEST(XmlRpcAnswer, PrintsTheCodeAndThenALineAnError)
+TEST(XmlRpcAnswer, printsTheCodeAndThenALineAnError)
 {
     EXPECT_EQ(XmlRpcAnswer(0, Value(1), "TINT", 0).toPrintableString(), QStringList({"Success!"}));
     EXPECT_EQ(XmlRpcAnswer().toPrintableString(), QStringList({"Failed! Generic error."}));
@@ -417,14 +419,14 @@ TEST(XmlRpcAnswer, PrintsTheCodeAndThenALineAnError)
                      "Hardware error: code 5, module 2, value 3, flag 1", "DE00002: second"}));
 }
 
-TEST(XmlRpcAnswer, PrintsTheDriversErrorsAlone)
+TEST(XmlRpcAnswer, printsTheDriversErrorsAlone)
 {
     EXPECT_EQ(XmlRpcAnswer(4, someErrors(), "TINT").getDriverErrorsStrings(),
               (QStringList{"DE00001: first", "DE00002: second"}));
     EXPECT_EQ(XmlRpcAnswer().getDriverErrorsStrings(), QStringList());
 }
 
-TEST(ErrorAnswer, TellsOneErrorOfTheDriver)
+TEST(ErrorAnswer, tellsOneErrorOfTheDriver)
 {
     const Value ofText = ErrorAnswer::getDriverErrorReturn(1, "DE00001", "only", "TINT");
     EXPECT_EQ(dumped(ofText["ret_code"]), "1");
@@ -444,7 +446,7 @@ TEST(ErrorAnswer, TellsOneErrorOfTheDriver)
               R"("ret_code": 2, "ret_value": 0})");
 }
 
-TEST(ErrorAnswer, TellsAListOfErrors)
+TEST(ErrorAnswer, tellsAListOfErrors)
 {
     const Value list = ErrorAnswer::getErrorReturn(4, someErrors(), "TINT");
     EXPECT_EQ(returnCodeOf(list), 4);
@@ -460,7 +462,7 @@ TEST(ErrorAnswer, TellsAListOfErrors)
     EXPECT_EQ(both["errors"].size(), 3);
 }
 
-TEST(SuccessAnswer, TellsAValue)
+TEST(SuccessAnswer, tellsAValue)
 {
     EXPECT_EQ(dumped(SuccessAnswer::getSuccessAnswer(Value("V"), "TINT", 4294967301LL)),
               R"({"errors": [], "exec_time": 5, "info": "TINT command executed successfully!", )"
@@ -470,7 +472,7 @@ TEST(SuccessAnswer, TellsAValue)
               R"("ret_code": 0, "ret_value": [1]})");
 }
 
-TEST(SuccessAnswer, TellsAMessage)
+TEST(SuccessAnswer, tellsAMessage)
 {
     Value value("V");
     EXPECT_EQ(dumped(SuccessAnswer::getSuccessAnswer("as told", &value, "TINT")),

@@ -211,8 +211,10 @@ TEST(ProtoCommandList, saysNothingOfAnUnknownName)
         EXPECT_FALSE(Cmd::existsCommand(name));
         EXPECT_EQ(Cmd::cmdParamNum(name, true), -1);
         EXPECT_EQ(Cmd::cmdParamNum(name, false), -1);
-        for (int family : {0, 1, 2, 3})
+        for (int family : {0, 1, 2, 3}) {
+            SCOPED_TRACE(family);
             EXPECT_TRUE(Cmd::cmdCode(name, family).isNull());
+        }
         EXPECT_FALSE(Cmd::targetIsDispenser(name));
         EXPECT_FALSE(Cmd::targetIsMixer(name));
         EXPECT_FALSE(Cmd::targetIsMachine(name));

@@ -70,10 +70,12 @@ TEST(ConfData, namesTheStructures)
                "@HEA @NOZ @MOT @LTD @USS @PRO @ZDR @MIX @LCK @PLC");
     ASSERT_EQ(names.size(), 26);
     for (int code = 1; code <= 26; ++code) {
+        SCOPED_TRACE(code);
         EXPECT_EQ(ConfData::confCommandToString(code), names.at(code - 1));
         EXPECT_TRUE(ConfData::checkCommandCode(code));
     }
     for (const int code : {0, 27, -1, greatest, std::numeric_limits<int>::min()}) {
+        SCOPED_TRACE(code);
         EXPECT_EQ(ConfData::confCommandToString(code), QString());
         EXPECT_FALSE(ConfData::checkCommandCode(code));
         EXPECT_FALSE(ConfData::isMultipleInstance(code));
@@ -90,8 +92,10 @@ TEST(ConfData, knowsWhichDeviceHasAStructure)
         EXPECT_EQ(ConfData::isCommandCodeSupported(code, static_cast<SerialDeviceType>(1)),
                   !onNoDevice.contains(code));
         EXPECT_EQ(ConfData::isCommandCodeSupported(code, static_cast<SerialDeviceType>(4)), code <= 2);
-        for (const int other : {0, 2, 3, 5, -1})
+        for (const int other : {0, 2, 3, 5, -1}) {
+            SCOPED_TRACE(other);
             EXPECT_FALSE(ConfData::isCommandCodeSupported(code, static_cast<SerialDeviceType>(other)));
+        }
     }
 }
 
@@ -104,10 +108,14 @@ TEST(ConfData, knowsWhichStructuresExistOnceForEachId)
 
 TEST(ConfData, knowsTheValuesOfEnabled)
 {
-    for (const int good : {0, 1, 2})
+    for (const int good : {0, 1, 2}) {
+        SCOPED_TRACE(good);
         EXPECT_TRUE(ConfData::checkCommandEnable(good));
-    for (const int bad : {-1, 3, greatest, std::numeric_limits<int>::min()})
+    }
+    for (const int bad : {-1, 3, greatest, std::numeric_limits<int>::min()}) {
+        SCOPED_TRACE(bad);
         EXPECT_FALSE(ConfData::checkCommandEnable(bad));
+    }
 }
 
 // ---------------------------------------------------------------- fields on the link
@@ -238,8 +246,10 @@ TEST(ConfData, stepsBehindAParameter)
 TEST(ConfData, beginsCleared)
 {
     const FW_Mixer machine;
+    int form = 0;
     for (const Row &row :
          {Row(), Row(7), Row(7, &machine), Row(7, static_cast<const FW_Machine *>(nullptr))}) {
+        SCOPED_TRACE(++form);
         EXPECT_EQ(row.commandEnable(), -1);
         EXPECT_EQ(row.enabledFieldLength(), 0);
         EXPECT_EQ(row.parameters(), QList<int>());
@@ -309,12 +319,16 @@ TEST(ConfData, readsEnabledOfTokens)
 
 TEST(ConfData, refusesTokensWithoutEnabled)
 {
-    for (const char *few : {"", "01", "zz"})
+    for (const char *few : {"", "01", "zz"}) {
+        SCOPED_TRACE(few);
         expectRefusal("DE00085", "Command enabled field not found in answer", ofTokens,
                       [&] { Row(7, tokens(few)); });
-    for (const char *bad : {"00 01", "02 01", "zz 01", "01 zz"})
+    }
+    for (const char *bad : {"00 01", "02 01", "zz 01", "01 zz"}) {
+        SCOPED_TRACE(bad);
         expectRefusal("DE00086", "Invalid Command enabled field in answer", ofTokens,
                       [&] { Row(7, tokens(bad)); });
+    }
 }
 
 TEST(ConfData, readsAText)
@@ -329,12 +343,16 @@ TEST(ConfData, readsAText)
 
 TEST(ConfData, refusesATextThatIsNotOfNumbers)
 {
-    for (const char *bad : {"", ",", "x", "x,1", "0x1", "1.0", "2147483648"})
+    for (const char *bad : {"", ",", "x", "x,1", "0x1", "1.0", "2147483648"}) {
+        SCOPED_TRACE(bad);
         expectRefusal("DE00151", "Invalid Command enabled type field in answer", ofText,
                       [&] { Row(7, QString::fromLatin1(bad)); });
-    for (const char *bad : {"1,", "1,,2", "1,2,", "1,x", "1,2,0x3", "1,1.5", "1,2147483648"})
+    }
+    for (const char *bad : {"1,", "1,,2", "1,2,", "1,x", "1,2,0x3", "1,1.5", "1,2147483648"}) {
+        SCOPED_TRACE(bad);
         expectRefusal("DE00152", "Invalid configuration parameter field in answer", ofText,
                       [&] { Row(7, QString::fromLatin1(bad)); });
+    }
 }
 
 TEST(ConfData, takesANameForANumberInItsStructureOnly)

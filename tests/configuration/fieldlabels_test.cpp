@@ -5,7 +5,7 @@
 
 namespace {
 
-TEST(FieldLabels, StandInTheOrderOfTheRow)
+TEST(FieldLabels, standInTheOrderOfTheRow)
 {
     EXPECT_EQ(ConfData::fieldLabels(2), QStringList{"Structure name"});
     EXPECT_EQ(ConfData::fieldLabels(7), (QStringList{"Sensor Reading Period", "Multiplier Coefficient",
@@ -17,13 +17,15 @@ TEST(FieldLabels, StandInTheOrderOfTheRow)
     EXPECT_EQ(machine.value(0), "Working Mode");
     EXPECT_EQ(machine.value(15), "Reserve Sensor Type & Policy");
     const QStringList circuit = ConfData::fieldLabels(5);
-    for (int position = 24; position <= 29; ++position)
+    for (int position = 24; position <= 29; ++position) {
+        SCOPED_TRACE(position);
         EXPECT_EQ(circuit.value(position - 1), "Layout Position ID");
+    }
     EXPECT_EQ(circuit.value(51), "Smart Speed Reduction Enable");
     EXPECT_EQ(ConfData::fieldLabels(16).value(9), "Brush 2 Position");
 }
 
-TEST(FieldLabels, AreAsManyAsTheStructureHas)
+TEST(FieldLabels, areAsManyAsTheStructureHas)
 {
     // by code; 12, 23 and 24 have no class
     const int counts[] = {0, 1,  17, 10, 52, 10, 3,  8,  12, 5, 2, 0, 2,
@@ -32,7 +34,7 @@ TEST(FieldLabels, AreAsManyAsTheStructureHas)
         EXPECT_EQ(ConfData::fieldLabels(code).size(), counts[code - 1]) << code;
 }
 
-TEST(FieldLabels, AreNotKnownOfOtherStructures)
+TEST(FieldLabels, areNotKnownOfOtherStructures)
 {
     for (const int code : {-1, 0, 12, 23, 24, 27, 1000})
         EXPECT_TRUE(ConfData::fieldLabels(code).isEmpty()) << code;

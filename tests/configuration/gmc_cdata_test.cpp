@@ -216,8 +216,10 @@ TEST(GMC_cdata, changesNothingUnlessItIsEnabled)
     FW_Dispenser target;
     QList<int> extra;
     for (const char *row :
-         {"0,2,3,4,5,6,7,80,9,21,0,45,120,3,0,13,18,14", "2,2,3,4,5,6,7,80,9,21,0,45,120,3,0,13,18,14"})
+         {"0,2,3,4,5,6,7,80,9,21,0,45,120,3,0,13,18,14", "2,2,3,4,5,6,7,80,9,21,0,45,120,3,0,13,18,14"}) {
+        SCOPED_TRACE(row);
         EXPECT_TRUE(GMC_cdata(QString::fromLatin1(row)).updateConfiguration(&target, nullptr, &extra));
+    }
     EXPECT_TRUE(target == FW_Dispenser());
     EXPECT_EQ(extra, QList<int>());
     EXPECT_TRUE(GMC_cdata(QStringLiteral("2,2,3,4,5,6,7,80")).updateConfiguration(nullptr, nullptr, nullptr));

@@ -99,9 +99,11 @@ TEST(MOT_cdata, refusesNoReferenceBeforeTheMachine)
     const FW_Mixer mixer;
     for (const FW_Machine *any :
          {static_cast<const FW_Machine *>(&machine), static_cast<const FW_Machine *>(&mixer),
-          static_cast<const FW_Machine *>(nullptr)})
+          static_cast<const FW_Machine *>(nullptr)}) {
+        SCOPED_TRACE(any ? "with a machine" : "without a machine");
         expectRefusal("DE01943", "Invalid single transmission configuration reference",
                       "MOT_cdata::MOT_cdata(int, const FW_Machine*)", [&] { MOT_cdata(-1, any); });
+    }
 }
 
 TEST(MOT_cdata, isWrittenFromTheTransmission)

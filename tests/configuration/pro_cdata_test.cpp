@@ -66,9 +66,11 @@ TEST(PRO_cdata, refusesNoReferenceBeforeTheMachine)
     const FW_Mixer mixer;
     for (const FW_Machine *any :
          {static_cast<const FW_Machine *>(&machine), static_cast<const FW_Machine *>(&mixer),
-          static_cast<const FW_Machine *>(nullptr)})
+          static_cast<const FW_Machine *>(nullptr)}) {
+        SCOPED_TRACE(any ? "with a machine" : "without a machine");
         expectRefusal("DE02298", "Invalid flow correction configuration reference",
                       "PRO_cdata::PRO_cdata(int, const FW_Machine*)", [&] { PRO_cdata(-1, any); });
+    }
 }
 
 TEST(PRO_cdata, isWrittenFromTheFlowCorrection)

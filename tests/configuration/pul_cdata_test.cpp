@@ -239,8 +239,11 @@ TEST(PUL_cdata, changesTheCleaningMotorsThatAreThere)
     expected.setBrushType(3);
     expected.setMotorId(4);
     ASSERT_EQ(target.cleaningMotors().size(), 3);
-    for (const FW_CleaningMotor *changed : target.cleaningMotors())
+    int form = 0;
+    for (const FW_CleaningMotor *changed : target.cleaningMotors()) {
+        SCOPED_TRACE(++form);
         EXPECT_TRUE(*changed == expected);
+    }
     EXPECT_EQ(target.getCircuitById(2)->firstCleaningMotor(), nullptr);
 }
 

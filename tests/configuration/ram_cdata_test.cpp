@@ -71,6 +71,7 @@ TEST(RAM_cdata, keepsTheReferenceThatNoMotorHas)
 {
     const FW_Dispenser machine = machineWith(configured(true));
     for (const int reference : {9, 0, -1}) {
+        SCOPED_TRACE(reference);
         const RAM_cdata row(reference, &machine);
         EXPECT_EQ(row.commandEnable(), 0);
         EXPECT_EQ(row.reference(), reference);

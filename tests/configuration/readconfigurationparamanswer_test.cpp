@@ -102,6 +102,7 @@ TEST(ReadConfigurationParamAnswer, holdsNoRowByDefault)
     const ReadConfigurationParamAnswer fromStruct(structOf({{"cmd_value", Value(25)}}));
     for (const ReadConfigurationParamAnswer *answer :
          {&fromStruct, static_cast<const ReadConfigurationParamAnswer *>(nullptr)}) {
+        SCOPED_TRACE(answer ? "of a struct" : "none");
         ReadConfigurationParamAnswer copy = answer ? *answer : ReadConfigurationParamAnswer();
         EXPECT_FALSE(copy.confData());
         EXPECT_EQ(copy.configurationDataStr(), QString());

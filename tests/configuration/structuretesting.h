@@ -99,6 +99,7 @@ void expectFieldsOfTokens(const Structure &structure)
     const int size = structure.size();
     const std::string function = structure.constructor("QStringList, int");
     for (int i = 0; i < size; ++i) {
+        SCOPED_TRACE(i);
         const Field &field = structure.fields[static_cast<std::size_t>(i)];
         expectRefusal(field.code, notFound(field.label).c_str(), function.c_str(),
                       [&] { Row(numberedTokens(i), size + 1); });

@@ -83,9 +83,11 @@ TEST(WriteConfigurationParamCmd, keepsTheCommandContract)
 TEST(WriteConfigurationParamCmd, holdsNoRowByDefault)
 {
     FW_Dispenser machine;
+    int form = 0;
     for (WriteConfigurationParamCmd command :
          {WriteConfigurationParamCmd(), WriteConfigurationParamCmd(List{25, QStringLiteral("1,6")}),
           WriteConfigurationParamCmd(structOf({}))}) {
+        SCOPED_TRACE(++form);
         EXPECT_FALSE(command.confData());
         EXPECT_FALSE(command.updateConfiguration(&machine));
     }
@@ -121,12 +123,16 @@ TEST(WriteConfigurationParamCmd, takesTheRowOfAReference)
 TEST(WriteConfigurationParamCmd, refusesARowThatNoMachineHas)
 {
     const FW_Dispenser machine = lockedMachine();
-    for (const int unknown : {0, 27, -1})
+    for (const int unknown : {0, 27, -1}) {
+        SCOPED_TRACE(unknown);
         expectRefusal("DE00172", "Unknown command code", ofMachine,
                       [&] { WriteConfigurationParamCmd(unknown, &machine, 1); });
-    for (const int withoutClass : {12, 23, 24})
+    }
+    for (const int withoutClass : {12, 23, 24}) {
+        SCOPED_TRACE(withoutClass);
         expectRefusal("DE00582", "Write configuration row parameters: unknown command", ofMachine,
                       [&] { WriteConfigurationParamCmd(withoutClass, &machine, 1); });
+    }
     expectRefusal("DE02435", "Invalid Dispenser data", "LCK_cdata::LCK_cdata(const FW_Machine*)",
                   [] { WriteConfigurationParamCmd(25, nullptr, 1); });
     expectRefusal("DE01943", "Invalid single transmission configuration reference",
@@ -178,9 +184,11 @@ TEST(WriteConfigurationParamCmd, countsTheNameAsOneField)
 
 TEST(WriteConfigurationParamCmd, refusesWhatIsNoRow)
 {
-    for (const Value &other : {Value(5), Value("1,6"), arrayOf(), arrayOf(25, "1,6")})
+    for (const Value &other : {Value(5), Value("1,6"), arrayOf(), arrayOf(25, "1,6")}) {
+        SCOPED_TRACE(dumped(other));
         expectRefusal("DE00171", "Error decoding xmp-rpc type", ofValue,
                       [&] { const WriteConfigurationParamCmd command(other); });
+    }
     expectRefusal("DE00169", "Invalid configuration parameters. Expected Int type for attribute 'cmd_value'",
                   ofValue, [] { WriteConfigurationParamCmd{rowOf(Value("25"), Value("1,6"))}; });
     expectRefusal("DE00170",

@@ -32,6 +32,7 @@ TEST(AirpurgeCmd, keepsTheCommandContract)
                      {{72, 5}, true},   {{1, 99}, false},  {FW_Version(), false}};
     const FW_Dispenser machine = dispenser();
     for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine}) {
+        SCOPED_TRACE(given ? "with a machine" : "without a machine");
         CommandFacts facts = circuitListFacts<AirpurgeCmd>(kind, given);
         facts.countedName = "PACK2"; // the pack that it is counts
         facts.afterDefaults = facts.requests.front();

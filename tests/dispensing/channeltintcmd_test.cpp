@@ -155,9 +155,12 @@ TEST(ChannelTintCmd, refusesAChannelThatTheMachineDoesNotHave)
     FW_Dispenser dualOneByOne = dualHead();
     dualOneByOne.setTintingParallelism(1);
     const Formula formula = someFormula();
-    for (int channel : {-1, 0, 1, 2, 3})
+    for (int channel : {-1, 0, 1, 2, 3}) {
+        SCOPED_TRACE(channel);
         expectRefused("DE01429", noDispenser, channel, formula, nullptr);
+    }
     for (int channel : {-1, 0, 3}) {
+        SCOPED_TRACE(channel);
         expectRefused("DE01432", badChannel, channel, formula, &dual);
         expectRefused("DE01432", badChannel, channel, formula, &parallel);
         expectRefused("DE01432", badChannel, channel, formula, &single);

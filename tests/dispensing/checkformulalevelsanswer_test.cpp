@@ -67,11 +67,15 @@ TEST(CheckFormulaLevelsAnswer, refusesAStructWithoutTheLists)
 {
     for (const Value &value : {Value(), Value(0), arrayOf(arrayOf(1), arrayOf(2)), structOf({}),
                                structOf({{"canisters_below_warning", arrayOf()}}),
-                               structWith(Value(7), arrayOf()), structWith(structOf({}), Value(7))})
+                               structWith(Value(7), arrayOf()), structWith(structOf({}), Value(7))}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE00460", noCritical, ofValue, [&] { const Answer answer(value); });
+    }
     for (const Value &value :
-         {structOf({{"canisters_below_critical", arrayOf(1)}}), structWith(arrayOf(1), Value("1"))})
+         {structOf({{"canisters_below_critical", arrayOf(1)}}), structWith(arrayOf(1), Value("1"))}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE00462", noWarning, ofValue, [&] { const Answer answer(value); });
+    }
 }
 
 TEST(CheckFormulaLevelsAnswer, refusesAnElementThatIsNoInteger)

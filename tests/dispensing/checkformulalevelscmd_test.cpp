@@ -166,13 +166,17 @@ TEST(CheckFormulaLevelsCmd, readsAFormulaWithAFlag)
 TEST(CheckFormulaLevelsCmd, takesARequestWithoutAFlagForAPurge)
 {
     for (const Value &request :
-         {arrayOf(purgeStruct()), arrayOf(purgeStruct(), 1), arrayOf(purgeStruct(), "rest", true)})
+         {arrayOf(purgeStruct()), arrayOf(purgeStruct(), 1), arrayOf(purgeStruct(), "rest", true)}) {
+        SCOPED_TRACE(dumped(request));
         EXPECT_EQ(CheckFormulaLevelsCmd(request, nullptr).parameters(), List{variantOf(purge())});
+    }
 
     for (const Value &request : {arrayOf(formulaStruct()), arrayOf(formulaStruct(), 1),
-                                 arrayOf(formulaStruct(), "true"), arrayOf(formulaStruct(), 0.0)})
+                                 arrayOf(formulaStruct(), "true"), arrayOf(formulaStruct(), 0.0)}) {
+        SCOPED_TRACE(dumped(request));
         expectRefusal("DE00438", noFormula, ofValue,
                       [&] { const CheckFormulaLevelsCmd command(request, nullptr); });
+    }
 }
 
 TEST(CheckFormulaLevelsCmd, checksNoPurge)
@@ -200,9 +204,11 @@ TEST(CheckFormulaLevelsCmd, refusesWhatIsNoFormula)
 {
     for (const Value &request :
          {arrayOf(unreadableFormula(), true), arrayOf(purgeStruct(), true), arrayOf(7, true), arrayOf(7),
-          arrayOf(structOf({{"purge_quantity", Value(-1.0)}}))})
+          arrayOf(structOf({{"purge_quantity", Value(-1.0)}}))}) {
+        SCOPED_TRACE(dumped(request));
         expectRefusal("DE00438", noFormula, ofValue,
                       [&] { const CheckFormulaLevelsCmd command(request, nullptr); });
+    }
 }
 
 TEST(CheckFormulaLevelsCmd, doesNotMistakeAMachineForAFlag)
@@ -254,6 +260,7 @@ TEST(CheckFormulaLevelsCmd, givesAnEmptyFormulaForWhatIsNone)
 TEST(CheckFormulaLevelsCmd, givesADefaultPurgeForWhatIsNone)
 {
     for (const QVariant &first : {QVariant(7), QVariant(), QVariant(QVariantMap{{"purge_quantity", -1.0}})}) {
+        SCOPED_TRACE(shown({first}));
         PurgeFormula held = purge();
         EXPECT_TRUE(CheckFormulaLevelsCmd(List{first}).getPurgeFormula(held));
         EXPECT_EQ(held, PurgeFormula());

@@ -30,6 +30,7 @@ TYPED_TEST_SUITE(CircuitListCommand, Commands);
 TYPED_TEST(CircuitListCommand, checksNothingWithoutADispenser)
 {
     for (const PCircuitFormula &formula : {PCircuitFormula(1, {}), oneCircuit(99), oneCircuit(1, 0)}) {
+        SCOPED_TRACE(dumped(formula.toXmlRpcValue()));
         EXPECT_EQ(TypeParam(formula, nullptr).formula().targetCircuits, formula.targetCircuits);
         EXPECT_EQ(TypeParam(arrayOf(formula.toXmlRpcValue()), nullptr).formula().targetCircuits,
                   formula.targetCircuits);

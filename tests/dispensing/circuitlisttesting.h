@@ -164,8 +164,10 @@ template <class Command>
 void expectCircuitListContract(const CircuitListKind &kind)
 {
     const FW_Dispenser machine = dispenser();
-    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine})
+    for (const FW_Dispenser *given : {static_cast<const FW_Dispenser *>(nullptr), &machine}) {
+        SCOPED_TRACE(given ? "with a machine" : "without a machine");
         expectCommandContract(circuitListFacts<Command>(kind, given));
+    }
 }
 
 /** Expects the refusal of all three constructors. */

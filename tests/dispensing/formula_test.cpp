@@ -66,6 +66,7 @@ TEST(SharedFormula, knowsAFormulaInAVariant)
     EXPECT_FALSE(quv::holds<PurgeFormula>(formula));
     for (const QVariant &other :
          {QVariant(), QVariant(1), QVariant("1"), QVariant(List{formula}), QVariant(QVariantMap())}) {
+        SCOPED_TRACE(shown({other}));
         EXPECT_FALSE(quv::holds<Formula>(other));
         EXPECT_FALSE(quv::holds<PurgeFormula>(other));
     }

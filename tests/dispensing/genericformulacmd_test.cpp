@@ -112,6 +112,7 @@ TEST(GenericFormulaCmd, writesNothingOfWhatIsNoFormula)
 {
     for (const List &list : {List{7}, List{QVariant()}, List{unreadableFormulaVariant()},
                              List{variantOf(purge())}, List{QStringLiteral("formula")}}) {
+        SCOPED_TRACE(shown(list));
         const GenericFormulaCmd command(names[0], list);
         EXPECT_EQ(command.parameters(), list);
         bool ok = true;
@@ -124,6 +125,7 @@ TEST(GenericFormulaCmd, needsADispenserToReadARequest)
 {
     const FW_Mixer mixer;
     for (const char *name : names) {
+        SCOPED_TRACE(name);
         expectRefusal("DE00334", "Invalid dispenser data", ofValue,
                       [&] { const GenericFormulaCmd command(name, arrayOf(formulaStruct()), nullptr); });
         expectRefusal("DE00334", "Invalid dispenser data", ofValue,

@@ -59,6 +59,7 @@ TEST(GetDispensedFormulaAnswer, readsWhatWasPouredAndTheWhole)
 TEST(GetDispensedFormulaAnswer, readsAnAnswerWithoutCircuits)
 {
     for (const QStringList &parameters : {QStringList{"1", "0"}, QStringList{"1", "0", "x", "7"}}) {
+        SCOPED_TRACE(parameters.join(' ').toStdString());
         const Answer answer(answerWith(parameters));
         EXPECT_EQ(answer.dispensedFormula(), inSteps(1, {}));
         EXPECT_EQ(answer.totalFormula(), inSteps(1, {}));
@@ -132,6 +133,7 @@ TEST(GetDispensedFormulaAnswer, refusesTokensThatAreNoNumbers)
     for (int i = 0; i < 14; ++i) {
         SCOPED_TRACE(i);
         for (const char *bad : {"x", "", "FFFFFFFFF"}) {
+            SCOPED_TRACE(bad);
             QStringList parameters = twoCircuits;
             parameters[i] = bad;
             const bool isDigit = i == 5 || i == 7 || i == 11 || i == 12;
@@ -165,9 +167,11 @@ TEST(GetDispensedFormulaAnswer, refusesWhatNoFormulaHolds)
     const QStringList head = {"2", "1", "1", "0"};
     EXPECT_EQ(Answer(answerWith(head + great + great)).totalFormula(),
               inSteps(2, {{"1", 8864834538723840.0, 0}}));
-    for (const QStringList &numbers : {tooGreat + none, none + tooGreat})
+    for (const QStringList &numbers : {tooGreat + none, none + tooGreat}) {
+        SCOPED_TRACE(numbers.join(' ').toStdString());
         expectRefusal("DE01709", "GetDispensedFormulaAnswer failed: error in Formula construction", ofTokens,
                       [&] { const Answer answer(answerWith(head + numbers)); });
+    }
 
     const QStringList endless = {"9", "F5", "F5", "F5", "F5", "F5", "F5", "F5", "F5", "F5"};
     expectRefusal("DE01706", badAnswer, ofTokens,
@@ -196,9 +200,11 @@ TEST(GetDispensedFormulaAnswer, holdsThreeFormulas)
     const Formula remaining = grams({{"1", 2}});
     const Formula total = grams({{"1", 3}});
     List list = {variantOf(dispensed), variantOf(remaining), variantOf(total)};
+    int form = 0;
     for (const Answer &answer :
          {Answer(dispensed, remaining, total), Answer(list),
           Answer(structWith(dispensed.toXmlRpcValue(), remaining.toXmlRpcValue(), total.toXmlRpcValue()))}) {
+        SCOPED_TRACE(++form);
         EXPECT_EQ(answer.dispensedFormula(), dispensed);
         EXPECT_EQ(answer.remainingFormula(), remaining);
         EXPECT_EQ(answer.totalFormula(), total);
@@ -226,9 +232,11 @@ TEST(GetDispensedFormulaAnswer, refusesAStructWithoutTheFormulas)
 {
     const Value good = formulaStruct();
     for (const Value &value : {Value(), Value(0), arrayOf(good, good, good), structOf({}), good,
-                               structOf({{"remaining_formula", Value(7)}, {"total_formula", good}})})
+                               structOf({{"remaining_formula", Value(7)}, {"total_formula", good}})}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE01711", "GetDispensedFormulaAnswer failed: expected Dispensed Formula parameter",
                       ofValue, [&] { const Answer answer(value); });
+    }
     expectRefusal(
         "DE01713", "GetDispensedFormulaAnswer failed: expected Remaining Formula parameter", ofValue, [&] {
             const Answer answer(structOf({{"dispensed_formula", good}, {"total_formula", Value(7)}}));
@@ -259,10 +267,13 @@ TEST(GetDispensedFormulaAnswer, refusesAListOfOtherThings)
     const auto expectListRefusal = [](const char *code, const char *text, List list) {
         expectRefusal(code, text, ofList, [&] { const Answer answer(list); });
     };
-    for (const List &list : {List(), List{good}, List{good, good}, List{good, good, good, good}})
+    for (const List &list : {List(), List{good}, List{good, good}, List{good, good, good, good}}) {
+        SCOPED_TRACE(shown(list));
         expectListRefusal("DE01719",
                           "GetDispensedFormulaAnswer decoding failed: invalid QVariant values length", list);
+    }
     for (const QVariant &bad : {QVariant(), QVariant(7), unreadableFormulaVariant(), variantOf(purge())}) {
+        SCOPED_TRACE(shown({bad}));
         expectListRefusal("DE01716",
                           "GetDispensedFormulaAnswer decoding failed: invalid QVariant value (expected "
                           "Dispensed Formula type)",
@@ -294,8 +305,10 @@ TEST(GetDispensedFormulaAnswer, comparesAllFormulas)
     const Answer same = answer;
     EXPECT_EQ(answer, same);
     EXPECT_TRUE(answer.equalTo(&same));
+    int form = 0;
     for (const Answer &different : {Answer(other, formula(), formula()), Answer(formula(), other, formula()),
                                     Answer(formula(), formula(), other)}) {
+        SCOPED_TRACE(++form);
         EXPECT_NE(answer, different);
         EXPECT_FALSE(answer.equalTo(&different));
     }

@@ -15,7 +15,9 @@ using Base = GetDispensedFormulaCmdBase;
 
 TEST(GetDispensedFormulaCmdBase, asksByPositionInTheMachinesUnit)
 {
+    int form = 0;
     for (const Base &base : {Base(), Base(arrayOf()), Base(List())}) {
+        SCOPED_TRACE(++form);
         EXPECT_EQ(base.formulaType(), 1);
         EXPECT_EQ(base.quantityUnit(), 0);
         EXPECT_EQ(base.parameters(), (List{1, 0}));
@@ -26,7 +28,10 @@ TEST(GetDispensedFormulaCmdBase, asksByPositionInTheMachinesUnit)
 TEST(GetDispensedFormulaCmdBase, takesATypeAndAUnit)
 {
     for (int type : {1, 2, 3, 4}) {
+        SCOPED_TRACE(type);
         for (int unit : {0, 1, 2, 3}) {
+            SCOPED_TRACE(unit);
+            SCOPED_TRACE(unit);
             for (const Base &base : {Base(type, unit), Base(arrayOf(type, unit)), Base(List{type, unit}),
                                      Base(arrayOf(type, unit, "rest")), Base(List{type, unit, "rest"})}) {
                 EXPECT_EQ(base.formulaType(), type);

@@ -72,17 +72,23 @@ TEST(GetFormulaCircuitsAnswer, refusesAStructWithoutTheLists)
     const Value good = arrayOf(1);
     for (const Value &value :
          {Value(), Value(0), good, structOf({}), structOf({{"positions", good}, {"quantities", good}}),
-          structWith(Value(7), Value(7), Value(7)), structWith(structOf({}), good, good)})
+          structWith(Value(7), Value(7), Value(7)), structWith(structOf({}), good, good)}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE00717", "GetFormulaCircuitsAnswer: Errors during Circuits ID list creation", ofValue,
                       [&] { const Answer answer(value); });
+    }
     for (const Value &value :
-         {structOf({{"circuits", good}, {"quantities", good}}), structWith(good, Value("1"), Value(7))})
+         {structOf({{"circuits", good}, {"quantities", good}}), structWith(good, Value("1"), Value(7))}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE00719", "GetFormulaCircuitsAnswer: Errors during Positions ID list creation",
                       ofValue, [&] { const Answer answer(value); });
+    }
     for (const Value &value :
-         {structOf({{"circuits", good}, {"positions", good}}), structWith(good, good, Value(2.5))})
+         {structOf({{"circuits", good}, {"positions", good}}), structWith(good, good, Value(2.5))}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE01234", "GetFormulaCircuitsAnswer: Errors during quantities list creation", ofValue,
                       [&] { const Answer answer(value); });
+    }
 }
 
 TEST(GetFormulaCircuitsAnswer, refusesAnElementOfAnotherType)

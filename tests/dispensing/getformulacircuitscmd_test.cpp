@@ -115,22 +115,28 @@ TEST(GetFormulaCircuitsCmd, checksNeitherSignNorMachine)
 TEST(GetFormulaCircuitsCmd, refusesWhatIsNeitherForm)
 {
     for (const Value &request :
-         {Value(), Value(7), Value("formula"), arrayOf(), structOf({}), formulaStruct()})
+         {Value(), Value(7), Value("formula"), arrayOf(), structOf({}), formulaStruct()}) {
+        SCOPED_TRACE(dumped(request));
         expectRefusal("DE01254", neitherForm, ofValue,
                       [&] { const GetFormulaCircuitsCmd command(request, nullptr); });
+    }
 }
 
 TEST(GetFormulaCircuitsCmd, refusesWhatCannotBeRead)
 {
     for (const Value &request : {arrayOf(unreadableFormula()), arrayOf(unreadableFormula(), true),
-                                 arrayOf(structOf({{"formula_type", Value("1")}}))})
+                                 arrayOf(structOf({{"formula_type", Value("1")}}))}) {
+        SCOPED_TRACE(dumped(request));
         expectRefusal("DE00235", noFormula, ofValue,
                       [&] { const GetFormulaCircuitsCmd command(request, nullptr); });
+    }
     const Value badPurge = structOf({{"purge_quantity", Value(0.0)}});
     for (const Value &request :
-         {badPurge, arrayOf(badPurge), arrayOf(7), arrayOf(structOf({})), arrayOf(true, formulaStruct())})
+         {badPurge, arrayOf(badPurge), arrayOf(7), arrayOf(structOf({})), arrayOf(true, formulaStruct())}) {
+        SCOPED_TRACE(dumped(request));
         expectRefusal("DE01253", noPurge, ofValue,
                       [&] { const GetFormulaCircuitsCmd command(request, nullptr); });
+    }
 }
 
 TEST(GetFormulaCircuitsCmd, writesNothingOfAListThatIsNeitherForm)
@@ -138,6 +144,7 @@ TEST(GetFormulaCircuitsCmd, writesNothingOfAListThatIsNeitherForm)
     for (const List &list :
          {List{variantOf(formula())}, List{variantOf(purge()), true}, List{unreadableFormulaVariant(), true},
           List{7}, List{variantOf(formula()), true, 1}}) {
+        SCOPED_TRACE(shown(list));
         const GetFormulaCircuitsCmd command(list);
         EXPECT_EQ(command.parameters(), list);
         bool ok = true;

@@ -69,18 +69,22 @@ TEST(GetFormulaExecutionAnswer, refusesWhatIsNoProgress)
 {
     for (const Value &value : {Value(), Value(0), structOf({{"channels", arrayOf()}}), structOf({}),
                                structOf({{"frm_progress", Value(7)}}),
-                               structOf({{"frm_progress", structOf({{"channels", arrayOf(7)}})}})})
+                               structOf({{"frm_progress", structOf({{"channels", arrayOf(7)}})}})}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE02936",
                       "GetFormulaExecutionAnswer failed: expected FormulaProgress type for first parameter",
                       "GetFormulaExecutionAnswer::GetFormulaExecutionAnswer(const XmlRpc::XmlRpcValue&)",
                       [&] { const Answer answer(value); });
+    }
     for (List list : {List(), List{QVariant()}, List{7}, List{variantOf(formula())},
-                      List{QVariantMap{{"channels", 7}}}, List{7, QVariant::fromValue(progress())}})
+                      List{QVariantMap{{"channels", 7}}}, List{7, QVariant::fromValue(progress())}}) {
+        SCOPED_TRACE(shown(list));
         expectRefusal("DE02935",
                       "GetFormulaExecutionAnswer decoding failed: invalid QVariant value (expected "
                       "FormulaProgress type)",
                       "GetFormulaExecutionAnswer::GetFormulaExecutionAnswer(QList<QVariant>&)",
                       [&] { const Answer answer(list); });
+    }
 }
 
 TEST(GetFormulaExecutionAnswer, comparesProgress)

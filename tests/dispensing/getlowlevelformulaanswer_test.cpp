@@ -17,6 +17,7 @@ TEST(GetLowLevelFormulaAnswer, holdsAFormula)
     EXPECT_EQ(Answer().protoType(), 2);
     EXPECT_EQ(Answer(formula()).formula(), formula());
     for (List list : {List{variantOf(formula())}, List{formulaMap(), 7}}) {
+        SCOPED_TRACE(shown(list));
         EXPECT_EQ(Answer(list).formula(), formula());
         EXPECT_EQ(Answer(list).protoType(), 2);
     }
@@ -35,17 +36,21 @@ TEST(GetLowLevelFormulaAnswer, refusesWhatIsNoFormula)
 {
     for (const Value &value : {Value(), Value(0), formulaStruct(), arrayOf(formulaStruct()), structOf({}),
                                structOf({{"low_level_formula", Value(7)}}),
-                               structOf({{"low_level_formula", unreadableFormula()}})})
+                               structOf({{"low_level_formula", unreadableFormula()}})}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE00904", "GetLowLevelFormulaAnswer failed: expected Formula type for first parameter",
                       "GetLowLevelFormulaAnswer::GetLowLevelFormulaAnswer(const XmlRpc::XmlRpcValue&)",
                       [&] { const Answer answer(value); });
+    }
     for (List list : {List(), List{QVariant()}, List{7}, List{unreadableFormulaVariant()},
-                      List{variantOf(purge())}, List{7, variantOf(formula())}})
+                      List{variantOf(purge())}, List{7, variantOf(formula())}}) {
+        SCOPED_TRACE(shown(list));
         expectRefusal(
             "DE00902",
             "GetLowLevelFormulaAnswer decoding failed: invalid QVariant value (expected Formula type)",
             "GetLowLevelFormulaAnswer::GetLowLevelFormulaAnswer(QList<QVariant>&)",
             [&] { const Answer answer(list); });
+    }
 }
 
 TEST(GetLowLevelFormulaAnswer, comparesFormulas)

@@ -141,8 +141,10 @@ TEST(PackCmd, goesRoundInBothForms)
 {
     const Formula formula = steps({{"1", 1, 7}, {"3", 300, 0, 2}});
     const PackCmd command(1, formula, nullptr);
+    int form = 0;
     for (const PackCmd &same :
          {PackCmd(command.xmlrpc_parameters(), nullptr), PackCmd(command.parameters(), nullptr)}) {
+        SCOPED_TRACE(++form);
         EXPECT_EQ(same.pumpMovementType(), 1);
         EXPECT_EQ(same.formula(), formula);
     }
@@ -151,6 +153,7 @@ TEST(PackCmd, goesRoundInBothForms)
 TEST(PackCmd, checksNoFormulaWithoutADispenser)
 {
     for (const Formula &formula : {Formula(), grams({{"1", -1}}), grams({{"99", 0}})}) {
+        SCOPED_TRACE(dumped(formula.toXmlRpcValue()));
         EXPECT_EQ(PackCmd(0, formula, nullptr).formula(), formula);
         EXPECT_EQ(PackCmd(arrayOf(0, formula.toXmlRpcValue()), nullptr).formula(), formula);
         EXPECT_EQ(PackCmd(listOf(0, formula), nullptr).formula(), formula);
@@ -179,8 +182,10 @@ TEST(PackCmd, checksTheMovementAlwaysAndFirst)
 
 TEST(PackCmd, looksAtNeitherUnitNorStepsNorLevels)
 {
-    for (int unit : {0, 1, 2, 3})
+    for (int unit : {0, 1, 2, 3}) {
+        SCOPED_TRACE(unit);
         expectTaken(formulaOf(1, unit, {{"1", 1}, {"4", 0.5}}), dispenser());
+    }
     expectTaken(strokes({{"1", 3e9}}), dispenser());
     expectTaken(steps({{"1", 1}}), withoutCalibration(1));
     Formula tooMuch = grams({{"1", 600}});
@@ -231,6 +236,7 @@ TEST(PackCmd, sendsTheMovementInThePlaceOfSteps)
     const FW_Dispenser machine = dispenser();
     const Formula formula = grams({{"4", 300}, {"1", 10, 9}});
     for (int family : {1, 2}) {
+        SCOPED_TRACE(family);
         EXPECT_EQ(PackCmd(0, formula, &machine).serialParameters(family),
                   (QList<int>{3, 2, 4, 0, 40, 1, 0, 1, 0, 40, 1, 0}));
         EXPECT_EQ(PackCmd(1, formula, &machine).serialParameters(family),
@@ -248,6 +254,7 @@ TEST(PackCmd, takesTheTimeOfItsFormulaOnItsOwnMachine)
     for (const FW_Machine *asked :
          {static_cast<const FW_Machine *>(nullptr), static_cast<const FW_Machine *>(&machine),
           static_cast<const FW_Machine *>(&other)}) {
+        SCOPED_TRACE(asked ? asked->id() : -1);
         EXPECT_EQ(command.getCmdEstimatedExecutionTime(asked), 750 + 1500);
         EXPECT_EQ(PackCmd(0, strokes({{"1", 2}}), &machine).getCmdEstimatedExecutionTime(asked), 36000);
         EXPECT_EQ(PackCmd(0, grams({{"1", 10}}), nullptr).getCmdEstimatedExecutionTime(asked), 0);

@@ -77,6 +77,7 @@ TEST(PCircuit, needsEachOfThem)
         }
         expectRefusal("DE02317", badValues, ofValue, [&] { const PCircuit circuit(missing); });
         for (const Value &other : otherTypes) {
+            SCOPED_TRACE(dumped(other));
             Value value = whole();
             value[key] = other;
             expectRefusal("DE02317", badValues, ofValue, [&] { const PCircuit circuit(value); });
@@ -86,8 +87,10 @@ TEST(PCircuit, needsEachOfThem)
 
 TEST(PCircuit, isNothingButAStruct)
 {
-    for (const Value &value : {Value(), Value(4), Value("4"), arrayOf(4, 34, 50, 300), structOf({})})
+    for (const Value &value : {Value(), Value(4), Value("4"), arrayOf(4, 34, 50, 300), structOf({})}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE02317", badValues, ofValue, [&] { const PCircuit circuit(value); });
+    }
     static_assert(!std::is_constructible_v<PCircuit, int>);
     static_assert(!std::is_constructible_v<PCircuit, const char *>);
 }
@@ -99,6 +102,7 @@ TEST(PCircuit, differsInEachNumber)
     EXPECT_FALSE(circuit != PCircuit(4, 34, 50, 300));
     for (const PCircuit &other : {PCircuit(5, 34, 50, 300), PCircuit(4, 35, 50, 300),
                                   PCircuit(4, 34, 51, 300), PCircuit(4, 34, 50, 301)}) {
+        SCOPED_TRACE(dumped(other.toXmlRpcValue()));
         EXPECT_TRUE(circuit != other);
         EXPECT_FALSE(circuit == other);
     }

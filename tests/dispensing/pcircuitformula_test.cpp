@@ -73,8 +73,10 @@ TEST(PCircuitFormula, mayLeaveTheCircuitsOut)
 TEST(PCircuitFormula, isNothingButAStruct)
 {
     for (const Value &value :
-         {Value(), Value(2), Value("2"), arrayOf(2, arrayOf(circuitValue(1))), arrayOf()})
+         {Value(), Value(2), Value("2"), arrayOf(2, arrayOf(circuitValue(1))), arrayOf()}) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE02318", badValues, ofFormula, [&] { const PCircuitFormula formula(value); });
+    }
     static_assert(!std::is_constructible_v<PCircuitFormula, int>);
     static_assert(!std::is_constructible_v<PCircuitFormula, const char *>);
 }
@@ -86,6 +88,7 @@ TEST(PCircuitFormula, needsACriterion)
     expectRefusal("DE02319", badValues, ofFormula, [&] { const PCircuitFormula formula(none); });
     expectRefusal("DE02319", badValues, ofFormula, [&] { const PCircuitFormula formula(structOf({})); });
     for (const Value &other : {Value(true), Value(2.0), Value("2"), arrayOf(2)}) {
+        SCOPED_TRACE(dumped(other));
         Value value = twoCircuitsValue();
         value["exec_criterion"] = other;
         value["target_circuits"] = 7; // is looked at later
@@ -96,6 +99,7 @@ TEST(PCircuitFormula, needsACriterion)
 TEST(PCircuitFormula, needsAnArrayWhereThereAreCircuits)
 {
     for (const Value &other : {Value(7), Value("1"), Value(false), circuitValue(1)}) {
+        SCOPED_TRACE(dumped(other));
         Value value = twoCircuitsValue();
         value["target_circuits"] = other;
         expectRefusal("DE02317", badValues, ofFormula, [&] { const PCircuitFormula formula(value); });
@@ -108,6 +112,7 @@ TEST(PCircuitFormula, needsEveryCircuitWhole)
     for (const char *key : {"position_id", "queue_id", "strokes"})
         noSpeed[key] = 1;
     for (const Value &bad : {noSpeed, Value(1), arrayOf(1, 31, 50, 2)}) {
+        SCOPED_TRACE(dumped(bad));
         Value value = twoCircuitsValue();
         value["target_circuits"][1] = bad;
         expectRefusal("DE02317", badValues, ofCircuit, [&] { const PCircuitFormula formula(value); });

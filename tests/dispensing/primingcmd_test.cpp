@@ -131,6 +131,7 @@ TEST(PrimingCmd, checksNothingWithoutADispenser)
 {
     for (const Formula &formula :
          {Formula(), grams({{"1", 10}}), strokes({{"1", -1}}), strokes({{"99", 0}})}) {
+        SCOPED_TRACE(dumped(formula.toXmlRpcValue()));
         EXPECT_EQ(PrimingCmd(formula, nullptr).formula(), formula);
         EXPECT_EQ(PrimingCmd(arrayOf(formula.toXmlRpcValue()), nullptr).formula(), formula);
         EXPECT_EQ(PrimingCmd(listOf(formula), nullptr).formula(), formula);
@@ -165,8 +166,10 @@ TEST(PrimingCmd, needsPositiveQuantities)
 
 TEST(PrimingCmd, needsStrokes)
 {
-    for (int unit : {0, 1, 3})
+    for (int unit : {0, 1, 3}) {
+        SCOPED_TRACE(unit);
         expectRefused(formulaOf(1, unit, {{"1", 1}}), dispenser(), "DE00499", badUnit);
+    }
     // before the levels are looked at, and before the circuits are
     expectRefused(checkingLevels(grams({{"1", 600}})), dispenser(), "DE00499", badUnit);
     expectRefused(grams({{"99", 1}}), dispenser(), "DE00499", badUnit);
@@ -232,8 +235,10 @@ TEST(PrimingCmd, sendsStrokesWithoutQueues)
     const PrimingCmd command(strokes({{"1", 1}, {"3", 300}, {"2", 245}, {"4", 246}}), &machine);
     const QList<int> expected = {3, 4, 1, 0,  50, 1,   1, 3, 0,  50, 2, 54,
                                  1, 2, 0, 50, 1,  245, 4, 0, 50, 2,  0, 1};
-    for (int family : {1, 2})
+    for (int family : {1, 2}) {
+        SCOPED_TRACE(family);
         EXPECT_EQ(command.serialParameters(family), expected);
+    }
 }
 
 TEST(PrimingCmd, sendsNoQueueNorCriterionOfTheFormula)

@@ -178,6 +178,7 @@ TEST(PurgeFormulaCmd, refusesAPurgeThatCannotBeRead)
     for (const QVariantMap &bad :
          {QVariantMap{{"purge_quantity", "much"}}, QVariantMap{{"purge_quantity", 0.0}},
           QVariantMap{{"purge_quantity", 1.0}, {"head", 3}}}) {
+        SCOPED_TRACE(shown({bad}));
         expectRefusal("DE01237", invalidPurge, ofList, [&] { PurgeFormulaCmd(List{bad}, &machine); });
     }
 }
@@ -191,6 +192,7 @@ TEST(PurgeFormulaCmd, refusesWhatIsNeither)
         expectRefusal("DE01255", incorrectFormula, ofValue, [&] { PurgeFormulaCmd(request, &machine); });
     }
     for (const QVariant &other : {QVariant(), QVariant(1.0), QVariant("B"), QVariant(QVariantMap())}) {
+        SCOPED_TRACE(shown({other}));
         expectRefusal("DE01256", incorrectFormula, ofList, [&] { PurgeFormulaCmd(List{other}, &machine); });
     }
     expectRefusal("DE00313", "PURGE command : expected at least 1 parameters, received 0 instead!",
@@ -269,8 +271,10 @@ TEST(PurgeFormulaCmd, checksInOneOrder)
 TEST(PurgeFormulaCmd, acceptsAWarningLevelAndLooksAtLevelsOnlyWhenToldTo)
 {
     EXPECT_NO_THROW(purge(checkingLevels(grams({{"1", 30}})), withContent(1, 100)));
-    for (int policy : {0, 1, 4})
+    for (int policy : {0, 1, 4}) {
+        SCOPED_TRACE(policy);
         EXPECT_NO_THROW(purge(checkingLevels(grams({{"1", 600}}), policy), dispenser()));
+    }
 }
 
 TEST(PurgeFormulaCmd, doesNotLookAtNozzleValves)
@@ -378,8 +382,10 @@ TEST(PurgeFormulaCmd, takesTheTimeOfThePourOnItsOwnMachine)
 TEST(PurgeFormulaCmd, takesNoMoreTimeOnAnyMachine)
 {
     const Formula formula = grams({{"1", 80}});
-    for (const FW_Dispenser &machine : {ofModel("ZANDOR"), gravimetric(1), withAutocap()})
+    for (const FW_Dispenser &machine : {ofModel("ZANDOR"), gravimetric(1), withAutocap()}) {
+        SCOPED_TRACE(machine.modelName().toStdString());
         EXPECT_EQ(purge(formula, machine).getCmdEstimatedExecutionTime(&machine), 6000);
+    }
 }
 
 TEST(PurgeFormulaCmd, takesNoTimeThatCannotBeTold)

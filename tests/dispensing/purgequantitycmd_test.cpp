@@ -88,6 +88,7 @@ TEST(PurgeQuantityCmd, takesAPurgeThatIsTheWholeRequest)
     EXPECT_EQ(dumped(command.xmlrpc_parameters()),
               R"([{"head": 2, "only_filled": false, "purge_quantity": 2.50000, "quantity_unit": 1}])");
     for (const Value &bad : {Value("much"), Value(0)}) {
+        SCOPED_TRACE(dumped(bad));
         expectRefusal("DE01241", invalid, ofValue, [&] {
             const PurgeQuantityCmd none(structOf({{"purge_quantity", bad}}));
         });
@@ -107,6 +108,7 @@ TEST(PurgeQuantityCmd, refusesWhatIsNoPurge)
     }
     for (const List &bad :
          {List{QVariant()}, List{QStringLiteral("1")}, List{0.0}, List{1.0, 9}, List{1.0, true}}) {
+        SCOPED_TRACE(shown(bad));
         expectRefusal("DE01259", invalid, ofList, [&] { const PurgeQuantityCmd command(bad); });
     }
 }

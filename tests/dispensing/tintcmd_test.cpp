@@ -210,10 +210,14 @@ TEST(TintCmd, acceptsAWarningLevel)
 
 TEST(TintCmd, looksAtLevelsOnlyWhenToldTo)
 {
-    for (int policy : {0, 1, 4, 5, 8})
+    for (int policy : {0, 1, 4, 5, 8}) {
+        SCOPED_TRACE(policy);
         expectAccepted(checkingLevels(grams({{"1", 600}}), policy), dispenser());
-    for (int policy : {2, 3, 6, 7})
+    }
+    for (int policy : {2, 3, 6, 7}) {
+        SCOPED_TRACE(policy);
         expectRefused("DE00061", belowZero, checkingLevels(grams({{"1", 600}}), policy), dispenser());
+    }
 }
 
 TEST(TintCmd, refusesWhatTheDispenserDoesNotHave)
@@ -393,6 +397,7 @@ TEST(TintCmd, sendsLevelsInHundredsOfSteps)
 TEST(TintCmd, sendsTheFormulasCriterion)
 {
     for (int criterion : {2, 8, 16}) {
+        SCOPED_TRACE(criterion);
         const Formula formula = withCriterion(steps({{"1", 7}}), criterion);
         EXPECT_EQ(tint(formula, dispenser()).serialParameters(1),
                   (QList<int>{criterion, 1, 1, 31, 50, 1, 7}));

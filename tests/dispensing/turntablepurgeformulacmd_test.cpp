@@ -74,6 +74,7 @@ TEST(TurntablePurgeFormulaCmd, refusesAPositionThatIsNone)
     const FW_Dispenser machine = withTurntable();
     const QVariant formula = QVariant::fromValue(threeCircuits());
     for (const QVariant &bad : {QVariant(), QVariant("here"), QVariant(1e10), QVariant(List{3})}) {
+        SCOPED_TRACE(shown({bad}));
         expectRefusal("DE01727", noPosition, ofList, [&] {
             TurntablePurgeFormulaCmd(List{formula, bad}, &machine);
         });

@@ -92,6 +92,7 @@ TEST(TurntableTintCmd, refusesAPositionThatIsNone)
     const QVariant formula = QVariant::fromValue(threeCircuits());
     for (const QVariant &bad :
          {QVariant(), QVariant("here"), QVariant(1e10), QVariant(List{3}), QVariant(4294967296LL)}) {
+        SCOPED_TRACE(shown({bad}));
         expectRefusal("DE01697", noPosition, ofList, [&] { TurntableTintCmd(List{formula, bad}, nullptr); });
     }
     expectRefusal("DE01697", noPosition, ofList, [&] { TurntableTintCmd(List{formula}, nullptr); });
@@ -100,8 +101,10 @@ TEST(TurntableTintCmd, refusesAPositionThatIsNone)
 TEST(TurntableTintCmd, takesAPositionThatConverts)
 {
     const QVariant formula = QVariant::fromValue(threeCircuits());
-    for (const QVariant &position : {QVariant("3"), QVariant(2.7), QVariant(3LL)})
+    for (const QVariant &position : {QVariant("3"), QVariant(2.7), QVariant(3LL)}) {
+        SCOPED_TRACE(shown({position}));
         EXPECT_EQ(TurntableTintCmd(List{formula, position}, nullptr).currentPosition(), 3);
+    }
 }
 
 TEST(TurntableTintCmd, refusesWhatATintRefuses)

@@ -409,6 +409,7 @@ TEST(CommandFactory, handsTheMachineDownToTheGeneralTable)
     const Machines machines;
     const List arguments = argumentsFor(rowNamed("SET_SERIAL"), ListForm);
     for (Form form : forms) {
+        SCOPED_TRACE(form == ValueForm ? "XML-RPC form" : "list form");
         const CommandPtr dispenser =
             make(Dispatch::DispenserSerial, form, "SET_SERIAL", arguments, &machines.dispenser);
         EXPECT_TRUE(dynamic_cast<const FW_Dispenser *>(dispenser->machine()));
@@ -560,6 +561,7 @@ TEST(CommandFactory, makesADriversCommandWithoutArguments)
         "ProtoCommand::ProtoCommand(int, QString, QList<QVariant>, const FW_Machine*)",
         [&] { CommandPtr(Cmd::getConfigProtoCommand("GET_CMD_EST_EXEC_TIME", &machines.dispenser)); });
     for (const char *name : {"GET_DRIVER_SETTINGS", "GET_SW_VERSION", "NO_COMMAND", ""}) {
+        SCOPED_TRACE(name);
         expectRefusal(
             "DE03010", "Command has no target machine",
             "static ConfProtoCommand* ProtoCommandList::getConfigProtoCommand(QString, const FW_Machine*)",
@@ -766,6 +768,7 @@ TEST(CommandFactoryRefusals, tellANameOfNoKind)
          {static_cast<const FW_Machine *>(nullptr), static_cast<const FW_Machine *>(&machines.dispenser),
           static_cast<const FW_Machine *>(&machines.mixer)}) {
         for (const QString &name : unknownNames) {
+            SCOPED_TRACE(name.toStdString());
             expectRefusal("DE00337", "Command type not recognized",
                           "static ProtoCommand* ProtoCommandList::getProtoCommand("
                           "QString, XmlRpc::XmlRpcValue&, const FW_Machine*)",
@@ -864,6 +867,7 @@ TEST(CommandFactoryRefusals, passOnWhatAMachineThrowsAsAnException)
     const auto fail = [] { throw FW_Exception("DE09998", "No copies", "FW_Dispenser::clone() const"); };
     const UncopyableMachine<FW_Dispenser> dispenser(fail);
     for (Form form : forms) {
+        SCOPED_TRACE(form == ValueForm ? "XML-RPC form" : "list form");
         expectRefusal("DE09998", "No copies", "FW_Dispenser::clone() const",
                       [&] { make(Dispatch::DispenserSerial, form, "TINT", {1}, &dispenser); });
         expectRefusal("DE09998", "No copies", "FW_Dispenser::clone() const",
@@ -883,13 +887,16 @@ TEST(CommandFactoryRefusals, passOnWhatAConstructorThrows)
     expectRefusal("DE00312", tooFew, ofValue, [] { make(Dispatch::DispenserSerial, ValueForm, "TINT", {}); });
 
     for (Value scalar : {Value(1), Value("text"), Value(true), structOf({{"a", Value(1)}})}) {
+        SCOPED_TRACE(dumped(scalar));
         for (const char *name : {"TINT", "GET_STATUS", "WEIGHT"}) {
+            SCOPED_TRACE(name);
             expectRefusal("DE00311", "ProtoCommand: expected array for xmlrpc type", ofValue, [&] {
                 CommandPtr(Cmd::getProtoCommand(QString::fromLatin1(name), scalar, nullptr));
             });
         }
     }
     for (const char *name : {"TINT", "GET_STATUS", "WEIGHT"}) {
+        SCOPED_TRACE(name);
         Value empty;
         expectRefusal("DE00571", "ProtoCommand decoding failed: invalid xml-rpc type", ofValue,
                       [&] { CommandPtr(Cmd::getProtoCommand(QString::fromLatin1(name), empty, nullptr)); });
@@ -961,6 +968,7 @@ TEST(EveryCommand, canBeMadeWrittenAndReadBack)
             for (int i = 0; i < sent.size(); ++i)
                 EXPECT_EQ(written.value(i), sent.at(i)) << i;
             for (Form back : forms) {
+                SCOPED_TRACE(back == ValueForm ? "back in XML-RPC form" : "back in list form");
                 if (!readsForm(row, back))
                     continue;
                 const CommandPtr again =

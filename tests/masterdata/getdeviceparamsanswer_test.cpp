@@ -21,7 +21,7 @@ XmlRpc::XmlRpcValue pumpParams()
     return value;
 }
 
-TEST(GetDeviceParamsAnswer, WritesWhatItWasMadeOf)
+TEST(GetDeviceParamsAnswer, writesWhatItWasMadeOf)
 {
     const GetDeviceParamsAnswer answer(pumpParams());
     const XmlRpc::XmlRpcValue written = answer.toXmlRpcValue();
@@ -31,7 +31,7 @@ TEST(GetDeviceParamsAnswer, WritesWhatItWasMadeOf)
     EXPECT_EQ(answer.protoType(), 2);
 }
 
-TEST(GetDeviceParamsAnswer, WritesAListAsAnArray)
+TEST(GetDeviceParamsAnswer, writesAListAsAnArray)
 {
     QList<QVariant> list{7, QStringLiteral("valve")};
     const XmlRpc::XmlRpcValue written = GetDeviceParamsAnswer(list).toXmlRpcValue();
@@ -41,14 +41,14 @@ TEST(GetDeviceParamsAnswer, WritesAListAsAnArray)
     EXPECT_EQ(static_cast<const std::string &>(written[1]), "valve");
 }
 
-TEST(GetDeviceParamsAnswer, WritesZeroWhenThereIsNothing)
+TEST(GetDeviceParamsAnswer, writesZeroWhenThereIsNothing)
 {
     const XmlRpc::XmlRpcValue written = GetDeviceParamsAnswer().toXmlRpcValue();
     ASSERT_EQ(written.getType(), XmlRpc::XmlRpcValue::TypeInt);
     EXPECT_EQ(static_cast<const int &>(written), 0);
 }
 
-TEST(GetDeviceParamsAnswer, RefusesAnEmptyValue)
+TEST(GetDeviceParamsAnswer, refusesAnEmptyValue)
 {
     try {
         const GetDeviceParamsAnswer answer{XmlRpc::XmlRpcValue()};
@@ -61,7 +61,7 @@ TEST(GetDeviceParamsAnswer, RefusesAnEmptyValue)
     }
 }
 
-TEST(GetDeviceParamsAnswer, IsEqualToTheSameParameters)
+TEST(GetDeviceParamsAnswer, isEqualToTheSameParameters)
 {
     const GetDeviceParamsAnswer answer(pumpParams());
     const std::unique_ptr<GetDeviceParamsAnswer> copy(answer.clone());
@@ -77,7 +77,7 @@ TEST(GetDeviceParamsAnswer, IsEqualToTheSameParameters)
     EXPECT_FALSE(answer.equalTo(nullptr));
 }
 
-TEST(GetDeviceParamsAnswer, AnswersItsCommand)
+TEST(GetDeviceParamsAnswer, answersItsCommand)
 {
     XmlRpc::XmlRpcValue none;
     none.setSize(0);

@@ -80,10 +80,13 @@ TEST(AutocapCmd, knowsWhichFirmwareHasAMovement)
                 << movement;
     }
     for (int movement : {4, 5, 6}) {
+        SCOPED_TRACE(movement);
         EXPECT_TRUE(AutocapCmd::isSupportedMovement(static_cast<Movement>(movement), all));
         for (const FW_Version &version :
-             {FW_Version(), FW_Version(63, 38), FW_Version(70, 99), FW_Version(72, 39)})
+             {FW_Version(), FW_Version(63, 38), FW_Version(70, 99), FW_Version(72, 39)}) {
+            SCOPED_TRACE(version.toString().toStdString());
             EXPECT_FALSE(AutocapCmd::isSupportedMovement(static_cast<Movement>(movement), version));
+        }
     }
 }
 

@@ -141,9 +141,11 @@ TEST(DispenserStatusAnswer, copiesThroughBothBases)
     const std::unique_ptr<MachineStatusAnswer> ofMachine(machine.clone());
     const std::unique_ptr<ProtoAnswer> ofProto(proto.clone());
     const DispenserStatusAnswer copy(answer);
+    int form = 0;
     for (const DispenserStatusAnswer *same :
          {dynamic_cast<const DispenserStatusAnswer *>(ofMachine.get()),
           dynamic_cast<const DispenserStatusAnswer *>(ofProto.get()), &copy}) {
+        SCOPED_TRACE(++form);
         ASSERT_TRUE(same);
         EXPECT_NE(same, &answer);
         EXPECT_EQ(*same, answer);
@@ -408,6 +410,7 @@ TEST(DispenserStatusTokens, areRefusedWhenOneIsNoNumber)
 TEST(DispenserStatusTokens, areRefusedForAStatusOtherThanOneAndTwo)
 {
     for (const char *status : {"0", "3", "11", "FFFFFFFF"}) {
+        SCOPED_TRACE(status);
         expectRefusal("DE00068", "Error during command answer decoding: conversion failed",
                       "MachineStatusAnswer::MachineStatusAnswer(QStringList)",
                       [&] { const DispenserStatusAnswer answer(tokensWith(2, status)); });
@@ -455,6 +458,7 @@ TEST(DispenserStatusTokens, areRefusedForTheFirstThingThatIsWrong)
                                                                                {12, "DE02628"},
                                                                                {13, "DE02877"},
                                                                                {14, "DE02878"}}) {
+        SCOPED_TRACE(code);
         expectNext(code);
         tokens[token] = "0";
     }
@@ -583,7 +587,9 @@ TEST(DispenserStatusXmlRpc, neverReadsTheThreeMembersThatAreAlwaysFalse)
 {
     Value value = idleStruct();
     for (const char *key : {"WM_set", "disp_info_writing", "disp_info_erasing"}) {
+        SCOPED_TRACE(key);
         for (const Value &other : {Value(true), Value(7), Value("text")}) {
+            SCOPED_TRACE(dumped(other));
             value[key] = other;
             const DispenserStatusAnswer answer(value);
             EXPECT_EQ(setFlags(answer), Names{"normal_wm"});
@@ -606,6 +612,7 @@ TEST(DispenserStatusXmlRpc, carriesEachFieldThereAndBack)
         EXPECT_EQ(read.disp_status, 1);
     }
     for (int number : {1, 2, 245, -7, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+        SCOPED_TRACE(number);
         DispenserStatusAnswer answer;
         answer.setStatus(number);
         answer.current_position_id = ~number;
@@ -706,6 +713,7 @@ TEST(DispenserStatusXmlRpc, refusesAMissingOrMistypedMember)
             bad.back()[member.key] = other;
         }
         for (const Value &value : bad) {
+            SCOPED_TRACE(dumped(value));
             if (member.required)
                 expectRefusal("DE00026", expectedText(member.key).c_str(), ofValue,
                               [&] { const DispenserStatusAnswer answer(value); });
@@ -724,6 +732,7 @@ TEST(DispenserStatusXmlRpc, tellsTheFirstMemberThatIsMissing)
     for (const Member &member : ownMembers) {
         if (!member.required)
             continue;
+        SCOPED_TRACE(member.key);
         expectRefusal("DE00026", expectedText(member.key).c_str(), ofValue,
                       [&] { const DispenserStatusAnswer answer(value); });
         value[member.key] = true;
@@ -745,6 +754,7 @@ TEST(DispenserStatusXmlRpc, tellsTheMachinesMembersFirst)
                   [&] { const DispenserStatusAnswer answer(without(value, "disp_status")); });
     const std::vector<Value> noStructs = {Value(), Value(1), arrayOf(1), Value("text"), structOf({})};
     for (const Value &noStruct : noStructs) {
+        SCOPED_TRACE(dumped(noStruct));
         expectRefusal("DE00443", "MachineStatusAnswer: expected disp_status value", ofMachine,
                       [&] { const DispenserStatusAnswer answer(noStruct); });
     }
@@ -788,9 +798,11 @@ TEST(DispenserStatusAnswer, comparesEachFieldButPumping)
         EXPECT_EQ(cleared.equalTo(&changed), equal);
         EXPECT_EQ(changed.equalTo(&cleared), equal);
     }
+    int form = 0;
     for (int DispenserStatusAnswer::*number :
          {&DispenserStatusAnswer::current_position_id, &DispenserStatusAnswer::current_position_id_zone,
           static_cast<int DispenserStatusAnswer::*>(&MachineStatusAnswer::disp_status)}) {
+        SCOPED_TRACE(++form);
         DispenserStatusAnswer changed;
         changed.*number = 1;
         EXPECT_FALSE(cleared == changed);
@@ -893,6 +905,7 @@ TEST(DispenserStatusTexts, describeEachConditionByItself)
         SCOPED_TRACE(name);
         Lines expected;
         for (const auto &[flag, line] : conditions) {
+            SCOPED_TRACE(line.text);
             if (name == flag)
                 expected = linesOf({line});
         }
@@ -933,6 +946,7 @@ TEST(DispenserStatusTexts, tellHeadsApartOnlyWhereThereMayBeTwo)
     for (const FW_Machine *machine :
          {static_cast<const FW_Machine *>(nullptr), static_cast<const FW_Machine *>(&twoHeads),
           static_cast<const FW_Machine *>(&mixer)}) {
+        SCOPED_TRACE(machine ? "with a machine" : "without a machine");
         EXPECT_EQ(first.getStatusDescriptions(machine), head1);
         EXPECT_EQ(second.getStatusDescriptions(machine), head2);
         EXPECT_EQ(both.getStatusDescriptions(machine), head1 + head2);
@@ -955,6 +969,7 @@ TEST(DispenserStatusTexts, tellTheFirstBadCondition)
         SCOPED_TRACE(name);
         QString bad;
         for (const auto &[flag, line] : conditions) {
+            SCOPED_TRACE(line.text);
             if (name == flag && line.bad)
                 bad = QString::fromLatin1(line.text);
         }
@@ -978,6 +993,7 @@ TEST(DispenserStatusTexts, tellTheFirstBadCondition)
              {"conf_error", "Configuration error present"},
              {"machine_turned_off", "Machine turned off while working"},
              {"canister_lvl_critical", "One or more canister under critical level"}}) {
+        SCOPED_TRACE(flag);
         EXPECT_TRUE(answer.hasBadWorkingState());
         EXPECT_EQ(answer.getFirstBadWorkingState(), text);
         flagNamed(answer, flag) = false;
@@ -1097,6 +1113,7 @@ TEST(DispenserStatusTexts, areTranslated)
     FW_Dispenser oneHead;
     const TranslatedTexts translated;
     for (const auto &[flag, line] : conditions) {
+        SCOPED_TRACE(line.text);
         EXPECT_EQ(withFlag(flag).getStatusDescriptions(nullptr), (Lines{{translation(line.text), line.bad}}));
         if (line.bad) {
             EXPECT_EQ(withFlag(flag).getFirstBadWorkingState(), translation(line.text));

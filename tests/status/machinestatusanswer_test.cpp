@@ -212,6 +212,7 @@ std::vector<Value> otherTypes(const char *key)
 TEST(MachineStatusAnswer, readsEachMemberOfAStruct)
 {
     for (const auto &flag : machineFlags) {
+        SCOPED_TRACE(flag.name);
         Value value = machineStruct();
         value[flag.name] = true;
         const PlainStatus status(value);
@@ -233,6 +234,7 @@ TEST(MachineStatusAnswer, refusesAMissingOrMistypedMember)
             bad.back()[member.key] = other;
         }
         for (const Value &value : bad) {
+            SCOPED_TRACE(dumped(value));
             if (*member.code) {
                 expectRefusal(member.code, member.text, ofValue, [&] { const PlainStatus status(value); });
             } else {
@@ -250,6 +252,7 @@ TEST(MachineStatusAnswer, tellsTheFirstMemberThatIsMissing)
     // fill the members in one by one, in the order of reading: each time the next one that must be there is told
     Value value = structOf({});
     for (const Member &member : members) {
+        SCOPED_TRACE(member.key);
         if (*member.code)
             expectRefusal(member.code, member.text, ofValue, [&] { const PlainStatus status(value); });
         if (std::string(member.key) == "disp_status")
@@ -265,6 +268,7 @@ TEST(MachineStatusAnswer, refusesWhatIsNoStruct)
     const std::vector<Value> values = {Value(),       Value(1),  Value(true),
                                        Value("text"), arrayOf(), arrayOf(1, true)};
     for (const Value &value : values) {
+        SCOPED_TRACE(dumped(value));
         expectRefusal("DE00443", "MachineStatusAnswer: expected disp_status value", ofValue,
                       [&] { const PlainStatus status(value); });
     }
@@ -355,12 +359,14 @@ TEST(MachineStatusAnswer, tellsASingleMemberThatItCannotDecode)
     bool flag = true;
     int number = 3;
     for (const char *key : {"absent", "number"}) {
+        SCOPED_TRACE(key);
         FW_DriverError error;
         EXPECT_FALSE(status.setXmlRpcProperty(value, &flag, key, "AnyClass", &error));
         expectError(error, "DE00026", (std::string("AnyClass: expected ") + key + " value").c_str());
         EXPECT_FALSE(status.setXmlRpcProperty(value, &flag, key, "AnyClass", nullptr));
     }
     for (const char *key : {"absent", "flag"}) {
+        SCOPED_TRACE(key);
         FW_DriverError error;
         EXPECT_FALSE(status.setXmlRpcProperty(value, &number, key, "%1 %2", &error));
         expectError(error, "DE02667", (std::string("%1 %2: expected ") + key + " value").c_str());
@@ -568,6 +574,7 @@ TEST(MachineStatusAnswer, hasNoChangesWithoutTwoStatuses)
 {
     const PlainStatus on = withFlag("hw_error", true);
     for (SerialDeviceType device : {SerialDeviceType::Dispenser, SerialDeviceType::Mixer}) {
+        SCOPED_TRACE(static_cast<int>(device));
         EXPECT_EQ(MachineStatusAnswer::getNewMachineStatesDescriptions(device, nullptr, &on),
                   QList<QString>());
         EXPECT_EQ(MachineStatusAnswer::getNewMachineStatesDescriptions(device, &on, nullptr),
@@ -581,6 +588,7 @@ TEST(MachineStatusAnswer, translatesConditions)
 {
     const TranslatedTexts translated;
     for (const ConditionLine &condition : conditions) {
+        SCOPED_TRACE(condition.dispenser);
         const PlainStatus status = withFlag(condition.flag, true);
         EXPECT_EQ(status.getMachineStatusDescriptions(SerialDeviceType::Dispenser),
                   (Lines{{translation(condition.dispenser), condition.bad}}));
@@ -593,6 +601,7 @@ TEST(MachineStatusAnswer, translatesWhatGoesOnAndLeavesWhatGoesOffAsWritten)
 {
     const TranslatedTexts translated;
     for (const ChangeLine &change : changes) {
+        SCOPED_TRACE(change.on);
         const PlainStatus off = withFlag(change.flag, false);
         const PlainStatus on = withFlag(change.flag, true);
         EXPECT_EQ(changeOf(SerialDeviceType::Dispenser, off, on), QList<QString>{translation(change.on)});
