@@ -216,8 +216,8 @@ class Encode(CliTest):
         self.assertEqual(self.refused("encode", "GET_STATUS", "true", "--form", "list"),
                          "DE00300: Position ID: expected INT parameter\n")
         self.assertEqual(self.refused("encode", "NOPE"), "DE00337: Command type not recognized\n")
-        self.assertEqual(self.refused("encode", "GET_STATUS", "2147483648"),
-                         'quvctl: "args": the whole number 2147483648 does not fit in 32 bits\n')
+        self.assertEqual(self.wrong("encode", "GET_STATUS", "2147483648"),
+                         "quvctl: argument 2147483648: the whole number 2147483648 does not fit in 32 bits (see quvctl help)\n")
         self.assertIn("/no/such/file", self.refused("encode", "GET_STATUS", "--machine", "/no/such/file"))
 
     def request(self, *words):

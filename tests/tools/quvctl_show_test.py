@@ -61,8 +61,6 @@ Refusals
   DE00311  XML-RPC  the arguments are no array: "ProtoCommand: expected array for xmlrpc type"
   DE00312  XML-RPC  there are no arguments: "AUTOCAP_MOVE command : expected at least 1 parameters, received 0 instead!"
   DE00313  list     there are no arguments: "AUTOCAP_MOVE command : expected at least 1 parameters, received 0 instead!"
-  DE00289  XML-RPC  movement_type is missing: "Too few parameters received"
-  DE00291  list     movement_type is missing: "Too few parameters received"
   DE00290  XML-RPC  movement_type is of another type: "Autocap movement type: expected INT parameter"
   DE00292  list     movement_type is of another type: "Autocap movement type: expected INT parameter"
 

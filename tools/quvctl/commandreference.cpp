@@ -2,12 +2,9 @@
 #include "commandreference.h"
 
 #include "catalogwords.h"
-#include "explanations.h"
 #include "requestrefusals.h"
 
 #include "catalogue/protocommandlist.h"
-
-#include <QtCore/QSet>
 
 namespace quv {
 
@@ -47,7 +44,7 @@ QString answerNote(const CommandReference &command)
         return facts.tellsMembers
                    ? facts.answerClass
                    : QStringLiteral("%1, whose members are not told yet").arg(facts.answerClass);
-    if (facts.answerToCome)
+    if (facts.answerToCome && facts.tellsArguments)
         return QStringLiteral("a plain one, as long as its class is still to come");
     return facts.tellsArguments ? QStringLiteral("a plain one, without members") : QString();
 }
@@ -69,20 +66,7 @@ QString codesInWords(const MemberFacts &member)
 
 QList<RefusalLine> refusalsInWords(const CommandReference &command)
 {
-    QList<RefusalLine> lines = refusalLines(command.requestRefusals, command.facts);
-    QSet<QString> told;
-    for (const RefusalLine &line : qAsConst(lines))
-        told.insert(line.code);
-    // what the classes refuse by themselves: ranges, checks against a machine, the tokens of an answer
-    for (const Explanation &explanation : explanations()) {
-        const QString refuser = QString::fromUtf8(explanation.refuser);
-        const QString code = QString::fromLatin1(explanation.code);
-        if ((refuser == command.facts.className || refuser == command.facts.answerClass) &&
-            !refuser.isEmpty() && !told.contains(code))
-            lines.append({code, QString::fromUtf8(explanation.form), whenInWords(explanation),
-                          QString::fromUtf8(explanation.text)});
-    }
-    return lines;
+    return refusalLines(command.requestRefusals, command.facts);
 }
 
 } // namespace quv

@@ -121,7 +121,8 @@ command. What a class does not tell yet is told as such.
   after those, by name: `position=3`. One with a default may be left out, also before another one. A text that begins like an
   argument by name is written as JSON: `'"position=3"'`.
 - A refusal tells the form of what it refuses: the arguments or the answer as an XML-RPC value or as a list, the answer as the firmware's
-  tokens or in its envelope. An ellipsis in a text stands for the member.
+  tokens or in its envelope. An ellipsis in a text stands for the member, or for a number. What a class refuses behind these, by its own
+  checks (of ranges, against a machine, of an answer's tokens), `quvctl explain` tells by its code.
 - The examples in Python go on from this:
 
 )";

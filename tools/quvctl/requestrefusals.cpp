@@ -37,16 +37,22 @@ public:
             const std::unique_ptr<ProtoCommand> made(
                 ProtoCommandList::getProtoCommand(m_command.name, args, m_machine.get()));
         } catch (const FW_Exception &refusal) {
-            // how many came is for the request to say
-            add({QString::fromLatin1(form), when, refusal.code(),
-                 refusal.text().replace(QLatin1String("received 0 instead"),
-                                        QStringLiteral("received \u2026 instead"))});
+            add({QString::fromLatin1(form), when, refusal.code(), textFor(refusal.text())});
         }
     }
 
     QList<RefusalFacts> refusals() const { return m_refusals; }
 
 private:
+    /// Where two or more are asked for, how many came is for the request to say.
+    QString textFor(QString text) const
+    {
+        return ProtoCommandList::cmdParamNum(m_command.name, true) > 1
+                   ? text.replace(QLatin1String("received 0 instead"),
+                                  QStringLiteral("received \u2026 instead"))
+                   : text;
+    }
+
     void add(const RefusalFacts &refusal)
     {
         const auto tells = [&](const ArgumentFacts &argument) {
