@@ -42,6 +42,7 @@ struct MemberFacts
     QList<RefusalFacts> refusals;
 };
 
+/** All that the tables know of a command. */
 struct CommandFacts
 {
     QString name;
