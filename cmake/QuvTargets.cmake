@@ -14,10 +14,14 @@ function(quv_compile_options target)
 endfunction()
 
 # Lets the compiler parse headers once a target that nearly all of its sources include. A source includes what it needs all the
-# same: the preset fuzz, without this, finds what was forgotten.
+# same: the preset release, without this, finds what was forgotten.
 function(quv_precompile_headers target)
     if(QUVPROTOCOL_PRECOMPILE_HEADERS)
-        target_precompile_headers(${target} PRIVATE ${ARGN})
+        if(ARGV1 STREQUAL REUSE_FROM)
+            target_precompile_headers(${target} REUSE_FROM ${ARGV2})
+        else()
+            target_precompile_headers(${target} PRIVATE ${ARGN})
+        endif()
         if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
             target_compile_options(${target} PRIVATE -fpch-preprocess) # for ccache
         endif()

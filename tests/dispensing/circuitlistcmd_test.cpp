@@ -7,6 +7,8 @@
 #include "dispensing/pack2cmd.h"
 #include "dispensing/priming2cmd.h"
 
+#include <type_traits>
+
 namespace {
 
 using namespace testing_dispensing;
@@ -16,9 +18,10 @@ const CircuitListRefusals ofPack = {"Pack2Cmd", "DE02320", "DE02321", "DE02322",
 
 /** An air purge has the refusals of a pack. */
 template <class Command>
-const CircuitListRefusals refusalsOf = ofPack;
-template <>
-const CircuitListRefusals refusalsOf<Priming2Cmd> = ofPriming;
+const CircuitListRefusals &refusalsOf()
+{
+    return std::is_same_v<Command, Priming2Cmd> ? ofPriming : ofPack;
+}
 
 template <class Command>
 class CircuitListCommand : public testing::Test
@@ -66,7 +69,7 @@ TYPED_TEST(CircuitListCommand, passesOnWhyCircuitsCannotBeRead)
 
 TYPED_TEST(CircuitListCommand, saysWhenThereIsNoMemoryForCircuits)
 {
-    const CircuitListRefusals &refusals = refusalsOf<TypeParam>;
+    const CircuitListRefusals &refusals = refusalsOf<TypeParam>();
     PCircuitFormula formula = oneCircuit(1);
     formula.targetCircuits.setSharable(false); // so that copying needs memory
     const Value value = arrayOf(oneCircuitValue(1));
