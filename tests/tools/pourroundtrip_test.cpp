@@ -37,7 +37,7 @@ using quv::PourPart;
 constexpr int Circuits = 40;
 constexpr int StepsPerGram = 10;
 constexpr int Speed = 45;
-constexpr int Rounds = 1000;
+constexpr int Rounds = 250;
 
 /** The speed of the motor at the position, which differs from the calibration's. */
 int motorSpeed(int position)
@@ -195,7 +195,7 @@ PCircuitFormula circuitsByLot(Lots &lots, bool withStrokes, std::vector<PourPart
     return formula;
 }
 
-/** A thousand rounds, each with lots of its own. */
+/** Many rounds, each with lots of its own. */
 template <class Round>
 void play(unsigned seed, Round round)
 {
