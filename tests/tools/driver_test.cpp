@@ -290,7 +290,7 @@ TEST_F(DriverTest, anUnknownMethodIsAFault)
 {
     for (const char *method : {"", "exec_b", "EXEC_", "system.listMethods"}) {
         try {
-            m_driver->call({QLatin1String(method), arrayOf("GET_STATUS")});
+            m_driver->call({QLatin1String(method), arrayOf("GET_STATUS")}, m_gone);
             ADD_FAILURE() << method;
         } catch (const quv::FaultException &error) {
             EXPECT_EQ(error.fault().code, -32601) << method;

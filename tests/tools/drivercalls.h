@@ -191,12 +191,12 @@ protected:
 
     Envelope exec(const char *method, const XmlRpcValue &params)
     {
-        return Envelope(m_driver->call({QLatin1String(method), params}));
+        return Envelope(m_driver->call({QLatin1String(method), params}, m_gone));
     }
     template <class... Params>
     Envelope call(const char *method, const Params &...params)
     {
-        return Envelope(m_driver->call({QLatin1String(method), arrayOf(params...)}));
+        return Envelope(m_driver->call({QLatin1String(method), arrayOf(params...)}, m_gone));
     }
 
     /// The level that the driver knows of a canister, out of the words in which it refuses to raise it.
@@ -214,6 +214,7 @@ protected:
             .toStdString();
     }
 
+    Ending m_gone{}; ///< of a client, which stays
     std::unique_ptr<Driver> m_driver = std::make_unique<Driver>();
 };
 

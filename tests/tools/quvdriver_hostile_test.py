@@ -142,7 +142,7 @@ class HostileTest(unittest.TestCase):
         return sent, answer
 
     def test_wrong_lengths(self):
-        for length, expected in (("-1", 400), ("abc", 400), ("12abc", 400), ("", 411), ("1e3", 400),
+        for length, expected in (("-1", 400), ("abc", 400), ("12abc", 400), ("", 400), ("1e3", 400),
                                  ("99999999999999999999999", 413), ("18446744073709551616", 413),
                                  ("1048577", 413)):
             answer = self.exchange(http(GOOD, length), end=False)

@@ -47,7 +47,7 @@ std::string chunk(const std::string &data)
 }
 
 /// "echo" gives the parameters back; every other method fails in a way of its own.
-XmlRpcValue handle(const MethodCall &call)
+XmlRpcValue handle(const MethodCall &call, Ending & /*gone*/)
 {
     if (call.method == QStringLiteral("fault"))
         throw FaultException({42, QString::fromUtf8("perch\xC3\xA9 no")});
@@ -77,7 +77,6 @@ protected:
     void SetUp() override
     {
         XmlRpcServerOptions options;
-        options.readTimeout = 500ms;
         options.requestTimeout = 1000ms;
         options.idleTimeout = 2000ms;
         start(options);

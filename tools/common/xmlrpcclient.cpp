@@ -1,44 +1,91 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "xmlrpcclient.h"
 
-#include "httpstream_p.h"
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/core/tcp_stream.hpp>
+#include <boost/beast/http.hpp>
 
 namespace quv {
 namespace {
 
-constexpr std::size_t MaxHeaderBytes = 32 * 1024;
-constexpr int StatusOk = 200;
+namespace beast = boost::beast;
+namespace http = beast::http;
+namespace net = boost::asio;
+using boost::system::error_code;
+using net::ip::tcp;
 
-/// The library's client on a socket that bounds the whole exchange, where the library bounds each read alone.
-class HttpClient : public httplib::ClientImpl
+constexpr std::size_t MaxHeaderBytes = 32 * 1024;
+
+/// One call over one connection, all of it before one deadline. Each step gives its error.
+class Exchange
 {
 public:
-    HttpClient(const std::string &host, int port, std::chrono::milliseconds timeout)
-        : httplib::ClientImpl(host, port),
-          m_deadline(BoundedSocket::Clock::now() + timeout),
-          m_timeout(timeout)
+    explicit Exchange(std::chrono::milliseconds timeout) : m_deadline(Clock::now() + timeout)
     {
-        set_connection_timeout(timeout);
-        set_tcp_nodelay(true);
+        m_parser.header_limit(MaxHeaderBytes);
+        m_parser.body_limit(static_cast<std::uint64_t>(ReplyLimits.documentSize));
     }
 
-    BoundedSocket::Trouble trouble() const { return m_trouble; }
+    error_code connect(const std::string &host, int port)
+    {
+        error_code error;
+        const auto found = tcp::resolver(m_io).resolve(host, std::to_string(port), error);
+        if (error)
+            return error;
+        error = inTime([&](auto done) {
+            m_stream.async_connect(
+                found, [done](const error_code &failure, const tcp::endpoint &) { done(failure); });
+        });
+        if (!error)
+            m_stream.socket().set_option(tcp::no_delay(true), error);
+        return error;
+    }
+    error_code write(const http::request<http::string_body> &request)
+    {
+        return inTime([&](auto done) {
+            http::async_write(m_stream, request,
+                              [done](const error_code &failure, std::size_t) { done(failure); });
+        });
+    }
+    error_code readHeader()
+    {
+        return inTime([&](auto done) {
+            http::async_read_header(m_stream, m_buffer, m_parser,
+                                    [done](const error_code &failure, std::size_t) { done(failure); });
+        });
+    }
+    error_code readContent()
+    {
+        return inTime([&](auto done) {
+            http::async_read(m_stream, m_buffer, m_parser,
+                             [done](const error_code &failure, std::size_t) { done(failure); });
+        });
+    }
+
+    unsigned status() const { return m_parser.get().result_int(); }
+    const std::string &content() const { return m_parser.get().body(); }
 
 private:
-    bool process_socket(const Socket &socket, std::function<bool(httplib::Stream &)> callback) override
+    using Clock = std::chrono::steady_clock;
+
+    template <class Begin>
+    error_code inTime(Begin begin)
     {
-        BoundedSocket bounded(socket.sock, m_timeout);
-        bounded.allowUntil(m_deadline);
-        bounded.allowBytes(2 * static_cast<std::size_t>(ReplyLimits.documentSize) + MaxHeaderBytes);
-        HttpStream stream(bounded, m_timeout);
-        const bool isDone = callback(stream);
-        m_trouble = bounded.trouble();
-        return isDone;
+        error_code error;
+        m_stream.expires_at(m_deadline);
+        begin([&error](const error_code &failure) { error = failure; });
+        m_io.restart();
+        m_io.run();
+        return error;
     }
 
-    BoundedSocket::Clock::time_point m_deadline{};
-    std::chrono::milliseconds m_timeout{};
-    BoundedSocket::Trouble m_trouble = BoundedSocket::Trouble::None;
+    const Clock::time_point m_deadline;
+    net::io_context m_io{};
+    beast::tcp_stream m_stream{m_io};
+    beast::flat_buffer m_buffer{};
+    http::response_parser<http::string_body> m_parser{};
 };
 
 } // namespace
@@ -52,39 +99,40 @@ XmlRpcClient::XmlRpcClient(const QString &host, int port, std::chrono::milliseco
 QByteArray XmlRpcClient::post(const QByteArray &document) const
 {
     const QString server = QStringLiteral("%1:%2").arg(m_host).arg(m_port);
-    QByteArray reply;
-    bool isTooLarge = false;
-
-    httplib::Request request;
-    request.method = "POST";
-    request.path = "/RPC2";
-    request.set_header("Content-Type", "text/xml");
-    request.body = document.toStdString();
-    request.content_receiver = [&](const char *data, std::size_t size, std::uint64_t, std::uint64_t) {
-        isTooLarge = size > static_cast<std::size_t>(ReplyLimits.documentSize - reply.size());
-        if (!isTooLarge)
-            reply.append(data, static_cast<int>(size));
-        return !isTooLarge;
+    const std::string host = m_host.toStdString();
+    const auto check = [&](const error_code &error, const QString &otherwise) {
+        if (error == beast::error::timeout)
+            throw TransportError(QStringLiteral("No answer from %1 within %2 s")
+                                     .arg(server)
+                                     .arg(std::chrono::duration<double>(m_timeout).count()));
+        if (error == http::error::body_limit || error == http::error::header_limit ||
+            error == http::error::buffer_overflow)
+            throw TransportError(QStringLiteral("The answer of %1 is too large").arg(server));
+        if (error)
+            throw TransportError(otherwise.arg(server));
     };
 
-    HttpClient http(m_host.toStdString(), m_port, m_timeout);
-    httplib::Response response;
-    httplib::Error error = httplib::Error::Success;
-    const bool isDone = http.send(request, response, error);
-    if (isTooLarge || http.trouble() == BoundedSocket::Trouble::TooMuch)
-        throw TransportError(QStringLiteral("The answer of %1 is too large").arg(server));
-    if (http.trouble() == BoundedSocket::Trouble::TimedOut || error == httplib::Error::ConnectionTimeout)
-        throw TransportError(QStringLiteral("No answer from %1 within %2 s")
-                                 .arg(server)
-                                 .arg(std::chrono::duration<double>(m_timeout).count()));
-    if (error == httplib::Error::Connection)
-        throw TransportError(QStringLiteral("Cannot connect to %1").arg(server));
-    if (!isDone)
-        throw TransportError(QStringLiteral("%1 closed the connection without an answer").arg(server));
-    if (response.status != StatusOk)
+    http::request<http::string_body> request(http::verb::post, "/RPC2", 11);
+    request.set(http::field::host, (host.find(':') == std::string::npos ? host : "[" + host + "]") + ":" +
+                                       std::to_string(m_port));
+    request.set(http::field::content_type, "text/xml");
+    request.set(http::field::connection, "close");
+    request.body() = document.toStdString();
+    request.prepare_payload();
+
+    Exchange exchange(m_timeout);
+    check(exchange.connect(host, m_port), QStringLiteral("Cannot connect to %1"));
+    const error_code unsent = exchange.write(request);
+    if (unsent == beast::error::timeout)
+        check(unsent, {});
+    // Whoever refuses a request may answer, and close, before it has arrived in full.
+    const QString closed = QStringLiteral("%1 closed the connection without an answer");
+    check(exchange.readHeader(), closed);
+    if (exchange.status() != static_cast<unsigned>(http::status::ok))
         throw TransportError(
-            QStringLiteral("%1 answered with the HTTP status %2").arg(server).arg(response.status));
-    return reply;
+            QStringLiteral("%1 answered with the HTTP status %2").arg(server).arg(exchange.status()));
+    check(exchange.readContent(), closed);
+    return QByteArray::fromStdString(exchange.content());
 }
 
 XmlRpc::XmlRpcValue XmlRpcClient::call(const QString &method, const XmlRpc::XmlRpcValue &params) const

@@ -1,67 +1,69 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "xmlrpcserver.h"
 
-#include "httpstream_p.h"
+#include "callthreads.h"
 
 #include <xmlrpcpp/XmlRpcException.h>
 
-#include <atomic>
-#include <cerrno>
-#include <charconv>
-#include <cstdint>
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/posix/stream_descriptor.hpp>
+#include <boost/asio/steady_timer.hpp>
+#include <boost/asio/strand.hpp>
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/http.hpp>
 
-#include <fcntl.h>
-#include <netinet/tcp.h>
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cstdint>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <unordered_map>
+#include <vector>
+
 #include <sys/eventfd.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace quv {
 namespace {
 
+namespace beast = boost::beast;
+namespace http = beast::http;
+namespace net = boost::asio;
+using boost::system::error_code;
+using net::ip::tcp;
 using namespace std::chrono_literals;
 
+using Clock = std::chrono::steady_clock;
+using Executor = net::strand<net::io_context::executor_type>;
+using Socket = net::basic_stream_socket<tcp, Executor>;
+using Parser = http::request_parser<http::string_body>;
+using Response = http::response<http::string_body>;
+
 constexpr std::size_t MaxHeaderBytes = 32 * 1024;
+constexpr std::size_t MaxUnread = 128 * 1024; ///< what a connection keeps of what is not yet understood
+constexpr std::size_t MaxRestingBuffer = 4 * 1024;
 constexpr std::size_t MaxPathLength = 1024;
-constexpr int MaxRequestsOfConnection = 1000;
-constexpr int MaxConnections = 512;
-constexpr int Backlog = 128;
-constexpr std::chrono::milliseconds Overloaded = 10ms;
-constexpr std::chrono::milliseconds Farewell = 2s;
+constexpr Clock::duration Glance = 50ms; ///< between two looks for those whose time is over
+constexpr Clock::duration Overloaded = 10ms;
+constexpr Clock::duration Farewell = 2s;
+constexpr Clock::duration LastWrite =
+    200ms; ///< what is being answered when the server stops is still worth this
+constexpr Clock::time_point Never = Clock::time_point::max();
 
-/// A file descriptor that closes itself.
-class Descriptor
+struct Refusal
 {
-public:
-    explicit Descriptor(int fd = -1) : m_fd(fd) {}
-    ~Descriptor()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-    int get() const { return m_fd; }
-
-private:
-    int m_fd = -1;
+    int status = 0;
+    std::string reason{};
 };
 
-/// One request of a connection, for the routines that the HTTP library calls in the same thread.
-struct Exchange
+/// Where connections read to before they know how much it is.
+std::array<char, 64 * 1024> &scratch()
 {
-    BoundedSocket &socket;
-    bool wasRead = false; ///< whole, so that another request can follow on the connection
-};
-
-thread_local Exchange *currentExchange = nullptr;
-
-void refuse(httplib::Response &response, int status, const char *text)
-{
-    response.status = status;
-    response.set_header("Connection", "close");
-    response.set_content(std::string(text) + "\n", "text/plain");
+    thread_local std::array<char, 64 * 1024> bytes;
+    return bytes;
 }
 
 /// Text of an exception that the handler threw, which may be of any type.
@@ -78,254 +80,608 @@ QString currentExceptionText()
     }
 }
 
+/// What \a work gives as a document, or the fault for what it throws.
+template <class Work>
+QByteArray replyOf(Work work)
+{
+    try {
+        return writeMethodResponse(work());
+    } catch (const FaultException &error) {
+        return writeFault(error.fault());
+    } catch (...) {
+        return writeFault({FaultInternal, QStringLiteral("Internal error: %1").arg(currentExceptionText())});
+    }
+}
+
+/// Whether \a line tells a length that is none only because it is too large for a number.
+bool isHugeLength(beast::string_view line)
+{
+    constexpr beast::string_view Name = "content-length:";
+    if (!beast::iequals(line.substr(0, Name.size()), Name))
+        return false;
+    line.remove_prefix(Name.size());
+    line = line.substr(0, line.find('\r'));
+    line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+    constexpr std::size_t TooManyDigits = 20;
+    return line.size() >= TooManyDigits && line.find_first_not_of("0123456789") == line.npos;
+}
+
+/// Why what the parser stopped at is refused; \a unread begins with it.
+Refusal refusalOf(const error_code &error, bool isHeaderDone, beast::string_view unread)
+{
+    if (error == http::error::body_limit ||
+        (error == http::error::bad_content_length && isHugeLength(unread)))
+        return {413, "The content is too large"};
+    if (error == http::error::header_limit || (error == http::error::buffer_overflow && !isHeaderDone))
+        return {431, "The header is too large"};
+    if (error == http::error::buffer_overflow)
+        return {413, "The content is too large"};
+    return {400, "Malformed HTTP: " + error.message()};
+}
+
+std::optional<Refusal> lengthRefusal(const Parser &parser)
+{
+    const auto &header = parser.get();
+    if (header.count(http::field::transfer_encoding) > 0 && !parser.chunked())
+        return Refusal{501, "The transfer encoding is not supported"};
+    if (!parser.chunked() && !parser.content_length())
+        return Refusal{411, "The length of the content is not told"};
+    if (header.count(http::field::content_length) > 1)
+        return Refusal{400, "The length of the content is told twice"};
+    return std::nullopt;
+}
+
+/// Refuses by the header alone what would be refused later anyhow.
+std::optional<Refusal> headerRefusal(const Parser &parser)
+{
+    const auto &header = parser.get();
+    if (header.method() != http::verb::post)
+        return Refusal{405, "Only POST is allowed"};
+    if (header.target().size() > MaxPathLength)
+        return Refusal{414, "The path is too long"};
+    if (header.count(http::field::range) > 0)
+        return Refusal{400, "Ranges are not supported"};
+    if (header.count(http::field::content_encoding) > 0)
+        return Refusal{415, "The content must not be encoded"};
+    return lengthRefusal(parser);
+}
+
 } // namespace
 
-class XmlRpcServer::Impl : public httplib::Server
+class XmlRpcServer::Impl
 {
 public:
-    Impl(XmlRpcServer::Handler handler, XmlRpcServerOptions options);
-    ~Impl() override;
+    class Connection;
+
+    Impl(XmlRpcServer::Handler handler, XmlRpcServerOptions options)
+        : m_handler(std::move(handler)),
+          m_options(std::move(options)),
+          m_longCalls(m_options.longCalls)
+    {}
 
     void bind();
     int boundPort() const { return m_port; }
-    void accept();
+    void run();
     void wake() noexcept;
 
 private:
-    void closePort();
-    bool isStopped() const;
-    void pause() const;
-    void serve(int connection);
-    bool serveRequest(BoundedSocket &socket, bool isLast);
-    HandlerResponse checkRequest(const httplib::Request &request, httplib::Response &response) const;
-    void checkLength(const httplib::Request &request, httplib::Response &response) const;
-    void answer(const httplib::ContentReader &read, httplib::Response &response);
-    QByteArray reply(const QByteArray &document);
+    void work();
+    void accept();
+    void welcome(Socket socket);
+    bool makeRoom(std::size_t most);
+    void watchTimes();
+    void endAll();
+    std::vector<std::shared_ptr<Connection>> connections();
+    void forget(const Connection *connection);
 
     XmlRpcServer::Handler m_handler{};
-    XmlRpcServerOptions m_options{};
-    Descriptor m_wake{::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)};
+    const XmlRpcServerOptions m_options{};
     int m_port = 0;
-    std::atomic<int> m_connections{0};
+    std::atomic<bool> m_isStopping{false};
+
+    std::mutex m_mutex{}; ///< guards the connections that are open
+    std::unordered_map<const Connection *, std::weak_ptr<Connection>> m_open{};
+
+    net::io_context m_io{};
+    // Listening, waking and watching the time are one thing at a time.
+    Executor m_control{net::make_strand(m_io)};
+    tcp::acceptor m_acceptor{m_control};
+    net::steady_timer m_overloaded{m_control};
+    net::steady_timer m_glance{m_control};
+    net::posix::stream_descriptor m_wake{m_control};
+    bool m_watchesTimes = false;
+    CallThreads m_longCalls;
 };
 
-XmlRpcServer::Impl::Impl(XmlRpcServer::Handler handler, XmlRpcServerOptions options)
-    : m_handler(std::move(handler)),
-      m_options(std::move(options))
+/// One client. All but the constructor and what is said otherwise happens in the strand of its socket.
+class XmlRpcServer::Impl::Connection : public std::enable_shared_from_this<Connection>
 {
-    // The library's own options would let a second server share the port unnoticed.
-    set_socket_options([](socket_t socket) {
-        const int on = 1;
-        ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
-    });
-    // Only told to the client; serve() keeps to it.
-    set_keep_alive_timeout(std::chrono::duration_cast<std::chrono::seconds>(m_options.idleTimeout).count());
-    set_keep_alive_max_count(MaxRequestsOfConnection);
-    set_pre_routing_handler([this](const httplib::Request &request, httplib::Response &response) {
-        return checkRequest(request, response);
-    });
-    Post(".*", [this](const httplib::Request & /*request*/, httplib::Response &response,
-                      const httplib::ContentReader &read) { answer(read, response); });
+public:
+    Connection(Impl &server, Socket socket) : m_server(server), m_socket(std::move(socket)) {}
+    ~Connection() { m_server.forget(this); }
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    void rest(); ///< until the next request
+    void expire();
+    void end(); ///< when the server stops
+    void close();
+
+    /// From any thread
+    Executor executor() { return m_socket.get_executor(); }
+    bool isOver(Clock::time_point now) const { return now >= m_deadline.load(); }
+    Clock::time_point restsSince() const { return m_restsSince; } ///< Never while it is being answered
+
+private:
+    enum class State { Resting, Receiving, Working, Answering, Leaving, Closed };
+
+    void enter(State state, Clock::duration allowed);
+    void watch();
+    void onReadable();
+    std::size_t read(error_code &error);
+    void receive(const error_code &error);
+    void take();
+    bool parse();
+    void allowContent();
+    void carryOut();
+    void carryOutLong(MethodCall call);
+    void answer(const QByteArray &document);
+    void refuse(const Refusal &refusal);
+    void send(Response response);
+    void onSent(const error_code &error);
+    void leave();
+
+    Impl &m_server;
+    Socket m_socket;
+    State m_state = State::Resting;
+    bool m_isWatching = false;
+    std::atomic<Clock::time_point> m_deadline{Never};
+    std::atomic<Clock::time_point> m_restsSince{Clock::now()};
+    beast::flat_buffer m_unread{MaxUnread};
+    std::optional<Parser> m_parser{};
+    bool m_isHeaderRead = false;
+    Response m_response{};
+    std::optional<http::response_serializer<http::string_body>> m_serializer{};
+    std::shared_ptr<Ending> m_gone{}; ///< of a call that lasts
+};
+
+void XmlRpcServer::Impl::Connection::enter(State state, Clock::duration allowed)
+{
+    const bool isIdle = state == State::Resting || state == State::Receiving || state == State::Leaving;
+    m_state = state;
+    m_deadline = state == State::Working ? Never : Clock::now() + allowed;
+    if (!isIdle)
+        m_restsSince = Never;
+    else if (m_restsSince.load() == Never)
+        m_restsSince = Clock::now();
 }
 
-XmlRpcServer::Impl::~Impl()
+void XmlRpcServer::Impl::Connection::rest()
 {
-    closePort();
+    if (m_server.m_isStopping)
+        return close();
+    m_serializer.reset();
+    m_response = {};
+    m_parser.emplace();
+    m_parser->header_limit(MaxHeaderBytes);
+    m_parser->body_limit(static_cast<std::uint64_t>(m_server.m_options.limits.documentSize));
+    m_isHeaderRead = false;
+    if (m_unread.size() > 0) {
+        enter(State::Receiving, m_server.m_options.requestTimeout);
+        net::post(executor(), [self = shared_from_this()] {
+            if (self->m_state == State::Receiving)
+                self->take();
+        });
+        return;
+    }
+    if (m_unread.capacity() > MaxRestingBuffer)
+        m_unread.shrink_to_fit();
+    enter(State::Resting, m_server.m_options.idleTimeout);
+    watch();
 }
 
-void XmlRpcServer::Impl::closePort()
+void XmlRpcServer::Impl::Connection::watch()
 {
-    const int socket = svr_sock_.exchange(INVALID_SOCKET);
-    if (socket != INVALID_SOCKET)
-        ::close(socket);
+    if (m_isWatching)
+        return;
+    m_isWatching = true;
+    m_socket.async_wait(Socket::wait_read, [self = shared_from_this()](const error_code & /*error*/) {
+        self->m_isWatching = false;
+        self->onReadable();
+    });
+}
+
+/// Takes what has arrived: no more than fits, and never waits.
+std::size_t XmlRpcServer::Impl::Connection::read(error_code &error)
+{
+    auto &bytes = scratch();
+    const std::size_t room = std::min(bytes.size(), m_unread.max_size() - m_unread.size());
+    const std::size_t count = m_socket.read_some(net::buffer(bytes.data(), room), error);
+    m_unread.commit(net::buffer_copy(m_unread.prepare(count), net::buffer(bytes.data(), count)));
+    return count;
+}
+
+void XmlRpcServer::Impl::Connection::onReadable()
+{
+    if (m_state == State::Closed || m_state == State::Answering)
+        return; // it is looked at again when the answer has left
+    error_code error;
+    read(error);
+    if (error == net::error::would_block)
+        return watch();
+    switch (m_state) {
+    case State::Leaving:
+        m_unread.clear();
+        return error ? close() : watch();
+    case State::Working:
+        if (error) {
+            m_gone->begin();
+            close();
+        } else if (m_unread.size() < m_unread.max_size()) {
+            watch(); // another request, whose turn has not come
+        }
+        return;
+    default:
+        return receive(error);
+    }
+}
+
+void XmlRpcServer::Impl::Connection::receive(const error_code &error)
+{
+    if (error) {
+        const bool hasBegun = m_state == State::Receiving;
+        return error == net::error::eof && hasBegun ? refuse({400, "The request is cut short"}) : close();
+    }
+    if (m_state == State::Resting)
+        enter(State::Receiving, m_server.m_options.requestTimeout);
+    take();
+}
+
+/// Goes on with what has arrived.
+void XmlRpcServer::Impl::Connection::take()
+{
+    try {
+        if (parse())
+            carryOut();
+    } catch (...) { // out of memory at worst, and then for this connection alone
+        close();
+    }
+}
+
+/// Whether the request is whole; else it is refused, or the rest of it awaited.
+bool XmlRpcServer::Impl::Connection::parse()
+{
+    while (!m_parser->is_done() || !m_isHeaderRead) {
+        error_code error;
+        if (!m_parser->is_done()) {
+            if (m_unread.size() == 0) {
+                watch();
+                return false;
+            }
+            m_unread.consume(m_parser->put(m_unread.data(), error));
+        }
+        if (error == http::error::need_more && m_unread.size() < m_unread.max_size()) {
+            watch();
+            return false;
+        }
+        if (error == http::error::need_more)
+            error = http::error::buffer_overflow;
+        if (error) {
+            const auto unread = m_unread.data();
+            refuse(
+                refusalOf(error, m_isHeaderRead, {static_cast<const char *>(unread.data()), unread.size()}));
+            return false;
+        }
+        if (m_parser->is_header_done() && !m_isHeaderRead) {
+            m_isHeaderRead = true;
+            if (const auto refusal = headerRefusal(*m_parser)) {
+                refuse(*refusal);
+                return false;
+            }
+            allowContent();
+        }
+    }
+    return true;
+}
+
+void XmlRpcServer::Impl::Connection::allowContent()
+{
+    m_parser->eager(true);
+    if (m_unread.size() > 0 || !beast::iequals(m_parser->get()[http::field::expect], "100-continue"))
+        return;
+    constexpr beast::string_view GoOn = "HTTP/1.1 100 Continue\r\n\r\n";
+    error_code ignored; // whoever cannot take it now goes on without it
+    m_socket.write_some(net::buffer(GoOn.data(), GoOn.size()), ignored);
+}
+
+void XmlRpcServer::Impl::Connection::carryOut()
+{
+    enter(State::Working, {});
+    const std::string document = std::move(m_parser->get().body());
+    MethodCall call;
+    try {
+        call = parseMethodCall(QByteArray::fromRawData(document.data(), static_cast<int>(document.size())),
+                               m_server.m_options.limits);
+    } catch (const CodecError &error) {
+        return answer(writeFault({error.faultCode(), QString::fromUtf8(error.what())}));
+    }
+    const auto &mayLast = m_server.m_options.mayLast;
+    if (mayLast && mayLast(call))
+        return carryOutLong(std::move(call));
+    Ending never;
+    answer(replyOf([&] { return m_server.m_handler(call, never); }));
+}
+
+void XmlRpcServer::Impl::Connection::carryOutLong(MethodCall call)
+{
+    m_gone = std::make_shared<Ending>();
+    const auto shared = std::make_shared<const MethodCall>(std::move(call));
+    const auto job = [self = shared_from_this(), shared, gone = m_gone,
+                      isAwaited = net::make_work_guard(m_server.m_io)] {
+        const QByteArray document = replyOf([&] { return self->m_server.m_handler(*shared, *gone); });
+        net::post(self->executor(), [self, document] { self->answer(document); });
+    };
+    if (m_server.m_longCalls.start(job))
+        return watch();
+    answer(replyOf([&] { return m_server.m_options.refuseLongCall(*shared); }));
+}
+
+void XmlRpcServer::Impl::Connection::answer(const QByteArray &document)
+{
+    if (m_state != State::Working)
+        return; // the client has gone meanwhile
+    Response response(http::status::ok, m_parser->get().version());
+    response.set(http::field::content_type, "text/xml");
+    response.keep_alive(m_parser->keep_alive() && !m_server.m_isStopping);
+    response.body().assign(document.constData(), static_cast<std::size_t>(document.size()));
+    send(std::move(response));
+}
+
+void XmlRpcServer::Impl::Connection::refuse(const Refusal &refusal)
+{
+    Response response(static_cast<http::status>(refusal.status), 11);
+    if (response.result() == http::status::method_not_allowed)
+        response.set(http::field::allow, "POST");
+    response.set(http::field::content_type, "text/plain");
+    response.keep_alive(false);
+    response.body() = refusal.reason + "\n";
+    send(std::move(response));
+}
+
+void XmlRpcServer::Impl::Connection::send(Response response)
+{
+    enter(State::Answering, m_server.m_isStopping ? LastWrite : m_server.m_options.answerTimeout);
+    m_response = std::move(response);
+    m_response.prepare_payload();
+    m_serializer.emplace(m_response);
+    // It mostly leaves at once, without a detour.
+    error_code error;
+    http::write(m_socket, *m_serializer, error);
+    if (error != net::error::would_block)
+        return onSent(error);
+    http::async_write(m_socket, *m_serializer,
+                      [self = shared_from_this()](const error_code &failure, std::size_t /*count*/) {
+                          self->onSent(failure);
+                      });
+}
+
+void XmlRpcServer::Impl::Connection::onSent(const error_code &error)
+{
+    if (m_state != State::Answering)
+        return;
+    if (error)
+        close();
+    else if (m_response.keep_alive())
+        rest();
+    else
+        leave();
+}
+
+/// Says that nothing more comes, and drops what still arrives, so that the last answer is not lost to a reset.
+void XmlRpcServer::Impl::Connection::leave()
+{
+    if (m_server.m_isStopping)
+        return close();
+    error_code ignored;
+    m_socket.shutdown(tcp::socket::shutdown_send, ignored);
+    enter(State::Leaving, Farewell);
+    m_unread.clear();
+    watch();
+}
+
+void XmlRpcServer::Impl::Connection::expire()
+{
+    if (!isOver(Clock::now()))
+        return; // not any more
+    if (m_state == State::Receiving)
+        refuse({408, "The request came too slowly"});
+    else
+        close();
+}
+
+void XmlRpcServer::Impl::Connection::end()
+{
+    if (m_state == State::Answering)
+        m_deadline = std::min(m_deadline.load(), Clock::now() + LastWrite);
+    else if (m_state != State::Working)
+        close();
+}
+
+void XmlRpcServer::Impl::Connection::close()
+{
+    m_state = State::Closed;
+    m_deadline = Never;
+    error_code ignored;
+    m_socket.close(ignored);
+    m_server.forget(this);
 }
 
 void XmlRpcServer::Impl::bind()
 {
     const std::string host = m_options.host.toStdString();
-    errno = 0;
-    const int port = m_options.port == 0                  ? bind_to_any_port(host)
-                     : bind_to_port(host, m_options.port) ? m_options.port
-                                                          : -1;
-    if (port <= 0 || m_wake.get() < 0) {
-        const QString reason = errno == 0 ? QStringLiteral("unknown host") : qt_error_string(errno);
+    const auto fail = [this](const QString &reason) {
         throw TransportError(
             QStringLiteral("Cannot listen on %1:%2: %3").arg(m_options.host).arg(m_options.port).arg(reason));
-    }
-    // The library's own backlog of 5 makes bursts of clients wait for seconds.
-    ::listen(svr_sock_, Backlog);
-    ::fcntl(svr_sock_, F_SETFL, ::fcntl(svr_sock_, F_GETFL) | O_NONBLOCK);
-    ::fcntl(svr_sock_, F_SETFD, FD_CLOEXEC);
-    m_port = port;
+    };
+    error_code error;
+    const auto found =
+        tcp::resolver(m_io).resolve(host, std::to_string(m_options.port), tcp::resolver::passive, error);
+    if (error || found.empty())
+        fail(QStringLiteral("unknown host"));
+    const tcp::endpoint endpoint = found.begin()->endpoint();
+    m_acceptor.open(endpoint.protocol(), error);
+    if (!error)
+        m_acceptor.set_option(tcp::acceptor::reuse_address(true), error);
+    if (!error)
+        m_acceptor.bind(endpoint, error);
+    if (!error)
+        m_acceptor.listen(net::socket_base::max_listen_connections, error);
+    if (!error)
+        m_wake.assign(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), error);
+    if (error)
+        fail(QString::fromStdString(error.message()));
+    m_port = m_acceptor.local_endpoint().port();
 }
 
 void XmlRpcServer::Impl::wake() noexcept
 {
     const std::uint64_t one = 1;
     // A full counter cannot be read either way: whoever waits is awake already.
-    [[maybe_unused]] const ssize_t written = ::write(m_wake.get(), &one, sizeof one);
+    [[maybe_unused]] const ssize_t written = ::write(m_wake.native_handle(), &one, sizeof one);
 }
 
-bool XmlRpcServer::Impl::isStopped() const
+void XmlRpcServer::Impl::run()
 {
-    pollfd waiting{m_wake.get(), POLLIN, 0};
-    return ::poll(&waiting, 1, 0) > 0;
+    m_wake.async_wait(net::posix::stream_descriptor::wait_read, [this](const error_code &error) {
+        if (!error)
+            endAll();
+    });
+    accept();
+    std::vector<std::thread> threads;
+    threads.reserve(static_cast<std::size_t>(m_options.threads));
+    try {
+        for (int count = 1; count < m_options.threads; ++count)
+            threads.push_back(startQuietThread([this] { work(); }));
+    } catch (const std::system_error &) { // fewer of them serve as well
+    }
+    work();
+    for (std::thread &thread : threads)
+        thread.join();
+    m_longCalls.waitForAll();
 }
 
-void XmlRpcServer::Impl::pause() const
+void XmlRpcServer::Impl::work()
 {
-    pollfd waiting{m_wake.get(), POLLIN, 0};
-    ::poll(&waiting, 1, static_cast<int>(Overloaded.count()));
+    for (bool isDone = false; !isDone;) {
+        try {
+            m_io.run();
+            isDone = true;
+        } catch (...) { // what failed has cost its own connection
+        }
+    }
 }
 
-// The library's own loop ends on the first error of accept that it does not know, and cannot be stopped from a signal.
 void XmlRpcServer::Impl::accept()
 {
-    httplib::ThreadPool workers(static_cast<std::size_t>(m_options.workers));
-    while (!isStopped()) {
-        std::array<pollfd, 2> waiting{pollfd{svr_sock_, POLLIN, 0}, pollfd{m_wake.get(), POLLIN, 0}};
-        if (::poll(waiting.data(), waiting.size(), -1) <= 0 || waiting[0].revents == 0)
-            continue;
-        if (m_connections >= MaxConnections) {
-            pause();
-            continue;
+    m_acceptor.async_accept(net::make_strand(m_io), [this](const error_code &error, Socket socket) {
+        if (m_isStopping)
+            return;
+        if (error) { // mostly that there are no descriptors left
+            makeRoom(0);
+            m_overloaded.expires_after(Overloaded);
+            m_overloaded.async_wait([this](const error_code & /*error*/) {
+                if (!m_isStopping)
+                    accept();
+            });
+            return;
         }
-        const int connection = ::accept4(svr_sock_, nullptr, nullptr, SOCK_CLOEXEC);
-        if (connection >= 0) {
-            ++m_connections;
-            workers.enqueue([this, connection] { serve(connection); });
-        } else if (errno == EMFILE || errno == ENFILE || errno == ENOBUFS || errno == ENOMEM) {
-            pause();
-        }
-    }
-    closePort();
-    workers.shutdown();
-}
-
-/// All requests of a connection. Nothing leaves it, least of all an exception, which would end the program.
-void XmlRpcServer::Impl::serve(int connection)
-{
-    try {
-        const Descriptor descriptor(connection);
-        const int on = 1;
-        ::setsockopt(connection, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-        BoundedSocket socket(connection, m_options.readTimeout, m_wake.get());
-        int requests = 0;
-        while (!isStopped() && socket.waitForData(m_options.idleTimeout)) {
-            const bool isLast = ++requests == MaxRequestsOfConnection;
-            if (!serveRequest(socket, isLast)) {
-                socket.finish(Farewell);
-                break;
-            }
-        }
-    } catch (...) { // out of memory at worst, and then for this connection alone
-    }
-    --m_connections;
-}
-
-/// Whether another request can follow.
-bool XmlRpcServer::Impl::serveRequest(BoundedSocket &socket, bool isLast)
-{
-    HttpStream stream(socket, m_options.requestTimeout);
-    Exchange exchange{socket};
-    currentExchange = &exchange;
-    socket.allowBytes(MaxHeaderBytes);
-    socket.allowUntil(BoundedSocket::Clock::now() + m_options.requestTimeout);
-    bool isClosed = false;
-    // Chunks have lines of their own, hence twice the size; the document itself is measured as it comes.
-    const bool isAnswered =
-        process_request(stream, isLast, isClosed, [this, &socket](httplib::Request & /*request*/) {
-            socket.allowBytes(2 * static_cast<std::size_t>(m_options.limits.documentSize) + MaxHeaderBytes);
-        });
-    currentExchange = nullptr;
-    return isAnswered && !isClosed && !isLast && exchange.wasRead;
-}
-
-/// Refuses by the header alone what would be refused later anyhow, and what the library does not handle well.
-httplib::Server::HandlerResponse XmlRpcServer::Impl::checkRequest(const httplib::Request &request,
-                                                                  httplib::Response &response) const
-{
-    if (request.method != "POST") {
-        response.set_header("Allow", "POST");
-        refuse(response, 405, "Only POST is allowed");
-    } else if (request.path.size() > MaxPathLength) {
-        refuse(response, 414, "The path is too long");
-    } else if (request.has_header("Range")) {
-        refuse(response, 400, "Ranges are not supported");
-    } else if (request.is_multipart_form_data()) {
-        refuse(response, 415, "The content must be XML");
-    } else {
-        checkLength(request, response);
-    }
-    return response.status == -1 ? HandlerResponse::Unhandled : HandlerResponse::Handled;
-}
-
-void XmlRpcServer::Impl::checkLength(const httplib::Request &request, httplib::Response &response) const
-{
-    const std::size_t lengths = request.get_header_value_count("Content-Length");
-    const std::size_t encodings = request.get_header_value_count("Transfer-Encoding");
-    if (lengths + encodings > 1)
-        return refuse(response, 400, "The length of the content is told twice");
-    if (lengths + encodings == 0)
-        return refuse(response, 411, "The length of the content is not told");
-    if (encodings == 1) {
-        if (request.get_header_value("Transfer-Encoding") != "chunked")
-            refuse(response, 501, "The transfer encoding is not supported");
-        return;
-    }
-    const std::string text = request.get_header_value("Content-Length");
-    std::uint64_t length = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), length);
-    if (result.ec == std::errc::result_out_of_range ||
-        length > static_cast<std::uint64_t>(m_options.limits.documentSize))
-        return refuse(response, 413, "The content is too large");
-    if (result.ec != std::errc() || result.ptr != text.data() + text.size())
-        return refuse(response, 400, "The length of the content is no number");
-}
-
-void XmlRpcServer::Impl::answer(const httplib::ContentReader &read, httplib::Response &response)
-{
-    Exchange &exchange = *currentExchange;
-    QByteArray document;
-    bool isTooLarge = false;
-    const bool isWhole = read([&](const char *data, std::size_t size) {
-        isTooLarge = size > static_cast<std::size_t>(m_options.limits.documentSize - document.size());
-        if (!isTooLarge)
-            document.append(data, static_cast<int>(size));
-        return !isTooLarge;
-    });
-    if (isWhole) {
-        exchange.wasRead = true;
-        response.status = 200;
-        response.set_content(reply(document).toStdString(), "text/xml");
-        return;
-    }
-    const auto trouble = exchange.socket.trouble();
-    if (isTooLarge || trouble == BoundedSocket::Trouble::TooMuch)
-        refuse(response, 413, "The content is too large");
-    else if (trouble == BoundedSocket::Trouble::TimedOut)
-        refuse(response, 408, "The content came too slowly");
-    else if (trouble == BoundedSocket::Trouble::Stopped)
-        refuse(response, 503, "The server stops");
-    else
-        refuse(response, response.status == 415 ? 415 : 400, "The content cannot be read");
-}
-
-QByteArray XmlRpcServer::Impl::reply(const QByteArray &document)
-{
-    try {
-        const MethodCall call = parseMethodCall(document, m_options.limits);
         try {
-            return writeMethodResponse(m_handler(call));
-        } catch (const FaultException &error) {
-            return writeFault(error.fault());
-        } catch (...) {
-            return writeFault(
-                {FaultInternal, QStringLiteral("Internal error: %1").arg(currentExceptionText())});
+            welcome(std::move(socket));
+        } catch (...) { // a client that came when there was no memory for it
         }
-    } catch (const CodecError &error) {
-        return writeFault({error.faultCode(), QString::fromUtf8(error.what())});
+        accept();
+    });
+}
+
+void XmlRpcServer::Impl::welcome(Socket socket)
+{
+    error_code error;
+    socket.set_option(tcp::no_delay(true), error);
+    socket.non_blocking(true, error);
+    if (error || !makeRoom(static_cast<std::size_t>(m_options.connections)))
+        return;
+    const auto connection = std::make_shared<Connection>(*this, std::move(socket));
+    {
+        const std::lock_guard lock(m_mutex);
+        m_open.emplace(connection.get(), connection);
     }
+    net::post(connection->executor(), [connection] { connection->rest(); });
+    if (!m_watchesTimes)
+        watchTimes();
+}
+
+/// Whether fewer than \a most are open; if need be, the one that has rested or sent longest leaves.
+bool XmlRpcServer::Impl::makeRoom(std::size_t most)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_open.size() < most)
+            return true;
+    }
+    std::shared_ptr<Connection> oldest;
+    const auto all = connections();
+    for (const auto &connection : all) {
+        if (connection->restsSince() != Never && (!oldest || connection->restsSince() < oldest->restsSince()))
+            oldest = connection;
+    }
+    if (!oldest)
+        return false;
+    forget(oldest.get());
+    net::post(oldest->executor(), [oldest] { oldest->close(); });
+    return true;
+}
+
+void XmlRpcServer::Impl::watchTimes()
+{
+    const auto now = Clock::now();
+    const auto all = connections();
+    m_watchesTimes = !all.empty();
+    if (!m_watchesTimes)
+        return;
+    for (const auto &connection : all) {
+        if (connection->isOver(now))
+            net::post(connection->executor(), [connection] { connection->expire(); });
+    }
+    m_glance.expires_after(Glance);
+    m_glance.async_wait([this](const error_code & /*error*/) { watchTimes(); });
+}
+
+void XmlRpcServer::Impl::endAll()
+{
+    m_isStopping = true;
+    error_code ignored;
+    m_acceptor.close(ignored);
+    m_overloaded.cancel();
+    for (const auto &connection : connections())
+        net::post(connection->executor(), [connection] { connection->end(); });
+}
+
+std::vector<std::shared_ptr<XmlRpcServer::Impl::Connection>> XmlRpcServer::Impl::connections()
+{
+    std::vector<std::shared_ptr<Connection>> all;
+    const std::lock_guard lock(m_mutex);
+    all.reserve(m_open.size());
+    for (const auto &[address, connection] : m_open) {
+        if (auto open = connection.lock())
+            all.push_back(std::move(open));
+    }
+    return all;
+}
+
+void XmlRpcServer::Impl::forget(const Connection *connection)
+{
+    const std::lock_guard lock(m_mutex);
+    m_open.erase(connection);
 }
 
 XmlRpcServer::XmlRpcServer(Handler handler, XmlRpcServerOptions options)
@@ -346,7 +702,7 @@ int XmlRpcServer::port() const
 
 void XmlRpcServer::run()
 {
-    m_impl->accept();
+    m_impl->run();
 }
 
 void XmlRpcServer::stop() noexcept

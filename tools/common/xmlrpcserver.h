@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "ending.h"
 #include "xmlrpccodec.h"
 
 #include <chrono>
@@ -14,25 +15,33 @@ struct XmlRpcServerOptions
     QString host = QStringLiteral("127.0.0.1");
     int port = 0; ///< 0: any free one
     XmlRpcLimits limits{};
-    std::chrono::milliseconds readTimeout{5000}; ///< longest pause of a sender
-    std::chrono::milliseconds requestTimeout{
-        15000}; ///< for a whole request to arrive, and for its answer to leave
-    std::chrono::milliseconds idleTimeout{5000}; ///< longest pause between two requests of a connection
-    /// Connections served at once. A slow sender holds one of them until its time is over.
-    int workers = 128;
+    std::chrono::milliseconds requestTimeout{5000}; ///< for a whole request to arrive
+    std::chrono::milliseconds answerTimeout{15000}; ///< for its answer to leave
+    std::chrono::milliseconds idleTimeout{5000};    ///< longest pause between two requests of a connection
+    int connections = 960; ///< at once; beyond them the one that has rested or sent longest is closed
+    int threads = 8;       ///< that read, carry out what is short, and write
+    int longCalls = 128;   ///< at once, each on a thread of its own
+    /// Whether a call may last. Nothing: none does.
+    std::function<bool(const MethodCall &call)> mayLast{};
+    /// Answers a call that may last while there are as many as allowed.
+    std::function<XmlRpc::XmlRpcValue(const MethodCall &call)> refuseLongCall{};
 };
 
 /**
  * Serves XML-RPC by POST on any path. Whatever a client sends, it gets a response, a fault or an HTTP error within the
  * timeouts, and the server goes on: 405 for other methods, 411 without a length, 413 beyond the size limit, 408 for a
- * sender that is too slow; a fault for what is no XML-RPC call, and for whatever the handler throws.
+ * sender that is too slow, 400 with the reason for malformed HTTP; a fault for what is no XML-RPC call, and for whatever
+ * the handler throws.
+ *
+ * A connection that rests, sends, or waits for its answer holds no thread of those that serve all.
  */
 class XmlRpcServer
 {
 public:
     /// Answers a call. Called from several threads at once. A FaultException becomes its fault, any other exception a
-    /// fault with the code FaultInternal.
-    using Handler = std::function<XmlRpc::XmlRpcValue(const MethodCall &call)>;
+    /// fault with the code FaultInternal. Of a call that may last \a gone begins when its client has closed the
+    /// connection; that is closed then, and the answer is for nobody.
+    using Handler = std::function<XmlRpc::XmlRpcValue(const MethodCall &call, Ending &gone)>;
 
     explicit XmlRpcServer(Handler handler, XmlRpcServerOptions options = {});
     ~XmlRpcServer();

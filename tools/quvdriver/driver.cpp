@@ -82,6 +82,36 @@ XmlRpcValue success(const ProtoAnswer &answer, const QString &name, qint64 time,
     return XmlRpcAnswer(Done, answer.toXmlRpcValue(), errors, name, time).toXmlRpcValue();
 }
 
+/// Nothing for another method.
+std::optional<ProtoCommandList::CallKind> kindOf(const MethodCall &call)
+{
+    for (const auto kind :
+         {ProtoCommandList::BlockingCall, ProtoCommandList::NonBlockingCall, ProtoCommandList::ChangeCall}) {
+        if (call.method == ProtoCommandList::functionCallStr(kind))
+            return kind;
+    }
+    return std::nullopt;
+}
+
+/// The envelope that \a work makes of what \a call asks for.
+template <class Work>
+XmlRpcValue withRequest(const MethodCall &call, Work work)
+{
+    std::optional<Request> request;
+    XmlRpcValue refused = enveloped(QString(), [&] {
+        request.emplace(call.params);
+        return XmlRpcValue();
+    });
+    return request ? enveloped(request->name, [&] { return work(*request); }) : refused;
+}
+
+/// A call in the form of its own that waits for a change: its arguments must not be taken for plain ones.
+bool isChangeCall(ProtoCommandList::CallKind kind, const Request &request)
+{
+    return kind == ProtoCommandList::ChangeCall && ProtoCommandList::existsCommand(request.name) &&
+           request.isWaiting();
+}
+
 void checkWaiting(const NCCommand &asked)
 {
     if (ProtoCommandList::erogationCommand(asked.command()))
@@ -126,30 +156,41 @@ bool Driver::addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Fir
     return true;
 }
 
-XmlRpcValue Driver::call(const MethodCall &call)
+XmlRpcValue Driver::call(const MethodCall &call, Ending &gone)
 {
-    const auto kinds = {ProtoCommandList::BlockingCall, ProtoCommandList::NonBlockingCall,
-                        ProtoCommandList::ChangeCall};
-    const auto kind = std::find_if(kinds.begin(), kinds.end(), [&](int candidate) {
-        return call.method == ProtoCommandList::functionCallStr(candidate);
-    });
-    if (kind == kinds.end())
+    const auto kind = kindOf(call);
+    if (!kind)
         throw FaultException({UnknownMethod, QStringLiteral("Unknown method \"%1\"").arg(call.method)});
-
-    std::optional<Request> request;
-    XmlRpcValue refused = enveloped(QString(), [&] {
-        request.emplace(call.params);
-        return XmlRpcValue();
-    });
-    return request ? enveloped(request->name, [&] { return carryOut(*kind, *request); }) : refused;
+    return withRequest(call, [&](const Request &request) { return carryOut(*kind, request, gone); });
 }
 
-XmlRpcValue Driver::carryOut(ProtoCommandList::CallKind kind, const Request &request)
+bool Driver::mayLast(const MethodCall &call)
 {
-    // Its arguments are no plain ones, and must not be taken for them.
-    if (kind == ProtoCommandList::ChangeCall && ProtoCommandList::existsCommand(request.name) &&
-        request.isWaiting())
-        return waitForChange(request);
+    const auto kind = kindOf(call);
+    if (!kind || *kind == ProtoCommandList::NonBlockingCall)
+        return false;
+    try {
+        const Request request(call.params);
+        return ProtoCommandList::erogationCommand(request.name) ||
+               request.name == ProtoCommandList::cmdStr(ProtoCommandList::FINALIZE_CONFIG) ||
+               isChangeCall(*kind, request);
+    } catch (const CallRefusal &) {
+        return false; // refused at once
+    }
+}
+
+XmlRpcValue Driver::refuseLongCall(const MethodCall &call)
+{
+    return withRequest(call, [](const Request & /*request*/) -> XmlRpcValue {
+        refuse(NotCarriedOut, "DE03130",
+               QStringLiteral("Too many calls wait for their end; a call with a ticket (EXEC_NB) does not"));
+    });
+}
+
+XmlRpcValue Driver::carryOut(ProtoCommandList::CallKind kind, const Request &request, Ending &gone)
+{
+    if (isChangeCall(kind, request))
+        return waitForChange(request, gone);
     std::shared_ptr<Task> task = prepare(request);
     return kind == ProtoCommandList::NonBlockingCall ? begin(std::move(task)) : perform(*task);
 }
@@ -275,7 +316,7 @@ FW_ErrorList Driver::finishConfiguration(const Task &task)
     return errors;
 }
 
-XmlRpcValue Driver::waitForChange(const Request &request)
+XmlRpcValue Driver::waitForChange(const Request &request, Ending &gone)
 {
     using Clock = std::chrono::steady_clock;
 
@@ -289,6 +330,7 @@ XmlRpcValue Driver::waitForChange(const Request &request)
     task.command.reset(asked.protoCommand()->clone());
     checkCarriedOut(task);
 
+    const Ending ending{&m_ending, &gone};
     const auto end = Clock::now() + milliseconds(asked.timeout());
     while (true) {
         const XmlRpcValue envelope = perform(task);
@@ -296,8 +338,12 @@ XmlRpcValue Driver::waitForChange(const Request &request)
         const auto left = std::chrono::duration_cast<milliseconds>(end - Clock::now());
         if (!asked.lastAnswer() || !answer->equalTo(asked.lastAnswer()) || left.count() <= 0)
             return envelope;
-        if (!m_ending.wait(std::min(milliseconds(asked.interval()), left)))
-            refuse(Interrupted, "DE03116", QStringLiteral("The driver ends before the command has"));
+        if (ending.wait(std::min(milliseconds(asked.interval()), left)))
+            continue;
+        if (gone.hasBegun())
+            refuse(Interrupted, "DE03131",
+                   QStringLiteral("The client has gone before the answer has changed"));
+        refuse(Interrupted, "DE03116", QStringLiteral("The driver ends before the command has"));
     }
 }
 

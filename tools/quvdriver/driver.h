@@ -2,9 +2,9 @@
 #pragma once
 
 #include "drivenmachine.h"
-#include "ending.h"
 #include "tickets.h"
 
+#include "ending.h"
 #include "xmlrpccodec.h"
 
 #include "catalogue/protocommandlist.h"
@@ -39,17 +39,23 @@ public:
     /// Before the first call. False for a second machine of a kind, which is not added: nobody could address it.
     bool addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware);
 
-    /// The envelope; never fails, whatever the parameters are. \throws FaultException -32601 for another method
-    XmlRpc::XmlRpcValue call(const MethodCall &call);
+    /// The envelope; never fails, whatever the parameters are. When \a gone begins, a call that waits for a change ends;
+    /// what the machine has begun is seen to its end. \throws FaultException -32601 for another method
+    XmlRpc::XmlRpcValue call(const MethodCall &call, Ending &gone);
 
-    /// Ends the calls and tickets that wait, for good. Also from a signal handler.
+    /// Whether \a call may wait for a change, or for the end of what a machine does.
+    static bool mayLast(const MethodCall &call);
+    /// The envelope for such a call while there are too many of them.
+    static XmlRpc::XmlRpcValue refuseLongCall(const MethodCall &call);
+
+    /// Ends the calls and tickets that wait, for good.
     void stop() noexcept { m_ending.begin(); }
 
 private:
     struct Task;
 
-    XmlRpc::XmlRpcValue carryOut(ProtoCommandList::CallKind kind, const Request &request);
-    XmlRpc::XmlRpcValue waitForChange(const Request &request);
+    XmlRpc::XmlRpcValue carryOut(ProtoCommandList::CallKind kind, const Request &request, Ending &gone);
+    XmlRpc::XmlRpcValue waitForChange(const Request &request, Ending &gone);
     std::shared_ptr<Task> prepare(const Request &request);
     static void checkCarriedOut(const Task &task);
     XmlRpc::XmlRpcValue begin(std::shared_ptr<Task> task);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drivenmachine.h"
+
 #include "ending.h"
 
 #include "catalogue/protocommandlist.h"

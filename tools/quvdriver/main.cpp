@@ -3,6 +3,7 @@
 #include "machineconfiguration.h"
 #include "simulatedfirmware.h"
 
+#include "callthreads.h"
 #include "machines.h"
 #include "xmlrpcserver.h"
 
@@ -14,6 +15,7 @@
 #include <csignal>
 #include <cstdio>
 #include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -135,51 +137,64 @@ void addMachines(quv::Driver &driver, const Options &options)
     }
 }
 
-std::atomic<quv::XmlRpcServer *> runningServer{nullptr};
-std::atomic<quv::Driver *> runningDriver{nullptr};
-
-void stopServer()
+/// Keeps the signals that end the program from all threads that are started from here on, for the main thread to take.
+class EndSignals
 {
-    if (quv::XmlRpcServer *server = runningServer)
-        server->stop();
-}
+public:
+    EndSignals()
+    {
+        sigemptyset(&m_signals);
+        sigaddset(&m_signals, SIGINT);
+        sigaddset(&m_signals, SIGTERM);
+        pthread_sigmask(SIG_BLOCK, &m_signals, nullptr);
+    }
 
-/// The server waits for the calls that it is in, and the driver must not keep them.
-void stopAll(int /*signal*/)
-{
-    stopServer();
-    if (quv::Driver *driver = runningDriver)
-        driver->stop();
-}
+    void wait() const
+    {
+        int signal = 0;
+        sigwait(&m_signals, &signal);
+    }
+    /// Ends wait() in \a thread.
+    static void send(pthread_t thread) { pthread_kill(thread, SIGTERM); }
+
+private:
+    sigset_t m_signals{};
+};
 
 void run(const Options &options)
 {
+    const EndSignals signals;
     quv::Driver driver;
     addMachines(driver, options);
     std::atomic<bool> isUsed{false};
+    quv::XmlRpcServerOptions serverOptions = options.server;
+    serverOptions.mayLast = quv::Driver::mayLast;
+    serverOptions.refuseLongCall = quv::Driver::refuseLongCall;
     quv::XmlRpcServer server(
-        [&](const quv::MethodCall &call) {
+        [&](const quv::MethodCall &call, quv::Ending &gone) {
             if (options.once) {
                 if (isUsed.exchange(true))
                     throw quv::FaultException({quv::FaultInternal, QStringLiteral("The driver is ending")});
                 // It still answers the call that it is in.
-                stopServer();
+                server.stop();
             }
-            return driver.call(call);
+            return driver.call(call, gone);
         },
-        options.server);
+        serverOptions);
     server.listen();
 
-    runningDriver = &driver;
-    runningServer = &server;
     std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGTERM, stopAll);
-    std::signal(SIGINT, stopAll);
     std::printf("listening on %s:%d\n", qPrintable(options.server.host), server.port());
     std::fflush(stdout);
-    server.run();
-    runningServer = nullptr;
-    runningDriver = nullptr;
+    std::thread serving = quv::startQuietThread([&server, mainThread = pthread_self()] {
+        server.run();
+        EndSignals::send(mainThread); // when it has ended by itself
+    });
+    signals.wait();
+    // The server waits for the calls that it is in, and the driver must not keep them.
+    server.stop();
+    driver.stop();
+    serving.join();
 }
 
 } // namespace
