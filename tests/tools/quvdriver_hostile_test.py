@@ -153,7 +153,7 @@ class HostileTest(unittest.TestCase):
         self.assertIn(b"<fault>", self.exchange(http(GOOD, len(GOOD) - 10)))
         twice = http(GOOD).replace(b"\r\n\r\n", b"\r\nContent-Length: 3\r\n\r\n", 1)
         self.assertEqual(self.status_line(self.exchange(twice, end=False)), 400)
-        none = b"POST / HTTP/1.1\r\nHost: localhost\r\n\r\n" + GOOD
+        none = b"POST / HTTP/1.1\r\nHost: localhost\r\nContent-Type: text/xml\r\n\r\n" + GOOD
         self.assertEqual(self.status_line(self.exchange(none)), 411)
 
     def test_what_is_no_request(self):

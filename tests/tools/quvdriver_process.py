@@ -15,14 +15,14 @@ PROGRAM = None
 class Driver:
     """A running driver on a free loopback port; it is killed at the latest when the context ends."""
 
-    def __init__(self, *options):
+    def __init__(self, *options, address="127.0.0.1"):
         self.process = subprocess.Popen(
             [PROGRAM, "--port", "0", *options], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
         watchdog = threading.Timer(10, self.process.kill)
         watchdog.start()
         self.first_line = self.process.stdout.readline()
         watchdog.cancel()
-        found = re.fullmatch(r"listening on 127\.0\.0\.1:(\d+)\n", self.first_line)
+        found = re.fullmatch(rf"listening on {re.escape(address)}:(\d+)\n", self.first_line)
         if not found:
             self.kill()
             raise AssertionError(f"unexpected first line {self.first_line!r}")

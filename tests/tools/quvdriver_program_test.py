@@ -97,7 +97,7 @@ class ProgramTest(unittest.TestCase):
     def test_help_and_version(self):
         told = run("--help")
         self.assertEqual(told.returncode, 0)
-        for option in ("--host", "--port", "--machine", "--speed", "--state", "--firmware", "--once"):
+        for option in ("--host", "--port", "--machine", "--speed", "--state", "--firmware", "--token-file", "--open", "--once"):
             self.assertIn(option, told.stdout)
         told = run("--version")
         self.assertEqual(told.returncode, 0)

@@ -114,6 +114,22 @@ TEST(XmlRpcClient, callsAndReadsTheValue)
                                                      "<i4>5</i4></value></param></params>"));
 }
 
+TEST(XmlRpcClient, showsTheToken)
+{
+    const std::string answer =
+        http("<methodResponse><params><param><value>ok</value></param></params></methodResponse>");
+    for (const std::string &token : {std::string(), std::string("a-token-of-tests")}) {
+        const ScriptedServer server(answer);
+        XmlRpcClient(QStringLiteral("127.0.0.1"), server.port(), 5s, {token})
+            .call(QStringLiteral("EXEC_B"), XmlRpcValue(5));
+        const auto shown = testing::HasSubstr("\r\nAuthorization: Bearer a-token-of-tests\r\n");
+        if (token.empty())
+            EXPECT_THAT(server.request(), testing::Not(testing::HasSubstr("Authorization")));
+        else
+            EXPECT_THAT(server.request(), shown);
+    }
+}
+
 TEST(XmlRpcClient, throwsTheFault)
 {
     const ScriptedServer server(

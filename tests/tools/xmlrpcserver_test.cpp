@@ -156,7 +156,8 @@ TEST_F(XmlRpcServerTest, keepsTheConnection)
 
 TEST_F(XmlRpcServerTest, takesChunks)
 {
-    EXPECT_THAT(answerTo("POST / HTTP/1.1\r\nConnection: close\r\nTransfer-Encoding: chunked\r\n\r\n" +
+    EXPECT_THAT(answerTo("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nConnection: "
+                         "close\r\nTransfer-Encoding: chunked\r\n\r\n" +
                          chunk(GoodCall.substr(0, 10)) + chunk(GoodCall.substr(10)) + "0\r\n\r\n"),
                 HasSubstr(GoodReply));
 }
@@ -208,9 +209,9 @@ TEST_F(XmlRpcServerTest, refusesWhatIsTooLarge)
 {
     // By the header alone
     for (const char *length : {"1048577", "104857600", "18446744073709551616", "99999999999999999999999999"})
-        EXPECT_THAT(
-            answerTo(std::string("POST / HTTP/1.1\r\nContent-Length: ") + length + "\r\n\r\n<methodCall>"),
-            StartsWith("HTTP/1.1 413"))
+        EXPECT_THAT(answerTo(std::string("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nContent-Length: ") +
+                             length + "\r\n\r\n<methodCall>"),
+                    StartsWith("HTTP/1.1 413"))
             << length;
     // Sent in full all the same
     EXPECT_THAT(answerTo(post(std::string(LargeContent, 'x'))), StartsWith("HTTP/1.1 413"));
@@ -218,29 +219,35 @@ TEST_F(XmlRpcServerTest, refusesWhatIsTooLarge)
     std::string chunks;
     for (int count = 0; count < 40; ++count)
         chunks += chunk(std::string(65536, 'x'));
-    EXPECT_THAT(answerTo("POST / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n" + chunks),
-                StartsWith("HTTP/1.1 413"));
-    // In the line that tells the size of a chunk
     EXPECT_THAT(
-        answerTo("POST / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n5;" + std::string(4'000'000, 'x')),
+        answerTo("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nTransfer-Encoding: chunked\r\n\r\n" + chunks),
         StartsWith("HTTP/1.1 413"));
+    // In the line that tells the size of a chunk
+    EXPECT_THAT(answerTo("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nTransfer-Encoding: chunked\r\n\r\n5;" +
+                         std::string(4'000'000, 'x')),
+                StartsWith("HTTP/1.1 413"));
 }
 
 TEST_F(XmlRpcServerTest, refusesLengthsThatMakeNoSense)
 {
-    EXPECT_THAT(answerTo("POST / HTTP/1.1\r\n\r\n" + GoodCall), StartsWith("HTTP/1.1 411"));
+    EXPECT_THAT(answerTo("POST / HTTP/1.1\r\nContent-Type: text/xml\r\n\r\n" + GoodCall),
+                StartsWith("HTTP/1.1 411"));
     for (const char *header : {"Content-Length: -5\r\n", "Content-Length: abc\r\n", "Content-Length: \r\n",
                                "Content-Length: 0x10\r\n", "Content-Length: 5\r\nContent-Length: 7\r\n",
                                "Content-Length: 5\r\nTransfer-Encoding: chunked\r\n"})
-        EXPECT_THAT(answerTo(std::string("POST / HTTP/1.1\r\n") + header + "\r\n" + GoodCall),
+        EXPECT_THAT(answerTo(std::string("POST / HTTP/1.1\r\nContent-Type: text/xml\r\n") + header + "\r\n" +
+                             GoodCall),
                     testing::AnyOf(StartsWith("HTTP/1.1 400"), StartsWith("HTTP/1.1 411")))
             << header;
-    EXPECT_THAT(answerTo("POST / HTTP/1.1\r\nTransfer-Encoding: gzip\r\n\r\n" + GoodCall),
-                StartsWith("HTTP/1.1 501"));
+    EXPECT_THAT(
+        answerTo("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nTransfer-Encoding: gzip\r\n\r\n" + GoodCall),
+        StartsWith("HTTP/1.1 501"));
     for (const char *size : {"zz", "-5", "ffffffffffffffff", "fffffffffffffffff"})
-        EXPECT_THAT(answerTo(std::string("POST / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n") + size +
-                             "\r\n" + GoodCall),
-                    testing::Not(HasSubstr(" 200 ")))
+        EXPECT_THAT(
+            answerTo(std::string(
+                         "POST / HTTP/1.1\r\nContent-Type: text/xml\r\nTransfer-Encoding: chunked\r\n\r\n") +
+                     size + "\r\n" + GoodCall),
+            testing::Not(HasSubstr(" 200 ")))
             << size;
 }
 
@@ -248,13 +255,14 @@ TEST_F(XmlRpcServerTest, refusesContentThatIsCutShort)
 {
     for (const std::size_t size : {std::size_t(0), std::size_t(1), GoodCall.size() - 1}) {
         const RawSocket socket(port());
-        socket.send("POST / HTTP/1.1\r\nContent-Length: " + std::to_string(GoodCall.size()) + "\r\n\r\n" +
-                    GoodCall.substr(0, size));
+        socket.send("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nContent-Length: " +
+                    std::to_string(GoodCall.size()) + "\r\n\r\n" + GoodCall.substr(0, size));
         socket.sendNoMore();
         EXPECT_THAT(socket.receive(), StartsWith("HTTP/1.1 400")) << size;
     }
     // A length that is too short cuts the document; what follows is no request.
-    const std::string answer = answerTo("POST / HTTP/1.1\r\nContent-Length: 20\r\n\r\n" + GoodCall);
+    const std::string answer =
+        answerTo("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nContent-Length: 20\r\n\r\n" + GoodCall);
     EXPECT_THAT(answer, HasSubstr("<i4>-32700</i4>"));
 }
 
@@ -283,6 +291,53 @@ TEST_F(XmlRpcServerTest, survivesBrokenHeaders)
     EXPECT_THAT(answerTo(manyHeaders + "\r\n"), testing::Not(HasSubstr(" 200 ")));
 }
 
+TEST_F(XmlRpcServerTest, tellsWhatIsMalformed)
+{
+    const std::string nul("A: b\0c\r\n", 9);
+    for (const auto &[lines, reason] : std::vector<std::pair<std::string, std::string>>{
+             {"Content-Length : 5\r\n", "bad field"},
+             {"no colon\r\n", "bad field"},
+             {": b\r\n", "bad field"},
+             {"A\tB: c\r\n", "bad field"},
+             {nul, "bad value"},
+             {"A: b\x01\r\n", "bad value"},
+             {"A: b\nC: d\r\n", "bad value"},
+             {"Content-Length: 5, 6\r\n", "bad Content-Length"},
+             {"Transfer-Encoding: chunked\r\nTransfer-Encoding: chunked\r\n", "bad Transfer-Encoding"}}) {
+        const std::string answer = answerTo("POST / HTTP/1.1\r\n" + lines + "\r\n" + GoodCall);
+        EXPECT_THAT(answer, StartsWith("HTTP/1.1 400")) << lines;
+        EXPECT_THAT(answer, testing::EndsWith("\r\n\r\nMalformed HTTP: " + reason + "\n")) << lines;
+    }
+    EXPECT_THAT(answerTo("POST / HTTP/9.9\r\n\r\n"), testing::EndsWith("Malformed HTTP: bad version\n"));
+    EXPECT_THAT(answerTo("\r\n\r\n"), testing::EndsWith("Malformed HTTP: bad method\n"));
+    EXPECT_THAT(
+        answerTo("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\n"),
+        testing::EndsWith("Malformed HTTP: bad chunk\n"));
+    const RawSocket cut(port());
+    cut.send("POST / HTTP/1.1\r\nContent-Type: te");
+    cut.sendNoMore();
+    EXPECT_THAT(cut.receive(), testing::EndsWith("The request is cut short\n"));
+}
+
+TEST_F(XmlRpcServerTest, refusesHeadersThatAreToldTwice)
+{
+    for (const char *header : {"Host: localhost\r\n", "Content-Type: text/xml\r\n",
+                               "Sec-Fetch-Site: none\r\nSec-Fetch-Site: none\r\n",
+                               "Authorization: Bearer a\r\nAuthorization: Bearer b\r\n"})
+        EXPECT_THAT(answerTo(post(GoodCall, header)), StartsWith("HTTP/1.1 400")) << header;
+}
+
+TEST_F(XmlRpcServerTest, tellsThatItIsReadyForTheContent)
+{
+    const RawSocket socket(port());
+    const std::string request = post(GoodCall, "Connection: close\r\nExpect: 100-continue\r\n");
+    const std::size_t header = request.size() - GoodCall.size();
+    socket.send(request.substr(0, header));
+    EXPECT_EQ(socket.receive("\r\n\r\n"), "HTTP/1.1 100 Continue\r\n\r\n");
+    socket.send(request.substr(header));
+    EXPECT_THAT(socket.receive(), HasSubstr(GoodReply));
+}
+
 TEST_F(XmlRpcServerTest, survivesClientsThatGoAway)
 {
     for (int count = 0; count < 20; ++count) {
@@ -298,7 +353,8 @@ TEST_F(XmlRpcServerTest, endsSlowSenders)
 {
     // Silent in the header and in the content
     for (const char *begin :
-         {"POST / HTTP/1.1\r\nA: ", "POST / HTTP/1.1\r\nContent-Length: 10\r\n\r\n<meth"}) {
+         {"POST / HTTP/1.1\r\nA: ",
+          "POST / HTTP/1.1\r\nContent-Type: text/xml\r\nContent-Length: 10\r\n\r\n<meth"}) {
         const RawSocket silent(port());
         const auto since = std::chrono::steady_clock::now();
         silent.send(begin);
@@ -309,7 +365,7 @@ TEST_F(XmlRpcServerTest, endsSlowSenders)
     }
     // Never silent for long, and never ready
     const RawSocket trickle(port());
-    trickle.send("POST / HTTP/1.1\r\nContent-Length: 1000\r\n\r\n");
+    trickle.send("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nContent-Length: 1000\r\n\r\n");
     std::atomic<bool> isOver{false};
     std::thread sender([&] {
         for (int count = 0; count < 100 && !isOver; ++count) {
@@ -331,7 +387,7 @@ TEST_F(XmlRpcServerTest, answersOthersBesideSlowSenders)
     std::vector<std::unique_ptr<RawSocket>> slow;
     for (int count = 0; count < 60; ++count) {
         slow.push_back(std::make_unique<RawSocket>(port()));
-        slow.back()->send("POST / HTTP/1.1\r\nContent-Length: 10\r\n\r\n<");
+        slow.back()->send("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nContent-Length: 10\r\n\r\n<");
     }
     const auto since = std::chrono::steady_clock::now();
     expectGoodAnswer();
@@ -360,6 +416,31 @@ TEST_F(XmlRpcServerTest, answersEightClientsAtOnce)
         EXPECT_EQ(client.get(), 25);
 }
 
+/// Serves as long as it lives.
+class RunningServer
+{
+public:
+    RunningServer(XmlRpcServer::Handler handler, const XmlRpcServerOptions &options)
+        : m_server(std::move(handler), options)
+    {
+        m_server.listen();
+        m_thread = std::thread([this] { m_server.run(); });
+    }
+    ~RunningServer()
+    {
+        m_server.stop();
+        m_thread.join();
+    }
+    RunningServer(const RunningServer &) = delete;
+    RunningServer &operator=(const RunningServer &) = delete;
+
+    int port() const { return m_server.port(); }
+
+private:
+    XmlRpcServer m_server;
+    std::thread m_thread{};
+};
+
 TEST(XmlRpcServer, stopsWithClientsThatWaitAndThatHang)
 {
     XmlRpcServer server(handle);
@@ -367,7 +448,7 @@ TEST(XmlRpcServer, stopsWithClientsThatWaitAndThatHang)
     std::thread thread([&] { server.run(); });
     const RawSocket idle(server.port());
     const RawSocket slow(server.port());
-    slow.send("POST / HTTP/1.1\r\nContent-Length: 10\r\n\r\n<");
+    slow.send("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nContent-Length: 10\r\n\r\n<");
     const RawSocket busy(server.port());
     busy.send(post(
         "<methodCall><methodName>slow</methodName><params><param><value><i4>5</i4></value></param></params>"
@@ -389,6 +470,97 @@ TEST(XmlRpcServer, stopsBeforeItRuns)
     server.stop();
     server.run();
     SUCCEED();
+}
+
+TEST(XmlRpcServer, closesTheOldestOfTooManyConnections)
+{
+    XmlRpcServerOptions options;
+    options.connections = 3;
+    const RunningServer running(handle, options);
+    const RawSocket oldest(running.port());
+    oldest.send("POST ");
+    std::this_thread::sleep_for(50ms);
+    const RawSocket second(running.port());
+    const RawSocket third(running.port());
+    std::this_thread::sleep_for(50ms);
+    const RawSocket another(running.port());
+    another.send(post(GoodCall));
+    EXPECT_THAT(another.receive("</methodResponse>"), HasSubstr(GoodReply));
+    EXPECT_EQ(oldest.receive(), "");
+    second.send(post(GoodCall));
+    EXPECT_THAT(second.receive("</methodResponse>"), HasSubstr(GoodReply));
+}
+
+/// A server of which the method "last" lasts until its client has gone, and that takes two of these at once.
+class LongCalls : public testing::Test
+{
+protected:
+    static XmlRpcServerOptions options()
+    {
+        XmlRpcServerOptions options;
+        options.threads = 1;
+        options.longCalls = 2;
+        options.mayLast = [](const MethodCall &call) { return call.method == QStringLiteral("last"); };
+        options.refuseLongCall = [](const MethodCall &) { return XmlRpcValue("too many"); };
+        return options;
+    }
+
+    void awaitLasting(int count) const
+    {
+        for (int turn = 0; turn < 500 && m_lasting != count; ++turn)
+            std::this_thread::sleep_for(10ms);
+        EXPECT_EQ(m_lasting, count);
+    }
+
+    std::atomic<int> m_lasting{0};
+    Ending m_end{};
+    RunningServer m_running{[this](const MethodCall &call, Ending &gone) {
+                                if (call.method == QStringLiteral("last")) {
+                                    const Ending either{&m_end, &gone};
+                                    ++m_lasting;
+                                    either.wait(10s);
+                                    --m_lasting;
+                                }
+                                return call.params;
+                            },
+                            options()};
+    const std::string m_call =
+        post("<methodCall><methodName>last</methodName><params><param><value><i4>5</i4></value>"
+             "</param></params></methodCall>");
+};
+
+TEST_F(LongCalls, leaveTheWayFreeForShortOnes)
+{
+    const RawSocket first(m_running.port());
+    const RawSocket second(m_running.port());
+    first.send(m_call);
+    second.send(m_call + post(GoodCall, "Connection: close\r\n"));
+    awaitLasting(2);
+    const RawSocket other(m_running.port());
+    other.send(post(GoodCall));
+    EXPECT_THAT(other.receive("</methodResponse>"), HasSubstr(GoodReply));
+    other.send(m_call);
+    EXPECT_THAT(other.receive("</methodResponse>"), HasSubstr("too many"));
+    m_end.begin();
+    EXPECT_THAT(first.receive("</methodResponse>"), HasSubstr(GoodReply));
+    const std::string both = second.receive(); // what came meanwhile has had its turn
+    EXPECT_NE(both.find(GoodReply), both.rfind(GoodReply));
+}
+
+TEST_F(LongCalls, hearThatTheirClientHasGone)
+{
+    auto first = std::make_unique<RawSocket>(m_running.port());
+    auto second = std::make_unique<RawSocket>(m_running.port());
+    first->send(m_call);
+    second->send(m_call);
+    awaitLasting(2);
+    first.reset();
+    awaitLasting(1);
+    second->send("POST / HT"); // one that has more to say has not gone
+    std::this_thread::sleep_for(50ms);
+    awaitLasting(1);
+    second.reset();
+    awaitLasting(0);
 }
 
 XmlRpcServer *signalled = nullptr;

@@ -90,10 +90,12 @@ private:
 
 } // namespace
 
-XmlRpcClient::XmlRpcClient(const QString &host, int port, std::chrono::milliseconds timeout)
+XmlRpcClient::XmlRpcClient(const QString &host, int port, std::chrono::milliseconds timeout,
+                           XmlRpcClientOptions options)
     : m_host(host),
       m_port(port),
-      m_timeout(timeout)
+      m_timeout(timeout),
+      m_options(std::move(options))
 {}
 
 QByteArray XmlRpcClient::post(const QByteArray &document) const
@@ -117,6 +119,8 @@ QByteArray XmlRpcClient::post(const QByteArray &document) const
                                        std::to_string(m_port));
     request.set(http::field::content_type, "text/xml");
     request.set(http::field::connection, "close");
+    if (!m_options.token.empty())
+        request.set(http::field::authorization, "Bearer " + m_options.token);
     request.body() = document.toStdString();
     request.prepare_payload();
 

@@ -4,15 +4,22 @@
 #include "xmlrpccodec.h"
 
 #include <chrono>
+#include <string>
 
 namespace quv {
+
+struct XmlRpcClientOptions
+{
+    std::string token{}; ///< that the server wants to be shown; empty: none
+};
 
 /// Calls methods of an XML-RPC server, one connection a call. Several threads may share it.
 class XmlRpcClient
 {
 public:
     /// \a timeout holds for a whole call, the server's own work included.
-    XmlRpcClient(const QString &host, int port, std::chrono::milliseconds timeout);
+    XmlRpcClient(const QString &host, int port, std::chrono::milliseconds timeout,
+                 XmlRpcClientOptions options = {});
 
     /// The value that the method \a method gives for \a params (an array, or a single value).
     /// \throws FaultException when the server answers with a fault
@@ -26,6 +33,7 @@ private:
     QString m_host{};
     int m_port = 0;
     std::chrono::milliseconds m_timeout{};
+    XmlRpcClientOptions m_options{};
 };
 
 } // namespace quv

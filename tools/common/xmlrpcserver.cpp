@@ -2,6 +2,7 @@
 #include "xmlrpcserver.h"
 
 #include "callthreads.h"
+#include "httpaccess.h"
 
 #include <xmlrpcpp/XmlRpcException.h>
 
@@ -40,6 +41,7 @@ using Clock = std::chrono::steady_clock;
 using Executor = net::strand<net::io_context::executor_type>;
 using Socket = net::basic_stream_socket<tcp, Executor>;
 using Parser = http::request_parser<http::string_body>;
+using Header = http::request<http::string_body>;
 using Response = http::response<http::string_body>;
 
 constexpr std::size_t MaxHeaderBytes = 32 * 1024;
@@ -52,6 +54,16 @@ constexpr Clock::duration Farewell = 2s;
 constexpr Clock::duration LastWrite =
     200ms; ///< what is being answered when the server stops is still worth this
 constexpr Clock::time_point Never = Clock::time_point::max();
+
+constexpr const char *SecFetchSite = "Sec-Fetch-Site";
+
+/// Who may call.
+struct Access
+{
+    bool isLocal = true; ///< only this computer reaches the server
+    std::string host{};
+    std::string token{};
+};
 
 struct Refusal
 {
@@ -131,16 +143,51 @@ std::optional<Refusal> lengthRefusal(const Parser &parser)
     return std::nullopt;
 }
 
-/// Refuses by the header alone what would be refused later anyhow.
-std::optional<Refusal> headerRefusal(const Parser &parser)
+std::string_view view(beast::string_view text)
 {
-    const auto &header = parser.get();
+    return {text.data(), text.size()};
+}
+
+/// Headers that decide who may call, and of which a second one would be read by nobody.
+bool isAmbiguous(const Header &header)
+{
+    constexpr std::array<http::field, 3> Single{http::field::host, http::field::content_type,
+                                                http::field::authorization};
+    return header.count(SecFetchSite) > 1 ||
+           std::any_of(Single.begin(), Single.end(),
+                       [&](http::field field) { return header.count(field) > 1; });
+}
+
+/// Refuses who may not call.
+std::optional<Refusal> accessRefusal(const Header &header, const Access &access)
+{
+    if (isAmbiguous(header))
+        return Refusal{400, "A header is told twice"};
+    if (header.count(http::field::origin) > 0 ||
+        (header.count(SecFetchSite) > 0 && header[SecFetchSite] != "none"))
+        return Refusal{403, "Requests of web pages are refused"};
+    if (access.isLocal && header.count(http::field::host) > 0 &&
+        !namesThisComputer(view(header[http::field::host]), access.host))
+        return Refusal{421, "This is not the host of the request"};
+    if (!access.token.empty() && !holdsToken(view(header[http::field::authorization]), access.token))
+        return Refusal{401, "The token is missing or wrong"};
+    if (!isXmlType(view(header[http::field::content_type])))
+        return Refusal{415, "The content must be XML: text/xml or application/xml"};
+    return std::nullopt;
+}
+
+/// Refuses by the header alone what would be refused later anyhow.
+std::optional<Refusal> headerRefusal(const Parser &parser, const Access &access)
+{
+    const Header &header = parser.get();
     if (header.method() != http::verb::post)
         return Refusal{405, "Only POST is allowed"};
     if (header.target().size() > MaxPathLength)
         return Refusal{414, "The path is too long"};
     if (header.count(http::field::range) > 0)
         return Refusal{400, "Ranges are not supported"};
+    if (auto refusal = accessRefusal(header, access))
+        return refusal;
     if (header.count(http::field::content_encoding) > 0)
         return Refusal{415, "The content must not be encoded"};
     return lengthRefusal(parser);
@@ -176,6 +223,7 @@ private:
 
     XmlRpcServer::Handler m_handler{};
     const XmlRpcServerOptions m_options{};
+    Access m_access{};
     int m_port = 0;
     std::atomic<bool> m_isStopping{false};
 
@@ -374,7 +422,7 @@ bool XmlRpcServer::Impl::Connection::parse()
         }
         if (m_parser->is_header_done() && !m_isHeaderRead) {
             m_isHeaderRead = true;
-            if (const auto refusal = headerRefusal(*m_parser)) {
+            if (const auto refusal = headerRefusal(*m_parser, m_server.m_access)) {
                 refuse(*refusal);
                 return false;
             }
@@ -442,6 +490,10 @@ void XmlRpcServer::Impl::Connection::refuse(const Refusal &refusal)
     Response response(static_cast<http::status>(refusal.status), 11);
     if (response.result() == http::status::method_not_allowed)
         response.set(http::field::allow, "POST");
+    if (response.result() == http::status::unauthorized) {
+        for (const char *scheme : {"Bearer", "Basic"})
+            response.insert(http::field::www_authenticate, scheme + std::string(" realm=\"quvdriver\""));
+    }
     response.set(http::field::content_type, "text/plain");
     response.keep_alive(false);
     response.body() = refusal.reason + "\n";
@@ -526,9 +578,12 @@ void XmlRpcServer::Impl::bind()
     error_code error;
     const auto found =
         tcp::resolver(m_io).resolve(host, std::to_string(m_options.port), tcp::resolver::passive, error);
-    if (error || found.empty())
+    if (error || found.empty() || host.empty())
         fail(QStringLiteral("unknown host"));
     const tcp::endpoint endpoint = found.begin()->endpoint();
+    m_access = {endpoint.address().is_loopback(), host, m_options.token};
+    if (!m_access.isLocal && m_access.token.empty() && !m_options.isOpen)
+        throw OpenToOthers(QStringLiteral("%1 is reached from other computers").arg(m_options.host));
     m_acceptor.open(endpoint.protocol(), error);
     if (!error)
         m_acceptor.set_option(tcp::acceptor::reuse_address(true), error);

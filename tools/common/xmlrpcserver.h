@@ -7,13 +7,23 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace quv {
+
+/// A server that other computers would reach, without a token and without having been told to be open.
+class OpenToOthers : public TransportError
+{
+public:
+    using TransportError::TransportError;
+};
 
 struct XmlRpcServerOptions
 {
     QString host = QStringLiteral("127.0.0.1");
-    int port = 0; ///< 0: any free one
+    int port = 0;        ///< 0: any free one
+    std::string token{}; ///< that each request must show; empty: none
+    bool isOpen = false; ///< to other computers, without a token
     XmlRpcLimits limits{};
     std::chrono::milliseconds requestTimeout{5000}; ///< for a whole request to arrive
     std::chrono::milliseconds answerTimeout{15000}; ///< for its answer to leave
@@ -33,6 +43,10 @@ struct XmlRpcServerOptions
  * sender that is too slow, 400 with the reason for malformed HTTP; a fault for what is no XML-RPC call, and for whatever
  * the handler throws.
  *
+ * No page in a browser can call it: a request with an Origin, or from any site as Sec-Fetch-Site tells, is refused (403),
+ * so is any content type but text/xml and application/xml (415) and, on a loopback address, a Host that is neither this
+ * computer nor the host of the options (421). A request without the token is refused with 401.
+ *
  * A connection that rests, sends, or waits for its answer holds no thread of those that serve all.
  */
 class XmlRpcServer
@@ -50,6 +64,7 @@ public:
 
     /// Binds the port. From here on clients can connect, and are answered when run() runs.
     /// \throws TransportError when the host is unknown or the port is taken
+    /// \throws OpenToOthers
     void listen();
     /// The port that listen() bound, else 0.
     int port() const;

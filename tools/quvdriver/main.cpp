@@ -4,6 +4,7 @@
 #include "simulatedfirmware.h"
 
 #include "callthreads.h"
+#include "httpaccess.h"
 #include "machines.h"
 #include "xmlrpcserver.h"
 
@@ -64,6 +65,14 @@ const QCommandLineOption firmwareOption(
     QStringLiteral("What the firmware knows of configurations: older, equal (default) or newer "
                    "than this program."),
     QStringLiteral("AGE"), QStringLiteral("equal"));
+const QCommandLineOption tokenOption(
+    QStringLiteral("token-file"),
+    QStringLiteral("The file with the token that each client must send (HTTP bearer, or basic with any "
+                   "user name)."),
+    QStringLiteral("FILE"));
+const QCommandLineOption openOption(QStringLiteral("open"),
+                                    QStringLiteral("Needs no token on an address that other computers reach: "
+                                                   "anybody who reaches the port commands the machines."));
 const QCommandLineOption onceOption(QStringLiteral("once"), QStringLiteral("Answer one call, then end."));
 
 void describe(QCommandLineParser &parser)
@@ -72,8 +81,8 @@ void describe(QCommandLineParser &parser)
         QStringLiteral("Owns simulated machines and carries out their commands, called by XML-RPC."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions(
-        {hostOption, portOption, machineOption, speedOption, stateOption, firmwareOption, onceOption});
+    parser.addOptions({hostOption, portOption, machineOption, speedOption, stateOption, firmwareOption,
+                       tokenOption, openOption, onceOption});
 }
 
 Options readOptions(const QCommandLineParser &parser)
@@ -84,6 +93,14 @@ Options readOptions(const QCommandLineParser &parser)
     Options options;
     bool isNumber = false;
     options.server.host = parser.value(hostOption);
+    if (options.server.host.isEmpty())
+        throw Usage("--host must be an address");
+    options.server.isOpen = parser.isSet(openOption);
+    if (parser.isSet(tokenOption)) {
+        if (options.server.isOpen)
+            throw Usage("--token-file and --open exclude each other");
+        options.server.token = quv::readToken(parser.value(tokenOption));
+    }
     const uint port = parser.value(portOption).toUInt(&isNumber);
     if (!isNumber || port > 65535)
         throw Usage("--port must be a number from 0 to 65535");
@@ -181,7 +198,12 @@ void run(const Options &options)
             return driver.call(call, gone);
         },
         serverOptions);
-    server.listen();
+    try {
+        server.listen();
+    } catch (const quv::OpenToOthers &error) {
+        throw Usage(error.what() +
+                    std::string("; give --token-file, or --open to let anybody command the machines"));
+    }
 
     std::signal(SIGPIPE, SIG_IGN);
     std::printf("listening on %s:%d\n", qPrintable(options.server.host), server.port());
