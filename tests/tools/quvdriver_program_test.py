@@ -34,6 +34,21 @@ class ProgramTest(unittest.TestCase):
                 with self.assertRaises(OSError):
                     socket.create_connection(("127.0.0.1", driver.port), timeout=5)
 
+    def test_signals_are_for_the_main_thread_alone(self):
+        with Driver() as driver, driver.client() as client:
+            self.assertEqual(client.EXEC_B("GET_STATUS")["ret_code"], 0)
+            tasks = f"/proc/{driver.process.pid}/task"
+            threads = os.listdir(tasks)
+            self.assertGreater(len(threads), 8)
+            threads.remove(str(driver.process.pid))  # the main thread, which waits for them
+            for thread in threads:
+                with open(f"{tasks}/{thread}/status", encoding="ascii") as file:
+                    masks = dict(line.split(":\t") for line in file if line.startswith("Sig"))
+                for number in (signal.SIGTERM, signal.SIGINT):
+                    bit = 1 << (number - 1)
+                    self.assertTrue(int(masks["SigBlk"], 16) & bit, f"{number} in {thread}")
+                    self.assertFalse(int(masks["SigCgt"], 16) & bit, f"{number} in {thread}")
+
     def test_once_answers_one_call_and_ends(self):
         with Driver("--once") as driver:
             with driver.client() as client:
