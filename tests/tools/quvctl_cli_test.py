@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
-"""quvctl for people: words in, lines and exit status out. Usage: quvctl_cli_test.py QUVCTL COMPLETION_SCRIPT"""
+"""quvctl for people: words in, lines and exit status out. Usage: quvctl_cli_test.py QUVCTL"""
 
 import fcntl
 import json
@@ -19,8 +19,6 @@ import xmlrpc.client
 
 import quvctl_process
 from quvctl_process import run, start
-
-COMPLETION = ""
 
 REQUIRED_FLAGS = """offline_pressed board_not_initialized startup resetting BL_active BL_memory_resetting BL_fw_update
     conf_writing hw_error conf_error process_error stop_process emergency_pressed can_present shelf_up shelf_down tinting
@@ -90,6 +88,29 @@ class General(CliTest):
 
     def test_version(self):
         self.assertRegex(self.done("--version"), r"^quvctl \d+\.\d+\.\d+\n$")
+
+    def test_short_options(self):
+        for name in ["list", "tint", "batch"]:
+            self.assertEqual(self.done(name, "-h"), self.done("help", name))
+        self.assertEqual(self.done("-V"), self.done("--version"))
+
+    def test_help_is_as_wide_as_the_terminal(self):
+        for columns in [40, 60, 72, 100]:
+            for words in [["help"], *(["help", name] for name in ["list", "show", "encode", "decode", "call", "ticket",
+                                                                 "tint", "config", "watch", "batch", "machine", "explain"])]:
+                code, out, err = run(*words, env={**os.environ, "COLUMNS": str(columns)})
+                self.assertEqual((code, err), (0, ""))
+                self.assertEqual([line for line in out.split("\n") if len(line) > columns], [], (columns, words))
+                if words == ["help", "call"]:  # a text of several lines uses the width
+                    self.assertGreater(max(map(len, out.split("\n"))), columns - 12)
+        self.assertLessEqual(max(map(len, self.done("help", "tint").split("\n"))), 80)  # nobody tells a width
+
+    def test_one_dash(self):
+        for words, text in [(["tint", "-B=5"], 'there is no option "-B=5"; did you mean "B=5"?'),
+                            (["tint", "A=1", "-KX=2.5"], 'there is no option "-KX=2.5"; did you mean "KX=2.5"?'),
+                            (["tint", "-B", "5"], 'there is no option "-B"'),
+                            (["list", "-json"], 'there is no option "-json"; did you mean "--json"?')]:
+            self.assertEqual(self.wrong(*words), f"quvctl: {text} (see quvctl help)\n")
 
     def test_wrong_usage(self):
         self.assertEqual(self.wrong(), "quvctl: a subcommand is missing (see quvctl help)\n")
@@ -488,6 +509,80 @@ class Call(CliTest):
             self.assertEqual(driver.requests, [])
 
 
+class Address(CliTest):
+    """Which driver is called."""
+
+    def call(self, driver, *options, **environment):
+        asked = len(driver.requests)
+        code, out, err = run("call", "GET_STATUS", *options, env={**os.environ, **environment})
+        self.assertEqual((code, err, len(driver.requests)), (0, "", asked + 1), options)
+
+    def test_host(self):
+        with Driver(envelope(status())) as driver:
+            port = str(driver.port)
+            for host in ["127.0.0.1", "http://127.0.0.1", "http://127.0.0.1/"]:
+                self.call(driver, "--host", host, "--port", port)
+            for host in [f"127.0.0.1:{port}", f"http://127.0.0.1:{port}", f"http://127.0.0.1:{port}/RPC2",
+                         f"HTTP://localhost:{port}/"]:
+                self.call(driver, "--host", host)
+            self.call(driver, "--host", f"127.0.0.1:{port}", "--port", port)
+
+    def test_path(self):
+        with Driver(envelope(status())) as driver:
+            err = self.refused("call", "GET_STATUS", "--host", f"http://127.0.0.1:{driver.port}/elsewhere")
+            self.assertRegex(err, "^quvctl: .*404")
+
+    def test_environment(self):
+        with Driver(envelope(status())) as driver:
+            port = str(driver.port)
+            self.call(driver, QUV_PORT=port)
+            self.call(driver, QUV_HOST=f"127.0.0.1:{port}")
+            self.call(driver, QUV_HOST=f"http://127.0.0.1:{port}", QUV_PORT="1")  # the host's own
+            self.call(driver, "--host", "127.0.0.1", QUV_HOST="nowhere.invalid:1", QUV_PORT=port)
+            self.call(driver, "--port", port, QUV_HOST="127.0.0.1:1", QUV_PORT="2")
+            self.call(driver, "--port", port, QUV_HOST="", QUV_PORT="")
+
+    def test_no_address(self):
+        none = "is no HOST, HOST:PORT or http://HOST:PORT/PATH"
+        for options, text in [
+                (["--host", "https://shop:9333"],
+                 '--host: "https://shop:9333" is no address that quvctl can call: it speaks http, without encryption'),
+                (["--host", "ftp://shop"], f'--host: "ftp://shop" {none}'), (["--host", ""], f'--host: "" {none}'),
+                (["--host", "[::1"], f'--host: "[::1" {none}'),
+                (["--host", "shop/RPC2"], '--host: "shop/RPC2" has a path, so it begins with http://'),
+                (["--host", "http://me@shop"], '--host: "http://me@shop" tells a user, which nobody would see'),
+                (["--host", "shop:0"], '--host: a port is a number from 1 to 65535, not "0"'),
+                (["--host", "shop:"], '--host: a port is a number from 1 to 65535, not ""'),
+                (["--host", "shop:9000", "--port", "9001"], "--host tells the port 9000, --port 9001")]:
+            self.assertEqual(self.wrong("call", "GET_STATUS", *options), f"quvctl: {text} (see quvctl help)\n")
+        for name, value, text in [("QUV_PORT", "9333x", 'QUV_PORT: a port is a number from 1 to 65535, not "9333x"'),
+                                  ("QUV_HOST", "a b://c", f'QUV_HOST: "a b://c" {none}')]:
+            self.assertEqual(run("call", "GET_STATUS", env={**os.environ, name: value}),
+                             (2, "", f"quvctl: {text} (see quvctl help)\n"))
+
+    def test_sixth_version(self):
+        for host in ["::1", "[::1]", "http://[::1]/"]:
+            self.assertIn("EXEC_B GET_STATUS to ::1:1\n",
+                          run("call", "GET_STATUS", "-v", "--host", host, "--port", "1")[2])
+
+
+class Loudness(CliTest):
+    def test_verbose(self):
+        for option in ["-v", "--verbose"]:
+            with Driver(envelope(0, 6)) as driver:
+                code, _, err = run("call", "GET_STATUS", option, "--port", str(driver.port))
+            self.assertEqual(code, 1)
+            self.assertRegex(err, rf"^EXEC_B GET_STATUS to 127\.0\.0\.1:{driver.port}\n"
+                                  r"return code 6 after \d+ ms\nFailed! ")
+
+    def test_quiet(self):
+        with Driver(envelope(status(tinting=True))) as driver:
+            self.assertEqual(self.done("call", "GET_STATUS", "-q", "--port", str(driver.port)),
+                             "Machine status 1\nTinting in progress\n")
+        with Driver(ticket(0, envelope([1], info="done"))) as driver:
+            self.assertEqual(self.done("ticket", "T-1", "--wait", "--quiet", "--port", str(driver.port)), "[1]\n")
+
+
 class Async(CliTest):
     def test_ticket(self):
         with Driver(envelope({"ticket_id": "T-1"}, info="RESET command executed successfully!")) as driver:
@@ -563,7 +658,7 @@ class Ticket(CliTest):
                              (1, "", "Failed! Xml-rpc command invalid for Driver.\n"))
 
     def waiting(self, driver, *options):
-        return start("ticket", "T-1", "--wait", "--interval", "10", "--port", str(driver.port), *options)
+        return start("ticket", "T-1", "--wait", "--interval", "0.01", "--port", str(driver.port), *options)
 
     def lines(self, process, count):
         watchdog = threading.Timer(30, process.kill)
@@ -622,7 +717,7 @@ class Ticket(CliTest):
         fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", 24, 40, 0, 0))
         with Driver(None) as driver:
             driver.take = lambda requests, params: replies.pop(0)
-            subprocess.run([quvctl_process.PROGRAM, "ticket", "T-1", "--wait", "--interval", "10", "--port",
+            subprocess.run([quvctl_process.PROGRAM, "ticket", "T-1", "--wait", "--interval", "0.01", "--port",
                             str(driver.port)],
                            stdout=theirs, env={**os.environ, "NO_COLOR": "1", **environment}, timeout=30, check=True)
         text = os.read(ours, 65536).decode("utf-8").replace("\r\n", "\n")
@@ -647,8 +742,8 @@ class Ticket(CliTest):
     def test_wrong_usage(self):
         self.assertEqual(self.wrong("ticket"), "quvctl: ticket needs ID (see quvctl help)\n")
         self.assertEqual(self.wrong("ticket", "a", "b"), 'quvctl: unexpected "b" (see quvctl help)\n')
-        self.assertEqual(self.wrong("ticket", "a", "--interval", "9"),
-                         "quvctl: --interval takes a number from 10 to 3600000 (see quvctl help)\n")
+        self.assertEqual(self.wrong("ticket", "a", "--interval", "0.009"),
+                         "quvctl: --interval takes a number from 0.01 to 86400 (see quvctl help)\n")
 
 
 class Watch(CliTest):
@@ -696,6 +791,8 @@ class Watch(CliTest):
             out = self.done("watch", "--count", "3", "--interval", "0.01", "--port", str(driver.port))
             self.assertEqual(len(driver.requests), 3)
         self.assertEqual(len(out.split("\n")), 2)
+        self.assertEqual(self.wrong("watch", "--interval", "0.009"),
+                         "quvctl: --interval takes a number from 0.01 to 86400 (see quvctl help)\n")
 
     def test_no_driver(self):
         with socket.socket() as closed:
@@ -705,52 +802,6 @@ class Watch(CliTest):
         self.assertEqual(len(out.split("\n")), 2)  # the same failure is told once
 
 
-class Completion(unittest.TestCase):
-    def complete(self, *words):
-        """What Tab offers at the end of the last word."""
-        script = ('source "$1"; shift; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _quvctl; '
-                  'printf "%s\\n" "${COMPREPLY[@]}"')
-        result = subprocess.run(["bash", "--norc", "-c", script, "bash", COMPLETION, quvctl_process.PROGRAM, *words],
-                                capture_output=True, text=True, timeout=30, check=True)
-        self.assertEqual(result.stderr, "")
-        return result.stdout.split()
-
-    def test_completion(self):
-        self.assertEqual(self.complete("sh"), ["show"])
-        self.assertIn("watch", self.complete(""))
-        self.assertEqual(self.complete("show", "GET_STAT"), ["GET_STATUS", "GET_STATS_ERRORS"])
-        self.assertEqual(self.complete("call", "--port", "99", "TIN"), ["TINT", "TINT2"])
-        self.assertEqual(self.complete("call", "TINT", "GET"), [])
-        self.assertEqual(self.complete("call", "TINT", "--p"), ["--port"])
-        self.assertEqual(self.complete("list", "--kind", "s"), ["serial", "special", "scale"])
-        self.assertEqual(self.complete("help", "wa"), ["watch"])
-        self.assertEqual(self.complete("encode", "--machine", "turn"), ["turntable"])
-        self.assertEqual(self.complete("machine", "turn"), ["turntable"])
-        self.assertEqual(self.complete("config", "pu"), ["pull", "push"])
-        self.assertEqual(self.complete("config", "--yes", "d"), ["diff"])
-        self.assertEqual(self.complete("config", "push", COMPLETION[:-1]), [COMPLETION])
-
-    def test_names_of_arguments(self):
-        self.assertEqual(self.complete("call", "GET_STATUS", ""), ["position="])
-        self.assertEqual(self.complete("call", "--port", "99", "GET_STATUS", "pos"), ["position="])
-        self.assertEqual(self.complete("encode", "READ_CONFIG_ROW", ""), ["code=", "id="])
-        self.assertEqual(self.complete("encode", "READ_CONFIG_ROW", "i"), ["id="])
-        for given in [("code=7",), ("code", "=", "7")]:
-            self.assertEqual(self.complete("encode", "READ_CONFIG_ROW", *given, ""), ["id="])
-        for value in [("code", "="), ("code", "=", "7"), ("code", "=", "i"), ("code=7",)]:
-            self.assertEqual(self.complete("encode", "READ_CONFIG_ROW", *value), [])
-        self.assertEqual(self.complete("call", "GET_ERRORS", ""), [])
-        self.assertEqual(self.complete("call", "NOPE", ""), [])
-        self.assertEqual(self.complete("show", "GET_STATUS", ""), [])
-
-    def test_options_are_those_of_the_help(self):
-        for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "config", "watch", "batch",
-                     "machine", "explain"]:
-            told = re.findall(r"(?m)^  (--[a-z-]+)", run("help", name)[1])
-            self.assertEqual(sorted(self.complete(name, "--")), sorted(told), name)
-
-
 if __name__ == "__main__":
     quvctl_process.PROGRAM = sys.argv.pop(1)
-    COMPLETION = sys.argv.pop(1)
     unittest.main()

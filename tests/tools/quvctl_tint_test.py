@@ -116,7 +116,7 @@ class Requests(unittest.TestCase):
                     ("--by is one of: colorant, position, circuit, canister", "B=1", "--by", "smell"),
                     ("--unit is one of: weight, steps, strokes", "B=1", "--unit", "litres"),
                     ("--levels-check is one of: on, off", "B=1", "--levels-check", "maybe"),
-                    ("--interval takes a number from 10 to 3600000", "B=1", "--interval", "9"),
+                    ("--interval takes a number from 0.01 to 86400", "B=1", "--interval", "0.009"),
                     ('unexpected "B=1"', formula, "B=1"),
                     ("a formula as JSON tells its own type and unit, without --by and --unit", formula, "--by",
                      "colorant"),
@@ -138,7 +138,7 @@ class Pouring(unittest.TestCase):
 
     def tint(self, **script):
         with ScriptedDriver(**script) as driver:
-            told = run("tint", "B=12.5", "--interval", "10", "--port", str(driver.port))
+            told = run("tint", "B=12.5", "--interval", "0.01", "--port", str(driver.port))
         return (*told, driver)
 
     def test_all(self):
@@ -221,7 +221,7 @@ class Simulated(unittest.TestCase):
               "poured: all", ""]
 
     def tint(self, driver, *words):
-        return run("tint", *words, "--interval", "10", "--port", str(driver.port))
+        return run("tint", *words, "--interval", "0.01", "--port", str(driver.port))
 
     def test_pour(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "100") as driver:
@@ -239,7 +239,7 @@ class Simulated(unittest.TestCase):
             code, out, err = run("tint", "B=10", "C=2", "--no-wait", "--port", str(driver.port))
             self.assertEqual((code, err), (0, ""))
             ticket_id = re.fullmatch("Ticket (.+)\n", out).group(1)
-            code, out, err = run("ticket", ticket_id, "--wait", "--interval", "10", "--port", str(driver.port))
+            code, out, err = run("ticket", ticket_id, "--wait", "--interval", "0.01", "--port", str(driver.port))
             self.assertEqual((code, err), (0, ""))
             self.assertEqual(out.split("\n")[-3:], ["TINT command executed successfully!", "0", ""])
             code, out, err = run("ticket", ticket_id, "--json", "--port", str(driver.port))
@@ -283,7 +283,7 @@ class Simulated(unittest.TestCase):
 
     def test_interrupt(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "20") as driver:
-            with start("tint", "B=500", "--interval", "10", "--port", str(driver.port)) as process:  # 13 s
+            with start("tint", "B=500", "--interval", "0.01", "--port", str(driver.port)) as process:  # 13 s
                 ticket_id = re.fullmatch("Ticket (.+)\n", process.stdout.readline()).group(1)
                 process.stdout.readline()  # it waits
                 process.send_signal(signal.SIGINT)
@@ -299,7 +299,7 @@ class Simulated(unittest.TestCase):
     def test_terminal(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "20") as driver:
             code, text = quvctl_process.run_on_terminal(
-                "tint", "B=500", "--interval", "10", "--port", str(driver.port),
+                "tint", "B=500", "--interval", "0.01", "--port", str(driver.port),
                 asks=lambda shown: b"remaining...\033[K\r[" in shown, answer=b"\003")  # Ctrl-C
         self.assertEqual(code, 130)
         self.assertRegex(text, r"^Ticket .+\r\n\r\[\.{10}\] ")

@@ -7,6 +7,8 @@
 #include <boost/beast/core/tcp_stream.hpp>
 #include <boost/beast/http.hpp>
 
+#include <utility>
+
 namespace quv {
 namespace {
 
@@ -114,7 +116,7 @@ QByteArray XmlRpcClient::post(const QByteArray &document) const
             throw TransportError(otherwise.arg(server));
     };
 
-    http::request<http::string_body> request(http::verb::post, "/RPC2", 11);
+    http::request<http::string_body> request(http::verb::post, m_options.path, 11);
     request.set(http::field::host, (host.find(':') == std::string::npos ? host : "[" + host + "]") + ":" +
                                        std::to_string(m_port));
     request.set(http::field::content_type, "text/xml");

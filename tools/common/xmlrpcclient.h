@@ -11,6 +11,7 @@ namespace quv {
 struct XmlRpcClientOptions
 {
     std::string token{}; ///< that the server wants to be shown; empty: none
+    std::string path = "/RPC2"; ///< to which calls are posted
 };
 
 /// Calls methods of an XML-RPC server, one connection a call. Several threads may share it.

@@ -16,9 +16,10 @@ namespace quv {
 
 namespace {
 
-void print(const ProtoCommand &command, const XmlRpcAnswer &envelope)
+void print(const ProtoCommand &command, const XmlRpcAnswer &envelope, bool isQuiet)
 {
-    printLine(envelope.infoMsg(), Colour::Bold);
+    if (!isQuiet)
+        printLine(envelope.infoMsg(), Colour::Bold);
     if (const auto *async = dynamic_cast<const AsyncAnswer *>(command.getProtoAnswer()))
         printLine(QStringLiteral("Ticket %1").arg(async->ticketID()));
     else if (dynamic_cast<const MachineStatusAnswer *>(command.getProtoAnswer()))
@@ -45,7 +46,7 @@ ExitStatus run(const CommandLine &line)
     if (envelope.retCode() != 0)
         throw RequestRefused(envelope);
     if (!line.isSet("json"))
-        print(*command, envelope);
+        print(*command, envelope, line.isQuiet());
     return Done;
 }
 
@@ -64,6 +65,7 @@ const Subcommand callSubcommand = {
     1,
     -1,
     withDriverOptions({machineOption,
+                       quietOption,
                        {"async", nullptr, "do not wait for the answer, show a ticket"},
                        {"json", nullptr, "envelope and answer as one JSON object"}}),
     run};

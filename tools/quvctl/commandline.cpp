@@ -3,6 +3,9 @@
 
 #include "suggestions.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace quv {
 
 namespace {
@@ -33,25 +36,42 @@ QString latin1(const char *text)
 
 QCommandLineOption parserOption(const OptionText &option)
 {
-    return {latin1(option.name), latin1(option.text), option.value ? latin1(option.value) : QString()};
+    QStringList names(latin1(option.name));
+    if (option.letter)
+        names.append(QString(QLatin1Char(option.letter)));
+    return {names, latin1(option.text), option.value ? latin1(option.value) : QString()};
 }
 
-QString optionHelp(const char *name, const char *value, const char *text)
+/// The word by which a user gave the option of one letter that nobody knows.
+QString wordOfLetter(const QString &letter, const QStringList &words)
 {
-    QString head = QStringLiteral("  --") + latin1(name);
-    if (value)
-        head += QLatin1Char(' ') + latin1(value);
-    return head.leftJustified(24) + latin1(text) + QLatin1Char('\n');
+    const auto word = std::find_if(words.begin(), words.end(), [&](const QString &each) {
+        return each.startsWith(QLatin1Char('-') + letter);
+    });
+    return word == words.end() ? QLatin1Char('-') + letter : *word;
+}
+
+/// What a word with one dash stands for: a long option, or a quantity, which has none.
+QString meantByOneDash(const QString &word, const QStringList &known)
+{
+    const QString &name = word.mid(1);
+    if (name.size() > 1 && name.contains(QLatin1Char('=')))
+        return QStringLiteral("; did you mean \"%1\"?").arg(name);
+    return name.size() > 1 ? didYouMean(QStringLiteral("--") + name, known) : QString();
 }
 
 /// What the parser found wrong, and which options the unknown ones may stand for.
-QString parserError(const QCommandLineParser &parser, const Subcommand &subcommand)
+QString parserError(const QCommandLineParser &parser, const Subcommand &subcommand, const QStringList &words)
 {
     QStringList known(QStringLiteral("--help"));
     for (const OptionText &option : subcommand.options)
         known.append(QStringLiteral("--") + latin1(option.name));
     QString text = parser.errorText();
     for (const QString &unknown : parser.unknownOptionNames()) {
+        if (unknown.size() == 1) {
+            const QString word = wordOfLetter(unknown, words);
+            return QStringLiteral("there is no option \"%1\"%2").arg(word, meantByOneDash(word, known));
+        }
         const QString suggestion = didYouMean(QStringLiteral("--") + unknown, known);
         if (suggestion.isEmpty())
             continue;
@@ -81,7 +101,7 @@ CommandLine::CommandLine(const Subcommand &subcommand, const QStringList &words)
     for (const QString &word : words)
         line.append(guarded(word));
     if (!m_parser.parse(line))
-        throw UsageError(parserError(m_parser, subcommand));
+        throw UsageError(parserError(m_parser, subcommand, words));
     for (const QString &word : m_parser.positionalArguments())
         m_words.append(unguarded(word));
 
@@ -133,22 +153,17 @@ QString CommandLine::choice(const char *option, const QString &otherwise, const 
 
 std::vector<OptionText> withDriverOptions(std::vector<OptionText> options)
 {
-    options.push_back({"host", "HOST", "the driver's host (127.0.0.1)"});
-    options.push_back({"port", "PORT", "the driver's port (9333)"});
+    options.push_back(
+        {"host", "HOST", "the driver: HOST, HOST:PORT or http://HOST:PORT/PATH (QUV_HOST, or 127.0.0.1)"});
+    options.push_back({"port", "PORT", "the driver's port (QUV_PORT, or 9333)"});
     options.push_back({"timeout", "SECONDS", "how long a call may take (60)"});
+    options.push_back({"verbose", nullptr, "tell each call of the driver on standard error", 'v'});
     return options;
 }
 
-QString helpText(const Subcommand &subcommand)
+std::chrono::milliseconds intervalOf(const CommandLine &line)
 {
-    QString text = QStringLiteral("Usage: quvctl %1 [options] %2")
-                       .arg(latin1(subcommand.name), QString::fromUtf8(subcommand.words))
-                       .trimmed();
-    text += QStringLiteral("\n\n%1\n\nOptions:\n").arg(QString::fromUtf8(subcommand.details));
-    for (const OptionText &option : subcommand.options)
-        text += optionHelp(option.name, option.value, option.text);
-    text += optionHelp("help", nullptr, "this help");
-    return text;
+    return std::chrono::milliseconds(std::llround(line.decimal("interval", 0.5, 0.01, 86400) * 1000));
 }
 
 } // namespace quv

@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <chrono>
 #include <stdexcept>
 #include <vector>
 
@@ -21,9 +22,10 @@ enum ExitStatus { Done = 0, Refused = 1, WrongUsage = 2, Interrupted = 130 };
 
 struct OptionText
 {
-    const char *name;
-    const char *value; ///< its name in the help; null for a switch
-    const char *text;
+    const char *name = nullptr;
+    const char *value = nullptr; ///< its name in the help; null for a switch
+    const char *text = nullptr;
+    char letter = 0; ///< its short form; 0 for none
 };
 
 /// The machine that an operation is to know, as the batch operations take it.
@@ -55,6 +57,7 @@ public:
     const QStringList &words() const { return m_words; }
     bool isSet(const char *option) const;
     bool wantsHelp() const { return isSet("help"); }
+    bool isQuiet() const { return isSet("quiet"); }
     QString value(const char *option, const QString &otherwise) const;
     /// \throws UsageError for what is no number from \a min to \a max
     int number(const char *option, int otherwise, int min, int max) const;
@@ -67,9 +70,17 @@ private:
     QStringList m_words;
 };
 
-/// The host, port and timeout of those who call a driver.
+/// What those have who tell more than an answer.
+constexpr OptionText quietOption = {
+    "quiet", nullptr, "no progress and no confirmation: answers, warnings and errors only", 'q'};
+/// The time between two questions, everywhere in the unit of --timeout.
+constexpr OptionText intervalOption = {"interval", "SECONDS",
+                                       "the time between two questions, 0.01 to 86400 (0.5)"};
+
+/// The address of the driver, how long it may take, and whether its calls are told.
 std::vector<OptionText> withDriverOptions(std::vector<OptionText> options);
 
-QString helpText(const Subcommand &subcommand);
+/// The time of the option --interval. \throws UsageError
+std::chrono::milliseconds intervalOf(const CommandLine &line);
 
 } // namespace quv

@@ -2,6 +2,7 @@
 #include "driver.h"
 
 #include "commandline.h"
+#include "terminal.h"
 
 #include "base/protocommand.h"
 #include "base/xmlrpcanswer.h"
@@ -19,6 +20,20 @@ std::chrono::milliseconds timeoutOf(const CommandLine &line)
     return std::chrono::milliseconds(std::llround(line.decimal("timeout", 60, 0.001, 86400) * 1000));
 }
 
+XmlRpcClientOptions optionsOf(const DriverAddress &address)
+{
+    XmlRpcClientOptions options;
+    if (!address.path.isEmpty())
+        options.path = address.path.toStdString();
+    return options;
+}
+
+qint64 millisecondsSince(std::chrono::steady_clock::time_point begin)
+{
+    using std::chrono::milliseconds;
+    return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - begin).count();
+}
+
 } // namespace
 
 RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what)
@@ -30,8 +45,9 @@ RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what
 }
 
 Driver::Driver(const CommandLine &line)
-    : m_client(line.value("host", QStringLiteral("127.0.0.1")), line.number("port", 9333, 1, 65535),
-               timeoutOf(line))
+    : m_address(driverAddress(line)),
+      m_isVerbose(line.isSet("verbose")),
+      m_client(m_address.host, m_address.port, timeoutOf(line), optionsOf(m_address))
 {}
 
 const XmlRpcAnswer &Driver::execute(ProtoCommand &command) const
@@ -46,11 +62,20 @@ const XmlRpcAnswer &Driver::start(ProtoCommand &command) const
 
 const XmlRpcAnswer &Driver::send(ProtoCommand &command, ProtoCommandList::CallKind kind) const
 {
-    const auto reply =
-        m_client.call(ProtoCommandList::functionCallStr(kind), command.toXmlRpcValue(QString()));
+    const auto begin = std::chrono::steady_clock::now();
+    const QString method = ProtoCommandList::functionCallStr(kind);
+    if (m_isVerbose)
+        printNote(QStringLiteral("%1 %2 to %3:%4")
+                      .arg(method, command.command(), m_address.host)
+                      .arg(m_address.port));
+    const auto reply = m_client.call(method, command.toXmlRpcValue(QString()));
     FW_DriverError error;
     if (!command.setAnswer(reply, kind == ProtoCommandList::NonBlockingCall, &error))
         throw FW_DriverError(error);
+    if (m_isVerbose)
+        printNote(QStringLiteral("return code %1 after %2 ms")
+                      .arg(command.getXmlRpcAnswer()->retCode())
+                      .arg(millisecondsSince(begin)));
     return *command.getXmlRpcAnswer();
 }
 

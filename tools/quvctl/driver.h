@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "driveraddress.h"
 #include "xmlrpcclient.h"
 
 #include "catalogue/protocommandlist.h"
@@ -28,7 +29,7 @@ private:
     QStringList m_lines{};
 };
 
-/// The driver that --host, --port and --timeout name.
+/// The driver that --host, --port and --timeout name, and the environment where they do not.
 class Driver
 {
 public:
@@ -45,6 +46,8 @@ public:
 private:
     const XmlRpcAnswer &send(ProtoCommand &command, ProtoCommandList::CallKind kind) const;
 
+    DriverAddress m_address{};
+    bool m_isVerbose = false;
     XmlRpcClient m_client;
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
+#include "help.h"
 #include "subcommands.h"
 #include "suggestions.h"
 #include "terminal.h"
@@ -18,28 +19,10 @@ namespace {
 
 using namespace quv;
 
-const Subcommand *const subcommands[] = {&listSubcommand,   &showSubcommand,    &encodeSubcommand,
-                                         &decodeSubcommand, &callSubcommand,    &ticketSubcommand,
-                                         &tintSubcommand,   &configSubcommand,  &watchSubcommand,
-                                         &batchSubcommand,  &machineSubcommand, &explainSubcommand};
-
-QString overview()
-{
-    QString text =
-        QStringLiteral("Usage: quvctl SUBCOMMAND [options] ...\n\n"
-                       "Shows, writes, reads and calls the commands of paint colorant dispensers.\n\n"
-                       "Subcommands:\n");
-    for (const Subcommand *subcommand : subcommands)
-        text += QStringLiteral("  %1%2\n")
-                    .arg(QLatin1String(subcommand->name), -10)
-                    .arg(QLatin1String(subcommand->summary));
-    text += QStringLiteral("  %1this help, or that of a subcommand\n\n").arg(QStringLiteral("help"), -10);
-    text +=
-        QStringLiteral("quvctl help SUBCOMMAND tells its options; quvctl --version prints the version.\n"
-                       "Exit status: 0 done, 1 refused (on standard error as CODE: text), 2 wrong usage,\n"
-                       "130 after Ctrl-C.\n");
-    return text;
-}
+const std::vector<const Subcommand *> subcommands = {
+    &listSubcommand,  &showSubcommand,   &encodeSubcommand,  &decodeSubcommand,
+    &callSubcommand,  &ticketSubcommand, &tintSubcommand,    &configSubcommand,
+    &watchSubcommand, &batchSubcommand,  &machineSubcommand, &explainSubcommand};
 
 const Subcommand &subcommandOf(const QString &name)
 {
@@ -52,16 +35,14 @@ const Subcommand &subcommandOf(const QString &name)
     throw UsageError(QStringLiteral("there is no subcommand \"%1\"%2").arg(name, didYouMean(name, names)));
 }
 
-void printHelp(const QString &text)
-{
-    std::fputs(text.toUtf8().constData(), stdout);
-}
-
 ExitStatus help(const QStringList &words)
 {
     if (words.size() > 1)
         throw UsageError(QStringLiteral("unexpected \"%1\"").arg(words[1]));
-    printHelp(words.isEmpty() ? overview() : helpText(subcommandOf(words.first())));
+    if (words.isEmpty())
+        printOverview(subcommands);
+    else
+        printHelp(subcommandOf(words.first()));
     return Done;
 }
 
@@ -72,8 +53,8 @@ ExitStatus run(QStringList words)
     const QString name = words.takeFirst();
     if (name == QLatin1String("help") || name == QLatin1String("--help") || name == QLatin1String("-h"))
         return help(words);
-    if (name == QLatin1String("--version")) {
-        printHelp(QStringLiteral("quvctl " QUVCTL_VERSION "\n"));
+    if (name == QLatin1String("--version") || name == QLatin1String("-V")) {
+        printLine(QStringLiteral("quvctl " QUVCTL_VERSION));
         return Done;
     }
     const Subcommand &subcommand = subcommandOf(name);

@@ -96,13 +96,31 @@ void printLine(const QString &text, Colour colour)
 
 void printParagraph(const QString &text, Colour colour)
 {
-    for (const QString &line : brokenLines(text, longestLine()))
+    printParagraph(text, colour, longestLine());
+}
+
+void printParagraph(const QString &text, Colour colour, int columns)
+{
+    for (const QString &line : brokenLines(text, columns))
         printLine(line, colour);
 }
 
 void printError(const QString &text)
 {
     print(stderr, text, Colour::Red);
+}
+
+void printNote(const QString &text)
+{
+    print(stderr, text, Colour::Plain);
+}
+
+int columnsOfText()
+{
+    constexpr int narrowest = 40;
+    constexpr int widest = 100;
+    const int wanted = qEnvironmentVariableIntValue("COLUMNS");
+    return std::clamp(wanted > 0 ? wanted : columnsOfTerminal(), narrowest, widest);
 }
 
 bool canRedraw()
@@ -142,18 +160,23 @@ void Columns::print(bool heading) const
 
 void Columns::printBroken(int indent) const
 {
+    printBroken(indent, longestLine());
+}
+
+void Columns::printBroken(int indent, int columns) const
+{
     constexpr int narrowest = 24; // a last column with less room goes below the others
     const QList<int> widths = this->widths();
     int start = indent;
     for (int i = 0; i + 1 < widths.size(); ++i)
         start += widths[i] + 2;
-    const bool fits = longestLine() - start >= narrowest;
+    const bool fits = columns - start >= narrowest;
     const int lastStart = fits ? start : indent + 4;
     for (const QStringList &row : m_rows) {
         QString line = blanks(indent);
         for (int i = 0; i + 1 < row.size(); ++i)
             line += row[i].leftJustified(widths[i] + 2);
-        QStringList texts = brokenLines(row.last(), longestLine() - lastStart);
+        QStringList texts = brokenLines(row.last(), columns - lastStart);
         if (fits)
             line += texts.takeFirst();
         while (line.endsWith(QLatin1Char(' ')))

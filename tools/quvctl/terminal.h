@@ -17,8 +17,15 @@ QString printable(QString text);
 void printLine(const QString &text, Colour colour = Colour::Plain);
 /// The same in as many lines as a terminal needs, broken between words.
 void printParagraph(const QString &text, Colour colour = Colour::Plain);
+void printParagraph(const QString &text, Colour colour, int columns);
 /// A line on standard error.
 void printError(const QString &text);
+
+/// A line on standard error that tells nothing bad.
+void printNote(const QString &text);
+
+/// How wide a text for reading is: as COLUMNS says, else as the terminal is, else 80; never wider than is good to read.
+int columnsOfText();
 
 /// Whether standard output is a terminal on which a line can be drawn again.
 bool canRedraw();
@@ -34,6 +41,7 @@ public:
     void print(bool heading) const;
     /// Behind \a indent, the last column broken where it does not fit on a terminal.
     void printBroken(int indent) const;
+    void printBroken(int indent, int columns) const;
 
 private:
     QList<int> widths() const;

@@ -39,7 +39,8 @@ ExitStatus run(const CommandLine &line)
     const std::chrono::milliseconds interval = intervalOf(line);
     const Ticket ticket(driver, line.words().first(), line);
     const bool json = line.isSet("json");
-    const CmdStatus status = line.isSet("wait") ? ticket.waitForEnd(interval, !json) : ticket.status();
+    const CmdStatus status =
+        line.isSet("wait") ? ticket.waitForEnd(interval, !json && !line.isQuiet()) : ticket.status();
     if (json)
         return printAsJson(ticket, status);
     if (status.status() > 0) {
@@ -47,7 +48,8 @@ ExitStatus run(const CommandLine &line)
         return Done;
     }
     const XmlRpcAnswer envelope = resultOf(status);
-    printLine(envelope.infoMsg(), Colour::Bold);
+    if (!line.isQuiet())
+        printLine(envelope.infoMsg(), Colour::Bold);
     printValue(envelope.xmlrpcRetValue());
     return Done;
 }
@@ -64,7 +66,8 @@ const Subcommand ticketSubcommand = {
     1,
     1,
     withDriverOptions({{"wait", nullptr, "ask until the command has ended"},
-                       {"interval", "MS", "the time between two questions, milliseconds (500)"},
+                       intervalOption,
+                       quietOption,
                        {"json", nullptr, "status, envelope and answer as one JSON object"}}),
     run};
 

@@ -124,11 +124,6 @@ QString ticketIn(const ProtoCommand &command)
     return answer->ticketID();
 }
 
-std::chrono::milliseconds intervalOf(const CommandLine &line)
-{
-    return std::chrono::milliseconds(line.number("interval", 500, 10, 3600000));
-}
-
 XmlRpcAnswer resultOf(const CmdStatus &ended)
 {
     bool ok = false;

@@ -59,9 +59,6 @@ private:
 /// The ticket of a command that has been started: Driver::start. \throws std::runtime_error when the driver gave none
 QString ticketIn(const ProtoCommand &command);
 
-/// The time between two questions, of the option --interval. \throws UsageError
-std::chrono::milliseconds intervalOf(const CommandLine &line);
-
 /**
  * The envelope of a command that has ended. \throws RequestRefused when it holds a return code other than 0, std::runtime_error when
  * the command ended without an envelope, or badly

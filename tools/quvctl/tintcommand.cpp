@@ -112,10 +112,12 @@ ExitStatus run(const CommandLine &line)
     printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
     if (line.isSet("no-wait"))
         return Done;
-    const CmdStatus ended = ticket.waitForEnd(interval, true);
+    const CmdStatus ended = ticket.waitForEnd(interval, !line.isQuiet());
     if (ended.status() == CmdStatus::Interrupted || ended.status() == CmdStatus::TimedOut)
         report(driver); // some of it has left the nozzles
-    printLine(resultOf(ended).infoMsg(), Colour::Bold);
+    const XmlRpcAnswer result = resultOf(ended);
+    if (!line.isQuiet())
+        printLine(result.infoMsg(), Colour::Bold);
     return report(driver);
 }
 
@@ -137,7 +139,8 @@ const Subcommand tintSubcommand = {
                        {"unit", "UNIT", "steps, strokes or weight: weight or volume, as calibrated (weight)"},
                        {"levels-check", "on|off", "the driver refuses what canisters do not hold (on)"},
                        {"no-wait", nullptr, "do not wait for the end; the ticket tells later"},
-                       {"interval", "MS", "the time between two questions, milliseconds (500)"}}),
+                       intervalOption,
+                       quietOption}),
     run};
 
 } // namespace quv

@@ -98,7 +98,7 @@ private:
 ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
-    const std::chrono::duration<double> interval(line.decimal("interval", 1, 0.01, 86400));
+    const std::chrono::milliseconds interval = intervalOf(line);
     const int count = line.number("count", 0, 0, 1000000000);
     Watcher watcher;
     for (int i = 1;; ++i) {
@@ -121,8 +121,7 @@ const Subcommand watchSubcommand = {
     "changes. A driver that goes away is waited for. With --count, the exit status is 1 when no status came.",
     0,
     0,
-    withDriverOptions({{"interval", "SECONDS", "the time between two questions (1)"},
-                       {"count", "N", "ends after N questions; 0 goes on for ever (0)"}}),
+    withDriverOptions({intervalOption, {"count", "N", "ends after N questions; 0 goes on for ever (0)"}}),
     run};
 
 } // namespace quv

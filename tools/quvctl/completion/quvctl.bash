@@ -1,13 +1,14 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
-# Bash completion of quvctl: subcommands, their options, and the names of commands and of their arguments.
+# Bash completion of quvctl: subcommands, their options as the help tells them, and the names of commands and of their arguments.
 
 _quvctl()
 {
-    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    local current previous subcommand command prefix
+    local -a line=()
+    _quvctl_line
     local subcommands="list show encode decode call ticket tint config watch batch machine explain help"
-    local driver="--host --port --timeout"
     local machines="dispenser turntable dual mixer"
-    local words="" command=""
+    local words=""
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
@@ -15,7 +16,7 @@ _quvctl()
         return
     fi
 
-    case "${COMP_WORDS[1]} $previous" in
+    case "$subcommand $previous" in
     "list --machine") words="dispenser mixer none" ;;
     "list --kind") words="serial configuration special scale" ;;
     "list --family" | "encode --family") words="1 2" ;;
@@ -23,93 +24,136 @@ _quvctl()
     "tint --by") words="position circuit canister colorant" ;;
     "tint --unit") words="steps strokes weight" ;;
     "tint --levels-check") words="on off" ;;
-    "encode --machine" | "decode --machine" | "call --machine")
-        COMPREPLY=($(compgen -W "none $machines" -- "$current") $(compgen -f -- "$current"))
+    "encode --machine" | "decode --machine" | "call --machine" | *" --token-file")
+        [[ $previous == --machine ]] && words="none $machines"
+        _quvctl_offer $(compgen -W "$words" -- "$current") $(compgen -f -- "$current")
         return
         ;;
-    *" --host" | *" --port" | *" --timeout" | *" --interval" | *" --count" | *" --args") return ;;
-    *)
-        case "${COMP_WORDS[1]}" in
-        list) words="--machine --kind --family --names --json --help" ;;
-        show) words="--json --names --markdown --help" ;;
-        encode) words="--family --machine --form --json --help" ;;
-        decode) words="--args --machine --json --help" ;;
-        call) words="--machine --async --json $driver --help" ;;
-        ticket) words="--wait --interval --json $driver --help" ;;
-        tint) words="--by --unit --levels-check --no-wait --interval $driver --help" ;;
-        config)
-            words="--yes $driver --help"
-            if [[ $current != -* ]]; then
-                words=""
-                if ! _quvctl_has_name; then
-                    words="pull push diff"
-                else
-                    COMPREPLY=($(compgen -f -- "$current"))
-                    return
-                fi
-            fi
-            ;;
-        watch) words="--interval --count $driver --help" ;;
-        batch) words="--help" ;;
-        explain) words="--json --help" ;;
-        machine)
-            words="--help"
-            if [[ $current != -* ]]; then
-                COMPREPLY=($(compgen -W "$machines" -- "$current") $(compgen -f -- "$current"))
-                return
-            fi
-            ;;
-        help) words="${subcommands% help}" ;;
-        esac
-        # a command's name comes first, and options only when asked for
-        case "${COMP_WORDS[1]}" in
-        show | encode | decode | call)
-            if [[ $current != -* ]]; then
-                words=""
-                if ! _quvctl_has_name; then
-                    words=$("${COMP_WORDS[0]}" list --names 2>/dev/null)
-                elif [[ ${COMP_WORDS[1]} == encode || ${COMP_WORDS[1]} == call ]]; then
-                    _quvctl_arguments
-                    return
-                fi
-            fi
-            ;;
-        esac
+    *" --"*)
+        _quvctl_takes_value "$previous" && return
         ;;
     esac
-    COMPREPLY=($(compgen -W "$words" -- "$current"))
+    if [[ $words ]]; then
+        _quvctl_offer $(compgen -W "$words" -- "$current")
+        return
+    fi
+
+    if [[ $current == -* ]]; then
+        for words in $(_quvctl_options | cut -d ' ' -f 1); do
+            [[ " ${line[*]} " == *" $words "* ]] || COMPREPLY+=($(compgen -W "$words" -- "$current"))
+        done
+        return
+    fi
+    case "$subcommand" in
+    config)
+        _quvctl_has_name && COMPREPLY=($(compgen -f -- "$current")) || words="pull push diff"
+        ;;
+    machine) COMPREPLY=($(compgen -W "$machines" -- "$current") $(compgen -f -- "$current")) ;;
+    help) words="${subcommands% help}" ;;
+    show | encode | decode | call)
+        if ! _quvctl_has_name; then
+            words=$("${COMP_WORDS[0]}" list --names 2>/dev/null)
+        elif [[ $subcommand == encode || $subcommand == call ]]; then
+            _quvctl_arguments
+        fi
+        ;;
+    esac
+    [[ $words ]] && COMPREPLY=($(compgen -W "$words" -- "$current"))
+}
+
+# The words before the cursor, without the signs that the shell makes words of: --port=9333 is an option and its value.
+_quvctl_line()
+{
+    local i word
+    current=${COMP_WORDS[COMP_CWORD]}
+    for ((i = 2; i < COMP_CWORD; ++i)); do
+        word=${COMP_WORDS[i]}
+        if [[ $word == = && ${line[-1]:-} == --* ]]; then
+            continue
+        elif [[ $word == --*=* ]]; then
+            line+=("${word%%=*}" "${word#*=}")
+        else
+            line+=("$word")
+        fi
+    done
+    subcommand=${COMP_WORDS[1]}
+    previous=${COMP_WORDS[COMP_CWORD - 1]}
+    prefix=""
+    if [[ $previous == = && ${line[-1]:-} == --* ]]; then
+        previous=${line[-1]}
+    elif [[ $current == = && $previous == --* ]]; then
+        current=""
+    elif [[ $current == --*=* ]]; then
+        previous=${current%%=*}
+        prefix=$previous=
+        current=${current#*=}
+    fi
+}
+
+# What may stand at the cursor, behind the option that the word begins with, if any.
+_quvctl_offer()
+{
+    local word
+    for word in "$@"; do
+        COMPREPLY+=("$prefix$word")
+    done
+}
+
+# A line for each option of the subcommand: its name and, when it takes one, the name of its value.
+_quvctl_options()
+{
+    "${COMP_WORDS[0]}" help "$subcommand" 2>/dev/null |
+        sed -n 's/^ *\(-., *\)\{0,1\}\(--[a-z-]*\)\( [A-Za-z|]\{1,\}\)\{0,1\}\(  .*\)\{0,1\}$/\2\3/p'
+}
+
+_quvctl_takes_value()
+{
+    _quvctl_options | grep -q -- "^$1 "
 }
 
 # Whether a word between the subcommand and the cursor is no option, nor the value of one. The first one is the command.
 _quvctl_has_name()
 {
-    local i
-    for ((i = 2; i < COMP_CWORD; ++i)); do
-        case "${COMP_WORDS[i]}" in
-        --json | --async | --yes | --names | --markdown | --help) ;;
-        --*) ((++i)) ;;
-        *)
-            command=${COMP_WORDS[i]}
+    local word option="" options
+    options=$(_quvctl_options)
+    for word in "${line[@]}"; do
+        if [[ $option && $'\n'$options == *$'\n'"$option "* ]]; then
+            option=""
+        elif [[ $word == -* ]]; then
+            option=$word
+        else
+            command=$word
             return 0
-            ;;
-        esac
+        fi
     done
     return 1
 }
 
-# The names of the command's arguments that are not given yet.
+# The names of the command's arguments that are not given yet, neither by their names nor by their places.
 _quvctl_arguments()
 {
-    local i name given=" "
+    local i word name given=" " option="" options names place=-1
     # usually the shell makes three words of name=value
     [[ $current == = || $previous == = ]] && return
-    for ((i = 3; i < COMP_CWORD; ++i)); do
-        case "${COMP_WORDS[i]}" in
-        =) given+="${COMP_WORDS[i - 1]} " ;;
-        ?*=*) given+="${COMP_WORDS[i]%%=*} " ;;
-        esac
+    options=$(_quvctl_options)
+    names=($("${COMP_WORDS[0]}" show "$command" --names 2>/dev/null))
+    for ((i = 0; i < ${#line[@]}; ++i)); do
+        word=${line[i]}
+        if [[ $option && $'\n'$options == *$'\n'"$option "* ]]; then
+            option=""
+        elif [[ $word == --* ]]; then
+            option=$word
+        elif [[ $word == ?*=* ]]; then
+            given+="${word%%=*} "
+        elif [[ ${line[i + 1]:-} == = ]]; then
+            given+="$word "
+            ((i += 2))
+        else
+            ((place >= 0)) && given+="${names[place]:-} "
+            ((++place)) # the command itself is the first
+        fi
     done
-    for name in $("${COMP_WORDS[0]}" show "$command" --names 2>/dev/null); do
+    for name in "${names[@]}"; do
         [[ $given == *" $name "* ]] || COMPREPLY+=($(compgen -W "$name=" -- "$current"))
     done
     compopt -o nospace 2>/dev/null # the value follows at once

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "driveraddress.h"
+
+#include "commandline.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <optional>
+
+namespace quv {
+
+namespace {
+
+struct ToldHost
+{
+    QString host{};
+    std::optional<int> port{};
+    QString path{};
+};
+
+/// \a source is what gave the text, as the user knows it.
+int portOf(const QString &text, const char *source)
+{
+    bool ok = false;
+    const int port = text.toInt(&ok);
+    if (!ok || port < 1 || port > 65535)
+        throw UsageError(QStringLiteral("%1: a port is a number from 1 to 65535, not \"%2\"")
+                             .arg(QLatin1String(source), text));
+    return port;
+}
+
+UsageError noAddress(const QString &text, const char *source, const char *why)
+{
+    return UsageError(QStringLiteral("%1: \"%2\" %3").arg(QLatin1String(source), text, QLatin1String(why)));
+}
+
+ToldHost hostOf(const QString &text, const char *source)
+{
+    static const QRegularExpression form(QStringLiteral(
+        R"(^(?:([A-Za-z][A-Za-z0-9+.-]*)://)?(\[[^\]/\s]+\]|[^:/\[\]\s]+)(?::([^:/]*))?(/.*)?$)"));
+    static const QRegularExpression numberOfSixthVersion(
+        QStringLiteral("^[0-9A-Fa-f.]*(:[0-9A-Fa-f.]*){2,}(%.+)?$"));
+    if (numberOfSixthVersion.match(text).hasMatch())
+        return {text, std::nullopt, QString()};
+    const QRegularExpressionMatch match = form.match(text);
+    const QString scheme = match.captured(1).toLower();
+    if (scheme == QLatin1String("https"))
+        throw noAddress(text, source,
+                        "is no address that quvctl can call: it speaks http, without encryption");
+    if (!match.hasMatch() || (!scheme.isEmpty() && scheme != QLatin1String("http")))
+        throw noAddress(text, source, "is no HOST, HOST:PORT or http://HOST:PORT/PATH");
+    if (scheme.isEmpty() && !match.captured(4).isEmpty())
+        throw noAddress(text, source, "has a path, so it begins with http://");
+    if (match.captured(2).contains(QLatin1Char('@')))
+        throw noAddress(text, source, "tells a user, which nobody would see");
+    ToldHost told{match.captured(2), std::nullopt, match.captured(4)};
+    if (told.host.startsWith(QLatin1Char('[')))
+        told.host = told.host.mid(1, told.host.size() - 2);
+    if (match.capturedStart(3) >= 0)
+        told.port = portOf(match.captured(3), source);
+    return told;
+}
+
+} // namespace
+
+DriverAddress driverAddress(const CommandLine &line)
+{
+    constexpr const char *hostVariable = "QUV_HOST";
+    constexpr const char *portVariable = "QUV_PORT";
+    const bool isTyped = line.isSet("host");
+    ToldHost told{QStringLiteral("127.0.0.1")};
+    if (isTyped)
+        told = hostOf(line.value("host", QString()), "--host");
+    else if (!qEnvironmentVariableIsEmpty(hostVariable))
+        told = hostOf(qEnvironmentVariable(hostVariable), hostVariable);
+
+    DriverAddress address;
+    address.host = told.host;
+    address.path = told.path;
+    if (line.isSet("port")) {
+        address.port = line.number("port", address.port, 1, 65535);
+        if (isTyped && told.port && *told.port != address.port)
+            throw UsageError(
+                QStringLiteral("--host tells the port %1, --port %2").arg(*told.port).arg(address.port));
+    } else if (told.port) {
+        address.port = *told.port;
+    } else if (!qEnvironmentVariableIsEmpty(portVariable)) {
+        address.port = portOf(qEnvironmentVariable(portVariable), portVariable);
+    }
+    return address;
+}
+
+} // namespace quv

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QString>
+
+namespace quv {
+
+class CommandLine;
+
+/// Where a driver listens.
+struct DriverAddress
+{
+    QString host{};
+    int port = 9333;
+    QString path{}; ///< of a URL; empty for none
+};
+
+/**
+ * What --host and --port tell, and QUV_HOST and QUV_PORT where they do not: the nearest tells, and each of the hosts may tell a
+ * port too. \throws UsageError
+ */
+DriverAddress driverAddress(const CommandLine &line);
+
+} // namespace quv
