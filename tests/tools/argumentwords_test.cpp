@@ -93,6 +93,32 @@ TEST(ArgumentWords, leaveATextWithTheSignAlone)
     EXPECT_EQ(taken({"1=2", "{\"a\":\"b=c\"}", "=3"}), R"(["1=2",{"a":"b=c"},"=3"])");
 }
 
+TEST(ArgumentWords, areTextsWhereTheyAreNoJson)
+{
+    for (const char *word : {"007", "-01", "1.", ".5", "+5", "1e", "0x10", "1_000", "1.2.3", "12abc", "-"})
+        EXPECT_EQ(taken({"1", "30", word}), "[1,30,\"" + std::string(word) + "\"]");
+    EXPECT_EQ(taken({"1", "30", "0"}), "[1,30,0]");
+    EXPECT_EQ(taken({"1", "30", "-0.5e1"}), "[1,30,-5.0]");
+    EXPECT_EQ(refusal({"1", "30", "99999999999999999999"}).substr(0, 30), "argument 99999999999999999999:");
+}
+
+TEST(ArgumentWords, refuseATextThatBeginsWithNearlyAName)
+{
+    EXPECT_EQ(refusal({"1", "30", "note2=x"}),
+              "CLEANING has no argument \"note2\"; did you mean \"note\"? As a text "
+              "it is given with its name: note=note2=x");
+    EXPECT_EQ(taken({"1", "30", "note=note2=x"}), R"([1,30,"note2=x"])");
+    quv::CommandFacts ticket;
+    ticket.name = QStringLiteral("GET_CMD_STATUS");
+    ticket.arguments = {argument("ticket_id", "string")};
+    for (const char *name : {"tiket", "ticket", "TICKET_ID", "ticketid"})
+        EXPECT_EQ(refusal({QString::fromLatin1(name) + "=x"}, ticket),
+                  "GET_CMD_STATUS has no argument \"" + std::string(name) +
+                      "\"; did you mean \"ticket_id\"? As a text it is given with its name: ticket_id=" +
+                      name + "=x");
+    EXPECT_EQ(taken({"a=b"}, ticket), R"(["a=b"])");
+}
+
 TEST(ArgumentWords, refuseAnUnknownName)
 {
     EXPECT_EQ(refusal({"tpye=1"}), "CLEANING has no argument \"tpye\"; it has: type, speed, note, rinse");

@@ -273,7 +273,8 @@ class Encode(CliTest):
         self.assertTrue(self.wrong("encode", "GET_STATUS", "[1").startswith("quvctl: argument [1: no JSON: "))
         self.wrong("encode", "GET_STATUS", '{"a"}')
         self.wrong("encode", "GET_STATUS", '"open')
-        self.wrong("encode", "GET_STATUS", "007")
+        self.assertEqual(self.refused("encode", "GET_STATUS", "007"), "DE00298: Position ID: expected INT parameter\n")
+        self.assertEqual(self.request("GET_CMD_STATUS", "007"), ["GET_CMD_STATUS", "007"])
         self.wrong("encode", "GET_STATUS", "99999999999999999999")
 
 
@@ -322,6 +323,31 @@ class LostArguments(CliTest):
                 (("GET_CMD_EST_EXEC_TIME", "GET_STATUS", "0", "--form", "list"), 1)]:
             told = json.loads(self.done("encode", *words, "--machine", "dual", "--json"))
             self.assertEqual((told["request"][0], len(told["request"])), (words[0], count + 1), words)
+
+    def test_members_that_nobody_reads(self):
+        formula = {"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [1]}
+        for name, member, meant in [("TINT", "exec_criterium", "exec_criterion"), ("TINT", "level_policy", "levels_policy"),
+                                    ("GET_FORMULA_CIRCUITS", "decimal", "decimals")]:
+            self.assertEqual(self.wrong("encode", name, json.dumps({**formula, member: 1})),
+                             f'quvctl: {name} takes no notice of "{member}"; did you mean "{meant}"? (see quvctl help)\n')
+        row = {"cmd_value": 7, "cmd_parameters": "1,300,2,3"}
+        self.assertIn('notice of "cmd_val"; did', self.wrong("encode", "WRITE_CONFIG_ROW", json.dumps({**row, "cmd_val": 7})))
+        self.done("encode", "TINT", json.dumps({**formula, "colour": "red"}))  # what belongs to somebody else
+        formula["quantites"] = formula.pop("quantities")
+        self.assertEqual(self.refused("encode", "TINT", json.dumps(formula)),
+                         'DE00437: TintCmd failed: invalid Formula type parameter; it has "quantites"; did you mean '
+                         '"quantities"?\n')
+
+    def test_members_that_somebody_reads(self):
+        formula = {"formula_type": 1, "quantity_unit": 1, "ids": ["1", "2"], "quantities": [1.5, 2.0], "decimals": 1,
+                   "exec_criterion": 2, "levels_policy": 2, "queue_ids": [1, 1], "nozzle_valves": [0, 2]}
+        purge = {"purge_quantity": 2.5, "quantity_unit": 3, "only_filled": True, "head": 0}
+        for words in [("TINT", formula), ("SET_LEVELS", True, formula), ("CHECK_FORMULA_LEVELS", formula, False),
+                      ("PURGE", purge), ("PURGE", {**purge, "head": 1, "only_filled": False}),
+                      ("GET_CMD_EST_EXEC_TIME", {"command": ["GET_STATUS", 0]}),
+                      ("WRITE_CONFIG_ROW", {"cmd_code": "@HUM", "cmd_value": 7, "cmd_parameters": "1,300,2,3"})]:
+            words = [word if isinstance(word, str) else json.dumps(word) for word in words]
+            self.done("encode", *words, "--machine", "dual")
 
     def test_commands_that_cannot_be_called_yet(self):
         """Commands without a class of their own count their arguments and send none."""

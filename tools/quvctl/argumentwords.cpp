@@ -2,6 +2,7 @@
 #include "argumentwords.h"
 
 #include "commandline.h"
+#include "suggestions.h"
 
 #include "catalogue/commandfacts.h"
 
@@ -29,9 +30,8 @@ public:
         const int place = placeOf(name);
         if (place >= 0 && name.size() < word.size())
             give(place, {argumentFromWord(word.mid(name.size() + 1)), word});
-        else if (name.size() < word.size() && isMeantAsName(name))
-            throw UsageError(QStringLiteral("%1 has no argument \"%2\"; it has: %3")
-                                 .arg(m_facts.name, name, names().join(QStringLiteral(", "))));
+        else if (name.size() < word.size() && looksLikeName(name))
+            takeUnknown(name, word);
         else if (m_byName)
             throw UsageError(
                 QStringLiteral("\"%1\" needs a name, as it stands behind an argument with one").arg(word));
@@ -71,14 +71,36 @@ private:
         return names;
     }
 
-    /// A text may hold the sign as well, so only where no text can stand is an unknown name a mistake for certain.
-    bool isMeantAsName(const QString &name) const
+    bool looksLikeName(const QString &name) const
     {
         static const QRegularExpression form(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
-        if (m_facts.arguments.isEmpty() || !form.match(name).hasMatch())
-            return false;
+        return !m_facts.arguments.isEmpty() && form.match(name).hasMatch();
+    }
+
+    /// A text may hold the sign as well, so where one can stand an unknown name is a mistake only when it is nearly a known one.
+    void takeUnknown(const QString &name, const QString &word)
+    {
         const int next = static_cast<int>(m_given.size());
-        return m_byName || m_facts.arguments.value(next).type != QLatin1String("string");
+        const QString unknown = QStringLiteral("%1 has no argument \"%2\"").arg(m_facts.name, name);
+        if (m_byName || m_facts.arguments.value(next).type != QLatin1String("string"))
+            throw UsageError(
+                QStringLiteral("%1; it has: %2").arg(unknown, names().join(QStringLiteral(", "))));
+        const QString meant = nearName(name);
+        if (!meant.isEmpty())
+            throw UsageError(
+                QStringLiteral("%1; did you mean \"%2\"? As a text it is given with its name: %3=%4")
+                    .arg(unknown, meant, m_facts.arguments[next].name, word));
+        m_given.emplace_back(Given{argumentFromWord(word), word});
+    }
+
+    /// The name that is meant by one that is nearly its whole or nearly its first word, as "tiket" is of "ticket_id".
+    QString nearName(const QString &typed) const
+    {
+        for (const QString &name : names())
+            for (const QString &part : {name, name.section(QLatin1Char('_'), 0, 0)})
+                if (isNear(typed, part))
+                    return name;
+        return {};
     }
 
     void give(int place, Given given)
@@ -115,7 +137,8 @@ private:
 json argumentFromWord(const QString &word)
 {
     // who begins like this means JSON, and wants to hear of a mistake
-    static const QRegularExpression start(QStringLiteral(R"(^([\[{"]|-?\d+(\.\d+)?([eE][+-]?\d+)?$))"));
+    static const QRegularExpression start(
+        QStringLiteral(R"(^([\[{"]|-?(0|[1-9]\d*)(\.\d+)?([eE][+-]?\d+)?$))"));
     try {
         json value = parseJson(word.toStdString());
         toXmlRpcValue(value); // which not all of JSON can become

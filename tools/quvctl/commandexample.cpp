@@ -2,7 +2,6 @@
 #include "commandexample.h"
 
 #include "argumentwords.h"
-#include "jsonvalue.h"
 #include "machines.h"
 
 #include "base/protocommand.h"
@@ -61,22 +60,6 @@ std::optional<OrderedJson> sampleOf(const QString &name, const Sample (&samples)
         if (name == QLatin1String(sample.of))
             return OrderedJson::parse(sample.json);
     return std::nullopt;
-}
-
-std::optional<OrderedJson> sampleArguments(const CommandFacts &command)
-{
-    if (auto arguments = sampleOf(command.name, samplesOfCommands))
-        return arguments;
-    if (command.arguments.isEmpty() && ProtoCommandList::cmdParamNum(command.name, true) > 0)
-        return std::nullopt;
-    OrderedJson arguments = OrderedJson::array();
-    for (const ArgumentFacts &argument : command.arguments) {
-        const auto sample = sampleOf(argument.type, samplesOfTypes);
-        if (!sample)
-            return std::nullopt;
-        arguments.push_back(*sample);
-    }
-    return arguments;
 }
 
 bool isTaken(const CommandFacts &command, const OrderedJson &arguments, const char *machine)
@@ -165,6 +148,22 @@ QString pythonCall(const QString &command, const OrderedJson &arguments)
 const char *const pythonPreparation = "import xmlrpc.client\n"
                                       "\n"
                                       "driver = xmlrpc.client.ServerProxy(\"http://127.0.0.1:9333\")\n";
+
+std::optional<OrderedJson> sampleArguments(const CommandFacts &command)
+{
+    if (auto arguments = sampleOf(command.name, samplesOfCommands))
+        return arguments;
+    if (command.arguments.isEmpty() && ProtoCommandList::cmdParamNum(command.name, true) > 0)
+        return std::nullopt;
+    OrderedJson arguments = OrderedJson::array();
+    for (const ArgumentFacts &argument : command.arguments) {
+        const auto sample = sampleOf(argument.type, samplesOfTypes);
+        if (!sample)
+            return std::nullopt;
+        arguments.push_back(*sample);
+    }
+    return arguments;
+}
 
 std::optional<CommandExample> exampleOf(const CommandFacts &command)
 {

@@ -37,11 +37,17 @@ int distance(const QString &a, const QString &b)
     return row.back();
 }
 
+/// Of longer words more letters may be wrong.
+int mostWrong(const QString &word)
+{
+    return std::max(1, word.size() / 3);
+}
+
 /// The words that whoever typed \a word may have meant: the nearest ones, three at most. Capitals do not count.
 QStringList nearestWords(const QString &word, const QStringList &words)
 {
     const QString typed = word.toUpper();
-    int nearest = std::max(1, word.size() / 3); // of longer words more may be wrong
+    int nearest = mostWrong(word);
     QStringList found;
     for (const QString &candidate : words) {
         if (std::abs(candidate.size() - word.size()) > nearest)
@@ -58,6 +64,11 @@ QStringList nearestWords(const QString &word, const QStringList &words)
 }
 
 } // namespace
+
+bool isNear(const QString &word, const QString &meant)
+{
+    return !nearestWords(word, {meant}).isEmpty();
+}
 
 QString didYouMean(const QString &word, const QStringList &words)
 {

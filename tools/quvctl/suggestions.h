@@ -6,6 +6,8 @@
 
 namespace quv {
 
+/// Whether \a word may be \a meant with a letter or two wrong. Capitals do not count.
+bool isNear(const QString &word, const QString &meant);
 /**
  * To append to an error: '; did you mean "A" or "B"?', with the words that are nearest to \a word, three at most; nothing when
  * none is near. Capitals do not count.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "typedcommand.h"
 
+#include "commandexample.h"
 #include "commandline.h"
 #include "operations.h"
 #include "words.h"
@@ -28,11 +29,12 @@ bool isPlain(const ProtoCommand &command)
            type == typeid(ScaleProtoCommand);
 }
 
-/// Whether the command takes notice of an argument: anything else in its place changes the request, or is refused.
-bool isRead(nlohmann::json request, std::size_t place, const XmlRpcValue &sent)
+/// Whether the command takes notice of a part of the request: anything else in its place changes what is sent, or is refused.
+bool isRead(nlohmann::json request, const nlohmann::json::json_pointer &place, const XmlRpcValue &sent)
 {
-    for (const nlohmann::json &other : {nlohmann::json::object(), nlohmann::json("?")}) {
-        request["args"][place] = other;
+    for (const nlohmann::json &other : {nlohmann::json::object(), nlohmann::json("?"), nlohmann::json(true),
+                                        nlohmann::json(false), nlohmann::json(1), nlohmann::json(2)}) {
+        request[place] = other;
         try {
             if (!SameXmlRpcValue(makeCommand(Request(request))->toXmlRpcValue(QString()), sent))
                 return true;
@@ -41,6 +43,11 @@ bool isRead(nlohmann::json request, std::size_t place, const XmlRpcValue &sent)
         }
     }
     return false;
+}
+
+nlohmann::json::json_pointer placeOf(std::size_t argument)
+{
+    return nlohmann::json::json_pointer("/args") / argument;
 }
 
 bool isWritten(const nlohmann::json &argument, std::size_t place, const XmlRpcValue &written)
@@ -60,9 +67,75 @@ std::vector<int> lostArguments(const nlohmann::json &request, const ProtoCommand
     const nlohmann::json &arguments = request["args"];
     std::vector<int> lost;
     for (std::size_t i = 0; i < arguments.size(); ++i)
-        if (writesNone || (!isWritten(arguments[i], i, written) && !isRead(request, i, sent)))
+        if (writesNone || (!isWritten(arguments[i], i, written) && !isRead(request, placeOf(i), sent)))
             lost.push_back(static_cast<int>(i));
     return lost;
+}
+
+/// The members that are known of the struct in an argument's place: those that are written, and those of the sample.
+QStringList knownMembers(const CommandFacts &command, std::size_t place, const XmlRpcValue *written)
+{
+    QStringList members;
+    if (written && written->getType() == XmlRpcValue::TypeStruct)
+        for (const auto &[name, value] : *written)
+            members.append(QString::fromStdString(name));
+    const auto sample = sampleArguments(command);
+    if (sample && place < sample->size() && (*sample)[place].is_object())
+        for (const auto &[name, value] : (*sample)[place].items())
+            if (!members.contains(QString::fromStdString(name)))
+                members.append(QString::fromStdString(name));
+    return members;
+}
+
+/// A struct may well hold more than the command reads, as the answer to another one does. What nobody reads and has nearly the
+/// name of a member is misspelt.
+void refuseMisspeltMembers(const CommandFacts &facts, const nlohmann::json &request,
+                           const ProtoCommand &command)
+{
+    const XmlRpcValue written = command.xmlrpc_parameters(nullptr);
+    const XmlRpcValue sent = command.toXmlRpcValue(QString());
+    const nlohmann::json &arguments = request["args"];
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (!arguments[i].is_object())
+            continue;
+        const QStringList known = knownMembers(facts, i, FindXmlRpcElement(written, static_cast<int>(i)));
+        for (const auto &[name, value] : arguments[i].items()) {
+            const QString member = QString::fromStdString(name);
+            const QString meant = known.contains(member) ? QString() : didYouMean(member, known);
+            if (!meant.isEmpty() && !isRead(request, placeOf(i) / name, sent))
+                throw UsageError(
+                    QStringLiteral("%1 takes no notice of \"%2\"%3").arg(facts.name, member, meant));
+        }
+    }
+}
+
+/// What a command that was refused may lack: a member of the sample whose name is nearly that of one which nobody knows.
+QString misspeltMember(const CommandFacts &facts, const nlohmann::json &arguments)
+{
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (!arguments[i].is_object())
+            continue;
+        const QStringList known = knownMembers(facts, i, nullptr);
+        for (const auto &[name, value] : arguments[i].items()) {
+            const QString member = QString::fromStdString(name);
+            const QString meant = known.contains(member) ? QString() : didYouMean(member, known);
+            if (!meant.isEmpty())
+                return QStringLiteral("; it has \"%1\"%2").arg(member, meant);
+        }
+    }
+    return {};
+}
+
+std::unique_ptr<ProtoCommand> madeCommand(const CommandFacts &facts, const nlohmann::json &request)
+{
+    try {
+        return makeCommand(Request(request));
+    } catch (const FW_DriverError &error) {
+        const QString misspelt = misspeltMember(facts, request["args"]);
+        if (misspelt.isEmpty())
+            throw;
+        throw FW_DriverError(error.code(), error.text() + misspelt);
+    }
 }
 
 QString argumentsInWords(int count)
@@ -94,16 +167,18 @@ void requireCallable(const CommandFacts &command)
 std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request)
 {
     const QString &name = line.words().first();
-    requireCallable(commandFacts(name));
-    auto command = withCommandName(name, [&request] { return makeCommand(Request(request)); });
+    const CommandFacts facts = commandFacts(name);
+    requireCallable(facts);
+    auto command = withCommandName(name, [&] { return madeCommand(facts, request); });
     const QStringList words = typedArguments(line).words;
     QStringList lost;
     for (const int place : lostArguments(request, *command))
         if (!words.at(place).isEmpty()) // a default is nobody's loss
             lost.append(words.at(place));
-    if (lost.isEmpty())
+    if (lost.isEmpty()) {
+        refuseMisspeltMembers(facts, request, *command);
         return command;
-    const CommandFacts facts = commandFacts(name);
+    }
     if (facts.tellsArguments && lost.size() < words.size() && words.size() <= facts.arguments.size())
         throw UsageError(
             QStringLiteral("%1 would not send \"%2\" as it is given").arg(name, lost.join(QLatin1Char(' '))));
