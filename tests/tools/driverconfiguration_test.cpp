@@ -129,6 +129,28 @@ TEST_F(DriverConfigurationTest, aCircuitKeepsItsStrokesAndCalibration)
     EXPECT_EQ(level(11), "491");
 }
 
+TEST_F(DriverConfigurationTest, aCircuitThatIsAbsentIsGoneWhenThatIsFinal)
+{
+    addSimulated(pouringMachine(), 1000);
+    const XmlRpcValue ofBoth = formula({{"A", 1}, {"B", 1}});
+    std::string text = read(5, 1);
+    ASSERT_EQ(text.substr(0, 10), "1,11,10,1,");
+    text.replace(0, 1, "0");
+    EXPECT_EQ(write(5, text.c_str()).retCode, 0);
+    EXPECT_EQ(call("EXEC_B", "GET_FORMULA_CIRCUITS", ofBoth).retCode, 0); // not yet
+    finalise();
+    const Envelope refused = call("EXEC_B", "GET_FORMULA_CIRCUITS", ofBoth);
+    EXPECT_EQ(refused.retCode, 1);
+    EXPECT_EQ(call("EXEC_B", "TINT", ofBoth).retCode, 1);
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"B", 1}})).retCode, 0);
+    EXPECT_EQ(level(12), "499");
+    text.replace(0, 1, "1");
+    EXPECT_EQ(write(5, text.c_str()).retCode, 0);
+    finalise();
+    EXPECT_EQ(call("EXEC_B", "GET_FORMULA_CIRCUITS", ofBoth).retCode, 0);
+    EXPECT_EQ(level(11), "500"); // the canister kept what it holds
+}
+
 TEST_F(DriverConfigurationTest, aTicketTellsTheEnd)
 {
     addSimulated(pouringMachine(1), 10);

@@ -6,6 +6,7 @@
 
 #include <QuvFramework/fw_exception.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace quv {
@@ -29,6 +30,27 @@ ReadConfigurationParamAnswer readRow(const RowKey &key, const AskFirmware &ask)
     if (reply.refused)
         throw std::runtime_error("the firmware does not tell it");
     return ReadConfigurationParamAnswer(reply.tokens);
+}
+
+/// The row of a circuit that there is no longer.
+bool isAbsentCircuit(const ToldRow &row)
+{
+    return row.key.first == CircuitStructure && row.answer.confData()->commandEnable() == ConfData::Absent;
+}
+
+/// The canister stays, with what is in it.
+void removeCircuit(FW_Machine &machine, int position)
+{
+    auto *dispenser = dynamic_cast<FW_Dispenser *>(&machine);
+    const FW_Circuit *circuit = dispenser ? dispenser->getCircuitByPosition(position) : nullptr;
+    if (!circuit)
+        return;
+    const int id = circuit->id();
+    QList<FW_Circuit> &circuits =
+        dispenser->getCanisterById(dispenser->getCanisterOfCircuitID(id)->id())->circuits();
+    circuits.erase(std::remove_if(circuits.begin(), circuits.end(),
+                                  [id](const FW_Circuit &each) { return each.id() == id; }),
+                   circuits.end());
 }
 
 } // namespace
@@ -58,7 +80,9 @@ void applyRows(FW_Machine &machine, const ToldRows &rows, QStringList &problems)
 {
     QList<int> extra;
     for (const ToldRow &row : rows) {
-        if (!row.answer.confData()->updateConfiguration(&machine, nullptr, &extra))
+        if (isAbsentCircuit(row))
+            removeCircuit(machine, row.key.second);
+        else if (!row.answer.confData()->updateConfiguration(&machine, nullptr, &extra))
             problems.append(QStringLiteral("%1: the machine does not take it").arg(nameOf(row.key)));
     }
 }
