@@ -147,8 +147,9 @@ class General(CliTest):
         self.assertEqual(self.refused("encode", "TNIT", "{}"),
                          'DE00337: Command type not recognized; did you mean "TINT" or "INIT"?\n')
         meant = 'DE00337: Command type not recognized; did you mean "TINT"?\n'
-        self.assertEqual(self.refused("encode", "tint", "--json"), meant)
-        self.assertEqual(self.refused("decode", "tint", "0", "--json"), meant)
+        for words in [("encode", "tint", "--json"), ("decode", "tint", "0", "--json")]:
+            code, out, err = run(*words)
+            self.assertEqual((code, json.loads(out)["code"], err), (1, "DE00337", meant))
         self.assertEqual(self.refused("decode", "tint", "0"), meant)
         self.assertEqual(self.refused("call", "tint"), meant)
         self.assertEqual(self.refused("encode", "--form", "list", "GET_ERORS"),
@@ -535,6 +536,70 @@ class Call(CliTest):
             self.assertEqual(driver.requests, [])
 
 
+class JsonFailures(CliTest):
+    """What programs get that ask for JSON when something goes wrong: one object, on standard output."""
+
+    def failure(self, code, *words, **more):
+        status, out, err = run(*words, "--json", **more)
+        self.assertEqual(status, code, err)
+        self.assertEqual(out.count("\n"), 1)
+        self.assertNotEqual(err, "")  # for whoever looks
+        reply = json.loads(out)
+        self.assertIs(reply["ok"], False)
+        self.assertIsInstance(reply["function"], str)
+        return reply
+
+    def test_refusals_of_the_library(self):
+        for words in [("encode", "GET_STATUS", "x"), ("call", "GET_STATUS", "x")]:
+            self.assertEqual(self.failure(1, *words), {
+                "ok": False, "code": "DE00298", "text": "Position ID: expected INT parameter",
+                "function": "DispenserStatusCmd::DispenserStatusCmd(const XmlRpc::XmlRpcValue&)"})
+        self.assertEqual(self.failure(1, "decode", "GET_STATUS", "6", "0", "1", "0", "x", "0", "0")["code"], "DE00129")
+        self.assertEqual(self.failure(1, "explain", "99999")["code"], "DE99999")
+
+    def test_wrong_usage(self):
+        for text, *words in [
+                ("Unknown option 'wings'.", "list", "--wings"), ("call needs NAME [ARGUMENT...]", "call"),
+                ("there is no subcommand \"fly\"", "fly"), ("config needs pull|push|diff FILE", "config", "pull"),
+                ("\"none\" is no machine to print", "machine", "none"),
+                ("--count takes a number from 0 to 1000000000", "watch", "--count", "-1"),
+                ('GET_ERRORS carries no arguments; "1 2" would be lost', "encode", "GET_ERRORS", "1", "2")]:
+            self.assertEqual(self.failure(2, *words), {"ok": False, "code": "", "text": text, "function": ""})
+
+    def test_refusals_of_the_driver(self):
+        errors = [{"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE00123", "text": "No caf\u00e9"}]
+        with Driver(envelope(0, 6, "GET_STATUS : failed", errors)) as driver:
+            port = ["--port", str(driver.port)]
+            for words in [("call", "GET_STATUS"), ("ticket", "T-1"), ("watch", "--count", "1")]:
+                if words[0] == "watch":
+                    reply = json.loads(run(*words, "--json", *port)[1])
+                    self.assertRegex(reply.pop("time"), r"^\d{4}-\d\d-\d\dT[\d:.]+Z$")
+                else:
+                    reply = self.failure(1, *words, *port)
+                self.assertEqual((reply["ok"], reply["code"], reply["text"]), (False, "DE00123", "No caf\u00e9"), words)
+                self.assertEqual((reply["envelope"]["ret_code"], reply["envelope"]["info"]), (6, "GET_STATUS : failed"))
+
+    def test_faults_and_drivers_that_are_gone(self):
+        with Driver(xmlrpc.client.Fault(-32600, "not like this")) as driver:
+            reply = self.failure(1, "call", "GET_STATUS", "--port", str(driver.port))
+            self.assertEqual((reply["code"], reply["text"]), ("-32600", "not like this"))
+        for words in [("call", "GET_STATUS"), ("ticket", "T-1")]:
+            self.assertEqual(self.failure(1, *words, "--port", "1")["text"], "Cannot connect to 127.0.0.1:1")
+
+    def test_machine(self):
+        self.assertEqual(self.failure(1, "machine", "/no/such/file")["code"], "")
+        reply = json.loads(self.done("machine", "mixer", "--json"))
+        self.assertEqual((reply["ok"], reply["machine"]), (True, json.loads(self.done("machine", "mixer"))))
+
+    def test_watch(self):
+        with Driver(envelope(status(tinting=True))) as driver:
+            lines = self.done("watch", "--json", "--count", "3", "--interval", "0.01", "--port", str(driver.port)).split("\n")
+        self.assertEqual(len(lines), 2)  # nothing has changed
+        reply = json.loads(lines[0])
+        self.assertEqual((reply["ok"], reply["class"], reply["value"]["tinting"]), (True, "DispenserStatusAnswer", True))
+        self.assertEqual(reply["descriptions"], [{"text": "Tinting in progress", "bad": False}])
+
+
 class Address(CliTest):
     """Which driver is called."""
 
@@ -676,12 +741,17 @@ class Ticket(CliTest):
             reply = json.loads(out)
             self.assertEqual(reply["status"]["status"], state)
             self.assertEqual((reply["envelope"]["ret_code"], reply["value"]), (ret_code, {"a": 1}))
+            self.assertIs(reply["ok"], exit_code == 0)
         self.assertEqual(self.ask(ticket(-3), "--json")[0], 1)
 
     def test_unknown_ticket(self):
         for options in [(), ("--wait",), ("--json",)]:
-            self.assertEqual(self.ask(envelope(0, 1, "no such ticket"), *options),
-                             (1, "", "Failed! Xml-rpc command invalid for Driver.\n"))
+            code, out, err = self.ask(envelope(0, 1, "no such ticket"), *options)
+            self.assertEqual((code, err), (1, "Failed! Xml-rpc command invalid for Driver.\n"))
+            if "--json" in options:
+                self.assertEqual(json.loads(out)["envelope"]["ret_code"], 1)
+            else:
+                self.assertEqual(out, "")
 
     def waiting(self, driver, *options):
         return start("ticket", "T-1", "--wait", "--interval", "0.01", "--port", str(driver.port), *options)

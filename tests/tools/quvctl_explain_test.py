@@ -169,7 +169,7 @@ Priming2Cmd  XML-RPC value  circuits is missing or of another type  Priming2Cmd:
 
         for unknown in ["DE00064", "DE99999", "DE00000"]:
             status, out, err = run("explain", unknown, "--json")
-            self.assertEqual((status, out), (1, ""))
+            self.assertEqual((status, json.loads(out)["code"]), (1, unknown))
             self.assertRegex(err, rf"^{unknown}: no refusal has this code; the nearest are (DE\d{{5}}, ){{2}}DE\d{{5}}\n$")
             nearest = set(re.findall(r"DE\d{5}", err)[1:])
             others = set(codes_in_sources()) - nearest

@@ -275,7 +275,8 @@ class Simulated(unittest.TestCase):
         formula = json.dumps({"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [5.0]})
         with quvdriver_process.Driver("--machine", "dispenser") as driver:
             query = ["call", "GET_LOW_LEVEL_FORMULA", formula, "--json", "--port", str(driver.port)]
-            self.assertEqual(run(*query), (1, "", "DE00334: Invalid dispenser data\n"))
+            code, out, err = run(*query)
+            self.assertEqual((code, json.loads(out)["code"], err), (1, "DE00334", "DE00334: Invalid dispenser data\n"))
             code, out, _ = run(*query, "--machine", "dispenser")
         self.assertEqual(code, 0)
         built = json.loads(out)["value"]["low_level_formula"]

@@ -41,11 +41,11 @@ ExitStatus run(const CommandLine &line)
     const Driver driver(line);
     const auto command = typedCommand(line, commandRequest(line));
     const XmlRpcAnswer &envelope = line.isSet("async") ? driver.start(*command) : driver.execute(*command);
-    if (line.isSet("json"))
-        printAsJson(*command, envelope);
     if (envelope.retCode() != 0)
         throw RequestRefused(envelope);
-    if (!line.isSet("json"))
+    if (line.isSet("json"))
+        printAsJson(*command, envelope);
+    else
         print(*command, envelope, line.isQuiet());
     return Done;
 }

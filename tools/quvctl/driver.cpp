@@ -2,6 +2,7 @@
 #include "driver.h"
 
 #include "commandline.h"
+#include "operations.h"
 #include "terminal.h"
 
 #include "base/protocommand.h"
@@ -34,12 +35,24 @@ qint64 millisecondsSince(std::chrono::steady_clock::time_point begin)
     return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - begin).count();
 }
 
+/// What an envelope without errors tells is its message. \a what, if any, comes before the text.
+FW_DriverError firstError(const XmlRpcAnswer &envelope, const QString &what)
+{
+    const QString before = what.isEmpty() ? what : what + QStringLiteral(": ");
+    for (int i = 0; i < envelope.errors().size(); ++i)
+        if (const auto *error = dynamic_cast<const FW_DriverError *>(envelope.errors()[i]))
+            return {error->code(), before + error->text()};
+    return {QString(), before + envelope.toPrintableString().join(QLatin1Char(' '))};
+}
+
 } // namespace
 
 RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what)
     : std::runtime_error(envelope.infoMsg().toStdString()),
-      m_lines(envelope.toPrintableString())
+      m_lines(envelope.toPrintableString()),
+      m_json(failureReply(firstError(envelope, what)))
 {
+    m_json["envelope"] = envelopeJson(envelope);
     if (!what.isEmpty())
         m_lines.prepend(what);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "driveraddress.h"
+#include "jsonvalue.h"
 #include "xmlrpcclient.h"
 
 #include "catalogue/protocommandlist.h"
@@ -24,9 +25,12 @@ public:
     /// \a what, if any, is told before the envelope's lines.
     explicit RequestRefused(const XmlRpcAnswer &envelope, const QString &what = QString());
     const QStringList &lines() const { return m_lines; }
+    /// The first of the envelope's errors as a failure for programs, with the envelope.
+    const OrderedJson &json() const { return m_json; }
 
 private:
     QStringList m_lines{};
+    OrderedJson m_json{};
 };
 
 /// The driver that --host, --port and --timeout name, and the environment where they do not.

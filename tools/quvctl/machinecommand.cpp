@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "machinefile.h"
 #include "machines.h"
+#include "replies.h"
 #include "subcommands.h"
 #include "terminal.h"
 
@@ -13,6 +14,12 @@ ExitStatus run(const CommandLine &line)
     const auto machine = machineByName(line.words().first());
     if (!machine)
         throw UsageError(QStringLiteral("\"none\" is no machine to print"));
+    if (line.isSet("json")) {
+        OrderedJson reply = success();
+        reply["machine"] = OrderedJson::parse(machineFileOf(*machine).toStdString());
+        printLine(QString::fromStdString(writeJson(reply)));
+        return Done;
+    }
     const QStringList lines = QString::fromUtf8(machineFileOf(*machine)).split(QLatin1Char('\n'));
     for (int i = 0; i < lines.size() - 1; ++i) // behind the last line end is nothing
         printLine(lines[i]);
@@ -29,7 +36,7 @@ const Subcommand machineSubcommand = {
     "file, without the members that have their defaults.",
     1,
     1,
-    {},
+    {{"json", nullptr, "one JSON object, with the machine in it"}},
     run};
 
 } // namespace quv

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
 #include "help.h"
+#include "operations.h"
 #include "subcommands.h"
 #include "suggestions.h"
 #include "terminal.h"
@@ -64,26 +65,57 @@ ExitStatus run(QStringList words)
     return subcommand.run(line);
 }
 
+/// How a run has failed: for people, and for programs.
+struct Failure
+{
+    QStringList lines;
+    OrderedJson json;
+    ExitStatus status = Refused;
+};
+
+Failure failureOf(const QString &text)
+{
+    return {{QStringLiteral("quvctl: ") + text}, failureReply(text.toStdString())};
+}
+
+/// What the exception tells that is being handled.
+Failure failureCaught()
+{
+    try {
+        throw;
+    } catch (const UsageError &error) {
+        const QString text = QString::fromUtf8(error.what());
+        return {{QStringLiteral("quvctl: %1 (see quvctl help)").arg(text)},
+                failureReply(text.toStdString()),
+                WrongUsage};
+    } catch (const RequestRefused &refusal) {
+        return {refusal.lines(), refusal.json()};
+    } catch (const FW_DriverError &error) {
+        return {{error.toPrintableString()}, failureReply(error)};
+    } catch (const FaultException &error) {
+        const Fault &fault = error.fault();
+        return {{QStringLiteral("%1: %2").arg(fault.code).arg(fault.text)},
+                failureReply(FW_DriverError(QString::number(fault.code), fault.text))};
+    } catch (const std::exception &error) {
+        return failureOf(QString::fromUtf8(error.what()));
+    } catch (const XmlRpc::XmlRpcException &error) {
+        return failureOf(QString::fromStdString(error.getMessage()));
+    }
+}
+
 ExitStatus runReporting(const QStringList &words)
 {
     try {
         return run(words);
-    } catch (const UsageError &error) {
-        printError(QStringLiteral("quvctl: %1 (see quvctl help)").arg(QString::fromUtf8(error.what())));
-        return WrongUsage;
-    } catch (const RequestRefused &refusal) {
-        for (const QString &line : refusal.lines())
+    } catch (...) {
+        const Failure failure = failureCaught();
+        // the options themselves may be what is wrong
+        if (words.contains(QStringLiteral("--json")))
+            printLine(QString::fromStdString(writeJson(failure.json)));
+        for (const QString &line : failure.lines)
             printError(line);
-    } catch (const FW_DriverError &error) {
-        printError(error.toPrintableString());
-    } catch (const FaultException &error) {
-        printError(QStringLiteral("%1: %2").arg(error.fault().code).arg(error.fault().text));
-    } catch (const std::exception &error) {
-        printError(QStringLiteral("quvctl: ") + QString::fromUtf8(error.what()));
-    } catch (const XmlRpc::XmlRpcException &error) {
-        printError(QStringLiteral("quvctl: ") + QString::fromStdString(error.getMessage()));
+        return failure.status;
     }
-    return Refused;
 }
 
 } // namespace

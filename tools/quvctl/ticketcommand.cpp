@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "operations.h"
 #include "progress.h"
+#include "replies.h"
 #include "subcommands.h"
 #include "terminal.h"
 #include "tickets.h"
@@ -19,10 +20,25 @@ ExitStatus statusOfEnd(const CmdStatus &status)
                                                                                                   : Refused;
 }
 
+/// \throws nothing: how the command ended badly is a part of what is told
+OrderedJson endOf(const CmdStatus &status)
+{
+    try {
+        if (status.status() <= 0)
+            resultOf(status);
+    } catch (const RequestRefused &refusal) {
+        return refusal.json();
+    } catch (const std::runtime_error &error) {
+        return failureReply(error.what());
+    }
+    return success();
+}
+
 ExitStatus printAsJson(const Ticket &ticket, const CmdStatus &status)
 {
-    OrderedJson reply = OrderedJson::object(
-        {{"ok", true}, {"ticket", toJson(ticket.id())}, {"status", commandStatusReply(status, false)}});
+    OrderedJson reply = endOf(status);
+    reply["ticket"] = toJson(ticket.id());
+    reply["status"] = commandStatusReply(status, false);
     const bool running = status.status() > 0;
     bool ok = false;
     if (const XmlRpcAnswer envelope = status.getXmlRpcAnswer(&ok); !running && ok) {

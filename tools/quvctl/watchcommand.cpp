@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
+#include "operations.h"
 #include "subcommands.h"
 #include "terminal.h"
 #include "words.h"
@@ -10,7 +11,7 @@
 
 #include <QuvFramework/fw_error.h>
 
-#include <QtCore/QTime>
+#include <QtCore/QDateTime>
 
 #include <chrono>
 #include <optional>
@@ -20,12 +21,18 @@ namespace quv {
 
 namespace {
 
-/// The status, or why there is none.
+/// The status, or why there is none: for people, and for programs.
 struct Observation
 {
     std::optional<DispenserStatusAnswer> status;
     QString failure;
+    OrderedJson reply;
 };
+
+Observation noStatus(const QString &why)
+{
+    return {std::nullopt, why, failureReply(why.toStdString())};
+}
 
 Observation observe(const Driver &driver)
 {
@@ -33,15 +40,16 @@ Observation observe(const Driver &driver)
         DispenserStatusCmd command;
         const XmlRpcAnswer &envelope = driver.execute(command);
         if (envelope.retCode() != 0)
-            return {std::nullopt, envelope.toPrintableString().join(QStringLiteral(" "))};
+            return {std::nullopt, envelope.toPrintableString().join(QStringLiteral(" ")),
+                    RequestRefused(envelope).json()};
         const auto *status = dynamic_cast<const DispenserStatusAnswer *>(command.getProtoAnswer());
         if (!status)
-            return {std::nullopt, QStringLiteral("the answer is no status")};
-        return {*status, QString()};
+            return noStatus(QStringLiteral("the answer is no status"));
+        return {*status, QString(), answerReply(command)};
     } catch (const FW_DriverError &error) {
-        return {std::nullopt, error.toPrintableString()};
+        return {std::nullopt, error.toPrintableString(), failureReply(error)};
     } catch (const std::exception &error) {
-        return {std::nullopt, QString::fromUtf8(error.what())};
+        return noStatus(QString::fromUtf8(error.what()));
     }
 }
 
@@ -95,12 +103,35 @@ private:
     QString m_failure;
 };
 
-ExitStatus run(const CommandLine &line)
+/// An object with the time whenever the status, or the reason that there is none, is another one.
+class JsonWatcher
+{
+public:
+    bool hasSeenAStatus() const { return m_hasSeenAStatus; }
+
+    void take(const Observation &now)
+    {
+        m_hasSeenAStatus = m_hasSeenAStatus || now.status;
+        if (now.reply == m_last)
+            return;
+        m_last = now.reply;
+        OrderedJson reply = now.reply;
+        reply["time"] = toJson(QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
+        printLine(QString::fromStdString(writeJson(reply)));
+    }
+
+private:
+    OrderedJson m_last;
+    bool m_hasSeenAStatus = false;
+};
+
+template <class AnyWatcher>
+ExitStatus watch(const CommandLine &line)
 {
     const Driver driver(line);
     const std::chrono::milliseconds interval = intervalOf(line);
     const int count = line.number("count", 0, 0, 1000000000);
-    Watcher watcher;
+    AnyWatcher watcher;
     for (int i = 1;; ++i) {
         watcher.take(observe(driver));
         if (i == count)
@@ -109,6 +140,11 @@ ExitStatus run(const CommandLine &line)
             i = 0;
         std::this_thread::sleep_for(interval);
     }
+}
+
+ExitStatus run(const CommandLine &line)
+{
+    return line.isSet("json") ? watch<JsonWatcher>(line) : watch<Watcher>(line);
 }
 
 } // namespace
@@ -121,7 +157,9 @@ const Subcommand watchSubcommand = {
     "changes. A driver that goes away is waited for. With --count, the exit status is 1 when no status came.",
     0,
     0,
-    withDriverOptions({intervalOption, {"count", "N", "ends after N questions; 0 goes on for ever (0)"}}),
+    withDriverOptions({intervalOption,
+                       {"json", nullptr, "a JSON object a line, with the time, whenever something changes"},
+                       {"count", "N", "ends after N questions; 0 goes on for ever (0)"}}),
     run};
 
 } // namespace quv
