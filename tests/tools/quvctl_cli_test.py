@@ -578,6 +578,8 @@ class JsonFailures(CliTest):
                     reply = self.failure(1, *words, *port)
                 self.assertEqual((reply["ok"], reply["code"], reply["text"]), (False, "DE00123", "No caf\u00e9"), words)
                 self.assertEqual((reply["envelope"]["ret_code"], reply["envelope"]["info"]), (6, "GET_STATUS : failed"))
+            reply = self.failure(1, "config", "pull", "/dev/null/none", *port)
+            self.assertIn("/dev/null/none", reply["text"])
 
     def test_faults_and_drivers_that_are_gone(self):
         with Driver(xmlrpc.client.Fault(-32600, "not like this")) as driver:

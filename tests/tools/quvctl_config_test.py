@@ -1,9 +1,11 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """quvctl config. Usage: quvctl_config_test.py QUVDRIVER QUVCTL"""
 
+import json
 import os
 import sys
 import tempfile
+import time
 import unittest
 
 import quvctl_process
@@ -26,7 +28,8 @@ def driver_error(code, text):
 class ScriptedDriver(quvctl_process.ScriptedDriver):
     """Holds rows as texts by structure and ID, and remembers what it was asked."""
 
-    def __init__(self, rows, counts=None, absent=NO_RAMP, deaf=False, refusing=()):
+    def __init__(self, rows, counts=None, absent=NO_RAMP, deaf=False, refusing=(), silent=None):
+        self.silent = silent  # the command to which it does not reply
         self.rows = dict(rows)
         self.counts = counts or {code: 1 for code, _ in rows}
         self.absent = absent
@@ -37,6 +40,8 @@ class ScriptedDriver(quvctl_process.ScriptedDriver):
 
     def execute(self, name, *params):
         self.asked.append([name, *params])
+        if name == self.silent:
+            time.sleep(1)
         if [name] in self.refusing or [name, *params] in self.refusing:
             return envelope(0, 4)
         return getattr(self, name)(*params)
@@ -110,6 +115,7 @@ class Pull(ConfigTest):
         self.assertEqual((code, err), (0, ""))
         self.assertEqual(self.content(), """quvctl configuration 1
 # firmware configuration 3.2
+machine = dispenser
 
 [@ICS]
 cmd_enabled = 1
@@ -208,6 +214,14 @@ NEW_DATA 1 = 5
             self.assertEqual((code, err), (0, ""))
             self.assertEqual(out, '[@NOM]\n  Structure name: "" -> "Shop"\n1 row written, finalised and read back\n')
             self.assertEqual(driver.rows[2, 1], "1,Shop")
+
+    def test_quiet_and_json(self):
+        with ScriptedDriver({(1, 1): "1", (2, 1): "1,Mill"}) as driver:
+            self.assertEqual(self.config(driver, "pull", "-q"), (0, "", ""))
+            code, out, err = self.config(driver, "pull", "--json")
+        self.assertEqual((code, err, json.loads(out)), (
+            0, "", {"ok": True, "file": self.path, "machine": "mixer", "version": "3.2", "rows": 2}))
+        self.assertIn("\nmachine = mixer\n", self.content())
 
     def test_nothing_offered(self):
         with ScriptedDriver({}) as driver:
@@ -308,7 +322,17 @@ class File(ConfigTest):
     def test_no_file(self):
         with ScriptedDriver({}) as driver:
             code, out, err = self.config(driver, "push", "--yes")
-        self.assertEqual((code, out, err), (1, "", f"quvctl: {self.path}: No such file or directory\n"))
+        self.assertEqual((code, out, err), (2, "", f"quvctl: {self.path}: No such file or directory (see quvctl help)\n"))
+
+    def test_rows_of_another_heading(self):
+        for code, label, begin in [("CPT", "Position ID", "cmd_enabled = 1\nCanister ID = 5\nCanister Size = 30\n"),
+                                   ("RAM", "Ramp ID", "cmd_enabled = 1\n")]:
+            self.wrong_below(begin.count("\n") + 2, f"[@{code} 5] has the {label} 7: a row is that of its heading",
+                             f"[@{code} 5]\n{begin}{label} = 7\n")
+
+    def test_machine(self):
+        self.wrong_below(1, 'the machine is a dispenser or a mixer, not "boat"', "machine = boat\n")
+        self.wrong_below(2, "the machine stands here for the second time", "machine = mixer\nmachine=mixer\n")
 
     def test_what_is_passed_over(self):
         self.put("# mine\r\n\r\nquvctl configuration 1\r\n  [@HUM]  \r\n\t# slow\r\n"
@@ -329,6 +353,36 @@ class Diff(ConfigTest):
                                   "[@HUM]\n  cmd_enabled: 1 -> 2\n  Multiplier Coefficient: 10 -> 11\n")
             self.assertEqual(driver.asked, [["GET_CONFIG_CMDS"], ["READ_CONFIG_ROW", 10, 4], ["READ_CONFIG_ROW", 7, 1],
                                             ["READ_CONFIG_ROW", 1, 1]])
+
+    def test_file_of_another_machine(self):
+        for kind, rows, other in [("dispenser", {(1, 1): "1", (2, 1): "1,Mill"}, "mixer"),
+                                  ("mixer", {(1, 1): "1", (7, 1): HUMIDIFIER}, "dispenser")]:
+            self.put(f"quvctl configuration 1\nmachine = {kind}\n[@ICS]\ncmd_enabled = 2\n")
+            text = f"the file is of a {kind}, the machine behind the driver is a {other}"
+            with ScriptedDriver(rows) as driver:
+                for words in [["diff"], ["push", "--yes"]]:
+                    self.assertEqual(self.config(driver, *words), (1, "", f"quvctl: {text}\n"))
+                code, out, _ = self.config(driver, "diff", "--json")
+                self.assertEqual((code, json.loads(out)["text"]), (1, text))
+                self.assertEqual(driver.told("READ_CONFIG_ROW", "WRITE_CONFIG_ROW"), [])
+        with ScriptedDriver({(1, 1): "2", (7, 1): HUMIDIFIER}) as driver:
+            self.put("quvctl configuration 1\nmachine = dispenser\n[@ICS]\ncmd_enabled = 2\n")
+            self.assertEqual(self.config(driver, "diff"), (0, "no differences\n", ""))
+
+    def test_json(self):
+        self.put("quvctl configuration 1\n[@RAM 4]\ncmd_enabled = 1\nRamp ID = 4\n[@PLC]\ncmd_enabled = 1\n")
+        with ScriptedDriver({(10, 1): RAMP_1}) as driver:
+            code, out, err = self.config(driver, "diff", "--json")
+        self.assertEqual((code, err, json.loads(out)), (1, "", {
+            "ok": True,
+            "differences": [{"row": "[@RAM 4]", "fields": [{"label": "cmd_enabled", "from": "0", "to": "1"},
+                                                           {"label": "Ramp ID", "from": "0", "to": "4"}]}],
+            "warnings": ["the firmware has no @PLC: left out"]}))
+
+    def test_rows_that_there_are_not(self):
+        self.put("quvctl configuration 1\n[@RAM 4]\ncmd_enabled = 0\nRamp ID = 4\n")
+        with ScriptedDriver({(10, 1): RAMP_1}) as driver:
+            self.assertEqual(self.config(driver, "diff"), (0, "no differences\n", ""))
 
     def test_older_firmware(self):
         self.put(HUMIDIFIER_FILE + "NEW_DATA 4 = 7\n[@PLC]\ncmd_enabled = 1\n[@TEM]\ncmd_enabled = 0\n"
@@ -412,6 +466,49 @@ class Push(ConfigTest):
                 code, _, err = self.config(driver, "push", "--yes")
                 self.assertEqual((code, err), (1, f"quvctl: {text}\n"))
                 self.assertEqual(driver.written(), [])
+
+    def test_json(self):
+        self.put(HUMIDIFIER_FILE.replace("60", "61"))
+        change = {"row": "[@HUM]", "fields": [{"label": "Sensor Reading Period", "from": "60", "to": "61"}]}
+        with ScriptedDriver({(7, 1): HUMIDIFIER}, deaf=True) as driver:
+            code, out, err = self.config(driver, "push", "--json", "--yes")
+            self.assertEqual((code, json.loads(out)), (1, {
+                "ok": False, "code": "", "text": "the firmware has not taken all of it", "function": "",
+                "written": [change], "not_taken": [change]}))
+        with ScriptedDriver({(7, 1): HUMIDIFIER}) as driver:
+            code, out, _ = self.config(driver, "push", "--json")
+            self.assertEqual((code, json.loads(out)["text"]), (2, "nobody can be asked here: config push needs --yes"))
+            self.assertEqual(driver.written(), [])
+            for written in [[change], []]:
+                code, out, err = self.config(driver, "push", "--json", "--yes")
+                self.assertEqual((code, err, json.loads(out)), (0, "", {"ok": True, "written": written, "not_taken": []}))
+
+    def test_first_row_refused(self):
+        self.put(HUMIDIFIER_FILE.replace("60", "61"))
+        row = {"cmd_value": 7, "cmd_parameters": "1,61,10,40"}
+        with ScriptedDriver({(7, 1): HUMIDIFIER}, refusing=[["WRITE_CONFIG_ROW", row]]) as driver:
+            code, _, err = self.config(driver, "push", "--yes")
+        self.assertEqual((code, err), (1, "no row was written, and nothing is changed\n[@HUM] cannot be written\n"
+                                          "Failed! Command not executed due to errors on firmware.\n"))
+
+    def test_driver_that_goes_away(self):
+        self.put(HUMIDIFIER_FILE.replace("60", "61"))
+        for command, told in [
+                ("WRITE_CONFIG_ROW", r"0 rows written, perhaps \[@HUM\] as well, and not finalised: the firmware forgets them "
+                                     r"when it is switched off"),
+                ("FINALIZE_CONFIG", r"1 row written; nobody knows whether the firmware has finalised them; look with: quvctl "
+                                    r"config diff")]:
+            with ScriptedDriver({(7, 1): HUMIDIFIER}, silent=command) as driver:
+                code, _, err = self.config(driver, "push", "--yes", "--timeout", "0.5")
+            self.assertEqual(code, 1)
+            self.assertRegex(err, rf"^{told}\nquvctl: .+\n$")
+
+    def test_row_that_tells_no_position(self):
+        self.put("quvctl configuration 1\n[@RAM 4]\ncmd_enabled = 1\n")
+        with ScriptedDriver({(10, 1): RAMP_1}) as driver:
+            code, _, err = self.config(driver, "push", "--yes")
+            self.assertEqual((code, err), (1, "quvctl: [@RAM 4]: the file does not tell the Ramp ID\n"))
+            self.assertEqual(driver.written(), [])
 
     def test_refused_row(self):
         self.put("quvctl configuration 1\n[@HUM]\ncmd_enabled = 2\n[@ICS]\ncmd_enabled = 2\n")
@@ -510,6 +607,24 @@ class Simulated(ConfigTest):
             self.assertTrue(out.startswith("[@CPT 40]\n  cmd_enabled: 0 -> 1\n"), out)
             self.assertTrue(out.endswith("\n1 row written, finalised and read back\n"), out)
             self.assertEqual(self.config(driver, "diff"), (0, "no differences\n", ""))
+
+    def test_a_file_of_another_machine(self):
+        self.pulled("dispenser", "equal")
+        with quvdriver_process.Driver("--machine", "mixer") as driver:
+            self.assertEqual(self.config(driver, "diff"), (
+                1, "", "quvctl: the file is of a dispenser, the machine behind the driver is a mixer\n"))
+
+    def test_a_circuit_that_is_absent(self):
+        formula = '{"formula_type":4,"quantity_unit":3,"ids":["C"],"quantities":[5]}'
+        options = ["--machine", "dispenser", "--speed", "1000", "--state", os.path.join(self.folder.name, "state")]
+        self.put("quvctl configuration 1\n[@CPT 3]\ncmd_enabled = 0\n")
+        with quvdriver_process.Driver(*options) as driver:
+            query = ["call", "GET_FORMULA_CIRCUITS", formula, "--port"]
+            self.assertEqual(run(*query, str(driver.port))[0], 0)
+            self.assertEqual(self.config(driver, "push", "--yes")[0], 0)
+            self.assertEqual(run(*query, str(driver.port))[:2], (1, ""))
+        with quvdriver_process.Driver(*options) as driver:  # from the state file
+            self.assertEqual(run(*query, str(driver.port))[:2], (1, ""))
 
     def test_no_driver(self):
         code, out, err = run("config", "pull", self.path, "--port", "1", "--timeout", "5")

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "configtransfer.h"
+#include "operations.h"
 #include "progress.h"
+#include "replies.h"
 #include "subcommands.h"
 #include "suggestions.h"
 #include "terminal.h"
 #include "tickets.h"
+#include "xmlrpcerrors.h"
 
 #include "base/cmdstatus.h"
 
@@ -24,11 +27,9 @@ namespace {
 class TransferProgress
 {
 public:
-    enum Where { Anywhere, OnTerminalOnly };
-
-    explicit TransferProgress(Where where)
+    explicit TransferProgress(bool isShown)
     {
-        if (where == Anywhere || canRedraw())
+        if (isShown)
             m_progress.emplace();
     }
 
@@ -49,6 +50,11 @@ private:
     std::optional<Progress> m_progress{};
 };
 
+void printJson(const OrderedJson &json)
+{
+    printLine(QString::fromStdString(writeJson(json)));
+}
+
 QString inWords(std::size_t count, const char *one, const char *many)
 {
     return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
@@ -59,20 +65,25 @@ QString rowsInWords(std::size_t count)
     return inWords(count, "row", "rows");
 }
 
-std::runtime_error fileFailure(const QFileDevice &file)
+QString failureText(const QFileDevice &file)
 {
-    return std::runtime_error(
-        QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()).toStdString());
+    return QStringLiteral("%1: %2").arg(file.fileName(), file.errorString());
 }
 
-std::vector<ConfigRow> rowsOfFile(const QString &path)
+std::runtime_error fileFailure(const QFileDevice &file)
+{
+    return std::runtime_error(failureText(file).toStdString());
+}
+
+/// \throws UsageError when it cannot be read, or is none
+ConfigFile configFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw fileFailure(file);
+        throw UsageError(failureText(file));
     const QByteArray text = file.read(MaxConfigFileSize + 1);
     if (file.error() != QFileDevice::NoError)
-        throw fileFailure(file);
+        throw UsageError(failureText(file));
     if (text.size() > MaxConfigFileSize)
         throw UsageError(QStringLiteral("%1 is longer than 1 MiB").arg(path));
     try {
@@ -97,22 +108,63 @@ void checkWritable(const QString &path)
     file.cancelWriting();
 }
 
-ExitStatus pull(const FirmwareConfiguration &firmware, const QString &path)
+/// What is shown of it all.
+struct Shown
+{
+    bool asJson = false;
+    bool answersOnly = false;
+
+    explicit Shown(const CommandLine &line) : asJson(line.isSet("json")), answersOnly(line.isQuiet()) {}
+    bool confirms() const { return !asJson && !answersOnly; }
+};
+
+ExitStatus pull(const FirmwareConfiguration &firmware, const QString &path, const Shown &shown)
 {
     checkWritable(path);
-    TransferProgress progress(TransferProgress::Anywhere);
+    TransferProgress progress(shown.confirms());
     const OfferedStructures offered = firmware.structures();
     const std::vector<ConfigRow> rows =
         firmware.allRows(offered, [&](int percentage) { progress.tell(percentage); });
     progress.end();
     QSaveFile file(path);
     openForWriting(file);
-    file.write(configFileOf(
-        rows, QStringLiteral("firmware configuration %1.%2").arg(offered.version).arg(offered.minorVersion)));
+    const QString version = QStringLiteral("%1.%2").arg(offered.version).arg(offered.minorVersion);
+    const QString machine = machineKind(offered.codes);
+    file.write(configFileOf({machine, rows}, QStringLiteral("firmware configuration %1").arg(version)));
     if (!file.commit())
         throw fileFailure(file);
-    printLine(QStringLiteral("%1 in %2").arg(rowsInWords(rows.size()), path), Colour::Bold);
+    if (shown.asJson)
+        printJson({{"ok", true},
+                   {"file", toJson(path)},
+                   {"machine", toJson(machine)},
+                   {"version", toJson(version)},
+                   {"rows", rows.size()}});
+    else if (shown.confirms())
+        printLine(QStringLiteral("%1 in %2").arg(rowsInWords(rows.size()), path), Colour::Bold);
     return Done;
+}
+
+OrderedJson inJson(const std::vector<RowChange> &changes)
+{
+    OrderedJson array = OrderedJson::array();
+    for (const RowChange &change : changes) {
+        OrderedJson fields = OrderedJson::array();
+        for (const FieldChange &field : change.fields)
+            fields.push_back(OrderedJson::object(
+                {{"label", toJson(field.label)}, {"from", toJson(field.from)}, {"to", toJson(field.to)}}));
+        array.push_back(
+            OrderedJson::object({{"row", toJson(headingOf(change.row))}, {"fields", std::move(fields)}}));
+    }
+    return array;
+}
+
+OrderedJson inJson(const ConfigComparison &comparison)
+{
+    OrderedJson warnings = OrderedJson::array();
+    for (const QString &warning : comparison.warnings)
+        warnings.push_back(toJson(warning));
+    return OrderedJson::object(
+        {{"ok", true}, {"differences", inJson(comparison.changes)}, {"warnings", std::move(warnings)}});
 }
 
 void show(const ConfigComparison &comparison)
@@ -126,21 +178,24 @@ void show(const ConfigComparison &comparison)
     }
 }
 
-ConfigComparison compareShowing(const std::vector<ConfigRow> &file, const FirmwareConfiguration &firmware)
+ConfigComparison compareShowing(const ConfigFile &file, const FirmwareConfiguration &firmware,
+                                const Shown &shown)
 {
     // elsewhere the differences are all that is wanted
-    TransferProgress progress(TransferProgress::OnTerminalOnly);
+    TransferProgress progress(shown.confirms() && canRedraw());
     ConfigComparison comparison = compare(file, firmware, [&](int percentage) { progress.tell(percentage); });
     progress.end();
+    if (shown.asJson)
+        return comparison;
     show(comparison);
-    if (comparison.changes.empty())
+    if (comparison.changes.empty() && shown.confirms())
         printLine(QStringLiteral("no differences"), Colour::Bold);
     return comparison;
 }
 
-bool agrees(std::size_t rows)
+bool agrees(std::size_t rows, const Shown &shown)
 {
-    if (isatty(STDIN_FILENO) == 0)
+    if (shown.asJson || isatty(STDIN_FILENO) == 0)
         throw UsageError(QStringLiteral("nobody can be asked here: config push needs --yes"));
     const std::string question = QStringLiteral("write %1? [y/N] ").arg(rowsInWords(rows)).toStdString();
     std::fputs(question.c_str(), stdout);
@@ -162,51 +217,83 @@ void write(const std::vector<RowChange> &changes, const FirmwareConfiguration &f
             ++written;
         }
         firmware.finalise();
+    } catch (const TransportError &) {
+        printError(written == changes.size()
+                       ? QStringLiteral(
+                             "%1 written; nobody knows whether the firmware has finalised them; look with: "
+                             "quvctl config diff")
+                             .arg(rowsInWords(written))
+                       : QStringLiteral(
+                             "%1 written, perhaps %2 as well, and not finalised: the firmware forgets them "
+                             "when it is switched off")
+                             .arg(rowsInWords(written), headingOf(changes[written].row)));
+        throw;
     } catch (...) {
         printError(
-            QStringLiteral("%1 written, and not finalised: the firmware forgets them when it is switched off")
-                .arg(rowsInWords(written)));
+            written == 0
+                ? QStringLiteral("no row was written, and nothing is changed")
+                : QStringLiteral(
+                      "%1 written, and not finalised: the firmware forgets them when it is switched off")
+                      .arg(rowsInWords(written)));
         throw;
     }
 }
 
 /// What the firmware has otherwise than it was written.
-ExitStatus verify(const std::vector<RowChange> &changes, const FirmwareConfiguration &firmware)
+ExitStatus verify(const ConfigComparison &done, const FirmwareConfiguration &firmware, const Shown &shown)
 {
-    std::vector<ConfigRow> written;
-    written.reserve(changes.size());
-    for (const RowChange &change : changes)
-        written.push_back(change.row);
+    ConfigFile written;
+    written.rows.reserve(done.changes.size());
+    for (const RowChange &change : done.changes)
+        written.rows.push_back(change.row);
     const ConfigComparison comparison = compare(written, firmware, [](int) {});
-    if (comparison.changes.empty()) {
-        printLine(QStringLiteral("%1 written, finalised and read back").arg(rowsInWords(written.size())),
-                  Colour::Bold);
+    const bool isTaken = comparison.changes.empty();
+    const QString notTaken = QStringLiteral("the firmware has not taken all of it");
+    if (shown.asJson) {
+        OrderedJson reply = isTaken ? success() : failureReply(notTaken.toStdString());
+        reply["written"] = inJson(done.changes);
+        reply["not_taken"] = inJson(comparison.changes);
+        printJson(reply);
+    }
+    if (isTaken) {
+        if (shown.confirms())
+            printLine(
+                QStringLiteral("%1 written, finalised and read back").arg(rowsInWords(written.rows.size())),
+                Colour::Bold);
         return Done;
     }
-    printError(QStringLiteral("the firmware has not taken all of it:"));
-    show(comparison);
+    printError(notTaken + QLatin1Char(':'));
+    if (!shown.asJson)
+        show(comparison);
     return Refused;
 }
 
-ExitStatus push(const FirmwareConfiguration &firmware, const QString &path, bool yes)
+ExitStatus push(const FirmwareConfiguration &firmware, const QString &path, bool yes, const Shown &shown)
 {
-    const std::vector<RowChange> changes = compareShowing(rowsOfFile(path), firmware).changes;
+    const ConfigComparison comparison = compareShowing(configFile(path), firmware, shown);
+    const std::vector<RowChange> &changes = comparison.changes;
     for (const RowChange &change : changes)
         if (const QString reason = whyUnwritable(change.row); !reason.isEmpty())
             throw std::runtime_error(reason.toStdString());
-    if (changes.empty())
+    if (changes.empty()) {
+        if (shown.asJson)
+            printJson({{"ok", true}, {"written", inJson(changes)}, {"not_taken", inJson(changes)}});
         return Done;
-    if (!yes && !agrees(changes.size())) {
+    }
+    if (!yes && !agrees(changes.size(), shown)) {
         printLine(QStringLiteral("nothing was written"));
         return Refused;
     }
     write(changes, firmware);
-    return verify(changes, firmware);
+    return verify(comparison, firmware, shown);
 }
 
-ExitStatus diff(const FirmwareConfiguration &firmware, const QString &path)
+ExitStatus diff(const FirmwareConfiguration &firmware, const QString &path, const Shown &shown)
 {
-    return compareShowing(rowsOfFile(path), firmware).changes.empty() ? Done : Refused;
+    const ConfigComparison comparison = compareShowing(configFile(path), firmware, shown);
+    if (shown.asJson)
+        printJson(inJson(comparison));
+    return comparison.changes.empty() ? Done : Refused;
 }
 
 ExitStatus run(const CommandLine &line)
@@ -218,12 +305,13 @@ ExitStatus run(const CommandLine &line)
         throw UsageError(QStringLiteral("--yes belongs to config push"));
     const Driver driver(line);
     const FirmwareConfiguration firmware(driver);
+    const Shown shown(line);
     if (action == QLatin1String("pull"))
-        return pull(firmware, path);
+        return pull(firmware, path, shown);
     if (action == QLatin1String("push"))
-        return push(firmware, path, yes);
+        return push(firmware, path, yes, shown);
     if (action == QLatin1String("diff"))
-        return diff(firmware, path);
+        return diff(firmware, path, shown);
     const QStringList actions = {QStringLiteral("pull"), QStringLiteral("push"), QStringLiteral("diff")};
     throw UsageError(QStringLiteral("config has pull, push and diff, not \"%1\"%2")
                          .arg(action, didYouMean(action, actions)));
@@ -240,10 +328,12 @@ const Subcommand configSubcommand = {
     "shows what the file would change, asks, writes the rows that differ, and has the firmware keep them. "
     "diff\n"
     "shows only. push and diff look at the structures that the file has, so that it may be a part of one.\n"
-    "Exit status of diff: 0 without differences, 1 with some.",
+    "Exit status of diff: 0 without differences, 1 with some; 2 for a file that cannot be read.",
     2,
     2,
-    withDriverOptions({{"yes", nullptr, "push without asking"}}),
+    withDriverOptions({{"yes", nullptr, "push without asking"},
+                       quietOption,
+                       {"json", nullptr, "one JSON object, and no question"}}),
     run};
 
 } // namespace quv

@@ -38,6 +38,10 @@ bool isName(int code, int position)
     return code == nameStructure && position == 1;
 }
 
+// The kinds of machines that have a configuration.
+const QString dispenserKind = QStringLiteral("dispenser");
+const QString mixerKind = QStringLiteral("mixer");
+
 /// The structure of a name as it stands in a file; 0 for none.
 int codeOfName(const QString &name)
 {
@@ -49,13 +53,30 @@ int codeOfName(const QString &name)
     return 0;
 }
 
+/// The field that tells which circuit or reference a row is of; 0 for a structure that exists once.
+int identityPosition(int code)
+{
+    switch (code) {
+    case 5: // "@CPT"
+        return 3;
+    case 6: // "@AGI"
+        return 2;
+    case 10: // "@RAM", "@MOT", "@PRO"
+    case 19:
+    case 22:
+        return 1;
+    default:
+        return 0;
+    }
+}
+
 /// Puts rows together line by line.
 class Reader
 {
 public:
     explicit Reader(const QString &text) : m_lines(text.split(QLatin1Char('\n'))) {}
 
-    std::vector<ConfigRow> read()
+    ConfigFile read()
     {
         for (m_line = 1; m_line <= m_lines.size(); ++m_line) {
             const QString line = m_lines[m_line - 1].trimmed();
@@ -65,7 +86,7 @@ public:
         if (!m_hasHeader)
             refuse(QStringLiteral("the line \"%1%2\" is missing").arg(fileHeader()).arg(version));
         endRow();
-        return std::move(m_rows);
+        return {m_machine, std::move(m_rows)};
     }
 
 private:
@@ -126,8 +147,26 @@ private:
             refuse(QStringLiteral("%1 has no field").arg(headingOf(m_rows.back())));
     }
 
+    /// "machine = dispenser", above all rows.
+    bool readMachine(const QString &line)
+    {
+        static const QRegularExpression form(QStringLiteral(R"(^machine\s*=\s*(.*)$)"));
+        const QRegularExpressionMatch match = form.match(line);
+        if (!match.hasMatch())
+            return false;
+        if (!m_machine.isEmpty())
+            refuse(QStringLiteral("the machine stands here for the second time"));
+        m_machine = match.captured(1);
+        if (m_machine != dispenserKind && m_machine != mixerKind)
+            refuse(QStringLiteral("the machine is a %1 or a %2, not \"%3\"")
+                       .arg(dispenserKind, mixerKind, m_machine));
+        return true;
+    }
+
     void readField(const QString &line)
     {
+        if (m_rows.empty() && readMachine(line))
+            return;
         if (m_rows.empty())
             refuse(QStringLiteral("a field stands below the heading of its structure, such as [@HUM]"));
         const int equals = line.indexOf(QLatin1Char('='));
@@ -135,7 +174,12 @@ private:
             refuse(QStringLiteral("this is no line \"label = value\""));
         ConfigRow &row = m_rows.back();
         checkLabel(row, line.left(equals).trimmed());
-        row.fields.append(value(row, line.mid(equals + 1).trimmed()));
+        const QString text = value(row, line.mid(equals + 1).trimmed());
+        const int identity = identityPosition(row.code);
+        if (identity > 0 && row.fields.size() == identity && text.toInt() != row.id)
+            refuse(QStringLiteral("%1 has the %2 %3: a row is that of its heading")
+                       .arg(headingOf(row), fieldLabel(row.code, row.fields.size()), text));
+        row.fields.append(text);
     }
 
     void checkLabel(const ConfigRow &row, const QString &label) const
@@ -174,6 +218,7 @@ private:
     const QStringList m_lines;
     int m_line = 0;
     bool m_hasHeader = false;
+    QString m_machine{};
     std::vector<ConfigRow> m_rows{};
 };
 
@@ -218,6 +263,10 @@ QString whyUnwritable(const ConfigRow &row)
 {
     if (!ConfData::checkCommandEnable(row.fields.value(0).toInt()))
         return QStringLiteral("%1: cmd_enabled is 0, 1 or 2").arg(headingOf(row));
+    const int identity = identityPosition(row.code);
+    if (identity > 0 && row.isPresent() && row.fields.value(identity).toInt() != row.id)
+        return QStringLiteral("%1: the file does not tell the %2")
+            .arg(headingOf(row), fieldLabel(row.code, identity));
     if (row.code != nameStructure)
         return QString();
     const QString name = row.fields.value(1);
@@ -227,6 +276,16 @@ QString whyUnwritable(const ConfigRow &row)
     return good ? QString()
                 : QStringLiteral("%1: a name has one character at least, printable ASCII without commas")
                       .arg(headingOf(row));
+}
+
+QString machineKind(const QList<int> &structures)
+{
+    if (structures.isEmpty())
+        return QString();
+    const bool fitMixer = std::all_of(structures.begin(), structures.end(), [](int code) {
+        return ConfData::isCommandCodeSupported(code, SerialDeviceType::Mixer);
+    });
+    return fitMixer ? mixerKind : dispenserKind;
 }
 
 QStringList fieldsOfText(int code, const QString &text)
@@ -251,15 +310,17 @@ ConfigFileError::ConfigFileError(int line, const QString &text)
       m_line(line)
 {}
 
-std::vector<ConfigRow> readConfigFile(const QByteArray &text)
+ConfigFile readConfigFile(const QByteArray &text)
 {
     return Reader(decoded(text)).read();
 }
 
-QByteArray configFileOf(const std::vector<ConfigRow> &rows, const QString &firmware)
+QByteArray configFileOf(const ConfigFile &file, const QString &firmware)
 {
     QString text = QStringLiteral("%1%2\n# %3\n").arg(fileHeader(), QString::number(version), firmware);
-    for (const ConfigRow &row : rows) {
+    if (!file.machine.isEmpty())
+        text += QStringLiteral("machine = %1\n").arg(file.machine);
+    for (const ConfigRow &row : file.rows) {
         text += QStringLiteral("\n%1\n").arg(headingOf(row));
         for (int position = 0; position < row.fields.size(); ++position)
             text += fieldLabel(row.code, position) + QStringLiteral(" = ") +

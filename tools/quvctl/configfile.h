@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -37,6 +38,9 @@ QString fieldText(int code, int position, const QString &value);
 /// What keeps the firmware from taking the row; empty for nothing.
 QString whyUnwritable(const ConfigRow &row);
 
+/// "dispenser" or "mixer": the kind of machine that has these structures; empty when there are none to tell it by.
+QString machineKind(const QList<int> &structures);
+
 /// The fields of a row in its text form. \throws std::runtime_error when they are no whole numbers from 0 on
 QStringList fieldsOfText(int code, const QString &text);
 QString textOf(const ConfigRow &row);
@@ -55,10 +59,18 @@ private:
 /// Greatest size of a file, bytes.
 inline constexpr int MaxConfigFileSize = 1024 * 1024;
 
+/// What a file tells.
+struct ConfigFile
+{
+    QString
+        machine{}; ///< the kind of machine that it is of, "dispenser" or "mixer"; empty when it does not tell
+    std::vector<ConfigRow> rows{};
+};
+
 /// The rows in the file's order. \throws ConfigFileError
-std::vector<ConfigRow> readConfigFile(const QByteArray &text);
+ConfigFile readConfigFile(const QByteArray &text);
 
 /// \a firmware tells in a comment where the rows come from.
-QByteArray configFileOf(const std::vector<ConfigRow> &rows, const QString &firmware);
+QByteArray configFileOf(const ConfigFile &file, const QString &firmware);
 
 } // namespace quv

@@ -213,16 +213,21 @@ std::vector<ConfigRow> FirmwareConfiguration::allRows(const OfferedStructures &o
     return rows;
 }
 
-ConfigComparison compare(const std::vector<ConfigRow> &file, const FirmwareConfiguration &firmware,
+ConfigComparison compare(const ConfigFile &file, const FirmwareConfiguration &firmware,
                          const std::function<void(int)> &tell)
 {
-    std::vector<ConfigRow> rows = file;
+    std::vector<ConfigRow> rows = file.rows;
     // what it tells of the machine is part of what a circuit's row means
     std::stable_partition(rows.begin(), rows.end(),
                           [](const ConfigRow &row) { return row.code == machineStructure; });
     Steps steps(static_cast<int>(rows.size()) + 1, tell);
     steps.step();
     const QList<int> offered = firmware.structures().codes;
+    const QString machine = machineKind(offered);
+    if (!file.machine.isEmpty() && !machine.isEmpty() && file.machine != machine)
+        throw std::runtime_error(QStringLiteral("the file is of a %1, the machine behind the driver is a %2")
+                                     .arg(file.machine, machine)
+                                     .toStdString());
     ConfigComparison comparison;
     for (const ConfigRow &row : rows) {
         steps.step();
@@ -234,7 +239,10 @@ ConfigComparison compare(const std::vector<ConfigRow> &file, const FirmwareConfi
         const ConfigRow present = firmware.row(row.code, row.id);
         const ConfigRow wanted = merged(row, present, comparison.warnings);
         const std::vector<FieldChange> changes = changesOf(present, wanted);
-        if (!changes.empty())
+        // a firmware keeps nothing of a circuit or reference that there is not
+        const bool isNothing =
+            ConfData::isMultipleInstance(row.code) && !present.isPresent() && !wanted.isPresent();
+        if (!changes.empty() && !isNothing)
             comparison.changes.push_back({wanted, changes});
     }
     return comparison;

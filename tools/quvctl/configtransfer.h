@@ -65,8 +65,9 @@ struct ConfigComparison
 /**
  * What the firmware has otherwise than a file: only the structures that the file has are looked at. Fields that the file's row
  * lacks are left as they are, and those that the firmware's row lacks are left out.
+ * \throws std::runtime_error when the file is of another kind of machine
  */
-ConfigComparison compare(const std::vector<ConfigRow> &file, const FirmwareConfiguration &firmware,
+ConfigComparison compare(const ConfigFile &file, const FirmwareConfiguration &firmware,
                          const std::function<void(int percentage)> &tell);
 
 } // namespace quv
