@@ -2,9 +2,11 @@
 """quvctl tint and ticket. Usage: quvctl_tint_test.py QUVDRIVER QUVCTL"""
 
 import json
+import os
 import re
 import signal
 import sys
+import tempfile
 import unittest
 
 import quvctl_process
@@ -233,6 +235,25 @@ class Simulated(unittest.TestCase):
         self.assertEqual(lines[-7], "100 %  Done successfully!")
         for line in lines[1:-7]:
             self.assertRegex(line, r"^(Created\.\.\.|Queued\.\.\.|Executing\.\.\.|\d+ %(  About .+ remaining\.\.\.)?)$")
+
+    def test_token(self):
+        with tempfile.TemporaryDirectory() as folder:
+            paths = {}
+            for name, content in [("good", "a token of the shop".replace(" ", "-")), ("bad", "another-token-of-16"), ("none", "")]:
+                paths[name] = os.path.join(folder, name)
+                with open(paths[name], "w", encoding="ascii") as file:
+                    file.write(content + "\n")
+            with quvdriver_process.Driver("--machine", "dispenser", "--token-file", paths["good"]) as driver:
+                call = ["call", "GET_STATUS", "-q", "--port", str(driver.port)]
+                self.assertEqual(run(*call, "--token-file", paths["good"])[0], 0)
+                self.assertEqual(run(*call, env={**os.environ, "QUV_TOKEN_FILE": paths["good"]})[0], 0)
+                for options in [(), ("--token-file", paths["bad"])]:
+                    code, out, err = run(*call, *options)
+                    self.assertEqual((code, out), (1, ""))
+                    self.assertIn("401", err)
+                self.assertEqual(run(*call, "--token-file", paths["none"]), (
+                    2, "", f'quvctl: Token file "{paths["none"]}": it must hold one line of 16 to 512 characters, without '
+                           "blanks (see quvctl help)\n"))
 
     def test_no_wait(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "100") as driver:

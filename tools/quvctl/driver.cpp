@@ -2,6 +2,7 @@
 #include "driver.h"
 
 #include "commandline.h"
+#include "httpaccess.h"
 #include "operations.h"
 #include "terminal.h"
 
@@ -21,9 +22,23 @@ std::chrono::milliseconds timeoutOf(const CommandLine &line)
     return std::chrono::milliseconds(std::llround(line.decimal("timeout", 60, 0.001, 86400) * 1000));
 }
 
-XmlRpcClientOptions optionsOf(const DriverAddress &address)
+/// That of --token-file or QUV_TOKEN_FILE; empty without either. \throws UsageError for a file that holds none
+std::string tokenOf(const CommandLine &line)
+{
+    const QString file = line.value("token-file", qEnvironmentVariable("QUV_TOKEN_FILE"));
+    if (file.isEmpty() && !line.isSet("token-file"))
+        return {};
+    try {
+        return readToken(file);
+    } catch (const std::runtime_error &error) {
+        throw UsageError(QString::fromUtf8(error.what()));
+    }
+}
+
+XmlRpcClientOptions optionsOf(const DriverAddress &address, const CommandLine &line)
 {
     XmlRpcClientOptions options;
+    options.token = tokenOf(line);
     if (!address.path.isEmpty())
         options.path = address.path.toStdString();
     return options;
@@ -60,7 +75,7 @@ RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what
 Driver::Driver(const CommandLine &line)
     : m_address(driverAddress(line)),
       m_isVerbose(line.isSet("verbose")),
-      m_client(m_address.host, m_address.port, timeoutOf(line), optionsOf(m_address))
+      m_client(m_address.host, m_address.port, timeoutOf(line), optionsOf(m_address, line))
 {}
 
 const XmlRpcAnswer &Driver::execute(ProtoCommand &command) const

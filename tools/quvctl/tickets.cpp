@@ -35,7 +35,7 @@ extern "C" void endInterrupted(int)
 QString commandLineOf(const QString &id, const CommandLine &line)
 {
     QString text = QStringLiteral("quvctl ticket ") + id;
-    for (const char *option : {"host", "port"})
+    for (const char *option : {"host", "port", "token-file"})
         if (line.isSet(option))
             text += QStringLiteral(" --%1 %2").arg(QLatin1String(option), line.value(option, QString()));
     return text;
