@@ -560,6 +560,7 @@ class JsonFailures(CliTest):
     def test_wrong_usage(self):
         for text, *words in [
                 ("Unknown option 'wings'.", "list", "--wings"), ("call needs NAME [ARGUMENT...]", "call"),
+                ("B is no ID=QUANTITY, such as B=12.5", "tint", "B"),
                 ("there is no subcommand \"fly\"", "fly"), ("config needs pull|push|diff FILE", "config", "pull"),
                 ("\"none\" is no machine to print", "machine", "none"),
                 ("--count takes a number from 0 to 1000000000", "watch", "--count", "-1"),
@@ -570,7 +571,7 @@ class JsonFailures(CliTest):
         errors = [{"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE00123", "text": "No caf\u00e9"}]
         with Driver(envelope(0, 6, "GET_STATUS : failed", errors)) as driver:
             port = ["--port", str(driver.port)]
-            for words in [("call", "GET_STATUS"), ("ticket", "T-1"), ("watch", "--count", "1")]:
+            for words in [("call", "GET_STATUS"), ("ticket", "T-1"), ("watch", "--count", "1"), ("tint", "B=1")]:
                 if words[0] == "watch":
                     reply = json.loads(run(*words, "--json", *port)[1])
                     self.assertRegex(reply.pop("time"), r"^\d{4}-\d\d-\d\dT[\d:.]+Z$")
@@ -585,7 +586,7 @@ class JsonFailures(CliTest):
         with Driver(xmlrpc.client.Fault(-32600, "not like this")) as driver:
             reply = self.failure(1, "call", "GET_STATUS", "--port", str(driver.port))
             self.assertEqual((reply["code"], reply["text"]), ("-32600", "not like this"))
-        for words in [("call", "GET_STATUS"), ("ticket", "T-1")]:
+        for words in [("call", "GET_STATUS"), ("ticket", "T-1"), ("tint", "B=1")]:
             self.assertEqual(self.failure(1, *words, "--port", "1")["text"], "Cannot connect to 127.0.0.1:1")
 
     def test_machine(self):

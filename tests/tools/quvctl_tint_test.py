@@ -175,6 +175,19 @@ class Pouring(unittest.TestCase):
                          ["2         0             300", "3         0             200",
                           "poured less than asked on circuits 2, 3", ""])
 
+    def test_json(self):
+        for poured, ok in [(300, True), (120, False)]:
+            with ScriptedDriver(dispensed=dispensed(steps(p2=poured), steps(p2=300))) as driver:
+                code, out, err = run("tint", "B=12.5", "--json", "--interval", "0.01", "--port", str(driver.port))
+            self.assertEqual((code, err), (0 if ok else 1, ""))
+            reply = json.loads(out)
+            self.assertEqual((reply["ok"], reply["ticket"], reply["circuits"]),
+                             (ok, "T-1", [{"position": "2", "poured_steps": poured, "asked_steps": 300}]))
+            self.assertEqual(reply.get("text"), None if ok else "poured less than asked")
+        with ScriptedDriver() as driver:
+            code, out, err = run("tint", "B=1", "--no-wait", "--json", "--port", str(driver.port))
+        self.assertEqual((code, json.loads(out), err), (0, {"ok": True, "ticket": "T-1"}, ""))
+
     def test_low_levels_are_told_and_stop_nothing(self):
         code, out, err, driver = self.tint(levels=levels([3, 5], [5, 7]))
         self.assertEqual((code, err.split("\n")), (0, [

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "formulawords.h"
+#include "operations.h"
+#include "replies.h"
 #include "subcommands.h"
 #include "terminal.h"
 #include "tickets.h"
@@ -83,11 +85,40 @@ QString lastLine(const QStringList &lacking)
              lacking.join(QStringLiteral(", ")));
 }
 
+GetDispensedFormulaAnswer pouredFormula(const Driver &driver)
+{
+    GetDispensedFormulaCmd command(Formula::CircuitPositions, Formula::Steps);
+    return executed<GetDispensedFormulaAnswer>(driver, command);
+}
+
+void printJson(const OrderedJson &json)
+{
+    printLine(QString::fromStdString(writeJson(json)));
+}
+
+/// The same as report(), as one JSON object.
+ExitStatus reportAsJson(const Driver &driver, const Ticket &ticket)
+{
+    const GetDispensedFormulaAnswer answer = pouredFormula(driver);
+    OrderedJson rows = OrderedJson::array();
+    bool lacks = false;
+    for (const FormulaItem &asked : answer.totalFormula().items()) {
+        const double poured = quantityOf(answer.dispensedFormula(), asked.id);
+        rows.push_back(OrderedJson::object(
+            {{"position", toJson(asked.id)}, {"poured_steps", poured}, {"asked_steps", asked.quantity}}));
+        lacks = lacks || poured < asked.quantity;
+    }
+    OrderedJson reply = lacks ? failureReply("poured less than asked") : success();
+    reply["ticket"] = toJson(ticket.id());
+    reply["circuits"] = std::move(rows);
+    printJson(reply);
+    return lacks ? Refused : Done;
+}
+
 /// What left each circuit; Refused when it is less than was asked for.
 ExitStatus report(const Driver &driver)
 {
-    GetDispensedFormulaCmd command(Formula::CircuitPositions, Formula::Steps);
-    const auto &answer = executed<GetDispensedFormulaAnswer>(driver, command);
+    const GetDispensedFormulaAnswer answer = pouredFormula(driver);
     Columns columns;
     columns.add({QStringLiteral("POSITION"), QStringLiteral("POURED STEPS"), QStringLiteral("ASKED STEPS")});
     QStringList lacking;
@@ -109,13 +140,21 @@ ExitStatus run(const CommandLine &line)
     const Formula formula = formulaOf(line);
     tellLevels(driver, formula);
     const Ticket ticket = begin(driver, formula, line);
-    printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
-    if (line.isSet("no-wait"))
+    const bool isJson = line.isSet("json");
+    const bool isDone = line.isSet("no-wait");
+    if (!isJson)
+        printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
+    else if (isDone)
+        printJson({{"ok", true}, {"ticket", toJson(ticket.id())}});
+    if (isDone)
         return Done;
-    const CmdStatus ended = ticket.waitForEnd(interval, !line.isQuiet());
-    if (ended.status() == CmdStatus::Interrupted || ended.status() == CmdStatus::TimedOut)
+    const CmdStatus ended = ticket.waitForEnd(interval, !isJson && !line.isQuiet());
+    const bool isBroken = ended.status() == CmdStatus::Interrupted || ended.status() == CmdStatus::TimedOut;
+    if (isBroken && !isJson)
         report(driver); // some of it has left the nozzles
     const XmlRpcAnswer result = resultOf(ended);
+    if (isJson)
+        return reportAsJson(driver, ticket);
     if (!line.isQuiet())
         printLine(result.infoMsg(), Colour::Bold);
     return report(driver);
@@ -140,7 +179,8 @@ const Subcommand tintSubcommand = {
                        {"levels-check", "on|off", "the driver refuses what canisters do not hold (on)"},
                        {"no-wait", nullptr, "do not wait for the end; the ticket tells later"},
                        intervalOption,
-                       quietOption}),
+                       quietOption,
+                       {"json", nullptr, "ticket and circuits as one JSON object"}}),
     run};
 
 } // namespace quv
