@@ -114,6 +114,12 @@ XmlRpcValue nestedValue(int depth)
     return value;
 }
 
+XmlRpcValue emptyStruct()
+{
+    int offset = 0;
+    return XmlRpcValue("<value><struct></struct></value>", &offset);
+}
+
 // ---- documents ----
 
 TEST(XmlRpcCodec, readsACallWithParameters)
@@ -184,11 +190,36 @@ TEST(XmlRpcCodec, writesACall)
               "<param><value><string>TINT</string></value></param><param><value><i4>5</i4></value></param>"
               "</params></methodCall>\n");
     EXPECT_EQ(writeMethodCall(QStringLiteral("A"), XmlRpcValue()).toStdString(),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?><methodCall><methodName>A</methodName><params/>"
-              "</methodCall>\n");
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?><methodCall><methodName>A</methodName>"
+              "<params></params></methodCall>\n");
     EXPECT_EQ(writeMethodCall(QStringLiteral("A"), XmlRpcValue(true)).toStdString(),
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?><methodCall><methodName>A</methodName><params>"
               "<param><value><boolean>1</boolean></value></param></params></methodCall>\n");
+}
+
+TEST(XmlRpcCodec, writesEmptyArraysAndStructsWithEndTags)
+{
+    XmlRpcValue array;
+    array.setSize(0);
+    EXPECT_EQ(written(array), "<array><data></data></array>");
+    EXPECT_EQ(written(emptyStruct()), "<struct></struct>");
+    EXPECT_EQ(written(XmlRpcValue("")), "<string></string>");
+}
+
+TEST(XmlRpcCodec, XmlRpcppReadsWhatIsWritten)
+{
+    XmlRpcValue value;
+    value["errors"].setSize(0);
+    value["nothing"] = emptyStruct();
+    value["info"] = "";
+    value["list"][0] = "a<b";
+    value["list"][1] = emptyStruct();
+    value["list"][2] = 12.5;
+    value["list"][3] = true;
+    int offset = 0;
+    XmlRpcValue read;
+    ASSERT_TRUE(read.fromXml("<value>" + written(value) + "</value>", &offset));
+    EXPECT_EQ(read.toXml(), value.toXml());
 }
 
 TEST(XmlRpcCodec, writesAFault)

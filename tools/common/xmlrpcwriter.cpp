@@ -70,7 +70,7 @@ public:
     QByteArray document();
 
 private:
-    void start(const char *name) { m_xml.writeStartElement(QLatin1String(name)); }
+    void start(const char *name);
     void end() { m_xml.writeEndElement(); }
     void text(const QString &text);
     void element(const char *name, const QString &content);
@@ -84,6 +84,13 @@ private:
     QXmlStreamWriter m_xml{&m_document};
     int m_nesting = 0;
 };
+
+/// Each element gets an end tag of its own: the parser of XmlRpc++ refuses <data/> and <struct/>.
+void Writer::start(const char *name)
+{
+    m_xml.writeStartElement(QLatin1String(name));
+    m_xml.writeCharacters(QString());
+}
 
 void Writer::text(const QString &text)
 {
