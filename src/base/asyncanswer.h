@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/confprotoanswer.h"
-#include "base/describedanswer.h"
+#include "confprotoanswer.h"
+#include "describedanswer.h"
 
 /** The ticket that a client gets at once for a command that goes on: a struct with the member "ticket_id" (string). */
 class QUVPROTOCOL_EXPORT AsyncAnswer : public quv::DescribedAnswer<AsyncAnswer, ConfProtoAnswer>

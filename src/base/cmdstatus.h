@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/xmlrpcanswer.h"
-#include "quvprotocol_global.h"
+#include "../quvprotocol_global.h"
+#include "xmlrpcanswer.h"
 
 #include <QtCore/QMetaType>
 #include <QtCore/QString>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/protoanswer.h"
+#include "protoanswer.h"
 
 /** An answer of the driver itself; a plain one keeps the values that it was made of. */
 class QUVPROTOCOL_EXPORT ConfProtoAnswer : public ProtoAnswer

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/protocommand.h"
+#include "protocommand.h"
 
 /** A command that the driver carries out itself. */
 class QUVPROTOCOL_EXPORT ConfProtoCommand : public ProtoCommand

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/confprotoanswer.h"
-#include "base/describedanswer.h"
+#include "confprotoanswer.h"
+#include "describedanswer.h"
 
 /** The answer to GET_CMD_EST_EXEC_TIME: a struct with the member "exec_time" (int, milliseconds). */
 class QUVPROTOCOL_EXPORT GetCmdEstimatedExecTimeAnswer

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/confprotocommand.h"
-#include "base/describedcommand.h"
+#include "confprotocommand.h"
+#include "describedcommand.h"
 
 #include <memory>
 

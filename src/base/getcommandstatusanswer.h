@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/cmdstatus.h"
-#include "base/confprotoanswer.h"
+#include "cmdstatus.h"
+#include "confprotoanswer.h"
 
 /** The answer to GET_CMD_STATUS: a copy of the ticket's CmdStatus, in whose form it travels. */
 class QUVPROTOCOL_EXPORT GetCommandStatusAnswer : public ConfProtoAnswer

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/tstring.h"
-#include "quvprotocol_global.h"
+#include "../quvprotocol_global.h"
+#include "tstring.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>

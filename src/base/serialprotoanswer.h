@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/protoanswer.h"
+#include "protoanswer.h"
 
 #include <QtCore/QStringList>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "configuration/deviceconfdata.h"
+#include "deviceconfdata.h"
 
 #include <QuvFramework/fw_bungholelocator.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "configuration/confdata.h"
+#include "confdata.h"
 
 /**
  * What the structures that describe one device of a dispenser share. A machine without the device still gives a complete

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "configuration/confdata.h"
+#include "confdata.h"
 
 /** A structure that this library does not know: its row is kept as it came. The owner sets the code. */
 class QUVPROTOCOL_EXPORT GENERIC_cdata final : public ConfData

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotoanswer.h"
+#include "../base/serialprotoanswer.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPair>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/describedcommand.h"
+#include "../base/describedcommand.h"
 
 /**
  * GET_CONFIG_CMDS: asks the firmware which structures it has, which is the reading of structure 0; the answer is a

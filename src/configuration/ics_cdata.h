@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "configuration/confdata.h"
+#include "confdata.h"
 
 /** "@ICS", which begins a configuration: `cmd_enabled` alone. */
 class QUVPROTOCOL_EXPORT ICS_cdata final : public ConfData

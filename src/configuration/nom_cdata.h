@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "configuration/confdata.h"
+#include "confdata.h"
 
 /** "@NOM", the name of the machine's configuration. Its one field is a text, so that the row has always one. */
 class QUVPROTOCOL_EXPORT NOM_cdata final : public ConfData

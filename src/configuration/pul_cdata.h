@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "configuration/confdata.h"
+#include "confdata.h"
 
 #include <QuvFramework/fw_brush.h>
 #include <QuvFramework/fw_brush2.h>

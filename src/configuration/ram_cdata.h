@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "configuration/referenceconfdata.h"
+#include "referenceconfdata.h"
 
 #include <QuvFramework/fw_ramp.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/describedcommand.h"
+#include "../base/describedcommand.h"
 
 /** READ_CONFIG_ROW: asks the firmware for its row of one structure; the answer is a ReadConfigurationParamAnswer. */
 class QUVPROTOCOL_EXPORT ReadConfigurationParamCmd

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "dispensing/pack2cmd.h"
+#include "pack2cmd.h"
 
 /**
  * AIRPURGE: drives the air out of circuits. To the firmware it is a pack with the execution criterion 9, which it has

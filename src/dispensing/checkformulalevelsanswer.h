@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/confprotoanswer.h"
-#include "base/describedanswer.h"
+#include "../base/confprotoanswer.h"
+#include "../base/describedanswer.h"
 
 /**
  * The answer to CHECK_FORMULA_LEVELS: the IDs of the canisters that the formula would bring below their critical level,

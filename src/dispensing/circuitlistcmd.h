@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/serialprotocommand.h"
-#include "dispensing/pcircuitformula.h"
+#include "../base/serialprotocommand.h"
+#include "pcircuitformula.h"
 
 /**
  * What the commands share that move pumps by a list of circuits and need no calibration for it. The only argument is a

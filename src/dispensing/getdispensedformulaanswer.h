@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/describedanswer.h"
-#include "base/serialprotoanswer.h"
+#include "../base/describedanswer.h"
+#include "../base/serialprotoanswer.h"
 
 #include <QuvFramework/formula.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/protocommand.h"
-#include "dispensing/getdispensedformulacmdbase.h"
+#include "../base/protocommand.h"
+#include "getdispensedformulacmdbase.h"
 
 /**
  * GET_DISPENSED_FORMULA as a client asks it: what really left the nozzles. Over XML-RPC the answer is a

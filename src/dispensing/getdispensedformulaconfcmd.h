@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/confprotocommand.h"
-#include "base/describedcommand.h"
-#include "dispensing/getdispensedformulacmdbase.h"
+#include "../base/confprotocommand.h"
+#include "../base/describedcommand.h"
+#include "getdispensedformulacmdbase.h"
 
 /**
  * GET_DISPENSED_FORMULA for a driver that keeps the formula itself and answers by itself; the answer is a

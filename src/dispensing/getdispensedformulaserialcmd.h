@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/describedcommand.h"
-#include "dispensing/getdispensedformulacmdbase.h"
+#include "../base/describedcommand.h"
+#include "getdispensedformulacmdbase.h"
 
 /** GET_DISPENSED_FORMULA for a driver that asks the firmware, whose answer is a GetDispensedFormulaAnswer. */
 class QUVPROTOCOL_EXPORT GetDispensedFormulaSerialCmd

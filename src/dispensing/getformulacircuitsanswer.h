@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/confprotoanswer.h"
-#include "base/describedanswer.h"
+#include "../base/confprotoanswer.h"
+#include "../base/describedanswer.h"
 
 /**
  * The answer to GET_FORMULA_CIRCUITS: three parallel lists, the circuits that a formula uses, their positions, and how

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/describedcommand.h"
-#include "dispensing/circuitlistcmd.h"
+#include "../base/describedcommand.h"
+#include "circuitlistcmd.h"
 
 class FW_Dispenser;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "quvprotocol_global.h"
+#include "../quvprotocol_global.h"
 
 #include <xmlrpcpp/XmlRpcValue.h>
 

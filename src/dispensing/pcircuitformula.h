@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "dispensing/pcircuit.h"
+#include "pcircuit.h"
 
 #include <QtCore/QList>
 #include <QtCore/QMetaType>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "dispensing/purgecmd.h"
+#include "purgecmd.h"
 
 #include <QuvFramework/formula.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/confprotocommand.h"
-#include "base/describedcommand.h"
-#include "dispensing/fw_canisterrefill.h"
+#include "../base/confprotocommand.h"
+#include "../base/describedcommand.h"
+#include "fw_canisterrefill.h"
 
 #include <QuvFramework/formula.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/describedcommand.h"
+#include "../base/describedcommand.h"
 
 #include <QuvFramework/circuitformulaitem.h>
 #include <QuvFramework/formula.h>

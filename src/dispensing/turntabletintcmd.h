@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "dispensing/tintcmd.h"
+#include "tintcmd.h"
 
 /**
  * TINT on a rotating machine, which pours in the order in which the table reaches the circuits from the position where it

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/confprotoanswer.h"
+#include "../base/confprotoanswer.h"
 
 /**
  * The answer to GET_DEVICE_PARAMS. Which parameters a machine's devices have is for the driver and its client to know; the

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/describedcommand.h"
+#include "../base/describedcommand.h"
 
 /** GET_STATUS: asks a dispenser's firmware what the machine is doing; the answer is a DispenserStatusAnswer. */
 class QUVPROTOCOL_EXPORT DispenserStatusCmd
