@@ -1,5 +1,5 @@
 # Finds XmlRpc++ and defines the target XmlRpcpp::XmlRpcpp.
-# The package's own CMake and pkg-config files pull in its authors' build system; only the value class is needed here.
+# The package's own CMake and pkg-config files pull in its authors' build system; only the library itself is needed here.
 find_path(XmlRpcpp_INCLUDE_DIR xmlrpcpp/XmlRpcValue.h)
 find_library(XmlRpcpp_LIBRARY xmlrpcpp)
 

@@ -1,4 +1,4 @@
-# What every target of this project shares: warnings and sanitizers, and how a library is installed.
+# What every target of this project shares: warnings and sanitizers, and how a library is versioned and installed.
 
 function(quv_compile_options target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow)
@@ -28,14 +28,26 @@ function(quv_precompile_headers target)
     endif()
 endfunction()
 
-# Installs a library with its CMake package and its pkg-config file; headers are installed where they are listed.
+# Below version 1.0 each minor version may break what was built against another one, so that it is a part of the soname.
+function(quv_version_library target)
+    set(soversion ${PROJECT_VERSION_MAJOR})
+    if(soversion EQUAL 0)
+        set(soversion 0.${PROJECT_VERSION_MINOR})
+    endif()
+    set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${soversion})
+endfunction()
+
+# Installs a library with its CMake package, which looks for further packages first, and its pkg-config file; headers are
+# installed where they are listed.
 function(quv_install_library target)
     install(TARGETS ${target} EXPORT ${target}Targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
     set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
     install(EXPORT ${target}Targets NAMESPACE ${target}:: DESTINATION ${package_dir})
-    configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/${target}Config.cmake.in
+    set(further_packages ${ARGN})
+    configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/LibraryConfig.cmake.in
         ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake INSTALL_DESTINATION ${package_dir})
     write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
