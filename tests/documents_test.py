@@ -6,7 +6,8 @@ Usage: documents_test.py SOURCE PROGRAMS DOCUMENT [unittest options]; PROGRAMS i
 What stands in a document, and what is done with it:
 
     $ COMMAND           in a fence: run by a shell, in one folder and in the order of the document; the lines below it are
-                        what it prints. "quvdriver ... &" starts a driver (on a free port) in place of the one before.
+                        what it prints. "quvdriver ... &" starts a driver, in place of the one that had this port; it takes
+                        a free port, and the document's stands for that.
     ...                 a line that stands for any lines
     ```console differs  the fence has what differs each time: tickets, progress, times of day. Only their form is compared.
     <!-- run: X -->     a step that readers see told in other words
@@ -34,9 +35,9 @@ SOURCE = pathlib.Path()
 PROGRAMS = pathlib.Path()
 DOCUMENT = ""
 
-PORT = 9333  # the one of the documents
+PORT = "9333"  # of a driver and a client that are not told another
 TICKET = re.compile(r"\b[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}\b")
-CALLING = re.compile(r"\bquvctl (call|tint|watch|config|ticket)\b(?! --port)")
+CALLING = re.compile(r"\bquvctl (call|tint|watch|config|ticket)\b(?![^|;&]* --port)")
 
 # What another test runs, and by which words.
 RUN_ELSEWHERE = {
@@ -112,7 +113,7 @@ def matches(expected, printed):
 
 
 class Shell:
-    """Runs command lines in a folder of their own, with a driver when one was started."""
+    """Runs command lines in a folder of their own, with the drivers that they start."""
 
     def __init__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp())
@@ -120,31 +121,35 @@ class Shell:
                             if not name.startswith("QUV_") and name != "COLUMNS"}
         self.environment.update(PATH=f"{PROGRAMS}:{os.environ['PATH']}", NO_COLOR="1", LC_ALL="C.UTF-8",
                                 HOME=str(self.folder))
-        self.driver = None
-        self.port = 0
+        self.drivers = {}  # by the port that the document tells
+        self.ports = {}  # which the drivers have, likewise
         self.tickets = {}
         self.status = 0  # of the last command
 
     def close(self):
-        self.stop_driver()
+        for port in list(self.drivers):
+            self.stop_driver(port)
         shutil.rmtree(self.folder)
 
-    def stop_driver(self):
-        if self.driver:
-            self.driver.send_signal(signal.SIGTERM)
-            self.driver.communicate(timeout=10)
-            self.driver = None
+    def stop_driver(self, port):
+        if port in self.drivers:
+            driver = self.drivers.pop(port)
+            driver.send_signal(signal.SIGTERM)
+            driver.communicate(timeout=10)
 
     def run(self, command, typed=None):
         if found := re.fullmatch(r"(quvdriver\b.*) &", command):
             return self.start_driver(shlex.split(found.group(1)))
         for written, given in self.tickets.items():
             command = command.replace(written, given)
-        if self.driver:
-            command = CALLING.sub(rf"quvctl \1 --port {self.port}", command.replace(f"--port {PORT}", ""))
+        if PORT in self.ports:
+            command = CALLING.sub(rf"quvctl \1 --port {self.ports[PORT]}", command)
+        for told, port in self.ports.items():
+            command = command.replace(f"--port {told}", f"--port {port}")
         text = self.run_shell(command, typed)
-        if self.driver:
-            text = text.replace(f" --port {self.port}", "").replace(f":{self.port}", f":{PORT}")
+        for told, port in self.ports.items():
+            text = text.replace(f" --port {port}", "" if told == PORT else f" --port {told}")
+            text = text.replace(f":{port}", f":{told}")
         return text.removesuffix("\n").split("\n") if text else []
 
     def run_shell(self, command, typed):
@@ -163,21 +168,23 @@ class Shell:
         return result.stdout.decode("utf-8")
 
     def start_driver(self, words):
-        self.stop_driver()
+        told = PORT
         if "--port" in words:
             place = words.index("--port")
-            assert words[place + 1] == str(PORT), words
+            told = words[place + 1]
             del words[place:place + 2]
-        self.driver = subprocess.Popen([*words, "--port", "0"], cwd=self.folder, env=self.environment,
+        self.stop_driver(told)
+        driver = subprocess.Popen([*words, "--port", "0"], cwd=self.folder, env=self.environment,
                                        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
-        watchdog = threading.Timer(10, self.driver.kill)
+        self.drivers[told] = driver
+        watchdog = threading.Timer(10, driver.kill)
         watchdog.start()
-        first = self.driver.stdout.readline()
+        first = driver.stdout.readline()
         watchdog.cancel()
         found = re.search(r":(\d+)\n$", first)
         self.status = 0 if found else 1
-        self.port = int(found.group(1)) if found else 0
-        return [first.rstrip("\n").replace(f":{self.port}", f":{PORT}") if found else first.rstrip("\n")]
+        self.ports[told] = found.group(1) if found else "0"
+        return [first.rstrip("\n").replace(f":{self.ports[told]}", f":{told}")]
 
 
 class DocumentTest(unittest.TestCase):
@@ -329,7 +336,7 @@ class Reference(DocumentTest):
                     codes = set(re.findall(r"DE\d{5}", "\n".join(more)))
                     self.assertTrue(first.endswith(" executed successfully!") or codes & self.LIMITS, [first, *more])
                 with self.subTest(call):
-                    with xmlrpc.client.ServerProxy(f"http://127.0.0.1:{shell.port}") as driver:
+                    with xmlrpc.client.ServerProxy(f"http://127.0.0.1:{shell.ports[PORT]}") as driver:
                         envelope = eval(call, {"driver": driver})
                     codes = {error["code"] for error in envelope["errors"]}
                     self.assertTrue(envelope["ret_code"] == 0 or codes & self.LIMITS, envelope)
