@@ -264,6 +264,9 @@ class Encode(BatchTest):
             with open(path, "w", encoding="utf-8") as file:
                 file.write('{"type": "dispenser", "heads": 2, "command_family": 2}')
             self.assertIs(self.ask({"op": "encode", "name": "GET_STATUS", "machine": path})["ok"], True)
+            os.mkfifo(path + "pipe")
+            pipe = self.ask({"op": "encode", "name": "GET_STATUS", "machine": path + "pipe"})
+            self.assertIn("it is no regular file", pipe["text"])
             missing = self.ask({"op": "encode", "name": "GET_STATUS", "machine": path + "x"})
         self.assertIs(missing["ok"], False)
         self.assertEqual(missing["code"], "")

@@ -158,9 +158,17 @@ class General(CliTest):
                          r'did you mean "GET_[A-Z]+_LIST", "GET_[A-Z]+_LIST" or "GET_[A-Z]+_LIST"\?\n$')
 
     def test_output_that_cannot_be_written(self):
-        with open("/dev/full", "w", encoding="utf-8") as full:
-            result = subprocess.run([quvctl_process.PROGRAM, "list"], stdout=full, timeout=30, check=False)
-        self.assertEqual(result.returncode, 1)
+        with Driver(envelope(status())) as driver:
+            port = ["--port", str(driver.port)]
+            for words in (["list"], ["show", "TINT"], ["show", "--markdown"], ["help"], ["help", "tint"], ["--version"],
+                          ["encode", "GET_STATUS"], ["decode", "GET_STATUS", *"9 0 1 C 40 4 8 40 5 F5 4".split()],
+                          ["call", "GET_STATUS", *port], ["watch", "--interval", "0.01", *port], ["machine", "dispenser"],
+                          ["explain", "DE00298"], ["batch"]):
+                with open("/dev/full", "w", encoding="utf-8") as full:
+                    result = subprocess.run([quvctl_process.PROGRAM, *words], input=b"{}\n", stdout=full,
+                                            stderr=subprocess.PIPE, timeout=30, check=False)
+                self.assertEqual((result.returncode, result.stderr),
+                                 (1, b"quvctl: standard output: No space left on device\n"), words)
 
 
 class Catalogue(CliTest):

@@ -3,6 +3,7 @@
 
 import json
 import os
+import resource
 import sys
 import tempfile
 import time
@@ -313,6 +314,15 @@ class File(ConfigTest):
             self.wrong_below(3, f"{value} is no name in quotation marks",
                              f"[@NOM]\ncmd_enabled = 1\nStructure name = {value}\n")
 
+    def test_what_is_no_regular_file_is_refused_and_not_waited_for(self):
+        os.mkfifo(self.path)
+        with ScriptedDriver({(7, 1): HUMIDIFIER}) as driver:
+            for action in ("pull", "diff", "push"):
+                self.assertEqual(self.config(driver, action),
+                                 (1, "", f"quvctl: {self.path}: it is no regular file\n"), action)
+            self.assertEqual(driver.asked, [])
+        self.assertEqual(os.listdir(self.folder.name), [os.path.basename(self.path)])
+
     def test_size(self):
         self.put("#" * (1024 * 1024 + 1))
         with ScriptedDriver({}) as driver:
@@ -339,6 +349,19 @@ class File(ConfigTest):
                  "cmd_enabled=1\r\n  Sensor Reading Period   =   0060\r\nNEW_DATA 2 = 10")
         with ScriptedDriver({(7, 1): HUMIDIFIER}) as driver:
             self.assertEqual(self.config(driver, "diff"), (0, "no differences\n", ""))
+
+
+class FullDisk(ConfigTest):
+    def test_the_file_stays_as_it_was(self):
+        self.put("before")
+        limit = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (1024, 1024))
+        rows = {(10, number): f"1,{number},5,6,20,10" for number in range(1, 33)}
+        with ScriptedDriver(rows) as driver:
+            code, _, err = run("config", "pull", self.path, "--port", str(driver.port), preexec_fn=limit,
+                               restore_signals=False)
+        self.assertEqual((code, err), (1, f"quvctl: {self.path}: File too large\n"))
+        self.assertEqual(self.content(), "before")
+        self.assertEqual(os.listdir(self.folder.name), [os.path.basename(self.path)])
 
 
 class Diff(ConfigTest):

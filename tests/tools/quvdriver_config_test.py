@@ -3,6 +3,10 @@
 
 import json
 import os
+import resource
+import shutil
+import signal
+import subprocess
 import tempfile
 import unittest
 
@@ -138,14 +142,77 @@ class ConfigTest(unittest.TestCase):
         self.assertIn("--firmware must be older, equal or newer", ended.stderr)
 
     def test_a_file_that_cannot_be_written_refuses_the_finalisation(self):
-        with Driver("--speed", "1000", "--state", os.path.join(self.state, "nowhere.json")) as driver, \
-                driver.client() as client:
+        folder = os.path.join(os.path.dirname(self.state), "folder")
+        os.mkdir(folder)
+        state = os.path.join(folder, "state.json")
+        with Driver("--speed", "1000", "--state", state) as driver, driver.client() as client:
+            shutil.rmtree(folder)
             self.write(client, 7, "1,61,11,41")
             refused = client.EXEC_B("FINALIZE_CONFIG")
             self.assertEqual(refused["ret_code"], 4)
             self.assertEqual(refused["errors"][0]["text"],
-                             "The firmware refused the code 0067; masks of the reasons: 0x0 and 0x2")
+                             "The firmware refused the code 0067; masks of the reasons: 0x0 and 0x2; "
+                             f'State file "{state}": No such file or directory')
             self.assertEqual(self.row(client, 7), "1,61,11,41")
+
+    def test_a_full_disk_leaves_the_file_as_it_was(self):
+        with self.driver() as driver, driver.client() as client:
+            self.write(client, 7, "1,61,11,41")
+            self.call(client, "FINALIZE_CONFIG")
+        with open(self.state, encoding="utf-8") as file:
+            before = file.read()
+        with Driver("--speed", "1000", "--machine", "dispenser", "--state", self.state,
+                    stderr=subprocess.PIPE, restore_signals=False) as driver:
+            # a file may have 1 KiB and a part of what the rows need, as when the disk is full
+            resource.prlimit(driver.process.pid, resource.RLIMIT_FSIZE, (1024, 1024))
+            with driver.client() as client:
+                self.write(client, 7, "1,62,11,41")
+                refused = client.EXEC_B("FINALIZE_CONFIG")
+            driver.process.send_signal(signal.SIGTERM)
+            _, log = driver.process.communicate(timeout=5)
+        reason = f'State file "{self.state}": File too large'
+        self.assertEqual(refused["ret_code"], 4)
+        self.assertEqual(refused["errors"][0]["text"],
+                         f"The firmware refused the code 0067; masks of the reasons: 0x0 and 0x2; {reason}")
+        self.assertIn(f"quvdriver: {reason}\n", log)
+        with open(self.state, encoding="utf-8") as file:
+            self.assertEqual(file.read(), before)
+        self.assertEqual(os.listdir(os.path.dirname(self.state)), ["state.json"])
+
+    def test_a_state_file_has_one_driver(self):
+        link = self.state + ".link"
+        with self.driver():
+            os.symlink(self.state, link)
+            for name in (self.state, os.path.join(os.path.dirname(self.state), ".", "state.json")):
+                second = run("--state", name)
+                self.assertEqual((second.returncode, second.stdout), (1, ""))
+                self.assertIn(f'State file "{name}": another process uses it', second.stderr)
+        with self.driver() as driver, driver.client() as client:  # the one before was killed
+            self.call(client, "FINALIZE_CONFIG")
+            second = run("--state", link)
+            self.assertEqual(second.returncode, 1)
+            self.assertIn(f'State file "{link}": another process uses it', second.stderr)
+            driver.process.send_signal(signal.SIGTERM)
+            self.assertEqual(driver.process.wait(5), 0)
+        self.assertFalse(os.path.exists(self.state + ".lock"))
+
+    def test_a_state_file_that_cannot_be_written_is_told_at_start(self):
+        nowhere = os.path.join(self.state, "nowhere.json")
+        ended = run("--state", nowhere)
+        self.assertEqual((ended.returncode, ended.stdout), (1, ""))
+        self.assertIn(f'State file "{nowhere}": No such file or directory', ended.stderr)
+
+    def test_what_is_no_regular_file_is_refused_and_not_waited_for(self):
+        pipe = os.path.join(os.path.dirname(self.state), "pipe")
+        os.mkfifo(pipe)
+        for path in (pipe, os.path.dirname(self.state)):
+            ended = run("--state", path)
+            self.assertEqual((ended.returncode, ended.stdout), (1, ""))
+            self.assertIn(f'State file "{path}": it is no regular file', ended.stderr)
+            ended = run("--machine", path)
+            self.assertEqual((ended.returncode, ended.stdout), (1, ""))
+            self.assertIn(f'Machine "{path}": no machine of this name, and no file that can be read: '
+                          "it is no regular file", ended.stderr)
 
 
 if __name__ == "__main__":

@@ -15,9 +15,9 @@ PROGRAM = None
 class Driver:
     """A running driver on a free loopback port; it is killed at the latest when the context ends."""
 
-    def __init__(self, *options, address="127.0.0.1"):
+    def __init__(self, *options, address="127.0.0.1", **more):
         self.process = subprocess.Popen(
-            [PROGRAM, "--port", "0", *options], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
+            [PROGRAM, "--port", "0", *options], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True, **more)
         watchdog = threading.Timer(10, self.process.kill)
         watchdog.start()
         self.first_line = self.process.stdout.readline()

@@ -2,13 +2,12 @@
 #include "machines.h"
 
 #include "machinefile.h"
+#include "savedfile.h"
 
 #include <QuvFramework/fw_autocap.h>
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
 #include <QuvFramework/fw_turntable.h>
-
-#include <QtCore/QFile>
 
 #include <array>
 #include <stdexcept>
@@ -167,11 +166,13 @@ constexpr BuiltIn builtIns[] = {{"dispenser", builtInDispenser},
 
 QByteArray contentOf(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("no machine of this name, and no file that can be read: " +
-                                 file.errorString().toStdString());
-    QByteArray content = file.read(MaxMachineFileSize + 1);
+    QByteArray content;
+    try {
+        content = loadFile(path, MaxMachineFileSize + 1);
+    } catch (const FileError &error) {
+        throw std::runtime_error(std::string("no machine of this name, and no file that can be read: ") +
+                                 error.what());
+    }
     if (content.size() > MaxMachineFileSize)
         throw std::runtime_error("the file is larger than " + std::to_string(MaxMachineFileSize) + " bytes");
     return content;

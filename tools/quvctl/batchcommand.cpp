@@ -2,7 +2,9 @@
 #include "batch.h"
 #include "subcommands.h"
 
+#include <cerrno>
 #include <iostream>
+#include <stdexcept>
 
 namespace quv {
 
@@ -12,7 +14,9 @@ ExitStatus run(const CommandLine &)
 {
     std::ios::sync_with_stdio(false);
     runBatch(std::cin, std::cout);
-    return std::cout ? Done : Refused;
+    if (!std::cout)
+        throw std::runtime_error("standard output: " + qt_error_string(errno).toStdString());
+    return Done;
 }
 
 } // namespace

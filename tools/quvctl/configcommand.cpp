@@ -3,6 +3,7 @@
 #include "operations.h"
 #include "progress.h"
 #include "replies.h"
+#include "savedfile.h"
 #include "subcommands.h"
 #include "suggestions.h"
 #include "terminal.h"
@@ -11,10 +12,6 @@
 
 #include "base/cmdstatus.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QSaveFile>
-
-#include <cstdio>
 #include <iostream>
 #include <optional>
 #include <unistd.h>
@@ -65,25 +62,26 @@ QString rowsInWords(std::size_t count)
     return inWords(count, "row", "rows");
 }
 
-QString failureText(const QFileDevice &file)
+/// What \a work gives; its failures tell the file.
+template <class Work>
+auto onFile(const QString &path, Work work)
 {
-    return QStringLiteral("%1: %2").arg(file.fileName(), file.errorString());
-}
-
-std::runtime_error fileFailure(const QFileDevice &file)
-{
-    return std::runtime_error(failureText(file).toStdString());
+    try {
+        return work();
+    } catch (const FileError &error) {
+        throw FileError(QStringLiteral("%1: %2").arg(path, QString::fromUtf8(error.what())));
+    }
 }
 
 /// \throws UsageError when it cannot be read, or is none
 ConfigFile configFile(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw UsageError(failureText(file));
-    const QByteArray text = file.read(MaxConfigFileSize + 1);
-    if (file.error() != QFileDevice::NoError)
-        throw UsageError(failureText(file));
+    QByteArray text;
+    try {
+        text = loadFile(path, MaxConfigFileSize + 1);
+    } catch (const FileError &error) {
+        throw UsageError(QStringLiteral("%1: %2").arg(path, QString::fromUtf8(error.what())));
+    }
     if (text.size() > MaxConfigFileSize)
         throw UsageError(QStringLiteral("%1 is longer than 1 MiB").arg(path));
     try {
@@ -92,20 +90,6 @@ ConfigFile configFile(const QString &path)
         throw UsageError(
             QStringLiteral("%1:%2: %3").arg(path).arg(error.line()).arg(QString::fromUtf8(error.what())));
     }
-}
-
-void openForWriting(QSaveFile &file)
-{
-    if (!file.open(QIODevice::WriteOnly))
-        throw fileFailure(file);
-}
-
-/// Better known before the rows are read.
-void checkWritable(const QString &path)
-{
-    QSaveFile file(path);
-    openForWriting(file);
-    file.cancelWriting();
 }
 
 /// What is shown of it all.
@@ -120,19 +104,18 @@ struct Shown
 
 ExitStatus pull(const FirmwareConfiguration &firmware, const QString &path, const Shown &shown)
 {
-    checkWritable(path);
+    onFile(path, [&] { checkSavable(path); }); // better known before the rows are read
     TransferProgress progress(shown.confirms());
     const OfferedStructures offered = firmware.structures();
     const std::vector<ConfigRow> rows =
         firmware.allRows(offered, [&](int percentage) { progress.tell(percentage); });
     progress.end();
-    QSaveFile file(path);
-    openForWriting(file);
     const QString version = QStringLiteral("%1.%2").arg(offered.version).arg(offered.minorVersion);
     const QString machine = machineKind(offered.codes);
-    file.write(configFileOf({machine, rows}, QStringLiteral("firmware configuration %1").arg(version)));
-    if (!file.commit())
-        throw fileFailure(file);
+    onFile(path, [&] {
+        saveFile(path,
+                 configFileOf({machine, rows}, QStringLiteral("firmware configuration %1").arg(version)));
+    });
     if (shown.asJson)
         printJson({{"ok", true},
                    {"file", toJson(path)},
@@ -197,9 +180,7 @@ bool agrees(std::size_t rows, const Shown &shown)
 {
     if (shown.asJson || isatty(STDIN_FILENO) == 0)
         throw UsageError(QStringLiteral("nobody can be asked here: config push needs --yes"));
-    const std::string question = QStringLiteral("write %1? [y/N] ").arg(rowsInWords(rows)).toStdString();
-    std::fputs(question.c_str(), stdout);
-    std::fflush(stdout);
+    printWhole(QStringLiteral("write %1? [y/N] ").arg(rowsInWords(rows)));
     std::string answer;
     std::getline(std::cin, answer);
     return answer == "y" || answer == "yes";

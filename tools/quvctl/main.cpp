@@ -13,7 +13,6 @@
 
 #include <QtCore/QLoggingCategory>
 
-#include <cstdio>
 #include <exception>
 
 namespace {
@@ -129,7 +128,9 @@ int main(int argc, char *argv[])
     for (int i = 1; i < argc; ++i)
         words.append(QString::fromUtf8(argv[i]));
     const ExitStatus status = runReporting(words);
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
-        return status == Done ? Refused : status;
-    return status;
+    const QString failure = outputFailure();
+    if (failure.isEmpty())
+        return status;
+    printError(QStringLiteral("quvctl: ") + failure);
+    return status == Done ? Refused : status;
 }

@@ -7,18 +7,11 @@
 #include "catalogue/commandfacts.h"
 #include "catalogue/protocommandlist.h"
 
-#include <cstdio>
 #include <stdexcept>
 
 namespace quv {
 
 namespace {
-
-void printWhole(const QString &text)
-{
-    const std::string bytes = text.toStdString();
-    std::fwrite(bytes.data(), 1, bytes.size(), stdout);
-}
 
 void printNames(const QString &command)
 {

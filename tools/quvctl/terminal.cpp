@@ -2,6 +2,7 @@
 #include "terminal.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <limits>
 #include <sys/ioctl.h>
@@ -69,14 +70,24 @@ const char *escape(Colour colour)
     return "";
 }
 
+/// Why standard output failed first; the stream itself remembers only that it did.
+int outputError = 0;
+
+void write(FILE *stream, const std::string &text)
+{
+    const bool isWritten =
+        std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
+    if (!isWritten && stream == stdout && outputError == 0)
+        outputError = errno;
+}
+
 void print(FILE *stream, const QString &text, Colour colour)
 {
     std::string line = printable(text).toStdString();
     if (colour != Colour::Plain && hasColours(stream))
         line = escape(colour) + line + "\033[0m";
     line += '\n';
-    std::fwrite(line.data(), 1, line.size(), stream);
-    std::fflush(stream);
+    write(stream, line);
 }
 
 } // namespace
@@ -105,9 +116,20 @@ void printParagraph(const QString &text, Colour colour, int columns)
         printLine(line, colour);
 }
 
+void printWhole(const QString &text)
+{
+    write(stdout, text.toStdString());
+}
+
 void printError(const QString &text)
 {
     print(stderr, text, Colour::Red);
+}
+
+QString outputFailure()
+{
+    write(stdout, {});
+    return outputError == 0 ? QString() : QStringLiteral("standard output: ") + qt_error_string(outputError);
 }
 
 void printNote(const QString &text)
@@ -131,8 +153,7 @@ bool canRedraw()
 void redrawLine(const QString &text)
 {
     const std::string line = "\r" + printable(text).left(columnsOfTerminal() - 1).toStdString() + "\033[K";
-    std::fwrite(line.data(), 1, line.size(), stdout);
-    std::fflush(stdout);
+    write(stdout, line);
 }
 
 QList<int> Columns::widths() const

@@ -18,8 +18,13 @@ void printLine(const QString &text, Colour colour = Colour::Plain);
 /// The same in as many lines as a terminal needs, broken between words.
 void printParagraph(const QString &text, Colour colour = Colour::Plain);
 void printParagraph(const QString &text, Colour colour, int columns);
+/// A text of the program's own on standard output, as it is and flushed.
+void printWhole(const QString &text);
 /// A line on standard error.
 void printError(const QString &text);
+
+/// Flushes standard output. What went wrong with it since the program began, for the user; empty for nothing.
+QString outputFailure();
 
 /// A line on standard error that tells nothing bad.
 void printNote(const QString &text);

@@ -134,6 +134,8 @@ ExitStatus watch(const CommandLine &line)
     AnyWatcher watcher;
     for (int i = 1;; ++i) {
         watcher.take(observe(driver));
+        if (!outputFailure().isEmpty())
+            return Refused; // nobody looks any more
         if (i == count)
             return watcher.hasSeenAStatus() ? Done : Refused;
         if (count == 0)

@@ -268,8 +268,9 @@ void Driver::askFirmware(SerialProtoCommand &command, const Task &task)
         task.machine->exchange(code, command.moduleID(), command.serialParameters(family));
     if (reply.refused)
         refuse(isUnknownCode(reply) ? UnknownToFirmware : RefusedByFirmware, "DE03106",
-               QStringLiteral("The firmware refused the code %1; masks of the reasons: 0x%2 and 0x%3")
-                   .arg(code, reply.tokens.value(1), reply.tokens.value(2)));
+               QStringLiteral("The firmware refused the code %1; masks of the reasons: 0x%2 and 0x%3%4")
+                   .arg(code, reply.tokens.value(1), reply.tokens.value(2),
+                        reply.reason.isEmpty() ? QString() : QStringLiteral("; ") + reply.reason));
     FW_DriverError error;
     if (!command.setSerialAnswer(reply.tokens, &error))
         throw CallRefusal{InvalidSerialAnswer, error};

@@ -13,6 +13,7 @@ struct FirmwareReply
     /// A refusal is a reply of its own kind. Its parameters are six: two masks of reasons, and four that are not read.
     bool refused = false;
     QStringList tokens{};
+    QString reason{}; ///< why it is refused, in words; a real firmware tells none
 };
 
 /// One machine's firmware, as the driver sees it: behind it stands a simulation, or a serial link.

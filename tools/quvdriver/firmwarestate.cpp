@@ -4,7 +4,6 @@
 #include "jsonvalue.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QSaveFile>
 
 #include <limits>
 #include <set>
@@ -28,7 +27,7 @@ struct Kind
 };
 constexpr Kind Kinds[] = {{SerialDeviceType::Dispenser, "dispenser"}, {SerialDeviceType::Mixer, "mixer"}};
 
-[[noreturn]] void fail(const std::string &text)
+[[noreturn]] void refuse(const std::string &text)
 {
     throw std::runtime_error(text);
 }
@@ -38,7 +37,7 @@ int numberIn(const Json &value, const std::string &where)
     constexpr int Highest = std::numeric_limits<int>::max();
     const bool isNumber = value.is_number_integer() && value >= 0 && value <= Highest;
     if (!isNumber)
-        fail(where + " must be a whole number from 0 to 2147483647");
+        refuse(where + " must be a whole number from 0 to 2147483647");
     return value.get<int>();
 }
 
@@ -48,14 +47,14 @@ QByteArray nameIn(const Json &value, const std::string &where)
     QByteArray latin1 = name.toLatin1();
     constexpr int MostCharacters = 255;
     if (!value.is_string() || QString::fromLatin1(latin1) != name || latin1.size() > MostCharacters)
-        fail(where + " must be a text of at most 255 characters in Latin-1");
+        refuse(where + " must be a text of at most 255 characters in Latin-1");
     return latin1;
 }
 
 ConfigurationRow rowIn(const Json &value, const std::string &where)
 {
     if (!value.is_object() || !value.contains(CodeMember) || !value.contains(ValuesMember))
-        fail(where + " must be an object with \"code\" and \"row\"");
+        refuse(where + " must be an object with \"code\" and \"row\"");
     ConfigurationRow row;
     for (const auto &member : value.items()) {
         const std::string place = where + "." + member.key();
@@ -65,29 +64,29 @@ ConfigurationRow rowIn(const Json &value, const std::string &where)
             row.name = nameIn(member.value(), place);
         } else if (member.key() == ValuesMember) {
             if (!member.value().is_array() || member.value().empty())
-                fail(place + " must be an array of numbers");
+                refuse(place + " must be an array of numbers");
             for (const Json &number : member.value())
                 row.values.append(numberIn(number, place));
         } else {
-            fail(place + ": unknown member");
+            refuse(place + ": unknown member");
         }
     }
     if (row.name && row.code != NameStructure)
-        fail(where + ".name: only structure 2 has one");
+        refuse(where + ".name: only structure 2 has one");
     return row;
 }
 
 std::vector<ConfigurationRow> rowsIn(const Json &value, const std::string &where)
 {
     if (!value.is_array())
-        fail(where + " must be an array of rows");
+        refuse(where + " must be an array of rows");
     std::vector<ConfigurationRow> rows;
     std::set<std::pair<int, int>> known;
     for (const Json &element : value) {
         const std::string place = where + "[" + std::to_string(rows.size()) + "]";
         rows.push_back(rowIn(element, place));
         if (!known.insert({rows.back().code, instanceOf(rows.back())}).second)
-            fail(place + ": the same row for the second time");
+            refuse(place + ": the same row for the second time");
     }
     return rows;
 }
@@ -117,27 +116,38 @@ QByteArray textOf(const std::vector<ConfigurationRow> &rows)
 
 FirmwareState::FirmwareState(const QString &path) : m_path(path)
 {
-    QFile file(path);
-    if (!file.exists())
+    if (!QFile::exists(path))
         return;
-    const std::string where = QStringLiteral("State file \"%1\": ").arg(path).toStdString();
-    if (!file.open(QIODevice::ReadOnly))
-        fail(where + file.errorString().toStdString());
-    const QByteArray text = file.read(MaxStateFileSize + 1);
-    if (text.size() > MaxStateFileSize)
-        fail(where + "it is greater than 1 MiB");
     try {
+        const QByteArray text = loadFile(path, MaxStateFileSize + 1);
+        if (text.size() > MaxStateFileSize)
+            refuse("it is greater than 1 MiB");
         m_machines = machinesIn(text.toStdString());
     } catch (const std::runtime_error &error) {
-        fail(where + error.what());
+        fail(error.what());
     }
+}
+
+void FirmwareState::claim()
+{
+    try {
+        m_lock.emplace(m_path);
+        checkSavable(m_path);
+    } catch (const FileError &error) {
+        fail(error.what());
+    }
+}
+
+void FirmwareState::fail(const std::string &reason) const
+{
+    throw std::runtime_error("State file \"" + m_path.toStdString() + "\": " + reason);
 }
 
 FirmwareState::Machines FirmwareState::machinesIn(const std::string &text)
 {
     const Json document = parseJson(text);
     if (!document.is_object())
-        fail("it must hold an object");
+        refuse("it must hold an object");
     Machines machines;
     std::size_t known = 0;
     for (const Kind &kind : Kinds) {
@@ -147,7 +157,7 @@ FirmwareState::Machines FirmwareState::machinesIn(const std::string &text)
         ++known;
     }
     if (known != document.size())
-        fail("its members must be \"dispenser\" and \"mixer\"");
+        refuse("its members must be \"dispenser\" and \"mixer\"");
     return machines;
 }
 
@@ -177,9 +187,11 @@ void FirmwareState::write(const Machines &machines) const
                     "\": " + textOf(found->second);
     }
     text += "\n}\n";
-    QSaveFile file(m_path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        fail(QStringLiteral("State file \"%1\": %2").arg(m_path, file.errorString()).toStdString());
+    try {
+        saveFile(m_path, text);
+    } catch (const FileError &error) {
+        fail(error.what());
+    }
 }
 
 } // namespace quv

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "configurationrow.h"
+#include "savedfile.h"
 
 #include <QuvFramework/fw_global.h>
 
@@ -9,6 +10,7 @@
 
 #include <map>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace quv {
@@ -28,6 +30,9 @@ public:
 
     const QString &path() const { return m_path; }
 
+    /// Keeps other drivers from the file from now on. \throws std::runtime_error when one has it, or it cannot be written
+    void claim();
+
     /// The rows that were kept of a machine of this kind.
     std::vector<ConfigurationRow> rows(SerialDeviceType type) const;
     /// Keeps the rows instead of those before; on failure the file and the rows stay. \throws std::runtime_error
@@ -38,8 +43,10 @@ private:
 
     static Machines machinesIn(const std::string &text);
     void write(const Machines &machines) const;
+    [[noreturn]] void fail(const std::string &reason) const;
 
     QString m_path{};
+    std::optional<FileLock> m_lock{};
     mutable std::mutex m_mutex{};
     Machines m_machines{};
 };

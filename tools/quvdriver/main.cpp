@@ -140,8 +140,10 @@ void addMachines(quv::Driver &driver, const Options &options)
 {
     quv::SimulatedConfiguration configuration;
     configuration.age = options.age;
-    if (!options.state.isEmpty())
+    if (!options.state.isEmpty()) {
         configuration.state = std::make_shared<quv::FirmwareState>(options.state);
+        configuration.state->claim();
+    }
     for (const QString &name : options.machines) {
         auto machine = quv::machineByName(name);
         if (!machine)

@@ -7,6 +7,7 @@
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <cstdio>
 #include <stdexcept>
 
 namespace quv {
@@ -245,8 +246,11 @@ FirmwareReply SimulatedFirmware::finalise(const QList<int> & /*parameters*/)
     try {
         if (m_state)
             m_state->keep(m_type, m_rows.rows());
-    } catch (const std::runtime_error &) {
-        return refusal(ConfigurationNotWritten);
+    } catch (const std::runtime_error &error) {
+        std::fprintf(stderr, "quvdriver: %s\n", error.what());
+        FirmwareReply reply = refusal(ConfigurationNotWritten);
+        reply.reason = QString::fromUtf8(error.what());
+        return reply;
     }
     followRows();
     // Nobody can ask a mixer's status, so that it is ready when it replies.
