@@ -145,7 +145,10 @@ TEST_F(DriverPourTest, anUnknownTicket)
     addDispenser(IdleTokens);
     const Envelope envelope = ticket("17");
     EXPECT_EQ(envelope.retCode, 1);
-    EXPECT_EQ(envelope.error(), "DE03111 There is no ticket \"17\"; the last 1000 are kept");
+    EXPECT_EQ(
+        envelope.error(),
+        "DE03111 There is no ticket \"17\"; a result is kept for a minute, that of a pour for an hour or "
+        "until it has been read");
 }
 
 TEST_F(DriverPourTest, aMachinePoursOnceAtATime)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "refusal.h"
 #include "tickets.h"
 
 #include "base/xmlrpcanswer.h"
@@ -133,23 +134,121 @@ TEST(TicketsTest, ticketsDiffer)
     EXPECT_NE(*tickets.add(nothing, 0), *tickets.add(nothing, 0));
 }
 
-TEST(TicketsTest, theOldestThatHasEndedIsForgotten)
+/// Tickets under a clock that goes when it is told to.
+class TicketsKeptTest : public testing::Test
 {
-    Tickets tickets;
-    Gate gate;
-    const auto running = tickets.add(gate.job(), 0);
-    gate.waitForJobs(1);
-    std::vector<QString> ended;
-    for (int i = 0; i < 1000; ++i) {
-        ended.push_back(*tickets.add([] { return envelope(0); }, 0));
-        EXPECT_EQ(waitForEnd(tickets, ended.back()).status(), 0);
+protected:
+    void advance(std::chrono::milliseconds time) { m_time += time.count(); }
+
+    /// A ticket that has ended, and that nobody has asked for.
+    QString ended(Tickets::Keeping keeping, const std::string &text = {})
+    {
+        const int looks = m_looks;
+        const auto job = [text] {
+            return XmlRpcAnswer(0, QStringLiteral("told"), XmlRpcValue(text)).toXmlRpcValue();
+        };
+        const QString id = *m_tickets.add(job, 0, keeping);
+        while (m_looks < looks + 2) // once for the room, once at the end
+            std::this_thread::sleep_for(100us);
+        return id;
     }
-    EXPECT_FALSE(tickets.status(ended[0]));
-    EXPECT_TRUE(tickets.status(ended[1]));
-    EXPECT_TRUE(tickets.status(ended[999]));
-    EXPECT_EQ(tickets.status(*running)->status(), 1);
+    std::vector<QString> fill(Tickets::Keeping keeping, std::size_t count = 1000)
+    {
+        std::vector<QString> ids;
+        while (ids.size() < count)
+            ids.push_back(ended(keeping));
+        return ids;
+    }
+    bool isTaken(Tickets::Keeping keeping)
+    {
+        try {
+            m_tickets.add([] { return envelope(0); }, 0, keeping);
+            return true;
+        } catch (const quv::CallRefusal &refusal) {
+            EXPECT_EQ(refusal.retCode, quv::NotCarriedOut);
+            EXPECT_EQ(refusal.error.code(), "DE03150");
+            return false;
+        }
+    }
+    bool isKnown(const QString &id) const { return m_tickets.status(id).has_value(); }
+
+private:
+    std::atomic<qint64> m_time{1000};
+    std::atomic<int> m_looks{0};
+
+protected:
+    Tickets m_tickets{[this] {
+        ++m_looks;
+        return Tickets::Clock::time_point(std::chrono::milliseconds(m_time));
+    }};
+};
+
+TEST_F(TicketsKeptTest, aResultIsKeptForAMinute)
+{
+    const std::vector<QString> ids = fill(Tickets::Shortly);
+    EXPECT_FALSE(isTaken(Tickets::Shortly));
+    EXPECT_TRUE(isTaken(Tickets::UntilRead)); // pours have a place of their own
+    EXPECT_TRUE(isKnown(ids[0]));
+    advance(59s);
+    EXPECT_FALSE(isTaken(Tickets::Shortly));
+    advance(1s);
+    EXPECT_TRUE(isTaken(Tickets::Shortly));
+    EXPECT_FALSE(isKnown(ids[0])); // no more than needed is forgotten
+    EXPECT_TRUE(isKnown(ids[1]));
+}
+
+TEST_F(TicketsKeptTest, aPoursResultIsKeptUntilItHasBeenRead)
+{
+    const std::vector<QString> ids = fill(Tickets::UntilRead);
+    EXPECT_TRUE(isTaken(Tickets::Shortly));
+    advance(58min);
+    EXPECT_FALSE(isTaken(Tickets::UntilRead));
+    EXPECT_TRUE(isKnown(ids[5])); // so it has been read
+    advance(59s);
+    EXPECT_FALSE(isTaken(Tickets::UntilRead));
+    EXPECT_TRUE(isKnown(ids[5])); // which does not keep it longer
+    advance(1s);
+    EXPECT_TRUE(isTaken(Tickets::UntilRead));
+    EXPECT_FALSE(isKnown(ids[5]));
+    EXPECT_TRUE(isKnown(ids[0]));
+}
+
+TEST_F(TicketsKeptTest, aPoursResultThatNobodyReadsIsKeptForAnHour)
+{
+    const std::vector<QString> ids = fill(Tickets::UntilRead);
+    advance(60min - 1ms);
+    EXPECT_FALSE(isTaken(Tickets::UntilRead));
+    advance(1ms);
+    EXPECT_TRUE(isTaken(Tickets::UntilRead));
+    EXPECT_FALSE(isKnown(ids[0]));
+    EXPECT_TRUE(isKnown(ids[1]));
+}
+
+TEST_F(TicketsKeptTest, whatRunsIsNotForgotten)
+{
+    Gate gate;
+    const auto running = m_tickets.add(gate.job(), 0);
+    gate.waitForJobs(1);
+    fill(Tickets::Shortly, 999);
+    advance(2h);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_TRUE(isTaken(Tickets::Shortly));
+    EXPECT_EQ(m_tickets.status(*running)->status(), 1);
     gate.open();
-    EXPECT_EQ(waitForEnd(tickets, *running).status(), 0);
+    EXPECT_EQ(waitForEnd(m_tickets, *running).status(), 0);
+}
+
+TEST_F(TicketsKeptTest, theMemoryOfResultsIsBounded)
+{
+    const std::string megabyte(1024 * 1024, 'x');
+    const QString first = ended(Tickets::UntilRead, megabyte);
+    for (int i = 1; i < 64; ++i)
+        ended(Tickets::Shortly, megabyte);
+    EXPECT_FALSE(isTaken(Tickets::Shortly));
+    EXPECT_FALSE(isTaken(Tickets::UntilRead));
+    advance(1min);
+    EXPECT_TRUE(isTaken(Tickets::UntilRead)); // others make room for pours
+    EXPECT_TRUE(isKnown(first));
 }
 
 TEST(TicketsTest, onlySoManyWaitForTheirTurn)

@@ -236,10 +236,11 @@ void Driver::checkCarriedOut(const Task &task)
 XmlRpcValue Driver::begin(std::shared_ptr<Task> task)
 {
     const QString name = task->name;
-    const qint64 expected = task->claim ? task->expected : estimatedTime(*task->command, task->machine);
+    const bool isPour = task->claim != nullptr;
+    const qint64 expected = isPour ? task->expected : estimatedTime(*task->command, task->machine);
     const auto ticket = m_tickets.add(
         [this, task = std::move(task)] { return enveloped(task->name, [&] { return perform(*task); }); },
-        expected);
+        expected, isPour ? Tickets::UntilRead : Tickets::Shortly);
     if (!ticket)
         refuse(NotCarriedOut, "DE03113", QStringLiteral("Too many commands wait for their turn"));
     return success(AsyncAnswer(*ticket), name, 0);

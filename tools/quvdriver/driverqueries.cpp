@@ -90,10 +90,11 @@ Answer commandStatus(const ProtoCommand &command, const DriverKnowledge &knowled
     const QString ticket = dynamic_cast<const GetCommandStatusCmd &>(command).ticketID();
     const auto status = knowledge.tickets.status(ticket);
     if (!status)
-        refuse(InvalidRequest, "DE03111",
-               QStringLiteral("There is no ticket \"%1\"; the last %2 are kept")
-                   .arg(ticket)
-                   .arg(Tickets::MaxKept));
+        refuse(
+            InvalidRequest, "DE03111",
+            QStringLiteral("There is no ticket \"%1\"; a result is kept for a minute, that of a pour for an "
+                           "hour or until it has been read")
+                .arg(ticket));
     return std::make_unique<GetCommandStatusAnswer>(*status);
 }
 

@@ -8,6 +8,8 @@
 #include <QtCore/QHash>
 #include <QtCore/QString>
 
+#include <array>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -24,7 +26,9 @@ namespace quv {
  * its envelope can be asked for. Threads of their own take them in turn; they are more than the machines, so that one that
  * pours keeps nobody waiting.
  *
- * The last 1000 tickets are kept. When there are more, the oldest that has ended is forgotten.
+ * A result is kept for a minute at least; that of a pour, which nobody can ask the machine again, until it has been read and for
+ * a minute longer, or for an hour. Then it makes room for others, the oldest first. When no room can be made, nothing new is
+ * taken.
  */
 class Tickets
 {
@@ -32,33 +36,50 @@ public:
     /// Carries a command out and gives its envelope. Never throws.
     using Job = std::function<XmlRpc::XmlRpcValue()>;
 
-    static constexpr std::size_t MaxKept = 1000;
-    static constexpr std::size_t MaxWaiting = 100; ///< tickets whose turn has not come
+    /// How long a result is kept.
+    enum Keeping { Shortly, UntilRead };
+    static constexpr int Keepings = 2;
 
-    Tickets();
+    /// The time by a clock that never goes back; tests replace it.
+    using Clock = std::chrono::steady_clock;
+    using Now = std::function<Clock::time_point()>;
+
+    static constexpr std::size_t MaxKept = 1000; ///< of each Keeping, so that pours have a place of their own
+    static constexpr std::size_t MaxWaiting = 100; ///< tickets whose turn has not come
+    static constexpr std::size_t MaxResultBytes =
+        std::size_t(64) * 1024 * 1024; ///< with which something new is taken
+    static constexpr std::chrono::minutes ShortestTime{1};
+    static constexpr std::chrono::hours LongestTime{1}; ///< of a pour's result that nobody reads
+
+    explicit Tickets(Now now = Clock::now);
     /// Waits for the jobs that run, and tells nobody of those that do not.
     ~Tickets();
     Tickets(const Tickets &) = delete;
     Tickets &operator=(const Tickets &) = delete;
 
-    /// The ticket of \a job, which should take \a expected milliseconds (0 or less: nobody knows); nothing when too many
-    /// wait already.
-    std::optional<QString> add(Job job, qint64 expected);
-    /// Nothing for a ticket that is unknown, or forgotten.
+    /**
+     * The ticket of \a job, which should take \a expected milliseconds (0 or less: nobody knows); nothing when too many
+     * wait already. \throws CallRefusal DE03150 when too much is kept
+     */
+    std::optional<QString> add(Job job, qint64 expected, Keeping keeping = Shortly);
+    /// Nothing for a ticket that is unknown, or forgotten. Who is told of an end has read the result.
     std::optional<CmdStatus> status(const QString &id) const;
 
 private:
     struct Ticket;
 
     void work();
-    void forgetOld();
-    static void finish(Ticket &ticket, const XmlRpc::XmlRpcValue &envelope);
+    void makeRoom(Keeping keeping);
+    bool hasRoom(Keeping keeping) const;
+    void finish(Ticket &ticket, const XmlRpc::XmlRpcValue &envelope);
 
-    mutable std::mutex m_mutex{}; ///< guards all
+    Now m_now{};
+    mutable std::mutex m_mutex{}; ///< guards what follows
     std::condition_variable m_changed{};
     bool m_ends = false;
     QHash<QString, std::shared_ptr<Ticket>> m_tickets{};
-    std::deque<std::shared_ptr<Ticket>> m_kept{};    ///< the oldest first
+    std::array<std::deque<std::shared_ptr<Ticket>>, Keepings> m_kept{}; ///< the oldest first
+    std::size_t m_resultBytes = 0;
     std::deque<std::shared_ptr<Ticket>> m_waiting{}; ///< the next first
     std::vector<std::thread> m_threads{};
 };
