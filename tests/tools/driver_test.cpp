@@ -129,6 +129,25 @@ TEST_F(DriverTest, anUnknownCommandIsNamedInAnyScript)
               QString::fromUtf8("T\xC3\x8FNT ? : Failed! Xml-rpc command invalid for Driver."));
 }
 
+TEST_F(DriverTest, refusalsRepeatNoMoreThanIsNeeded)
+{
+    const QString quoted = QString(40, QLatin1Char('x')) + QStringLiteral("...");
+    const std::string longText(500000, 'x');
+    const Envelope unknown = call("EXEC_B", longText);
+    ASSERT_EQ(unknown.failures.size(), 2);
+    EXPECT_EQ(unknown.failures[1], QStringLiteral("DE03103 The catalogue has no command \"%1\"").arg(quoted));
+    EXPECT_EQ(unknown.info, quoted + QStringLiteral(" : Failed! Xml-rpc command invalid for Driver."));
+    EXPECT_EQ(call("EXEC_B", "GET_CMD_STATUS", longText).error(),
+              "DE03111 There is no ticket \"" + quoted.toStdString() +
+                  "\"; a result is kept for a minute, that of a pour for an hour or until it has been read");
+    try {
+        call(longText.c_str(), "GET_STATUS");
+        ADD_FAILURE() << "no fault";
+    } catch (const quv::FaultException &error) {
+        EXPECT_EQ(error.fault().text, QStringLiteral("Unknown method \"%1\"").arg(quoted));
+    }
+}
+
 TEST_F(DriverTest, aReplyThatCannotBeDecoded)
 {
     addDispenser({QStringLiteral("2"), QStringLiteral("0"), QStringLiteral("1")});

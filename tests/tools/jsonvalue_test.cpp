@@ -184,6 +184,32 @@ TEST(JsonValue, NestingIsLimited)
               "arrays and objects are nested more than 64 levels deep");
 }
 
+TEST(JsonValue, ValuesAreCounted)
+{
+    const auto arrayOf = [](int count) {
+        std::string text("[0");
+        for (int i = 1; i < count; ++i)
+            text += ",0";
+        return text + "]";
+    };
+    EXPECT_EQ(parseRefusal(arrayOf(199999)), "accepted");
+    EXPECT_EQ(parseRefusal(arrayOf(200000)), "it holds more than 200000 values");
+    EXPECT_EQ(parseRefusal("[" + arrayOf(100000) + "," + arrayOf(99998) + "]"),
+              "it holds more than 200000 values");
+}
+
+TEST(JsonValue, RefusalsQuoteFortyCharacters)
+{
+    std::string name;
+    for (int i = 0; i < 100000; ++i)
+        name += "\xC3\xA4";
+    std::string quoted;
+    for (int i = 0; i < 40; ++i)
+        quoted += "\xC3\xA4";
+    EXPECT_EQ(parseRefusal("{\"" + name + "\":1,\"" + name + "\":2}"),
+              "the member \"" + quoted + "...\" stands twice in one object");
+}
+
 TEST(JsonValue, MembersStandOnce)
 {
     EXPECT_EQ(parseRefusal(R"({"a":1,"b":{"a":2}})"), "accepted");

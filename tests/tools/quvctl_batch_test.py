@@ -9,6 +9,8 @@ import tempfile
 import threading
 import unittest
 
+import programmemory
+
 QUVCTL = ""
 LONGEST = 16 * 1024 * 1024
 
@@ -634,6 +636,29 @@ class Lines(BatchTest):
         self.assertEqual(json.loads(self.send(longest)), {"ok": True, "value": False})
         self.assertEqual(json.loads(self.send(longest + b" ")), bad("the request is longer than 16 MiB"))
         self.expect({"op": "query", "what": "existsCommand", "name": "TINT"}, {"ok": True, "value": True})
+
+    def test_lines_of_many_values(self):
+        # a program of its own, whose memory is its own
+        many = b'{"op":"encode","name":"GET_STATUS","args":[%b0]}'
+        lines = [many % (b"0," * ((LONGEST - len(many)) // 2)), many % (b'"",' * ((LONGEST - len(many)) // 3)),
+                 many % (b"{}," * 150000), b'{"op":"query","what":"existsCommand","name":"TINT"}']
+        program = subprocess.Popen([QUVCTL, "batch"], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        replies = []
+        for line in lines:
+            program.stdin.write(line + b"\n")
+            program.stdin.flush()
+            replies.append(json.loads(program.stdout.readline()))
+        program.stdin.close()
+        program.stdout.close()
+        _, status, usage = os.wait4(program.pid, 0)
+        program.returncode = os.waitstatus_to_exitcode(status)
+        self.assertEqual(program.returncode, 0)
+        self.assertEqual(replies[0], bad("it holds more than 200000 values"))
+        self.assertEqual(replies[1], replies[0])
+        self.assertEqual(replies[2]["code"], "DE00298")
+        self.assertEqual(replies[3], {"ok": True, "value": True})
+        if programmemory.is_its_own(QUVCTL):
+            self.assertLess(usage.ru_maxrss, 300 * 1024)  # KiB
 
 
 class Rows(BatchTest):

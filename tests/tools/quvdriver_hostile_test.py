@@ -2,12 +2,15 @@
 """What no honest client sends. After each the driver must still answer a good request, and soon."""
 
 import random
+import re
 import signal
 import socket
+import threading
 import time
 import unittest
 import xmlrpc.client
 
+import programmemory
 import quvdriver_process
 from quvdriver_process import Driver
 
@@ -81,6 +84,23 @@ class HostileTest(unittest.TestCase):
 
     def tearDown(self):
         self.assert_alive()
+
+    def peak_memory(self):
+        """The most that the driver had at once, bytes."""
+        with open(f"/proc/{self.driver.process.pid}/status", encoding="utf-8") as file:
+            found = re.search(r"VmHWM:\s+(\d+) kB", file.read())
+        return int(found.group(1)) * 1024
+
+    def test_documents_of_many_values(self):
+        document = value(b"<array><data>" + b"<value/>" * 130000 + b"</data></array>")
+        self.assertIn("More than 40000 values", self.assert_fault(document))
+        threads = [threading.Thread(target=self.exchange, args=(http(document),)) for _ in range(64)]
+        for thread in threads:
+            thread.start()
+        for thread in threads:
+            thread.join()
+        if programmemory.is_its_own(quvdriver_process.PROGRAM):
+            self.assertLess(self.peak_memory(), 500 * MEGABYTE)
 
     def test_truncated_documents(self):
         for size in range(0, len(GOOD), 7):

@@ -482,6 +482,18 @@ TEST(XmlRpcCodec, readsUpTo64ValuesInsideEachOther)
                          "</value></data></array>"));
 }
 
+TEST(XmlRpcCodec, readsUpTo40000Values)
+{
+    const auto arrayOf = [](int count) {
+        return "<array><data>" + QByteArray("<value/>").repeated(count) + "</data></array>";
+    };
+    EXPECT_EQ(read(arrayOf(39999)).size(), 39999);
+    EXPECT_EQ(refusalOf(arrayOf(40000)).code, FaultNotXmlRpc);
+    EXPECT_EQ(refusalOf(arrayOf(40000)).text, "More than 40000 values");
+    EXPECT_EQ(parseMethodResponse(responseOf(arrayOf(639999))).value.size(), 639999);
+    EXPECT_THROW(parseMethodResponse(responseOf(arrayOf(640000))), CodecError);
+}
+
 TEST(XmlRpcCodec, refusesSixtyThousandArrays)
 {
     const QByteArray document = callOf(QByteArray("<array><data><value>").repeated(60000));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "jsonvalue.h"
 
+#include "excerpt.h"
+
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <QtCore/QDateTime>
@@ -19,13 +21,6 @@ using nlohmann::json;
 using XmlRpc::XmlRpcValue;
 
 constexpr char base64Key[] = "$base64";
-
-/// What a refusal quotes of the input: enough to find it, never a megabyte.
-std::string excerpt(const std::string &text)
-{
-    constexpr std::size_t longest = 40;
-    return text.size() <= longest ? text : text.substr(0, longest) + "...";
-}
 
 /// Builds the document, and refuses what the parser itself lets pass.
 class Builder : public nlohmann::json_sax<json>
@@ -110,14 +105,23 @@ private:
         return &parent.back();
     }
 
+    /// Each takes many times the bytes that it stands in.
+    bool isOneTooMany() { return ++m_values > jsonValues; }
+
+    bool refuseNumber() { return refuse("it holds more than " + std::to_string(jsonValues) + " values"); }
+
     bool put(json value)
     {
+        if (isOneTooMany())
+            return refuseNumber();
         place(std::move(value));
         return true;
     }
 
     bool open(json value)
     {
+        if (isOneTooMany())
+            return refuseNumber();
         if (m_open.size() == jsonNesting)
             return refuse("arrays and objects are nested more than " + std::to_string(jsonNesting) +
                           " levels deep");
@@ -135,6 +139,7 @@ private:
     std::vector<json *> m_open; ///< pointers stay valid: a parent grows only after its last child is closed
     std::string m_key;
     std::string m_refusal;
+    int m_values = 0;
 };
 
 int intOf(const json &value)

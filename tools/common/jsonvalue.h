@@ -39,10 +39,12 @@ public:
 
 /// Arrays and objects inside each other.
 inline constexpr int jsonNesting = 64;
+/// Values of one text, arrays and objects counted as well.
+inline constexpr int jsonValues = 200000;
 
 /**
- * The one JSON value that \a text holds. Valid UTF-8 only, each member of an object once, at most jsonNesting levels, whole
- * numbers of at most 64 bits.
+ * The one JSON value that \a text holds. Valid UTF-8 only, each member of an object once, at most jsonNesting levels and
+ * jsonValues values, whole numbers of at most 64 bits.
  * \throws JsonError
  */
 nlohmann::json parseJson(std::string_view text);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "machinefile.h"
 
+#include "excerpt.h"
 #include "jsonvalue.h"
 #include "machinemembers_p.h"
 
@@ -24,13 +25,6 @@ using nlohmann::json;
 [[noreturn]] void refuse(const QString &path, const QString &text)
 {
     throw std::runtime_error((path + QStringLiteral(": ") + text).toStdString());
-}
-
-/// What a refusal repeats of the file: enough to find it, never a megabyte.
-QString excerpt(const QString &text)
-{
-    constexpr int Longest = 40;
-    return text.size() <= Longest ? text : text.left(Longest) + QStringLiteral("...");
 }
 
 QString joined(const QString &path, const QString &key)

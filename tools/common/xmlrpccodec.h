@@ -27,10 +27,12 @@ struct XmlRpcLimits
 {
     int documentSize = 1024 * 1024; ///< bytes
     int nesting = 64;               ///< arrays and structs inside each other
+    int values =
+        40000; ///< arrays and structs counted as well; each takes many times the bytes that it stands in
 };
 
 /// Replies carry whole tables, so a client reads more than a server does.
-inline constexpr XmlRpcLimits ReplyLimits{16 * 1024 * 1024, 64};
+inline constexpr XmlRpcLimits ReplyLimits{16 * 1024 * 1024, 64, 640000};
 
 struct MethodCall
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "xmlrpccodec.h"
 
+#include "excerpt.h"
+
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <QtCore/QDate>
@@ -22,7 +24,6 @@ using XmlRpc::XmlRpcValue;
 
 /// No XML-RPC tag is anywhere near as long; comparing thousands of attributes with each other takes minutes.
 constexpr int MaxTagLength = 1024;
-constexpr int QuotedLength = 40;
 
 bool isBlank(QChar c)
 {
@@ -54,7 +55,7 @@ QByteArray trimmed(const QString &text)
 
 [[noreturn]] void refuseValue(const char *what, const QByteArray &text)
 {
-    refuse(QStringLiteral("%1: '%2'").arg(QLatin1String(what), QString::fromUtf8(text).left(QuotedLength)));
+    refuse(QStringLiteral("%1: '%2'").arg(QLatin1String(what), excerpt(QString::fromUtf8(text))));
 }
 
 // ---- from bytes to text ----
@@ -92,8 +93,9 @@ QString decodeDocument(QByteArray document)
         return DecodeXmlRpcText(document.toStdString());
     if (const QTextCodec *declared = QTextCodec::codecForName(encoding))
         return decodeBy(*declared, document);
-    throw CodecError(FaultNotWellFormed,
-                     QStringLiteral("The encoding '%1' is not known").arg(QString::fromLatin1(encoding)));
+    throw CodecError(
+        FaultNotWellFormed,
+        QStringLiteral("The encoding '%1' is not known").arg(excerpt(QString::fromLatin1(encoding))));
 }
 
 // ---- what must not reach the XML reader ----
@@ -275,9 +277,13 @@ private:
     QXmlStreamReader m_xml{};
     int m_nesting = 0;
     int m_maxNesting = 0;
+    int m_values = 0;
+    int m_maxValues = 0;
 };
 
-Reader::Reader(const QByteArray &document, const XmlRpcLimits &limits) : m_maxNesting(limits.nesting)
+Reader::Reader(const QByteArray &document, const XmlRpcLimits &limits)
+    : m_maxNesting(limits.nesting),
+      m_maxValues(limits.values)
 {
     if (document.size() > limits.documentSize) {
         throw CodecError(FaultNotWellFormed,
@@ -314,10 +320,10 @@ QXmlStreamReader::TokenType Reader::next()
 
 void Reader::refuseElement(const char *expected) const
 {
-    const QString found = m_xml.isEndElement() ? QStringLiteral("the end of '%1'").arg(m_xml.qualifiedName())
-                          : m_xml.isStartElement()
-                              ? QStringLiteral("'%1'").arg(m_xml.qualifiedName().left(QuotedLength))
-                              : QStringLiteral("text");
+    const QString name = m_xml.qualifiedName().toString();
+    const QString found = m_xml.isEndElement()     ? QStringLiteral("the end of '%1'").arg(excerpt(name))
+                          : m_xml.isStartElement() ? QStringLiteral("'%1'").arg(excerpt(name))
+                                                   : QStringLiteral("text");
     refuse(QStringLiteral("Line %1: expected %2, found %3")
                .arg(QString::number(m_xml.lineNumber()), QLatin1String(expected), found));
 }
@@ -430,6 +436,8 @@ void Reader::params(XmlRpcValue &into)
 /// The value whose start has just been read, up to and with its end. \a into is empty.
 void Reader::value(XmlRpcValue &into)
 {
+    if (++m_values > m_maxValues)
+        refuse(QStringLiteral("More than %1 values").arg(m_maxValues));
     QString text;
     for (;;) {
         switch (next()) {
@@ -460,7 +468,7 @@ void Reader::typedValue(XmlRpcValue &into)
     }
     const bool isArray = type == QLatin1String("array");
     if (!isArray && type != QLatin1String("struct"))
-        refuse(QStringLiteral("The type '%1' is not supported").arg(type.left(QuotedLength)));
+        refuse(QStringLiteral("The type '%1' is not supported").arg(excerpt(type.toString())));
     if (++m_nesting > m_maxNesting)
         refuse(QStringLiteral("More than %1 arrays and structs inside each other").arg(m_maxNesting));
     if (isArray)
@@ -493,7 +501,7 @@ void Reader::structure(XmlRpcValue &into)
         const QString name = text();
         const std::string key = EncodeXmlRpcText(name);
         if (into.hasMember(key))
-            refuse(QStringLiteral("The member '%1' stands twice").arg(name.left(QuotedLength)));
+            refuse(QStringLiteral("The member '%1' stands twice").arg(excerpt(name)));
         expectChild("value");
         value(into[key]);
         expectEnd();

@@ -3,6 +3,7 @@
 
 #include "commandbuilder.h"
 #include "driverqueries.h"
+#include "excerpt.h"
 #include "machineconfiguration.h"
 #include "machinewatch.h"
 #include "pouring.h"
@@ -43,9 +44,18 @@ bool isUnknownCode(const FirmwareReply &reply)
     return ((reply.tokens.value(1).toUInt(nullptr, 16) >> Bit) & 1U) != 0;
 }
 
+/// The library's texts repeat what came as a whole.
+FW_DriverError bounded(const FW_DriverError &error)
+{
+    constexpr int LongestText = 1000;
+    if (error.text().size() <= LongestText)
+        return error;
+    return FW_DriverError(error.code(), error.text().left(LongestText) + QStringLiteral("..."));
+}
+
 XmlRpcValue failure(RetCode retCode, const FW_DriverError &error, const QString &name)
 {
-    return ErrorAnswer::getDriverErrorReturn(retCode, error, name);
+    return ErrorAnswer::getDriverErrorReturn(retCode, bounded(error), name);
 }
 
 XmlRpcValue unforeseen(const QString &text, const QString &name)
@@ -63,7 +73,7 @@ XmlRpcValue enveloped(const QString &name, Work work)
         return failure(refusal.retCode, refusal.error, name);
     } catch (const FW_Exception &error) {
         FW_ErrorList errors;
-        errors.append(error);
+        errors.append(bounded(error));
         // The message of the envelope is Latin-1, so a name of any other script is told here.
         if (!ProtoCommandList::existsCommand(name))
             errors.append(FW_DriverError(QStringLiteral("DE03103"),
@@ -160,7 +170,8 @@ XmlRpcValue Driver::call(const MethodCall &call, Ending &gone)
 {
     const auto kind = kindOf(call);
     if (!kind)
-        throw FaultException({UnknownMethod, QStringLiteral("Unknown method \"%1\"").arg(call.method)});
+        throw FaultException(
+            {UnknownMethod, QStringLiteral("Unknown method \"%1\"").arg(excerpt(call.method))});
     return withRequest(call, [&](const Request &request) { return carryOut(*kind, request, gone); });
 }
 

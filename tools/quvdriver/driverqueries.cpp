@@ -2,6 +2,7 @@
 #include "driverqueries.h"
 
 #include "commandbuilder.h"
+#include "excerpt.h"
 #include "refusal.h"
 
 #include "base/getcmdestimatedexectimeanswer.h"
@@ -94,7 +95,7 @@ Answer commandStatus(const ProtoCommand &command, const DriverKnowledge &knowled
             InvalidRequest, "DE03111",
             QStringLiteral("There is no ticket \"%1\"; a result is kept for a minute, that of a pour for an "
                            "hour or until it has been read")
-                .arg(ticket));
+                .arg(excerpt(ticket)));
     return std::make_unique<GetCommandStatusAnswer>(*status);
 }
 

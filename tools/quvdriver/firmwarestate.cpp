@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmwarestate.h"
 
+#include "excerpt.h"
 #include "jsonvalue.h"
 
 #include <QtCore/QFile>
@@ -57,7 +58,7 @@ ConfigurationRow rowIn(const Json &value, const std::string &where)
         refuse(where + " must be an object with \"code\" and \"row\"");
     ConfigurationRow row;
     for (const auto &member : value.items()) {
-        const std::string place = where + "." + member.key();
+        const std::string place = where + "." + excerpt(member.key());
         if (member.key() == CodeMember) {
             row.code = numberIn(member.value(), place);
         } else if (member.key() == NameMember) {

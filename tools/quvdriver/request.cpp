@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "request.h"
 
+#include "excerpt.h"
 #include "refusal.h"
 
 #include "base/nccommand.h"
@@ -69,6 +70,9 @@ Request::Request(const XmlRpcValue &params)
             begin = 2;
         }
     }
+    // Texts repeat the name, and one that nobody knows may be of any length.
+    if (!ProtoCommandList::existsCommand(name))
+        name = excerpt(name);
     arguments.setSize(0);
     for (int i = begin; i < params.size(); ++i)
         arguments[i - begin] = *FindXmlRpcElement(params, i);

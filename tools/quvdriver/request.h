@@ -17,7 +17,7 @@ struct Request
     /// command's own arguments and the last answer, then interval and timeout.
     bool isWaiting() const;
 
-    QString name{};                  ///< not looked up
+    QString name{};                  ///< not looked up; cut when no command has it
     XmlRpc::XmlRpcValue arguments{}; ///< an array
 };
 
