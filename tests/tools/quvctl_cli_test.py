@@ -721,7 +721,8 @@ class Ticket(CliTest):
         for state, members, line in [
                 (3, {}, "Created..."), (2, {}, "Queued..."), (1, {}, "Executing..."),
                 (1, {"info": "warming\u009bup"}, "warming\ufffdup"), (1, {"percentage": 7}, "7 %"),
-                (1, {"percentage": 45, "time_left": 11500}, "45 %  About 12 seconds remaining...")]:
+                (1, {"percentage": 45, "time_left": 11500}, "45 %  About 12 seconds remaining..."),
+                (1, {"percentage": 2000000000}, "99 %"), (1, {"percentage": -2000000000, "time_left": -1}, "Executing...")]:
             self.assertEqual(self.ask(ticket(state, **members)), (0, line + "\n", ""))
 
     def test_ended(self):
@@ -737,6 +738,13 @@ class Ticket(CliTest):
         self.assertEqual(self.ask(ticket(-3)), (1, "", "quvctl: Interrupted!\n"))
         self.assertEqual(self.ask(ticket(-4, envelope(0))), (1, "", "quvctl: Timeout elapsed!\n"))
         self.assertEqual(self.ask(ticket(0)), (1, "", "quvctl: the command has ended without a result\n"))
+
+    def test_a_state_that_there_is_not(self):
+        for state in (9, -99):
+            code, out, err = self.ask(ticket(state, percentage=2000000000))
+            self.assertEqual((code, out), (1, ""))
+            self.assertEqual(json.loads(self.ask(ticket(state, percentage=2000000000), "--json")[1])
+                             ["status"]["percentage"], 0)
 
     def test_json(self):
         code, out, err = self.ask(ticket(1, percentage=45, time_left=11500), "--json")

@@ -351,15 +351,60 @@ class File(ConfigTest):
             self.assertEqual(self.config(driver, "diff"), (0, "no differences\n", ""))
 
 
+class Limits(ConfigTest):
+    def refused(self, driver, action="pull"):
+        code, out, err = self.config(driver, action)
+        self.assertEqual((code, os.path.exists(self.path)), (1, action != "pull"))
+        return err
+
+    def test_structures(self):
+        with ScriptedDriver({}, {code: 1 for code in range(1, 258)}) as driver:
+            self.assertEqual(self.refused(driver), "quvctl: the firmware offers more than 256 structures\n")
+
+    def test_fields_of_a_row(self):
+        with ScriptedDriver({(27, 1): "1" + ",2" * 999}) as driver:
+            self.assertEqual(self.config(driver, "pull")[::2], (0, ""))
+        os.remove(self.path)
+        with ScriptedDriver({(27, 1): "1" + ",2" * 1000}) as driver:
+            self.assertEqual(self.refused(driver), "quvctl: the row of 27 has more than 1000 fields\n")
+
+    def test_fields_of_a_configuration(self):
+        with ScriptedDriver({(code, 1): "1" + ",2" * 999 for code in range(27, 128)}) as driver:
+            self.assertEqual(self.refused(driver),
+                             "quvctl: the firmware's configuration has more than 100000 fields\n")
+
+    def test_length_of_a_configuration(self):
+        with ScriptedDriver({(2, 1): "1," + "x" * (1024 * 1024)}) as driver:
+            self.assertEqual(self.refused(driver), "quvctl: the firmware's configuration is longer than 1 MiB\n")
+
+    def test_files_of_many_rows(self):
+        count = 30000
+        self.put("quvctl configuration 1\n" + "".join(f"[{27 + n}]\ncmd_enabled = 1\n" for n in range(count)))
+        with ScriptedDriver({(7, 1): HUMIDIFIER}) as driver:
+            begin = time.monotonic()
+            code, out, err = self.config(driver, "diff")
+            self.assertLess(time.monotonic() - begin, 5)
+        self.assertEqual((code, out), (0, "no differences\n"))
+        self.assertEqual(err.count("\n"), count)
+
+    def test_texts_quote_what_is_needed(self):
+        self.put("quvctl configuration 1\n[@HUM]\ncmd_enabled = " + "7" * 100000 + "\n")
+        with ScriptedDriver({(7, 1): HUMIDIFIER}) as driver:
+            self.assertEqual(self.config(driver, "diff")[2],
+                             f'quvctl: {self.path}:3: "{"7" * 40}..." is no whole number from 0 to 2147483647 '
+                             "(see quvctl help)\n")
+
+
 class FullDisk(ConfigTest):
     def test_the_file_stays_as_it_was(self):
         self.put("before")
         limit = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (1024, 1024))
         rows = {(10, number): f"1,{number},5,6,20,10" for number in range(1, 33)}
         with ScriptedDriver(rows) as driver:
-            code, _, err = run("config", "pull", self.path, "--port", str(driver.port), preexec_fn=limit,
-                               restore_signals=False)
+            code, out, err = run("config", "pull", self.path, "--port", str(driver.port), preexec_fn=limit,
+                                 restore_signals=False)
         self.assertEqual((code, err), (1, f"quvctl: {self.path}: File too large\n"))
+        self.assertNotIn("Done", out)
         self.assertEqual(self.content(), "before")
         self.assertEqual(os.listdir(self.folder.name), [os.path.basename(self.path)])
 

@@ -109,13 +109,14 @@ ExitStatus pull(const FirmwareConfiguration &firmware, const QString &path, cons
     const OfferedStructures offered = firmware.structures();
     const std::vector<ConfigRow> rows =
         firmware.allRows(offered, [&](int percentage) { progress.tell(percentage); });
-    progress.end();
     const QString version = QStringLiteral("%1.%2").arg(offered.version).arg(offered.minorVersion);
     const QString machine = machineKind(offered.codes);
-    onFile(path, [&] {
-        saveFile(path,
-                 configFileOf({machine, rows}, QStringLiteral("firmware configuration %1").arg(version)));
-    });
+    const QByteArray text =
+        configFileOf({machine, rows}, QStringLiteral("firmware configuration %1").arg(version));
+    if (text.size() > MaxConfigFileSize)
+        throw std::runtime_error("the firmware's configuration is longer than 1 MiB");
+    onFile(path, [&] { saveFile(path, text); });
+    progress.end();
     if (shown.asJson)
         printJson({{"ok", true},
                    {"file", toJson(path)},

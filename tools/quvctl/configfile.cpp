@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "configfile.h"
 
+#include "excerpt.h"
 #include "jsonvalue.h"
 
 #include "configuration/confdata.h"
@@ -10,6 +11,8 @@
 
 #include <algorithm>
 #include <limits>
+#include <set>
+#include <utility>
 
 namespace quv {
 
@@ -124,19 +127,16 @@ private:
         ConfigRow row;
         row.code = codeOfName(match.captured(1));
         if (row.code == 0)
-            refuse(QStringLiteral("%1 is no structure").arg(line));
+            refuse(QStringLiteral("%1 is no structure").arg(excerpt(line)));
         const QString id = match.captured(2);
         if (id.isEmpty() && ConfData::isMultipleInstance(row.code))
             refuse(QStringLiteral("%1 needs a number, as in [%2 1]").arg(line, match.captured(1)));
         if (!id.isEmpty() && !ConfData::isMultipleInstance(row.code))
             refuse(QStringLiteral("%1 has no number: there is one [%2] only").arg(line, match.captured(1)));
         if (!id.isEmpty() && (!isNumber(id) || id.toInt() < 1))
-            refuse(QStringLiteral("%1 is no number from 1 on").arg(id));
+            refuse(QStringLiteral("%1 is no number from 1 on").arg(excerpt(id)));
         row.id = id.isEmpty() ? 1 : id.toInt();
-        const bool twice = std::any_of(m_rows.begin(), m_rows.end(), [&](const ConfigRow &other) {
-            return other.code == row.code && other.id == row.id;
-        });
-        if (twice)
+        if (!m_known.insert({row.code, row.id}).second)
             refuse(QStringLiteral("%1 stands here for the second time").arg(headingOf(row)));
         m_rows.push_back(row);
     }
@@ -189,7 +189,8 @@ private:
         // who wrote the file may not have known the field
         const QString unknown = QStringLiteral("NEW_DATA %1").arg(position);
         if (label != expected && (label != unknown || position == 0))
-            refuse(QStringLiteral("%1 has \"%2\" here, not \"%3\"").arg(headingOf(row), expected, label));
+            refuse(QStringLiteral("%1 has \"%2\" here, not \"%3\"")
+                       .arg(headingOf(row), expected, excerpt(label)));
     }
 
     QString value(const ConfigRow &row, const QString &text) const
@@ -198,7 +199,7 @@ private:
             return name(text);
         if (!isNumber(text))
             refuse(QStringLiteral("\"%1\" is no whole number from 0 to %2")
-                       .arg(text)
+                       .arg(excerpt(text))
                        .arg(std::numeric_limits<int>::max()));
         return QString::number(text.toInt());
     }
@@ -212,7 +213,7 @@ private:
         } catch (const JsonError &) {
             // told below
         }
-        refuse(QStringLiteral("%1 is no name in quotation marks").arg(text));
+        refuse(QStringLiteral("%1 is no name in quotation marks").arg(excerpt(text)));
     }
 
     const QStringList m_lines;
@@ -220,6 +221,7 @@ private:
     bool m_hasHeader = false;
     QString m_machine{};
     std::vector<ConfigRow> m_rows{};
+    std::set<std::pair<int, int>> m_known{}; ///< codes and IDs of the rows
 };
 
 QString decoded(const QByteArray &text)
@@ -290,13 +292,17 @@ QString machineKind(const QList<int> &structures)
 
 QStringList fieldsOfText(int code, const QString &text)
 {
-    QStringList fields = text.split(QLatin1Char(','));
-    if (code == nameStructure && fields.size() > 1)
-        fields = QStringList{fields.first(), text.section(QLatin1Char(','), 1)};
+    const int comma = text.indexOf(QLatin1Char(','));
+    const bool hasName = code == nameStructure && comma >= 0;
+    if (!hasName && text.count(QLatin1Char(',')) >= MaxRowFields)
+        throw std::runtime_error("the row of " + structureName(code).toStdString() + " has more than " +
+                                 std::to_string(MaxRowFields) + " fields");
+    const QStringList fields =
+        hasName ? QStringList{text.left(comma), text.mid(comma + 1)} : text.split(QLatin1Char(','));
     for (int position = 0; position < fields.size(); ++position)
         if (!isName(code, position) && !isNumber(fields[position]))
             throw std::runtime_error("the row of " + structureName(code).toStdString() +
-                                     " is none: " + text.toStdString());
+                                     " is none: " + excerpt(text).toStdString());
     return fields;
 }
 

@@ -41,7 +41,10 @@ QString whyUnwritable(const ConfigRow &row);
 /// "dispenser" or "mixer": the kind of machine that has these structures; empty when there are none to tell it by.
 QString machineKind(const QList<int> &structures);
 
-/// The fields of a row in its text form. \throws std::runtime_error when they are no whole numbers from 0 on
+/// The most fields of a row; the structures of today have 53 and fewer.
+inline constexpr int MaxRowFields = 1000;
+
+/// The fields of a row in its text form. \throws std::runtime_error when they are no whole numbers from 0 on, or too many
 QStringList fieldsOfText(int code, const QString &text);
 QString textOf(const ConfigRow &row);
 

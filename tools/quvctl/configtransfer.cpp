@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <set>
 
 namespace quv {
 
@@ -80,15 +81,25 @@ private:
     const std::function<void(int)> &m_tell;
 };
 
-/// The circuits of a machine mostly lack the same.
-void warnOnce(QStringList &warnings, const QString &warning)
+/// The circuits of a machine mostly lack the same, which is told once.
+class Warnings
 {
-    if (!warnings.contains(warning))
-        warnings.append(warning);
-}
+public:
+    explicit Warnings(QStringList &list) : m_list(list) {}
+
+    void add(const QString &warning)
+    {
+        if (m_told.insert(warning).second)
+            m_list.append(warning);
+    }
+
+private:
+    QStringList &m_list;
+    std::set<QString> m_told{};
+};
 
 /// The file's row with what the firmware has of it.
-ConfigRow merged(const ConfigRow &file, const ConfigRow &firmware, QStringList &warnings)
+ConfigRow merged(const ConfigRow &file, const ConfigRow &firmware, Warnings &warnings)
 {
     ConfigRow row = firmware;
     const int common = std::min(file.fields.size(), firmware.fields.size());
@@ -97,8 +108,8 @@ ConfigRow merged(const ConfigRow &file, const ConfigRow &firmware, QStringList &
     if (file.fields.size() > common) {
         const QString more =
             file.fields.size() > common + 1 ? QStringLiteral(", nor what follows") : QString();
-        warnOnce(warnings, QStringLiteral("the firmware has no \"%1\" of %2%3: left out")
-                               .arg(fieldLabel(file.code, common), structureName(file.code), more));
+        warnings.add(QStringLiteral("the firmware has no \"%1\" of %2%3: left out")
+                         .arg(fieldLabel(file.code, common), structureName(file.code), more));
     }
     return row;
 }
@@ -127,6 +138,9 @@ OfferedStructures FirmwareConfiguration::structures() const
         throw std::runtime_error("the answer is no list of structures");
     const XmlRpc::XmlRpcValue *structures = FindXmlRpcMember(value, "command_codes");
     const int count = structures ? structures->size() : 0;
+    if (count > MaxStructures)
+        throw std::runtime_error("the firmware offers more than " + std::to_string(MaxStructures) +
+                                 " structures");
     for (int i = 0; i < count; ++i) {
         int code = 0;
         const XmlRpc::XmlRpcValue *structure = FindXmlRpcElement(*structures, i);
@@ -186,6 +200,7 @@ std::vector<ConfigRow> FirmwareConfiguration::allRows(const OfferedStructures &o
         questions += questionsAbout(code);
     Steps steps(questions, tell);
     std::vector<ConfigRow> rows;
+    int fields = 0;
     int done = 0;
     for (const int code : offered.codes) {
         const bool multiple = ConfData::isMultipleInstance(code);
@@ -195,6 +210,10 @@ std::vector<ConfigRow> FirmwareConfiguration::allRows(const OfferedStructures &o
         for (int id = 1; id <= last && (id <= alwaysAsked || absent < absentInARow); ++id) {
             steps.step();
             const ConfigRow answered = row(code, id);
+            fields += answered.fields.size();
+            if (fields > MaxConfigFields)
+                throw std::runtime_error("the firmware's configuration has more than " +
+                                         std::to_string(MaxConfigFields) + " fields");
             const bool ofAll = standsForAllCircuits(answered);
             const bool present = answered.isPresent() && !ofAll;
             absent = present ? 0 : absent + 1;
@@ -229,15 +248,15 @@ ConfigComparison compare(const ConfigFile &file, const FirmwareConfiguration &fi
                                      .arg(file.machine, machine)
                                      .toStdString());
     ConfigComparison comparison;
+    Warnings warnings(comparison.warnings);
     for (const ConfigRow &row : rows) {
         steps.step();
         if (!offered.contains(row.code)) {
-            warnOnce(comparison.warnings,
-                     QStringLiteral("the firmware has no %1: left out").arg(structureName(row.code)));
+            warnings.add(QStringLiteral("the firmware has no %1: left out").arg(structureName(row.code)));
             continue;
         }
         const ConfigRow present = firmware.row(row.code, row.id);
-        const ConfigRow wanted = merged(row, present, comparison.warnings);
+        const ConfigRow wanted = merged(row, present, warnings);
         const std::vector<FieldChange> changes = changesOf(present, wanted);
         // a firmware keeps nothing of a circuit or reference that there is not
         const bool isNothing =

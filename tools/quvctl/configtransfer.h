@@ -22,6 +22,7 @@ class FirmwareConfiguration
 public:
     explicit FirmwareConfiguration(const Driver &driver) : m_driver(driver) {}
 
+    /// \throws std::runtime_error for an answer that is no list of structures, or has too many
     OfferedStructures structures() const;
     /// \throws std::runtime_error for an answer that is no such row
     ConfigRow row(int code, int id) const;
@@ -34,6 +35,7 @@ public:
      * 1 to 32, on from there until eight in a row are not present, and to 64 at most. The row of a motor that stirs all circuits
      * has the ID 245.
      * \a tell hears how far it is, in percent, before each question.
+     * \throws std::runtime_error for more than MaxConfigFields fields
      */
     std::vector<ConfigRow> allRows(const OfferedStructures &offered,
                                    const std::function<void(int percentage)> &tell) const;
@@ -55,6 +57,10 @@ struct RowChange
     ConfigRow row; ///< as it is to be written
     std::vector<FieldChange> fields{};
 };
+
+/// The most structures that a firmware offers, and the most fields of a whole configuration.
+inline constexpr int MaxStructures = 256;
+inline constexpr int MaxConfigFields = 100000;
 
 struct ConfigComparison
 {

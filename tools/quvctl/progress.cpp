@@ -5,6 +5,7 @@
 
 #include "base/cmdstatus.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace quv {
@@ -27,6 +28,7 @@ QString inWords(const CmdStatus &status)
 QString bar(int percentage)
 {
     constexpr int cells = 10;
+    percentage = std::clamp(percentage, 0, 100);
     const int filled = (percentage * cells + 50) / 100;
     return QLatin1Char('[') + QString(filled, QLatin1Char('#')) + QString(cells - filled, QLatin1Char('.')) +
            QStringLiteral("] ");

@@ -41,6 +41,16 @@ QString commandLineOf(const QString &id, const CommandLine &line)
     return text;
 }
 
+/// A driver may tell any percentage and any time.
+CmdStatus clamped(CmdStatus status)
+{
+    if (!status.setStatus(status.status())) // neither running nor ended, so that nobody waits for it
+        return CmdStatus(CmdStatus::Unknown, 0, 0, status.resultValue(), status.info());
+    status.setPercentage(status.percentage());
+    status.setTimeLeft(status.timeLeft());
+    return status;
+}
+
 } // namespace
 
 OnInterrupt::OnInterrupt(const QString &text)
@@ -75,7 +85,7 @@ CmdStatus Ticket::status() const
     const auto *answer = dynamic_cast<const GetCommandStatusAnswer *>(command.getProtoAnswer());
     if (!answer)
         throw std::runtime_error("the answer is no status of a ticket");
-    return answer->cmdStatus();
+    return clamped(answer->cmdStatus());
 }
 
 CmdStatus Ticket::waitForEnd(std::chrono::milliseconds interval, bool showProgress) const
