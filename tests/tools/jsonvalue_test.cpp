@@ -184,6 +184,15 @@ TEST(JsonValue, NestingIsLimited)
               "arrays and objects are nested more than 64 levels deep");
 }
 
+TEST(JsonValue, WhatSteersATerminalIsEscaped)
+{
+    const QString text = QString::fromUtf8(
+        "\x7F\xC2\x85\xE2\x80\xAE\xE2\x80\xA8\xEF\xBB\xBF\xF3\xA0\x81\x81 \xC3\xA4\xF0\x9F\x98\x80");
+    const std::string written = quv::writeJson(quv::toJson(text));
+    EXPECT_EQ(written, "\"\\u007f\\u0085\\u202e\\u2028\\ufeff\\udb40\\udc41 \xC3\xA4\xF0\x9F\x98\x80\"");
+    EXPECT_EQ(quv::toVariant(quv::parseJson(written)), QVariant(text));
+}
+
 TEST(JsonValue, ValuesAreCounted)
 {
     const auto arrayOf = [](int count) {

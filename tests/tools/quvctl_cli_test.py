@@ -520,6 +520,13 @@ class Call(CliTest):
                              "DE00443: MachineStatusAnswer: expected disp_status value\n")
 
     def test_texts_do_not_steer_the_terminal(self):
+        turned = "a\u202eb\u2066c\u200bd\u2028e\ufeff\U000e0041f"
+        with Driver(envelope(status(), info=turned)) as driver:
+            out = self.done("call", "GET_STATUS", "--port", str(driver.port))
+            self.assertEqual(out.split("\n")[0], "a\ufffdb\ufffdc\ufffdd\ufffde\ufffd\ufffdf")
+            out = self.done("call", "GET_STATUS", "--json", "--port", str(driver.port))
+            self.assertTrue(out.rstrip("\n").isascii(), out)
+            self.assertEqual(json.loads(out)["envelope"]["info"], turned)
         with Driver(envelope(status(), info="a\u009bb\u0085c")) as driver:
             out = self.done("call", "GET_STATUS", "--port", str(driver.port))
         self.assertEqual(out.split("\n")[0], "a\ufffdb\ufffdc")
@@ -812,6 +819,19 @@ class Ticket(CliTest):
             out, err = process.communicate(timeout=30)
             self.assertEqual((process.returncode, out, err), (
                 130, "", f"the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}\n"))
+
+    def test_a_hint_can_be_pasted(self):
+        for ticket_id in ("T 1; echo $HOME", "it's \"1\" \\", "T\u202e-\n'1'\\\U000e0041"):
+            with Driver(ticket(1)) as driver:
+                with start("ticket", ticket_id, "--wait", "--interval", "10", "--port", str(driver.port)) as process:
+                    self.assertEqual(self.lines(process, 1), "Executing...\n")
+                    process.send_signal(signal.SIGINT)
+                    _, err = process.communicate(timeout=30)
+            hint = err.rstrip("\n").partition("look again with: ")[2]
+            self.assertTrue(hint.isprintable(), hint)
+            words = subprocess.run(["bash", "-c", f"printf '%s\\0' {hint}"], stdout=subprocess.PIPE, check=True,
+                                   env={**os.environ, "LC_ALL": "C.UTF-8"}).stdout.decode("utf-8")
+            self.assertEqual(words.split("\0")[:3], ["quvctl", "ticket", ticket_id])
 
     def test_driver_that_goes_away(self):
         driver = Driver(ticket(1))

@@ -2,12 +2,14 @@
 #include "jsonvalue.h"
 
 #include "excerpt.h"
+#include "unseencharacters.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <QtCore/QDateTime>
 #include <QtCore/QMap>
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 #include <set>
@@ -271,6 +273,15 @@ OrderedJson mapJson(const QVariantMap &map)
     return object;
 }
 
+/// As JSON writes it: beyond 16 bits by two surrogates.
+QString escape(uint character)
+{
+    QString text;
+    for (const QChar unit : utf16Of(character))
+        text += QString::asprintf("\\u%04x", static_cast<unsigned>(unit.unicode()));
+    return text;
+}
+
 } // namespace
 
 json parseJson(std::string_view text)
@@ -286,7 +297,9 @@ json parseJson(std::string_view text)
 
 std::string writeJson(const OrderedJson &document)
 {
-    return document.dump(-1, ' ', false, OrderedJson::error_handler_t::replace);
+    std::string text = document.dump(-1, ' ', false, OrderedJson::error_handler_t::replace);
+    const bool isPlain = std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
+    return isPlain ? text : withoutUnseen(QString::fromStdString(text), escape).toStdString();
 }
 
 XmlRpcValue toXmlRpcValue(const json &source)

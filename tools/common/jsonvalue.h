@@ -49,7 +49,7 @@ inline constexpr int jsonValues = 200000;
  */
 nlohmann::json parseJson(std::string_view text);
 
-/// One line of valid UTF-8. Doubles read back exactly, and as doubles.
+/// One line of valid UTF-8, in which control and format characters are escaped. Doubles read back exactly, and as doubles.
 std::string writeJson(const OrderedJson &document);
 
 /// \throws JsonError for null, whole numbers beyond 32 bits and bad base64

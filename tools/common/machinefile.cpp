@@ -460,19 +460,6 @@ void addLines(const OrderedJson &value, const std::string &key, const std::strin
     text += indent + (value.is_object() ? "}" : "]") + end + '\n';
 }
 
-/// Control characters that JSON lets stand would not reach a terminal as they are.
-QString withoutControls(const QString &text)
-{
-    QString escaped;
-    for (const QChar c : text) {
-        if (c.category() == QChar::Other_Control && c != QLatin1Char('\n'))
-            escaped += QString::asprintf("\\u%04x", static_cast<unsigned>(c.unicode()));
-        else
-            escaped += c;
-    }
-    return escaped;
-}
-
 } // namespace
 
 std::unique_ptr<FW_Machine> readMachineFile(const QByteArray &text)
@@ -499,7 +486,7 @@ QByteArray machineFileOf(const FW_Machine &machine)
         document = writtenValue(*mixer);
     std::string text;
     addLines(document, std::string(), std::string(), "", text);
-    return withoutControls(QString::fromStdString(text)).toUtf8();
+    return QByteArray::fromStdString(text);
 }
 
 } // namespace quv

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "terminal.h"
 
+#include "unseencharacters.h"
+
+#include <QtCore/QRegularExpression>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -92,12 +96,24 @@ void print(FILE *stream, const QString &text, Colour colour)
 
 } // namespace
 
-QString printable(QString text)
+QString printable(const QString &text)
 {
-    for (QChar &c : text)
-        if (c.category() == QChar::Other_Control)
-            c = QChar::ReplacementCharacter;
-    return text;
+    return withoutUnseen(text, [](uint) { return QChar(QChar::ReplacementCharacter); });
+}
+
+QString shellWord(const QString &word)
+{
+    static const QRegularExpression plain(QStringLiteral(R"(\A[\w@%+=:,./-]+\z)"));
+    if (plain.match(word).hasMatch())
+        return word;
+    QString quoted = word;
+    if (printable(word) == word)
+        return QLatin1Char('\'') + quoted.replace(QLatin1Char('\''), QStringLiteral(R"('\'')")) +
+               QLatin1Char('\'');
+    quoted.replace(QLatin1Char('\\'), QStringLiteral(R"(\\)"));
+    quoted.replace(QLatin1Char('\''), QStringLiteral(R"(\')"));
+    quoted = withoutUnseen(quoted, [](uint character) { return QString::asprintf("\\U%08x", character); });
+    return QStringLiteral("$'") + quoted + QLatin1Char('\'');
 }
 
 void printLine(const QString &text, Colour colour)

@@ -9,11 +9,13 @@ namespace quv {
 
 enum class Colour { Plain, Bold, Red };
 
-/// The text without its control characters: it comes from drivers and machines, and must not steer the terminal.
-QString printable(QString text);
+/// The text without its control and format characters: it comes from drivers and machines, and must not steer the terminal.
+QString printable(const QString &text);
+/// The word as it can be pasted into a shell, quoted when it must be.
+QString shellWord(const QString &word);
 
-/// A line on standard output, flushed. Colours show on a terminal only, and not with NO_COLOR; control characters of the
-/// text never reach it.
+/// A line on standard output, flushed. Colours show on a terminal only, and not with NO_COLOR; what is not
+/// printable never reaches it.
 void printLine(const QString &text, Colour colour = Colour::Plain);
 /// The same in as many lines as a terminal needs, broken between words.
 void printParagraph(const QString &text, Colour colour = Colour::Plain);

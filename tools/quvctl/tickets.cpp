@@ -34,10 +34,11 @@ extern "C" void endInterrupted(int)
 
 QString commandLineOf(const QString &id, const CommandLine &line)
 {
-    QString text = QStringLiteral("quvctl ticket ") + id;
+    QString text = QStringLiteral("quvctl ticket ") + shellWord(id);
     for (const char *option : {"host", "port", "token-file"})
         if (line.isSet(option))
-            text += QStringLiteral(" --%1 %2").arg(QLatin1String(option), line.value(option, QString()));
+            text += QStringLiteral(" --%1 %2")
+                        .arg(QLatin1String(option), shellWord(line.value(option, QString())));
     return text;
 }
 
