@@ -1,12 +1,15 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """How the driver is started, and how it ends."""
 
+import json
 import os
 import signal
 import socket
+import subprocess
 import tempfile
 import time
 import unittest
+import xmlrpc.client
 
 import quvdriver_process
 from quvdriver_process import Driver, run
@@ -97,6 +100,7 @@ class ProgramTest(unittest.TestCase):
                               (["--speed", "0"], "--speed must be a number from 0.01 to 10000"),
                               (["--speed", "nan"], "--speed must be a number from 0.01 to 10000"),
                               (["--machine", "mixer", "--machine", "mixer"], "one dispenser and one mixer"),
+                              (["--trace=xml"], "--trace stands alone, or as --trace=json"),
                               (["--nothing"], "nothing"),
                               (["extra"], 'unexpected argument "extra"')):
             ended = run(*options)
@@ -109,10 +113,45 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual(ended.returncode, 1)
         self.assertIn('Machine "/nowhere/machine.json": ', ended.stderr)
 
+    def traced(self, option):
+        """What a driver tells of three calls, in lines."""
+        with Driver(option, "--machine", "dispenser", stderr=subprocess.PIPE) as driver:
+            with driver.client() as client:
+                client.EXEC_B("a secret", "GET_STATUS")
+                client.EXEC_NB("a secret", "and another")
+                with self.assertRaises(xmlrpc.client.Fault):
+                    client.OPEN("a secret")
+            driver.process.send_signal(signal.SIGTERM)
+            _, told = driver.process.communicate(timeout=5)
+        self.assertEqual(driver.process.returncode, 0)
+        self.assertNotIn("secret", told)
+        return told.splitlines()
+
+    def test_trace_in_json(self):
+        lines = [json.loads(line) for line in self.traced("--trace=json")]
+        for line in lines:
+            self.assertRegex(line.pop("time"), r"^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z$")
+            self.assertIsInstance(line.pop("ms"), int)
+        self.assertEqual(lines, [
+            {"what": "exchange", "code": "0006", "module": 0, "out": [], "in": "E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0".split()},
+            {"what": "call", "method": "EXEC_B", "command": "GET_STATUS", "ret_code": 0, "errors": []},
+            {"what": "call", "method": "EXEC_NB", "command": "", "ret_code": 1, "errors": ["DE00337", "DE03103"]},
+            {"what": "call", "method": "OPEN", "command": "", "fault": -32601}])
+
+    def test_trace_for_people(self):
+        time_of_day = r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z"
+        for line, expected in zip(self.traced("--trace"), (
+                "exchange  code 0006  module 0  out -  in E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0",
+                "call  method EXEC_B  command GET_STATUS  ret_code 0  errors -",
+                "call  method EXEC_NB  command -  ret_code 1  errors DE00337 DE03103",
+                "call  method OPEN  command -  fault -32601"), strict=True):
+            self.assertRegex(line, rf"^{time_of_day}  {expected}  ms \d+$")
+
     def test_help_and_version(self):
         told = run("--help")
         self.assertEqual(told.returncode, 0)
-        for option in ("--host", "--port", "--machine", "--speed", "--state", "--firmware", "--token-file", "--open", "--once"):
+        for option in ("--host", "--port", "--machine", "--speed", "--state", "--firmware", "--token-file", "--open", "--trace",
+                       "--once"):
             self.assertIn(option, told.stdout)
         told = run("--version")
         self.assertEqual(told.returncode, 0)

@@ -6,15 +6,18 @@
 #include "callthreads.h"
 #include "httpaccess.h"
 #include "machines.h"
+#include "trace.h"
 #include "xmlrpcserver.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
+#include <QtCore/QRegularExpression>
 
 #include <atomic>
 #include <csignal>
 #include <cstdio>
+#include <optional>
 #include <stdexcept>
 #include <thread>
 
@@ -39,6 +42,7 @@ struct Options
     QString state{};
     quv::FirmwareAge age = quv::FirmwareAge::Equal;
     bool once = false;
+    std::optional<quv::Trace::Form> trace{};
 };
 
 const QCommandLineOption hostOption(QStringLiteral("host"),
@@ -73,6 +77,11 @@ const QCommandLineOption tokenOption(
 const QCommandLineOption openOption(QStringLiteral("open"),
                                     QStringLiteral("Needs no token on an address that other computers reach: "
                                                    "anybody who reaches the port commands the machines."));
+const QCommandLineOption traceOption(
+    QStringLiteral("trace"),
+    QStringLiteral("Tell each call and each exchange with a firmware on standard error: alone for "
+                   "people, or as --trace=json in JSON lines."),
+    QStringLiteral("json"));
 const QCommandLineOption onceOption(QStringLiteral("once"), QStringLiteral("Answer one call, then end."));
 
 void describe(QCommandLineParser &parser)
@@ -82,7 +91,24 @@ void describe(QCommandLineParser &parser)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({hostOption, portOption, machineOption, speedOption, stateOption, firmwareOption,
-                       tokenOption, openOption, onceOption});
+                       tokenOption, openOption, traceOption, onceOption});
+}
+
+/// The parser knows no option whose value may be left out.
+QStringList withTraceValue(QStringList words)
+{
+    words.replaceInStrings(QRegularExpression(QStringLiteral("^--trace$")), QStringLiteral("--trace="));
+    return words;
+}
+
+std::optional<quv::Trace::Form> traceForm(const QCommandLineParser &parser)
+{
+    const QString form = parser.value(traceOption);
+    if (!form.isEmpty() && form != QLatin1String("json"))
+        throw Usage("--trace stands alone, or as --trace=json");
+    if (!parser.isSet(traceOption))
+        return std::nullopt;
+    return form.isEmpty() ? quv::Trace::Form::People : quv::Trace::Form::Json;
 }
 
 Options readOptions(const QCommandLineParser &parser)
@@ -119,6 +145,7 @@ Options readOptions(const QCommandLineParser &parser)
     if (options.machines.isEmpty())
         options.machines = QStringList{QStringLiteral("dispenser"), QStringLiteral("mixer")};
     options.once = parser.isSet(onceOption);
+    options.trace = traceForm(parser);
     return options;
 }
 
@@ -136,7 +163,7 @@ void followConfiguration(FW_Machine &machine, quv::SimulatedFirmware &firmware)
                      qPrintable(problem));
 }
 
-void addMachines(quv::Driver &driver, const Options &options)
+void addMachines(quv::Driver &driver, const Options &options, quv::Trace *trace)
 {
     quv::SimulatedConfiguration configuration;
     configuration.age = options.age;
@@ -148,9 +175,12 @@ void addMachines(quv::Driver &driver, const Options &options)
         auto machine = quv::machineByName(name);
         if (!machine)
             continue;
-        auto firmware = std::make_unique<quv::SimulatedFirmware>(
+        auto simulated = std::make_unique<quv::SimulatedFirmware>(
             *machine, options.speed, quv::SimulatedFirmware::steadyClock(), configuration);
-        followConfiguration(*machine, *firmware);
+        followConfiguration(*machine, *simulated);
+        std::unique_ptr<quv::Firmware> firmware = std::move(simulated);
+        if (trace)
+            firmware = trace->watching(std::move(firmware));
         if (!driver.addMachine(std::move(machine), std::move(firmware)))
             throw Usage("a driver has one dispenser and one mixer at most");
     }
@@ -183,8 +213,12 @@ private:
 void run(const Options &options)
 {
     const EndSignals signals;
+    std::optional<quv::Trace> trace;
+    if (options.trace)
+        trace.emplace(*options.trace,
+                      [](const std::string &line) { std::fwrite(line.data(), 1, line.size(), stderr); });
     quv::Driver driver;
-    addMachines(driver, options);
+    addMachines(driver, options, trace ? &*trace : nullptr);
     std::atomic<bool> isUsed{false};
     quv::XmlRpcServerOptions serverOptions = options.server;
     serverOptions.mayLast = quv::Driver::mayLast;
@@ -197,7 +231,8 @@ void run(const Options &options)
                 // It still answers the call that it is in.
                 server.stop();
             }
-            return driver.call(call, gone);
+            const auto handle = [&] { return driver.call(call, gone); };
+            return trace ? trace->call(call, handle) : handle();
         },
         serverOptions);
     try {
@@ -233,7 +268,7 @@ int main(int argc, char *argv[])
     try {
         QCommandLineParser parser;
         describe(parser);
-        if (!parser.parse(QCoreApplication::arguments()))
+        if (!parser.parse(withTraceValue(QCoreApplication::arguments())))
             throw Usage(parser.errorText().toStdString());
         if (parser.isSet(QStringLiteral("help"))) {
             std::fputs(qPrintable(parser.helpText()), stdout);
