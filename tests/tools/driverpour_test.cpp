@@ -219,6 +219,100 @@ TEST_F(DriverPourTest, aPourTellsHowFarItIs)
     EXPECT_TRUE(nothing.formulaChannels().isEmpty());
 }
 
+TEST_F(DriverPourTest, nothingIsNotPoured)
+{
+    const WatchedFirmware &firmware = addSimulated(pouringMachine(), 1000);
+    for (const char *method : {"EXEC_B", "EXEC_NB", "EXEC_NC"}) {
+        const Envelope refused = call(method, "TINT", formula({{"A", 0}, {"B", 10}}));
+        EXPECT_EQ(refused.retCode, 1) << method;
+        EXPECT_EQ(refused.error(), "DE03140 A quantity of 0 cannot be poured: \"A\"") << method;
+        const Formula rest(refused.answer); // which can be poured
+        ASSERT_EQ(rest.items().size(), 1) << method;
+        EXPECT_EQ(rest.items()[0].id, QStringLiteral("B")) << method;
+        EXPECT_EQ(rest.items()[0].quantity, 10) << method;
+    }
+    const Envelope allOfNothing = call("EXEC_B", "PURGE", formula({{"A", 0}}, 1));
+    EXPECT_EQ(allOfNothing.error(), "DE03140 A quantity of 0 cannot be poured: position 1");
+    EXPECT_EQ(int(allOfNothing.answer), 0);
+    EXPECT_TRUE(firmware.received.isEmpty());
+}
+
+TEST_F(DriverPourTest, whatRoundsByMoreThanAHundredthIsRefusedWithWhatCanBePoured)
+{
+    const WatchedFirmware &firmware = addSimulated(pouringMachine(), 1000);
+    // 100 steps pour 1
+    const Envelope weight = call("EXEC_B", "TINT", formula({{"A", 0.004}, {"B", 0.335}, {"C", 10.004}}));
+    EXPECT_EQ(weight.retCode, 1);
+    EXPECT_EQ(weight.error(),
+              "DE03141 \"A\": 0.004 cannot be poured, the nearest is 0.01 (steps of the motor: 1)|"
+              "DE03141 \"B\": 0.335 cannot be poured, the nearest is 0.34 (steps of the motor: 34)");
+    const Envelope strokes = call("EXEC_B", "TINT", formula({{"A", 0.5}, {"B", 2}}, 2));
+    EXPECT_EQ(strokes.error(), "DE03141 \"A\": 0.5 strokes cannot be poured, the nearest is 1");
+    EXPECT_EQ(call("EXEC_B", "PRIMING", formula({{"A", 2.5}}, 2)).error(),
+              "DE03141 \"A\": 2.5 strokes cannot be poured, the nearest is 3");
+    XmlRpcValue steps = formula({}, 1);
+    steps["formula_type"] = 1;
+    steps["ids"][0] = 3;
+    steps["quantities"][0] = 0.3;
+    EXPECT_EQ(call("EXEC_B", "CHANNEL_TINT", 1, steps).retCode, 1);
+    EXPECT_EQ(call("EXEC_B", "TINT2", steps).error(),
+              "DE03141 position 3: 0.3 steps cannot be poured, the nearest is 1");
+    EXPECT_TRUE(firmware.received.isEmpty());
+
+    EXPECT_EQ(call("EXEC_B", "TINT", weight.answer).retCode, 0);
+    EXPECT_EQ(firmware.received[0].second,
+              (QList<int>{0, 3, 1, 0, 50, 1, 1, 2, 0, 50, 1, 34, 3, 0, 50, 2, 16, 4}));
+    EXPECT_EQ(call("EXEC_B", "TINT", strokes.answer).retCode, 0);
+    EXPECT_EQ(firmware.received[1].second, (QList<int>{0, 2, 1, 0, 50, 2, 154, 1, 2, 0, 50, 2, 62, 3}));
+}
+
+TEST_F(DriverPourTest, aHundredthMoreOrLessIsPoured)
+{
+    const WatchedFirmware &firmware = addSimulated(pouringMachine(), 1000);
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 0.504}})).retCode, 0); // 0.8 % more than 50 steps
+    EXPECT_EQ(firmware.received[0].second.last(), 50);
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 0.496}})).retCode, 0);
+    EXPECT_EQ(firmware.received[1].second.last(), 50);
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 0.345}})).retCode, 1);
+    // what is named twice is poured at once
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 0.004}, {"A", 0.006}, {"A", 0}})).retCode, 0);
+    EXPECT_EQ(firmware.received[2].second.last(), 1);
+    // a pack is no amount
+    EXPECT_EQ(call("EXEC_B", "PACK", 0, formula({{"C", 1}}, 2)).retCode, 0);
+}
+
+TEST_F(DriverPourTest, theTimeOfWhatWouldBeRefusedIsRefusedAsWell)
+{
+    addSimulated(pouringMachine(), 10);
+    XmlRpcValue asked;
+    asked["command"] = arrayOf("TINT", formula({{"A", 0}, {"B", 5}}));
+    const Envelope refused = call("EXEC_B", "GET_CMD_EST_EXEC_TIME", asked);
+    EXPECT_EQ(refused.error(), "DE03140 A quantity of 0 cannot be poured: \"A\"");
+    EXPECT_EQ(Formula(refused.answer).items().size(), 1);
+}
+
+TEST_F(DriverPourTest, aPourThatGaveLessTellsItBesideItsAnswer)
+{
+    FW_Dispenser real = pouringMachine();
+    real.getCanisterById(11)->setCurrentQuantity(4);
+    real.getCanisterById(13)->setCurrentQuantity(1);
+    addSimulated(pouringMachine(), 1000, &real);
+    const std::string id = begin("TINT", formula({{"A", 10}, {"B", 1}}));
+    const Envelope weight = end(id);
+    EXPECT_EQ(weight.retCode, 0); // it was carried out, and is not to be sent again
+    EXPECT_EQ(weight.error(), "DE03142 Less was poured than asked: \"A\" 4 of 10, in steps 400 of 1000");
+    EXPECT_EQ(ticket(id).number("status"), 0);
+    EXPECT_EQ(call("EXEC_B", "PRIMING", formula({{"C", 2}}, 2)).error(),
+              "DE03142 Less was poured than asked: \"C\" 0.25 of 2, in steps 100 of 800");
+    XmlRpcValue steps = formula({}, 1);
+    steps["formula_type"] = 3;
+    steps["ids"][0] = 11;
+    steps["quantities"][0] = 20;
+    EXPECT_EQ(call("EXEC_B", "TINT", steps).error(),
+              "DE03142 Less was poured than asked: canister 11 0 of 20");
+    EXPECT_EQ(call("EXEC_B", "PACK", 0, formula({{"C", 1}}, 2)).error(), "");
+}
+
 TEST_F(DriverPourTest, levelsFallByWhatWasReallyPoured)
 {
     FW_Dispenser real = pouringMachine();

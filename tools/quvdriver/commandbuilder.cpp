@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "commandbuilder.h"
 
+#include "amounts.h"
 #include "drivenmachine.h"
 
 #include "catalogue/protocommandlist.h"
@@ -19,13 +20,11 @@ bool isNamed(const QString &name, Catalogue::CommandListValue value)
     return name == Catalogue::cmdStr(value);
 }
 
-} // namespace
-
-std::unique_ptr<ProtoCommand> buildCommand(const QString &name, XmlRpc::XmlRpcValue arguments,
-                                           const DrivenMachine *machine)
+std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcValue arguments,
+                                          const DrivenMachine *machine)
 {
     if (isNamed(name, Catalogue::TINT2)) {
-        auto command = buildCommand(Catalogue::cmdStr(Catalogue::TINT), arguments, machine);
+        auto command = makeCommand(Catalogue::cmdStr(Catalogue::TINT), arguments, machine);
         command->setCommand(name);
         return command;
     }
@@ -38,6 +37,16 @@ std::unique_ptr<ProtoCommand> buildCommand(const QString &name, XmlRpc::XmlRpcVa
             return std::make_unique<TurntablePurgeFormulaCmd>(arguments, machine->tablePosition(), dispenser);
     }
     return std::unique_ptr<ProtoCommand>(Catalogue::getProtoCommand(name, arguments, copy.get()));
+}
+
+} // namespace
+
+std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
+                                           const DrivenMachine *machine)
+{
+    auto command = makeCommand(name, arguments, machine);
+    requirePourableAmounts(*command);
+    return command;
 }
 
 qint64 estimatedTime(const ProtoCommand &command, const DrivenMachine *machine)

@@ -13,9 +13,9 @@ class DrivenMachine;
  * The command that a client asks for, made for \a machine as it is now; null for none. On a machine with a turntable a tint
  * and a purge pour in the order in which the table reaches the circuits; TINT2 is a tint under its other code.
  *
- * \throws FW_Exception as ProtoCommandList::getProtoCommand does
+ * \throws FW_Exception as ProtoCommandList::getProtoCommand does, CallRefusal as requirePourableAmounts
  */
-std::unique_ptr<ProtoCommand> buildCommand(const QString &name, XmlRpc::XmlRpcValue arguments,
+std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                                            const DrivenMachine *machine);
 
 /// Milliseconds that the command should take on \a machine, a faster one taking less; 0 or less when nobody knows.

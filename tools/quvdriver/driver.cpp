@@ -70,7 +70,7 @@ XmlRpcValue enveloped(const QString &name, Work work)
     try {
         return work();
     } catch (const CallRefusal &refusal) {
-        return failure(refusal.retCode, refusal.error, name);
+        return ErrorAnswer::getErrorReturn(refusal.retCode, refusal.answer, refusal.errors, name);
     } catch (const FW_Exception &error) {
         FW_ErrorList errors;
         errors.append(bounded(error));
@@ -306,7 +306,7 @@ FW_ErrorList Driver::finishPour(const Task &task)
 {
     task.machine->setRunningPour(task.claim, describedPour(*task.command, task.expected));
     waitWhile(&DispenserStatusAnswer::tinting, *task.machine, task.expected, m_ending);
-    return takePourFromLevels(*task.machine);
+    return takePourFromLevels(*task.machine, *task.command);
 }
 
 /// The firmware makes its configuration permanent. The driver's machine follows it when it has.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "pouring.h"
 
+#include "amounts.h"
 #include "machinewatch.h"
 
 #include "base/protocommand.h"
@@ -39,6 +40,63 @@ FW_ErrorList levelsAsTheyWere(const QString &reason)
     return errors;
 }
 
+double stepsAt(const Formula &formula, const QString &position)
+{
+    double steps = 0;
+    for (const FormulaItem &item : formula.items()) {
+        if (item.id == position)
+            steps += item.quantity;
+    }
+    return steps;
+}
+
+/// What of the formula a circuit pours, in the words of who asked: of "B" 4 of 10.
+QString pouredInWords(const ProtoCommand &command, int position, qint64 poured)
+{
+    const std::optional<Formula> formula = pouredFormula(command);
+    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(command.machine());
+    const FW_Circuit *circuit = dispenser ? dispenser->getCircuitByPosition(position) : nullptr;
+    if (!formula || !circuit)
+        return QStringLiteral("position %1").arg(position);
+    const std::vector<Amount> amounts = amountsOf(*formula, *dispenser);
+    const auto amount = std::find_if(amounts.begin(), amounts.end(), [position](const Amount &candidate) {
+        return candidate.position == position;
+    });
+    const auto quantity = quantityOf(poured, *circuit, formula->quantityUnit());
+    if (amount == amounts.end() || !quantity)
+        return QStringLiteral("position %1").arg(position);
+    const QString name = nameInWords(amount->id, formula->formulaType());
+    return formula->quantityUnit() == Formula::Steps
+               ? name
+               : QStringLiteral("%1 %2 of %3, in steps")
+                     .arg(name, quantityInWords(*quantity), quantityInWords(amount->asked));
+}
+
+/// A pack and an air purge move the pumps, and nothing is to leave the nozzles.
+bool isToPour(const QString &name)
+{
+    return name != ProtoCommandList::cmdStr(ProtoCommandList::PACK) &&
+           name != ProtoCommandList::cmdStr(ProtoCommandList::PACK2) &&
+           name != ProtoCommandList::cmdStr(ProtoCommandList::AIRPURGE);
+}
+
+FW_ErrorList lessThanAsked(const ProtoCommand &command, const GetDispensedFormulaAnswer &report)
+{
+    FW_ErrorList errors;
+    if (!isToPour(command.command()))
+        return errors;
+    for (const FormulaItem &total : report.totalFormula().items()) {
+        const double poured = stepsAt(report.dispensedFormula(), total.id);
+        if (poured < total.quantity)
+            errors.append(FW_DriverError(
+                QStringLiteral("DE03142"),
+                QStringLiteral("Less was poured than asked: %1 %2 of %3")
+                    .arg(pouredInWords(command, total.id.toInt(), static_cast<qint64>(poured)),
+                         QString::number(poured, 'f', 0), QString::number(total.quantity, 'f', 0))));
+    }
+    return errors;
+}
+
 } // namespace
 
 RunningPour describedPour(const ProtoCommand &command, qint64 expected)
@@ -56,23 +114,24 @@ RunningPour describedPour(const ProtoCommand &command, qint64 expected)
     return pour;
 }
 
-FW_ErrorList takePourFromLevels(DrivenMachine &machine)
+FW_ErrorList takePourFromLevels(DrivenMachine &machine, const ProtoCommand &command)
 {
     const FirmwareReply reply = ask(machine, ProtoCommandList::GET_DISPENSED_FORMULA);
     if (reply.refused)
         return levelsAsTheyWere(QStringLiteral("it refuses to"));
     try {
-        const Formula poured = GetDispensedFormulaAnswer(reply.tokens).dispensedFormula();
+        const GetDispensedFormulaAnswer report(reply.tokens);
+        const Formula &poured = report.dispensedFormula();
         machine.change([&poured](FW_Dispenser &dispenser) {
             for (const FormulaItem &item : poured.items())
                 takeSteps(dispenser, item);
         });
         if (!poured.isEmpty())
             machine.setTablePosition(poured.items().constLast().id.toInt());
+        return lessThanAsked(command, report);
     } catch (const FW_Exception &error) {
         return levelsAsTheyWere(error.text());
     }
-    return {};
 }
 
 } // namespace quv

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include <QuvFramework/fw_error.h>
+#include <QuvFramework/fw_errorlist.h>
+
+#include <xmlrpcpp/XmlRpcValue.h>
 
 namespace quv {
 
@@ -21,13 +23,21 @@ enum RetCode {
 /// A request that the driver itself refuses. Caught where the envelope is made.
 struct CallRefusal
 {
+    CallRefusal(RetCode code, const FW_DriverError &error) : retCode(code) { errors.append(error); }
+    CallRefusal(RetCode code, FW_ErrorList reasons, const XmlRpc::XmlRpcValue &value = XmlRpc::XmlRpcValue(0))
+        : retCode(code),
+          errors(std::move(reasons)),
+          answer(value)
+    {}
+
     RetCode retCode = OtherFailure;
-    FW_DriverError error{};
+    FW_ErrorList errors{};
+    XmlRpc::XmlRpcValue answer = XmlRpc::XmlRpcValue(0); ///< what would be good instead; 0 for nothing
 };
 
 [[noreturn]] inline void refuse(RetCode retCode, const char *code, const QString &text)
 {
-    throw CallRefusal{retCode, FW_DriverError(QLatin1String(code), text)};
+    throw CallRefusal(retCode, FW_DriverError(QLatin1String(code), text));
 }
 
 [[noreturn]] inline void refuseWithoutMachine()
