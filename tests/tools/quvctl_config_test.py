@@ -381,9 +381,9 @@ class Limits(ConfigTest):
         count = 30000
         self.put("quvctl configuration 1\n" + "".join(f"[{27 + n}]\ncmd_enabled = 1\n" for n in range(count)))
         with ScriptedDriver({(7, 1): HUMIDIFIER}) as driver:
-            begin = time.monotonic()
+            before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
             code, out, err = self.config(driver, "diff")
-            self.assertLess(time.monotonic() - begin, 5)
+            self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before, 5)
         self.assertEqual((code, out), (0, "no differences\n"))
         self.assertEqual(err.count("\n"), count)
 
