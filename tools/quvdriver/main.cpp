@@ -217,12 +217,17 @@ void run(const Options &options)
     if (options.trace)
         trace.emplace(*options.trace,
                       [](const std::string &line) { std::fwrite(line.data(), 1, line.size(), stderr); });
+    const auto told = [&trace](const quv::MethodCall &call, const auto &handle) {
+        return trace ? trace->call(call, handle) : handle();
+    };
     quv::Driver driver;
     addMachines(driver, options, trace ? &*trace : nullptr);
     std::atomic<bool> isUsed{false};
     quv::XmlRpcServerOptions serverOptions = options.server;
     serverOptions.mayLast = quv::Driver::mayLast;
-    serverOptions.refuseLongCall = quv::Driver::refuseLongCall;
+    serverOptions.refuseLongCall = [&told](const quv::MethodCall &call) {
+        return told(call, [&call] { return quv::Driver::refuseLongCall(call); });
+    };
     quv::XmlRpcServer server(
         [&](const quv::MethodCall &call, quv::Ending &gone) {
             if (options.once) {
@@ -231,8 +236,7 @@ void run(const Options &options)
                 // It still answers the call that it is in.
                 server.stop();
             }
-            const auto handle = [&] { return driver.call(call, gone); };
-            return trace ? trace->call(call, handle) : handle();
+            return told(call, [&] { return driver.call(call, gone); });
         },
         serverOptions);
     try {
