@@ -101,7 +101,7 @@ std::string readToken(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw fail(file.errorString());
-    const std::string token = file.read(MaxToken + 3).trimmed().toStdString();
+    std::string token = file.read(MaxToken + 3).trimmed().toStdString();
     if (token.size() < MinToken || token.size() > MaxToken ||
         !std::all_of(token.begin(), token.end(), isVisible))
         throw fail(QStringLiteral("it must hold one line of %1 to %2 characters, without blanks")

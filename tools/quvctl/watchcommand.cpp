@@ -112,16 +112,17 @@ public:
     void take(const Observation &now)
     {
         m_hasSeenAStatus = m_hasSeenAStatus || now.status;
-        if (now.reply == m_last)
+        std::string told = writeJson(now.reply);
+        if (told == m_last)
             return;
-        m_last = now.reply;
+        m_last = std::move(told);
         OrderedJson reply = now.reply;
         reply["time"] = toJson(QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
         printLine(QString::fromStdString(writeJson(reply)));
     }
 
 private:
-    OrderedJson m_last;
+    std::string m_last{};
     bool m_hasSeenAStatus = false;
 };
 

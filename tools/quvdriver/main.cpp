@@ -21,6 +21,8 @@
 #include <stdexcept>
 #include <thread>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr int Done = 0;
@@ -203,8 +205,8 @@ public:
         int signal = 0;
         sigwait(&m_signals, &signal);
     }
-    /// Ends wait() in \a thread.
-    static void send(pthread_t thread) { pthread_kill(thread, SIGTERM); }
+    /// Ends wait().
+    static void send() { ::kill(::getpid(), SIGTERM); }
 
 private:
     sigset_t m_signals{};
@@ -249,9 +251,9 @@ void run(const Options &options)
     std::signal(SIGPIPE, SIG_IGN);
     std::printf("listening on %s:%d\n", qPrintable(options.server.host), server.port());
     std::fflush(stdout);
-    std::thread serving = quv::startQuietThread([&server, mainThread = pthread_self()] {
+    std::thread serving = quv::startQuietThread([&server] {
         server.run();
-        EndSignals::send(mainThread); // when it has ended by itself
+        EndSignals::send(); // when it has ended by itself
     });
     signals.wait();
     // The server waits for the calls that it is in, and the driver must not keep them.
