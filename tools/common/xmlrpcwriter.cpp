@@ -3,12 +3,14 @@
 
 #include <QuvFramework/fw_xmlrpc.h>
 
-#include <QtCore/QXmlStreamWriter>
+#include <QtCore/QVector>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <ctime>
+#include <string>
 
 namespace quv {
 namespace {
@@ -24,6 +26,9 @@ bool isXmlCharacter(uint c)
 /// The text with U+FFFD for each character that XML 1.0 cannot carry, half surrogate pairs among them.
 QString xmlText(const QString &text)
 {
+    const auto isPlain = [](QChar c) { return !c.isSurrogate() && isXmlCharacter(c.unicode()); };
+    if (std::all_of(text.begin(), text.end(), isPlain))
+        return text;
     QVector<uint> characters = text.toUcs4();
     for (uint &c : characters) {
         if (!isXmlCharacter(c))
@@ -58,6 +63,92 @@ QString dateTimeText(const std::tm &time)
            QLatin1Char(':') + digits(time.tm_sec, 2);
 }
 
+/// What QXmlStreamWriter writes of elements and texts, as UTF-8 and without its detour by a codec and a device, which took
+/// most of the time of a call.
+class XmlStream
+{
+public:
+    void writeStartDocument() { m_document += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"; }
+    void writeEndDocument();
+    void writeStartElement(QLatin1String name);
+    void writeEndElement();
+    void writeCharacters(const QString &text);
+    void writePlain(const std::string &text); ///< in which nothing needs to be escaped
+    void writeEntityReference(const QString &name);
+
+    QByteArray document() const { return QByteArray::fromStdString(m_document); }
+
+private:
+    void finishStart();
+
+    std::string m_document{};
+    QVector<QLatin1String> m_open{};
+    bool m_isStarting = false; ///< the start tag may yet become that of an empty element
+};
+
+void XmlStream::finishStart()
+{
+    if (m_isStarting)
+        m_document += '>';
+    m_isStarting = false;
+}
+
+void XmlStream::writeStartElement(QLatin1String name)
+{
+    finishStart();
+    m_document += '<';
+    m_document.append(name.data(), static_cast<std::size_t>(name.size()));
+    m_open.append(name);
+    m_isStarting = true;
+}
+
+void XmlStream::writeEndElement()
+{
+    const QLatin1String name = m_open.takeLast();
+    if (m_isStarting) {
+        m_document += "/>";
+    } else {
+        m_document += "</";
+        m_document.append(name.data(), static_cast<std::size_t>(name.size()));
+        m_document += '>';
+    }
+    m_isStarting = false;
+}
+
+void XmlStream::writeEndDocument()
+{
+    while (!m_open.isEmpty())
+        writeEndElement();
+    m_document += '\n';
+}
+
+void XmlStream::writeCharacters(const QString &text)
+{
+    finishStart();
+    const std::string characters = text.toStdString();
+    std::size_t begin = 0;
+    for (auto at = characters.find_first_of("<>&\""); at != std::string::npos;
+         at = characters.find_first_of("<>&\"", begin)) {
+        m_document.append(characters, begin, at - begin);
+        const char c = characters[at];
+        m_document += c == '<' ? "&lt;" : c == '>' ? "&gt;" : c == '&' ? "&amp;" : "&quot;";
+        begin = at + 1;
+    }
+    m_document.append(characters, begin, std::string::npos);
+}
+
+void XmlStream::writePlain(const std::string &text)
+{
+    finishStart();
+    m_document += text;
+}
+
+void XmlStream::writeEntityReference(const QString &name)
+{
+    finishStart();
+    m_document += '&' + name.toStdString() + ';';
+}
+
 class Writer
 {
 public:
@@ -79,9 +170,10 @@ private:
     void typedValue(const XmlRpcValue &value);
     void array(const XmlRpcValue &value);
     void structure(const XmlRpcValue &value);
+    void textElement(const char *name, const std::string &content);
+    void plainElement(const char *name, const std::string &content);
 
-    QByteArray m_document{};
-    QXmlStreamWriter m_xml{&m_document};
+    XmlStream m_xml{};
     int m_nesting = 0;
 };
 
@@ -110,6 +202,25 @@ void Writer::element(const char *name, const QString &content)
 {
     start(name);
     text(content);
+    end();
+}
+
+/// A text of a value, in whatever encoding; mostly it is one that needs no look at each character.
+void Writer::textElement(const char *name, const std::string &content)
+{
+    const auto isPlain = [](char c) {
+        return c >= ' ' && c <= '~' && c != '<' && c != '>' && c != '&' && c != '"';
+    };
+    if (std::all_of(content.begin(), content.end(), isPlain))
+        plainElement(name, content);
+    else
+        element(name, DecodeXmlRpcText(content));
+}
+
+void Writer::plainElement(const char *name, const std::string &content)
+{
+    start(name);
+    m_xml.writePlain(content);
     end();
 }
 
@@ -146,7 +257,7 @@ void Writer::fault(const Fault &fault)
 QByteArray Writer::document()
 {
     m_xml.writeEndDocument();
-    return m_document;
+    return m_xml.document();
 }
 
 void Writer::param(const XmlRpcValue &parameter)
@@ -169,14 +280,13 @@ void Writer::typedValue(const XmlRpcValue &value)
     case XmlRpcValue::TypeInvalid:
         return element("i4", QStringLiteral("0"));
     case XmlRpcValue::TypeBoolean:
-        return element("boolean",
-                       static_cast<const bool &>(value) ? QStringLiteral("1") : QStringLiteral("0"));
+        return plainElement("boolean", static_cast<const bool &>(value) ? "1" : "0");
     case XmlRpcValue::TypeInt:
-        return element("i4", QString::number(static_cast<const int &>(value)));
+        return plainElement("i4", std::to_string(static_cast<const int &>(value)));
     case XmlRpcValue::TypeDouble:
         return element("double", doubleText(static_cast<const double &>(value)));
     case XmlRpcValue::TypeString:
-        return element("string", DecodeXmlRpcText(static_cast<const std::string &>(value)));
+        return textElement("string", static_cast<const std::string &>(value));
     case XmlRpcValue::TypeDateTime:
         return element("dateTime.iso8601", dateTimeText(static_cast<const std::tm &>(value)));
     case XmlRpcValue::TypeBase64: {
@@ -212,7 +322,7 @@ void Writer::structure(const XmlRpcValue &members)
     start("struct");
     for (const auto &[name, member] : members) {
         start("member");
-        element("name", DecodeXmlRpcText(name));
+        textElement("name", name);
         value(member);
         end();
     }
