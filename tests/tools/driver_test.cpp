@@ -305,6 +305,50 @@ TEST_F(DriverTest, theDriversEndInterruptsTheWaiting)
     EXPECT_EQ(envelope.error(), "DE03116 The driver ends before the command has");
 }
 
+TEST_F(DriverTest, aClientThatGoesInterruptsItsWaitingAndNothingElse)
+{
+    addDispenser(IdleTokens);
+    const XmlRpcValue idle = call("EXEC_B", "GET_STATUS").answer;
+    auto waiting = std::async(
+        std::launch::async, [&] { return call("EXEC_NC", "GET_STATUS", idleAnswer(idle), 600000, 600000); });
+    EXPECT_EQ(waiting.wait_for(50ms), std::future_status::timeout);
+    m_gone.begin();
+    ASSERT_EQ(waiting.wait_for(5s), std::future_status::ready);
+    const Envelope envelope = waiting.get();
+    EXPECT_EQ(envelope.retCode, 7);
+    EXPECT_EQ(envelope.error(), "DE03131 The client has gone before the answer has changed");
+    EXPECT_EQ(call("EXEC_B", "GET_STATUS").retCode, 0);
+}
+
+TEST_F(DriverTest, whatPoursOrWaitsMayLast)
+{
+    const auto mayLast = [](const char *method, const auto &...params) {
+        return quv::Driver::mayLast({QLatin1String(method), arrayOf(params...)});
+    };
+    const XmlRpcValue last = idleAnswer(5);
+    EXPECT_TRUE(mayLast("EXEC_B", "TINT"));
+    EXPECT_TRUE(mayLast("EXEC_NC", "PURGE", 1));
+    EXPECT_TRUE(mayLast("EXEC_B", "lead", "FINALIZE_CONFIG"));
+    EXPECT_TRUE(mayLast("EXEC_NC", "GET_STATUS", last, 10, 10));
+    EXPECT_TRUE(mayLast("EXEC_NC", "lead", "GET_STATUS", 10, 10));
+    EXPECT_FALSE(mayLast("EXEC_B", "GET_STATUS", last, 10, 10));
+    EXPECT_FALSE(mayLast("EXEC_NC", "GET_STATUS"));
+    EXPECT_FALSE(mayLast("EXEC_B", "STOP"));
+    EXPECT_FALSE(mayLast("EXEC_NB", "TINT"));
+    EXPECT_FALSE(mayLast("EXEC_NB", "FINALIZE_CONFIG"));
+    EXPECT_FALSE(mayLast("EXEC_B", "NOPE"));
+    EXPECT_FALSE(mayLast("EXEC_B", 5));
+    EXPECT_FALSE(mayLast("OTHER", "TINT"));
+}
+
+TEST_F(DriverTest, aCallTooManyOfThoseThatLastIsRefused)
+{
+    const Envelope envelope(quv::Driver::refuseLongCall({QStringLiteral("EXEC_B"), arrayOf("TINT")}));
+    EXPECT_EQ(envelope.retCode, 6);
+    EXPECT_EQ(envelope.error(),
+              "DE03130 Too many calls wait for their end; a call with a ticket (EXEC_NB) does not");
+}
+
 TEST_F(DriverTest, anUnknownMethodIsAFault)
 {
     for (const char *method : {"", "exec_b", "EXEC_", "system.listMethods"}) {
