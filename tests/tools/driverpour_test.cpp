@@ -313,6 +313,69 @@ TEST_F(DriverPourTest, aPourThatGaveLessTellsItBesideItsAnswer)
     EXPECT_EQ(call("EXEC_B", "PACK", 0, formula({{"C", 1}}, 2)).error(), "");
 }
 
+TEST_F(DriverPourTest, whatWasPouredIsToldAsItIsAskedFor)
+{
+    FW_Dispenser machine = pouringMachine();
+    FW_Circuit second(31, 7); // of canister 11, with a pump of its own
+    FW_DosingMotor motor;
+    motor.setResolution(200);
+    motor.setMaxSpeed(50);
+    motor.setStepsPerStroke(100);
+    second.setDosingMotor(motor);
+    second.setCalibration(FW_Calibration({{10, 1, 50, 0}}));
+    machine.getCanisterById(11)->addCircuit(second);
+    FW_Dispenser real = machine;
+    real.getCanisterById(12)->setCurrentQuantity(1.5);
+    addSimulated(machine, 1000, &real);
+    XmlRpcValue asked = formula({}, 1);
+    asked["formula_type"] = 1;
+    int i = 0;
+    for (const auto &[position, steps] : {std::pair(1, 1000.0), std::pair(7, 50.0), std::pair(2, 200.0)}) {
+        asked["ids"][i] = position;
+        asked["quantities"][i++] = steps;
+    }
+    EXPECT_EQ(call("EXEC_B", "TINT", asked).retCode, 0);
+    const auto told = [this](int type, int unit, const char *key) {
+        const Envelope report = call("EXEC_B", "GET_DISPENSED_FORMULA", type, unit);
+        const Formula formula(report.member(key));
+        EXPECT_EQ(formula.formulaType(), type);
+        EXPECT_EQ(formula.quantityUnit(), unit);
+        QStringList items;
+        for (const FormulaItem &item : formula.items())
+            items.append(QStringLiteral("%1 %2").arg(item.id).arg(item.quantity));
+        return items.join(QStringLiteral(", ")).toStdString();
+    };
+    EXPECT_EQ(told(1, 1, "dispensed_formula"), "1 1000, 7 50, 2 150");
+    EXPECT_EQ(told(1, 3, "dispensed_formula"), "1 10, 7 5, 2 1.5");
+    EXPECT_EQ(told(1, 0, "dispensed_formula"), "1 10, 7 5, 2 1.5");
+    EXPECT_EQ(told(2, 2, "dispensed_formula"), "21 2.5, 31 0.5, 22 0.375");
+    EXPECT_EQ(told(3, 1, "dispensed_formula"), "11 1050, 12 150");
+    EXPECT_EQ(told(4, 3, "dispensed_formula"), "A 15, B 1.5");
+    EXPECT_EQ(told(4, 3, "total_formula"), "A 15, B 2");
+}
+
+TEST_F(DriverPourTest, whatCannotBeToldAsItIsAskedForIsRefused)
+{
+    FW_Dispenser machine = pouringMachine();
+    machine.getCircuitByPosition(1)->setCalibration(FW_Calibration());
+    FW_DosingMotor motor;
+    motor.setResolution(200);
+    motor.setMaxSpeed(50);
+    machine.getCircuitByPosition(1)->setDosingMotor(motor);
+    machine.getCanisterById(11)->setColorantCode(QString());
+    addSimulated(machine, 1000);
+    XmlRpcValue asked = formula({}, 1);
+    asked["formula_type"] = 1;
+    asked["ids"][0] = 1;
+    asked["quantities"][0] = 10;
+    EXPECT_EQ(call("EXEC_B", "TINT", asked).retCode, 0);
+    const std::string words = "DE03143 What the circuit at position 1 poured cannot be told in ";
+    EXPECT_EQ(call("EXEC_B", "GET_DISPENSED_FORMULA").error(), words + "weight or volume");
+    EXPECT_EQ(call("EXEC_B", "GET_DISPENSED_FORMULA", 3, 2).error(), words + "strokes");
+    EXPECT_EQ(call("EXEC_B", "GET_DISPENSED_FORMULA", 4, 1).error(), words + "colorants");
+    EXPECT_EQ(call("EXEC_B", "GET_DISPENSED_FORMULA", 3, 1).retCode, 0);
+}
+
 TEST_F(DriverPourTest, levelsFallByWhatWasReallyPoured)
 {
     FW_Dispenser real = pouringMachine();

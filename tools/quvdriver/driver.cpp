@@ -2,6 +2,7 @@
 #include "driver.h"
 
 #include "commandbuilder.h"
+#include "dispensedformula.h"
 #include "driverqueries.h"
 #include "excerpt.h"
 #include "machineconfiguration.h"
@@ -295,6 +296,8 @@ FW_ErrorList Driver::finish(const Task &task)
         return finishPour(task);
     if (task.name == ProtoCommandList::cmdStr(ProtoCommandList::FINALIZE_CONFIG))
         return finishConfiguration(task);
+    if (task.name == ProtoCommandList::cmdStr(ProtoCommandList::GET_DISPENSED_FORMULA))
+        answerAsAsked(*task.command, *task.machine);
     const auto *write = dynamic_cast<const WriteConfigurationParamCmd *>(task.command.get());
     if (write && write->confData())
         task.machine->rowWritten(writtenRow(*write->confData()));
