@@ -137,7 +137,7 @@ TEST_F(DriverPourTest, aCommandThatTheFirmwareRefusesEndsItsTicketInErrors)
     EXPECT_EQ(ticket(id).number("status"), -1);
     EXPECT_EQ(result.retCode, 4);
     EXPECT_EQ(result.error(),
-              "DE03106 The firmware refused the code 0001; masks of the reasons: 0x0 and 0x8");
+              "DE03106 The firmware refused the code 0001: the machine is not available (masks 0x0 and 0x8)");
 }
 
 TEST_F(DriverPourTest, anUnknownTicket)
@@ -175,8 +175,10 @@ TEST_F(DriverPourTest, aRefusedTintDoesNotKeepTheMachine)
     addSimulated(pouringMachine(), 100);
     XmlRpcValue tooMuch = formula({{"A", 600}});
     tooMuch["levels_policy"] = 2;
-    EXPECT_EQ(call("EXEC_B", "TINT", tooMuch).error(),
-              "DE00061 Formula interrupted because the current amount would go below zero");
+    EXPECT_EQ(
+        call("EXEC_B", "TINT", tooMuch).error(),
+        "DE00061 Formula interrupted because the current amount would go below zero|"
+        "DE03144 Canister 11 (\"A\") holds 500; without 600 it would fall below its critical level of 20");
     EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 1}})).retCode, 0);
 }
 
@@ -187,8 +189,10 @@ TEST_F(DriverPourTest, theLevelsOfTheLastPourAreThoseThatTheNextIsCheckedBy)
     most["levels_policy"] = 2;
     EXPECT_EQ(call("EXEC_B", "TINT", most).retCode, 0);
     EXPECT_EQ(level(11), "200");
-    EXPECT_EQ(call("EXEC_B", "TINT", most).error(),
-              "DE00061 Formula interrupted because the current amount would go below zero");
+    EXPECT_EQ(
+        call("EXEC_B", "TINT", most).error(),
+        "DE00061 Formula interrupted because the current amount would go below zero|"
+        "DE03144 Canister 11 (\"A\") holds 200; without 300 it would fall below its critical level of 20");
 }
 
 TEST_F(DriverPourTest, aPourTellsHowFarItIs)

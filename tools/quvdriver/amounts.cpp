@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "amounts.h"
 
+#include "quantities.h"
 #include "refusal.h"
 
 #include "base/protocommand.h"
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace quv {
 namespace {
@@ -28,34 +28,11 @@ bool poursFormula(const QString &name)
                        [&name](Catalogue::CommandListValue row) { return name == Catalogue::cmdStr(row); });
 }
 
-Formula addedUp(const Formula &formula)
-{
-    Formula once = formula;
-    once.setItems({});
-    QVector<FormulaItem> items;
-    for (const FormulaItem &item : formula.items()) {
-        const auto known = std::find_if(items.begin(), items.end(),
-                                        [&item](const FormulaItem &other) { return other.id == item.id; });
-        if (known == items.end())
-            items.append(item);
-        else
-            known->quantity += item.quantity;
-    }
-    once.setItems(items);
-    return once;
-}
-
 std::optional<double> nearestQuantity(const CircuitFormulaItem &circuit, double asked, int unit)
 {
     if (unit == Formula::Strokes) // half a stroke is a whole one to the machine
-        return std::max(std::round(asked), 1.0);
+        return nearestCount(asked);
     return quantityOf(std::max(circuit.steps(), 1LL), circuit, unit);
-}
-
-bool isNear(const Amount &amount)
-{
-    constexpr double Tolerance = 0.01;
-    return !amount.nearest || std::abs(*amount.nearest - amount.asked) <= amount.asked * Tolerance;
 }
 
 QString inFull(double quantity)
@@ -150,12 +127,6 @@ QString nameInWords(const QString &id, int formulaType)
     }
 }
 
-QString quantityInWords(double quantity)
-{
-    constexpr int Digits = 6;
-    return QString::number(quantity, 'g', std::abs(quantity) < 1e6 ? Digits : QLocale::FloatingPointShortest);
-}
-
 void requirePourableAmounts(const ProtoCommand &command)
 {
     const std::optional<Formula> formula = pouredFormula(command);
@@ -175,7 +146,7 @@ void requirePourableAmounts(const ProtoCommand &command)
             errors.append(nothingAsked(name));
             continue;
         }
-        if (!isNear(amount)) {
+        if (amount.nearest && !isNear(*amount.nearest, amount.asked)) {
             errors.append(notNear(name, nearestInWords(amount, formula->quantityUnit())));
             item.quantity = *amount.nearest;
         }

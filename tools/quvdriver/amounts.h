@@ -36,8 +36,6 @@ std::optional<double> quantityOf(qint64 steps, const FW_Circuit &circuit, int un
 
 /// "B", or circuit 3: what a text calls it.
 QString nameInWords(const QString &id, int formulaType);
-/// A quantity for people: six digits at most.
-QString quantityInWords(double quantity);
 
 /**
  * Checks that the machine can pour what the command asks for: nothing of which 0 is asked, and nothing that rounds to steps or

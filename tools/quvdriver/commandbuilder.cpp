@@ -3,10 +3,14 @@
 
 #include "amounts.h"
 #include "drivenmachine.h"
+#include "lowlevels.h"
+#include "refusal.h"
 
 #include "catalogue/protocommandlist.h"
 #include "dispensing/turntablepurgeformulacmd.h"
 #include "dispensing/turntabletintcmd.h"
+
+#include <QuvFramework/fw_exception.h>
 
 #include <cmath>
 
@@ -44,9 +48,20 @@ std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcVal
 std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                                            const DrivenMachine *machine)
 {
-    auto command = makeCommand(name, arguments, machine);
-    requirePourableAmounts(*command);
-    return command;
+    try {
+        auto command = makeCommand(name, arguments, machine);
+        requirePourableAmounts(*command);
+        return command;
+    } catch (const FW_Exception &error) {
+        const FW_ErrorList canisters =
+            Catalogue::erogationCommand(name) ? lowLevels(arguments, machine) : FW_ErrorList();
+        if (canisters.isEmpty())
+            throw;
+        FW_ErrorList errors;
+        errors.append(error);
+        errors.append(canisters);
+        throw CallRefusal(InvalidRequest, errors);
+    }
 }
 
 qint64 estimatedTime(const ProtoCommand &command, const DrivenMachine *machine)

@@ -13,7 +13,8 @@ class DrivenMachine;
  * The command that a client asks for, made for \a machine as it is now; null for none. On a machine with a turntable a tint
  * and a purge pour in the order in which the table reaches the circuits; TINT2 is a tint under its other code.
  *
- * \throws FW_Exception as ProtoCommandList::getProtoCommand does, CallRefusal as requirePourableAmounts
+ * \throws FW_Exception as ProtoCommandList::getProtoCommand does, CallRefusal as requirePourableAmounts, and
+ * with the canisters that hold too little behind the command's own error
  */
 std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                                            const DrivenMachine *machine);

@@ -3,13 +3,12 @@
 
 #include "amounts.h"
 #include "drivenmachine.h"
+#include "quantities.h"
 #include "refusal.h"
 
 #include "base/protocommand.h"
 #include "dispensing/getdispensedformulaanswer.h"
 #include "dispensing/getdispensedformulacmdbase.h"
-
-#include <algorithm>
 
 namespace quv {
 namespace {
@@ -74,21 +73,13 @@ FormulaItem Teller::told(const FormulaItem &item) const
 
 Formula Teller::told(const Formula &bySteps) const
 {
-    QVector<FormulaItem> items;
-    for (const FormulaItem &item : bySteps.items()) {
-        const FormulaItem next = told(item);
-        const auto known = std::find_if(items.begin(), items.end(),
-                                        [&next](const FormulaItem &other) { return other.id == next.id; });
-        if (known == items.end())
-            items.append(next);
-        else
-            known->quantity += next.quantity;
-    }
     Formula formula = bySteps;
     formula.setFormulaType(m_type);
     formula.setQuantityUnit(m_unit);
-    formula.setItems(items);
-    return formula;
+    formula.setItems({});
+    for (const FormulaItem &item : bySteps.items())
+        formula.addItem(told(item));
+    return addedUp(formula);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "machinewatch.h"
 #include "pouring.h"
 #include "refusal.h"
+#include "refusalreasons.h"
 #include "request.h"
 
 #include "base/asyncanswer.h"
@@ -37,13 +38,6 @@ using XmlRpc::XmlRpcValue;
 constexpr int UnknownMethod = -32601;
 constexpr milliseconds ShortestInterval(10);
 constexpr milliseconds LongestTimeout(600000);
-
-/// Bit 3 of a refusal's first mask: the firmware does not know the code.
-bool isUnknownCode(const FirmwareReply &reply)
-{
-    constexpr int Bit = 3;
-    return ((reply.tokens.value(1).toUInt(nullptr, 16) >> Bit) & 1U) != 0;
-}
 
 /// The library's texts repeat what came as a whole.
 FW_DriverError bounded(const FW_DriverError &error)
@@ -281,8 +275,8 @@ void Driver::askFirmware(SerialProtoCommand &command, const Task &task)
         task.machine->exchange(code, command.moduleID(), command.serialParameters(family));
     if (reply.refused)
         refuse(isUnknownCode(reply) ? UnknownToFirmware : RefusedByFirmware, "DE03106",
-               QStringLiteral("The firmware refused the code %1; masks of the reasons: 0x%2 and 0x%3%4")
-                   .arg(code, reply.tokens.value(1), reply.tokens.value(2),
+               QStringLiteral("The firmware refused the code %1: %2%3")
+                   .arg(code, reasonsInWords(reply),
                         reply.reason.isEmpty() ? QString() : QStringLiteral("; ") + reply.reason));
     FW_DriverError error;
     if (!command.setSerialAnswer(reply.tokens, &error))

@@ -3,6 +3,7 @@
 
 #include "amounts.h"
 #include "machinewatch.h"
+#include "quantities.h"
 
 #include "base/protocommand.h"
 #include "catalogue/protocommandlist.h"
