@@ -166,7 +166,7 @@ protected:
             return true;
         } catch (const quv::CallRefusal &refusal) {
             EXPECT_EQ(refusal.retCode, quv::NotCarriedOut);
-            EXPECT_EQ(refusal.error.code(), "DE03150");
+            EXPECT_EQ(dynamic_cast<const FW_DriverError &>(*refusal.errors[0]).code(), "DE03150");
             return false;
         }
     }
