@@ -260,7 +260,7 @@ class Examples(ShowTest):
         text = self.done("show", name)
         shell, python = text[text.index("\nExamples\n") + 10:text.index("\n\nRow ")].split("\n\n", 1)
         out = self.done(*shlex.split(shell)[1:], "--port", str(port))
-        self.assertTrue(out.startswith(f"{name} command executed successfully!\n"), out)
+        self.assertRegex(out, rf"(?m)^{name} command executed successfully!$")
         source = "\n".join(line[2:] for line in python.split("\n")).replace(":9333", f":{port}")
         printed = subprocess.run([sys.executable, "-c", source], capture_output=True, timeout=30, check=True).stdout
         self.assertEqual(ast.literal_eval(printed.decode("utf-8"))["ret_code"], 0, printed)

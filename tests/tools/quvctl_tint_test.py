@@ -7,6 +7,7 @@ import re
 import signal
 import sys
 import tempfile
+import time
 import unittest
 
 import quvctl_process
@@ -21,6 +22,16 @@ def envelope(value, ret_code=0, info="TINT command executed successfully!"):
 def ticket(state, result=0, **members):
     return envelope({"status": state, "info": "", "extra_info": "", "time_left": 0,
                      "percentage": 0 if state > 0 else 100, "cmd_answer": result, **members})
+
+
+def error(code, text):
+    return {"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": code, "text": text}
+
+
+def colorants(unit, **quantities):
+    """A formula of colorants: B=12.5."""
+    return {"formula_type": 4, "quantity_unit": unit, "ids": list(quantities),
+            "quantities": [float(number) for number in quantities.values()]}
 
 
 def steps(**positions):
@@ -43,7 +54,8 @@ class ScriptedDriver(quvctl_process.ScriptedDriver):
     def __init__(self, **script):
         self.script = {"levels": levels(), "start": envelope({"ticket_id": "T-1"}),
                        "tickets": [ticket(0, envelope(0))],
-                       "dispensed": dispensed(steps(p2=300), steps(p2=300)), **script}
+                       "dispensed": {1: dispensed(colorants(1, B=1340), colorants(1, B=1340)),
+                                     3: dispensed(colorants(3, B=12.5), colorants(3, B=12.5))}, **script}
         self.asked = []
         self.started = []
         super().__init__()
@@ -53,11 +65,17 @@ class ScriptedDriver(quvctl_process.ScriptedDriver):
         if name == "GET_CMD_STATUS":
             tickets = self.script["tickets"]
             return tickets.pop(0) if len(tickets) > 1 else tickets[0]
-        return self.script[{"CHECK_FORMULA_LEVELS": "levels", "GET_DISPENSED_FORMULA": "dispensed"}[name]]
+        if name == "GET_DISPENSED_FORMULA":
+            reports = self.script["dispensed"]
+            return reports[params[1]] if 3 in reports else reports
+        return self.script[{"CHECK_FORMULA_LEVELS": "levels", "GET_CMD_EST_EXEC_TIME": "estimate",
+                            "GET_LOW_LEVEL_FORMULA": "plan"}[name]]
 
     def start(self, *params):
         self.started.append(list(params))
-        return self.script["start"]
+        answer = self.script["start"]
+        time.sleep(self.script.get("delay", 0))
+        return answer.pop(0) if isinstance(answer, list) else answer
 
 
 class Requests(unittest.TestCase):
@@ -146,8 +164,7 @@ class Pouring(unittest.TestCase):
     def test_all(self):
         code, out, err, driver = self.tint(
             tickets=[ticket(2), ticket(1, percentage=5, time_left=20000), ticket(1, percentage=14, time_left=18000),
-                     ticket(1, percentage=45, time_left=11500), ticket(0, envelope(0))],
-            dispensed=dispensed(steps(p2=300, p14=1000000), steps(p2=300, p14=1000000)))
+                     ticket(1, percentage=45, time_left=11500), ticket(0, envelope(0))])
         self.assertEqual((code, err), (0, ""))
         self.assertEqual(out.split("\n"), [
             "Ticket T-1",
@@ -156,24 +173,103 @@ class Pouring(unittest.TestCase):
             "45 %  About 12 seconds remaining...",
             "100 %  Done successfully!",
             "TINT command executed successfully!",
-            "POSITION  POURED STEPS  ASKED STEPS",
-            "2         300           300",
-            "14        1000000       1000000",
+            "COLORANT  ASKED  POURED  LEFT TO POUR  ASKED STEPS  POURED STEPS",
+            "B         12.5   12.5    0             1340         1340",
             "poured: all",
             ""])
-        self.assertEqual(driver.asked[1:], [["GET_CMD_STATUS", "T-1"]] * 5 + [["GET_DISPENSED_FORMULA", 1, 1]])
+        self.assertEqual(driver.asked[1:], [["GET_CMD_STATUS", "T-1"]] * 5 +
+                         [["GET_DISPENSED_FORMULA", 4, 1], ["GET_DISPENSED_FORMULA", 4, 3]])
+
+    def test_a_driver_that_knows_positions_and_steps_only(self):
+        code, out, err, _ = self.tint(dispensed=dispensed(steps(p2=300, p14=1000000), steps(p2=300, p14=1000000)))
+        self.assertEqual((code, err), (0, ""))
+        self.assertEqual(out.split("\n")[-5:], [
+            "POSITION  ASKED STEPS  POURED STEPS  LEFT TO POUR",
+            "2         300          300           0",
+            "14        1000000      1000000       0",
+            "poured: all",
+            ""])
 
     def test_less_than_asked(self):
-        code, out, err, _ = self.tint(dispensed=dispensed(steps(p2=300, p3=120), steps(p2=300, p3=200)))
-        self.assertEqual((code, err), (1, ""))
-        self.assertEqual(out.split("\n")[-4:],
-                         ["2         300           300", "3         120           200",
-                          "poured less than asked on circuit 3", ""])
+        less = error("DE03142", 'Less was poured than asked: "B" 4 of 12.5, in steps 429 of 1340')
+        code, out, err, _ = self.tint(
+            tickets=[ticket(0, {**envelope(0), "errors": [less]})],
+            dispensed={1: dispensed(colorants(1, B=429), colorants(1, B=1340)),
+                       3: dispensed(colorants(3, B=4), colorants(3, B=12.5))})
+        self.assertEqual((code, err.split("\n")[0]), (1, f"DE03142: {less['text']}"))
+        self.assertEqual(out.split("\n")[2:], [
+            "COLORANT  ASKED  POURED  LEFT TO POUR  ASKED STEPS  POURED STEPS",
+            "B         12.5   4       8.5           1340         429",
+            "poured less than asked: B", ""])
+        # a driver that does not tell it in its envelope
         code, out, err, _ = self.tint(dispensed=dispensed(steps(p2=0), steps(p2=300, p3=200)))
         self.assertEqual((code, err), (1, ""))
         self.assertEqual(out.split("\n")[-4:],
-                         ["2         0             300", "3         0             200",
-                          "poured less than asked on circuits 2, 3", ""])
+                         ["2         300          0             300", "3         200          0             200",
+                          "poured less than asked: 2, 3", ""])
+
+    def test_an_error_beside_the_answer_fails(self):
+        code, out, err, _ = self.tint(tickets=[ticket(0, {**envelope(0), "errors": [error("DE03117", "Unknown")]})])
+        self.assertEqual((code, err), (1, "DE03117: Unknown\n"))
+        self.assertNotIn("executed successfully", out)
+
+    def refused_here(self, *words):
+        with ScriptedDriver() as driver:
+            told = run("tint", *words, "--port", str(driver.port))
+            self.assertEqual((driver.asked, driver.started), ([], []))
+        return told
+
+    def test_wrong_amounts_are_refused_before_anything_is_sent(self):
+        hint = "hint: quvctl tint --force pours the nearest amounts, and leaves out those of 0\n"
+        for words, sentences in [
+                (["B=0", "C=1"], ["B: a quantity of 0 cannot be poured"]),
+                (["B=0.5", "C=1", "--unit", "strokes"], ["B: 0.5 strokes cannot be poured, the nearest is 1"]),
+                (["3=0.2", "4=20.4", "--by", "position", "--unit", "steps"],
+                 ["3: 0.2 steps cannot be poured, the nearest is 1",
+                  "4: 20.4 steps cannot be poured, the nearest is 20"])]:
+            self.assertEqual(self.refused_here(*words), (1, "", "".join(line + "\n" for line in sentences) + hint))
+        self.assertEqual(self.refused_here("B=0", "--force"),
+                         (1, "", "warning: B: a quantity of 0 cannot be poured\nnothing is left to pour\n"))
+
+    def test_force_pours_the_nearest(self):
+        with ScriptedDriver() as driver:
+            code, out, err = run("tint", "B=0", "C=0.5", "D=2.003", "E=0.25", "E=0.75", "--unit", "strokes", "--force",
+                                 "--no-wait", "--port", str(driver.port))
+        self.assertEqual((code, out), (0, "Ticket T-1\n"))
+        self.assertEqual(err, "warning: B: a quantity of 0 cannot be poured\n"
+                              "warning: C: 0.5 strokes cannot be poured, the nearest is 1\n")
+        [[_, formula]] = driver.started
+        self.assertEqual((formula["ids"], formula["quantities"]), (["C", "D", "E"], [1.0, 2.003, 1.0]))
+
+    def test_amounts_that_the_driver_knows_better(self):
+        offered = {**colorants(3, B=0.009), "levels_policy": 2}
+        reason = '"B": 0.005 cannot be poured, the nearest is 0.009 (steps of the motor: 1)'
+        refusal = {**envelope(offered, 1), "errors": [error("DE03141", reason)]}
+        with ScriptedDriver(start=[refusal]) as driver:
+            code, out, err = run("tint", "B=0.005", "--no-wait", "--port", str(driver.port))
+        self.assertEqual((code, out), (1, ""))
+        self.assertEqual(err.split("\n")[0], f"DE03141: {reason}")
+        self.assertIn("--force", err.split("\n")[1])
+        with ScriptedDriver(start=[refusal, envelope({"ticket_id": "T-1"})]) as driver:
+            code, out, err = run("tint", "B=0.005", "--no-wait", "--force", "--port", str(driver.port))
+        self.assertEqual((code, out, err), (0, "Ticket T-1\n", f"warning: DE03141: {reason}\n"))
+        self.assertEqual(driver.started[1][1]["quantities"], [0.009])
+
+    def test_dry_run(self):
+        plan = envelope({"low_level_formula": steps(p2=1340, p3=20)})
+        with ScriptedDriver(estimate=envelope({"exec_time": 8123}), plan=plan, levels=levels([3])) as driver:
+            code, out, err = run("tint", "B=12.5", "C=0.2", "--dry-run", "--port", str(driver.port))
+        self.assertEqual((code, err), (0, "warning: canister 3 would fall below its critical level\n"))
+        self.assertEqual(out.split("\n"), [
+            "COLORANT  ASKED  POSITION  STEPS",
+            "B         12.5   2         1340",
+            "C         0.2    3         20",
+            "would take 8.1 s",
+            "the canisters do not hold enough",
+            "nothing has been poured", ""])
+        self.assertEqual([request[0] for request in driver.asked],
+                         ["CHECK_FORMULA_LEVELS", "GET_CMD_EST_EXEC_TIME", "GET_LOW_LEVEL_FORMULA"])
+        self.assertEqual(driver.started, [])
 
     def test_json(self):
         for poured, ok in [(300, True), (120, False)]:
@@ -181,12 +277,30 @@ class Pouring(unittest.TestCase):
                 code, out, err = run("tint", "B=12.5", "--json", "--interval", "0.01", "--port", str(driver.port))
             self.assertEqual((code, err), (0 if ok else 1, ""))
             reply = json.loads(out)
-            self.assertEqual((reply["ok"], reply["ticket"], reply["circuits"]),
-                             (ok, "T-1", [{"position": "2", "poured_steps": poured, "asked_steps": 300}]))
+            self.assertEqual((reply["ok"], reply["ticket"], reply["items"]),
+                             (ok, "T-1", [{"id": "2", "asked_steps": 300, "poured_steps": poured}]))
             self.assertEqual(reply.get("text"), None if ok else "poured less than asked")
+        with ScriptedDriver() as driver:
+            code, out, err = run("tint", "B=12.5", "--json", "--interval", "0.01", "--port", str(driver.port))
+        self.assertEqual((code, err), (0, ""))
+        self.assertEqual(json.loads(out)["items"], [
+            {"id": "B", "asked": 12.5, "poured": 12.5, "left": 0, "asked_steps": 1340, "poured_steps": 1340}])
         with ScriptedDriver() as driver:
             code, out, err = run("tint", "B=1", "--no-wait", "--json", "--port", str(driver.port))
         self.assertEqual((code, json.loads(out), err), (0, {"ok": True, "ticket": "T-1"}, ""))
+        code, out, err = self.refused_here("B=0", "--json")
+        self.assertEqual((code, json.loads(out)), (1, {
+            "ok": False, "text": "the amounts cannot be poured as they are asked for"}))
+        self.assertEqual(err.split("\n")[0], "B: a quantity of 0 cannot be poured")
+
+    def test_json_of_a_plan(self):
+        plan = envelope({"low_level_formula": steps(p2=1340)})
+        with ScriptedDriver(estimate=envelope({"exec_time": 8123}), plan=plan) as driver:
+            code, out, err = run("tint", "B=12.5", "--dry-run", "--json", "--port", str(driver.port))
+        self.assertEqual((code, err), (0, ""))
+        self.assertEqual(json.loads(out), {"ok": True, "plan": {"exec_time": 8123, "enough": True, "items": [
+            {"id": "B", "asked": 12.5, "position": "2", "steps": 1340}]}})
+        self.assertEqual(driver.started, [])
 
     def test_low_levels_are_told_and_stop_nothing(self):
         code, out, err, driver = self.tint(levels=levels([3, 5], [5, 7]))
@@ -202,7 +316,7 @@ class Pouring(unittest.TestCase):
         errors = [{"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE00552", "text": "Bad"}]
         code, out, err, driver = self.tint(levels={**envelope(0, 1), "errors": errors})
         self.assertEqual((code, out, err),
-                         (1, "", "Failed! Xml-rpc command invalid for Driver.Errors: \nDE00552: Bad\n"))
+                         (1, "", "DE00552: Bad\nFailed! Xml-rpc command invalid for Driver.\n"))
         self.assertEqual(driver.started, [])
 
     def test_refused_pour(self):
@@ -220,19 +334,79 @@ class Pouring(unittest.TestCase):
         code, out, err, _ = self.tint(tickets=[ticket(-3, envelope(0, 7))],
                                       dispensed=dispensed(steps(p2=12), steps(p2=300)))
         self.assertEqual((code, err), (1, "Command has been interrupted!\n"))
-        self.assertEqual(out.split("\n"), ["Ticket T-1", "100 %  Interrupted!", "POSITION  POURED STEPS  ASKED STEPS",
-                                           "2         12            300", "poured less than asked on circuit 2", ""])
+        self.assertEqual(out.split("\n"), ["Ticket T-1", "100 %  Interrupted!",
+                                           "POSITION  ASKED STEPS  POURED STEPS  LEFT TO POUR",
+                                           "2         300          12            288",
+                                           "poured less than asked: 2", ""])
 
     def test_no_wait(self):
         with ScriptedDriver() as driver:
             self.assertEqual(run("tint", "B=1", "--no-wait", "--port", str(driver.port)), (0, "Ticket T-1\n", ""))
 
 
+class LongCalls(unittest.TestCase):
+    """What takes long gets a ticket by quvctl call as well."""
+
+    FORMULA = json.dumps({"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [12.5]})
+
+    def call(self, *options, **script):
+        with ScriptedDriver(**script) as driver:
+            told = run("call", "TINT", self.FORMULA, *options, "--port", str(driver.port))
+            self.assertEqual([name for name, *_ in driver.started], ["TINT"])
+        return told
+
+    def test_waiting(self):
+        self.assertEqual(self.call(tickets=[ticket(1, percentage=45, time_left=11500), ticket(0, envelope(0))]),
+                         (0, "Ticket T-1\n45 %  About 12 seconds remaining...\n100 %  Done successfully!\n"
+                             "TINT command executed successfully!\n0\n", ""))
+
+    def test_json(self):
+        code, out, err = self.call("--json")
+        self.assertEqual((code, err), (0, ""))
+        self.assertEqual(json.loads(out)["envelope"]["info"], "TINT command executed successfully!")
+        errors = {"errors": [error("DE03142", "Less")]}
+        code, out, err = self.call("--json", tickets=[ticket(0, {**envelope(0), **errors})])
+        self.assertEqual((code, err, json.loads(out)["envelope"]["ret_code"]), (1, "", 0))
+
+    def test_begun_is_not_done(self):
+        self.assertEqual(self.call("--async"), (0, "TINT has begun\nTicket T-1\n", ""))
+
+    def test_refused_and_failed(self):
+        no = error("DE00123", "No")
+        told = (1, "DE00123: No\nFailed! Xml-rpc command invalid for Driver.\n")
+        code, out, err = self.call(start={**envelope(0, 1), "errors": [no]})
+        self.assertEqual((code, out, err), (1, "", told[1]))
+        code, out, err = self.call(tickets=[ticket(-1, {**envelope(0, 1), "errors": [no]})])
+        self.assertEqual((code, err), told)
+        code, out, err = self.call(tickets=[ticket(0, {**envelope(0), "errors": [no]})])
+        self.assertEqual((code, err), (1, "DE00123: No\n"))
+        self.assertNotIn("executed successfully", out)
+
+    def test_the_driver_goes(self):
+        driver = ScriptedDriver(tickets=[ticket(1, percentage=45, time_left=11500)])
+        with start("call", "TINT", self.FORMULA, "--port", str(driver.port)) as process:
+            process.stdout.readline()
+            process.stdout.readline()  # it waits
+            driver.close()
+            _, err = process.communicate(timeout=30)
+        self.assertEqual(process.returncode, 1)
+        self.assertEqual(err.split("\n")[0],
+                         f"the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}")
+
+    def test_no_answer_to_the_start(self):
+        with ScriptedDriver(delay=2) as driver:
+            code, out, err = run("tint", "B=1", "--timeout", "1", "--port", str(driver.port))
+        self.assertEqual((code, out), (1, ""))
+        self.assertIn("the machine may have begun; look at it with: quvctl call GET_STATUS\n", err)
+
+
 class Simulated(unittest.TestCase):
     """Pours on a driver's simulated dispenser."""
 
     maxDiff = None
-    REPORT = ["POSITION  POURED STEPS  ASKED STEPS", "2         1080          1080", "3         232           232",
+    REPORT = ["COLORANT  ASKED  POURED  LEFT TO POUR  ASKED STEPS  POURED STEPS",
+              "B         10     10      0             1080         1080",
+              "C         2      2       0             232          232",
               "poured: all", ""]
 
     def tint(self, driver, *words):
@@ -291,9 +465,40 @@ class Simulated(unittest.TestCase):
             code, out, err = self.tint(driver, "B=10")  # 250 are left
             self.assertEqual((code, err), (0, "warning: canister 2 would fall below its warning level\n"))
             code, out, err = self.tint(driver, "B=300", "--levels-check", "off")  # more than is there
-            self.assertEqual((code, err), (1, "warning: canister 2 would fall below its critical level\n"))
-            self.assertIn("\npoured less than asked on circuit 2\n", out)
+            self.assertEqual(code, 1)
+            self.assertRegex(err, "^warning: canister 2 would fall below its critical level\n"
+                                  r'DE03142: Less was poured than asked: "B" \d+(\.\d+)? of 300, in steps \d+ of \d+\n'
+                                  "hint: .+\n$")
+            self.assertIn("\npoured less than asked: B\n", out)
+            self.assertNotIn("executed successfully", out)
 
+    def test_amounts(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "10000") as driver:
+            code, out, err = self.tint(driver, "B=0.003")
+            self.assertEqual((code, out), (1, ""))
+            self.assertRegex(err, r'^DE03141: "B": 0\.003 cannot be poured, the nearest is 0\.00\d+ \(steps of the motor: 1\)\n'
+                                  r"hint: .+ --force .+\nFailed! Xml-rpc command invalid for Driver\.\n$")
+            self.assertEqual(self.tint(driver, "B=0.003", "--dry-run")[0], 1)
+            code, out, err = self.tint(driver, "B=0.003", "--dry-run", "--force")
+            self.assertEqual(code, 0, err)
+            self.assertRegex(out, r"\nB +0\.00\d+ +2 +1\n(would take .+\n)?the canisters hold enough\nnothing has been poured\n$")
+            code, out, err = self.tint(driver, "B=0.003", "--force")
+            self.assertEqual(code, 0, err)
+            self.assertRegex(out, r"\nB +0\.00\d+ +0\.00\d+ +0 +1 +1\npoured: all\n$")
+            code, out, err = self.tint(driver, "B=2", "--unit", "strokes")
+            self.assertEqual((code, err), (0, ""))
+            self.assertRegex(out, r"\nCOLORANT  ASKED STROKES  POURED STROKES  LEFT TO POUR .+\nB +2 +2 +0 ")
+
+    def test_dry_run_pours_nothing(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "10000") as driver:
+            code, out, err = self.tint(driver, "B=10", "C=2", "--dry-run")
+            self.assertEqual((code, err), (0, ""))
+            self.assertEqual(out.split("\n")[:3], ["COLORANT  ASKED  POSITION  STEPS", "B         10     2         1080",
+                                                   "C         2      3         232"])
+            self.assertEqual(self.tint(driver, "B=1900", "--dry-run")[0], 1)  # as the pour would be refused
+            with driver.client() as client:
+                report = client.EXEC_B("GET_DISPENSED_FORMULA", 1, 1)["ret_value"]["total_formula"]
+        self.assertEqual(report["ids"], [])
     def test_refusals(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "100") as driver:
             for words, code in [(["NOPE=1"], "DE03021"), (["B=-1"], "DE00552")]:
@@ -309,6 +514,9 @@ class Simulated(unittest.TestCase):
         formula = json.dumps({"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [5.0]})
         with quvdriver_process.Driver("--machine", "dispenser") as driver:
             query = ["call", "GET_LOW_LEVEL_FORMULA", formula, "--json", "--port", str(driver.port)]
+            self.assertEqual(run(*query), (1, "", (
+                "DE00334: Invalid dispenser data; --machine tells for which machine the formula is, as in "
+                "--machine dispenser\n")))
             code, out, err = run(*query)
             self.assertEqual((code, json.loads(out)["code"], err), (1, "DE00334", "DE00334: Invalid dispenser data\n"))
             code, out, _ = run(*query, "--machine", "dispenser")

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
+#include "hints.h"
 #include "operations.h"
 #include "subcommands.h"
 #include "terminal.h"
+#include "tickets.h"
 #include "typedcommand.h"
 #include "words.h"
 
@@ -10,44 +12,93 @@
 #include "base/protoanswer.h"
 #include "base/protocommand.h"
 #include "base/xmlrpcanswer.h"
+#include "catalogue/protocommandlist.h"
 #include "status/machinestatusanswer.h"
 
 namespace quv {
 
 namespace {
 
-void print(const ProtoCommand &command, const XmlRpcAnswer &envelope, bool isQuiet)
+/// Longer than a client should hold its breath, or a connection.
+bool takesLong(const QString &name)
 {
-    if (!isQuiet)
+    constexpr qint64 minute = 60000;
+    return ProtoCommandList::erogationCommand(name) || ProtoCommandList::commandTimeout(name) > minute;
+}
+
+ExitStatus print(const ProtoCommand &command, const XmlRpcAnswer &envelope, bool isQuiet)
+{
+    const bool hasErrors = tellErrors(envelope);
+    const auto *async = dynamic_cast<const AsyncAnswer *>(command.getProtoAnswer());
+    if (async && !isQuiet)
+        printLine(QStringLiteral("%1 has begun").arg(command.command()), Colour::Bold);
+    else if (!hasErrors && !isQuiet)
         printLine(envelope.infoMsg(), Colour::Bold);
-    if (const auto *async = dynamic_cast<const AsyncAnswer *>(command.getProtoAnswer()))
+    if (async)
         printLine(QStringLiteral("Ticket %1").arg(async->ticketID()));
     else if (dynamic_cast<const MachineStatusAnswer *>(command.getProtoAnswer()))
         printAnswer(*command.getProtoAnswer());
     else if (command.getProtoAnswer())
         printValue(envelope.xmlrpcRetValue()); // not all answers keep what the driver told
+    return hasErrors ? Refused : Done;
 }
 
-void printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope)
+ExitStatus printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope)
 {
     OrderedJson reply = envelopeReply(command);
     if (reply.contains("value"))
         reply["value"] = toJson(envelope.xmlrpcRetValue());
     printLine(QString::fromStdString(writeJson(reply)));
+    return errorLines(envelope).isEmpty() ? Done : Refused;
+}
+
+/// Has a command that takes long carried out behind a ticket, and gives it the answer in the end.
+const XmlRpcAnswer &carriedOut(const Driver &driver, ProtoCommand &command, const CommandLine &line)
+{
+    const XmlRpcAnswer &begun = startOnMachine(driver, command);
+    if (begun.retCode() != 0)
+        return begun;
+    const Ticket ticket(driver, ticketIn(command), line);
+    const bool isSilent = line.isSet("json");
+    if (!isSilent)
+        printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
+    constexpr std::chrono::milliseconds interval(500);
+    const CmdStatus ended = ticket.waitForEnd(interval, !isSilent);
+    if (!ended.hasResultValue())
+        throw std::runtime_error(ended.info().toStdString());
+    FW_DriverError error;
+    if (!command.setAnswer(ended.resultValue(), false, &error))
+        throw FW_DriverError(error);
+    return *command.getXmlRpcAnswer();
+}
+
+const XmlRpcAnswer &answered(const Driver &driver, ProtoCommand &command, const CommandLine &line)
+{
+    if (line.isSet("async"))
+        return startOnMachine(driver, command);
+    return takesLong(command.command()) ? carriedOut(driver, command, line) : driver.execute(command);
+}
+
+std::unique_ptr<ProtoCommand> commandOf(const CommandLine &line)
+{
+    try {
+        return typedCommand(line, commandRequest(line));
+    } catch (const FW_DriverError &error) {
+        const QString hint = hintFor(error.code());
+        if (hint.isEmpty())
+            throw;
+        throw FW_DriverError(error.code(), error.text() + QStringLiteral("; ") + hint);
+    }
 }
 
 ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
-    const auto command = typedCommand(line, commandRequest(line));
-    const XmlRpcAnswer &envelope = line.isSet("async") ? driver.start(*command) : driver.execute(*command);
+    const auto command = commandOf(line);
+    const XmlRpcAnswer &envelope = answered(driver, *command, line);
     if (envelope.retCode() != 0)
         throw RequestRefused(envelope);
-    if (line.isSet("json"))
-        printAsJson(*command, envelope);
-    else
-        print(*command, envelope, line.isQuiet());
-    return Done;
+    return line.isSet("json") ? printAsJson(*command, envelope) : print(*command, envelope, line.isQuiet());
 }
 
 } // namespace
@@ -56,7 +107,8 @@ const Subcommand callSubcommand = {
     "call",
     "NAME [ARGUMENT...]",
     "sends a command to a driver",
-    "Sends a command to a driver, waits until it has been carried out, and shows the answer. An argument\n"
+    "Sends a command to a driver, waits until it has been carried out, and shows the answer. What takes\n"
+    "long gets a ticket, and how far it is is shown meanwhile; Ctrl-C ends the waiting only. An argument\n"
     "is a JSON value; a word that is none is a string. quvctl show NAME tells the arguments' names, by\n"
     "which they can be given as well: position=3. With --async it shows a ticket and does not wait:\n"
     "quvctl ticket asks for the answer. The driver has the machine; a few commands read their formula\n"

@@ -2,10 +2,12 @@
 #include "driver.h"
 
 #include "commandline.h"
+#include "hints.h"
 #include "httpaccess.h"
 #include "operations.h"
 #include "terminal.h"
 
+#include "base/protoanswer.h"
 #include "base/protocommand.h"
 #include "base/xmlrpcanswer.h"
 
@@ -64,9 +66,10 @@ FW_DriverError firstError(const XmlRpcAnswer &envelope, const QString &what)
 
 RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what)
     : std::runtime_error(envelope.infoMsg().toStdString()),
-      m_lines(envelope.toPrintableString()),
+      m_lines(errorLines(envelope)),
       m_json(failureReply(firstError(envelope, what)))
 {
+    m_lines.append(ProtoAnswer::getRetCodeMessage(envelope.retCode()));
     m_json["envelope"] = envelopeJson(envelope);
     if (!what.isEmpty())
         m_lines.prepend(what);

@@ -18,15 +18,17 @@ namespace quv {
 
 class CommandLine;
 
-/// What a driver did not carry out, in the lines of its envelope.
+/// What a driver did not carry out, in lines: the reasons, with a hint behind those that need one, then what became of it.
 class RequestRefused : public std::runtime_error
 {
 public:
-    /// \a what, if any, is told before the envelope's lines.
+    /// \a what, if any, is told before all of them.
     explicit RequestRefused(const XmlRpcAnswer &envelope, const QString &what = QString());
     const QStringList &lines() const { return m_lines; }
     /// The first of the envelope's errors as a failure for programs, with the envelope.
     const OrderedJson &json() const { return m_json; }
+    /// Told behind the lines: what the user can do.
+    void addHint(const QString &hint) { m_lines.append(hint); }
 
 private:
     QStringList m_lines{};

@@ -3,12 +3,20 @@
 
 #include "commandline.h"
 #include "jsonvalue.h"
+#include "quantities.h"
 
 #include <cmath>
 
 namespace quv {
 
 namespace {
+
+/// A motor turns whole steps, and strokes are whole ones to a machine; what a weight becomes only the driver knows.
+double nearestAmount(double quantity, int unit)
+{
+    const bool isCounted = unit == Formula::Steps || unit == Formula::Strokes;
+    return isCounted && quantity > 0 ? nearestCount(quantity) : quantity;
+}
 
 struct Choice
 {
@@ -99,6 +107,33 @@ Formula formulaOf(const CommandLine &line)
     if (line.isSet("levels-check"))
         setLevelsCheck(formula, check == on);
     return formula;
+}
+
+QStringList correctAmounts(Formula &formula)
+{
+    QStringList wrong;
+    Formula corrected = formula;
+    corrected.setItems({});
+    const Formula once = addedUp(formula);
+    for (FormulaItem item : once.items()) {
+        if (item.quantity == 0) {
+            wrong.append(QStringLiteral("%1: a quantity of 0 cannot be poured").arg(item.id));
+            continue;
+        }
+        if (const double nearest = nearestAmount(item.quantity, formula.quantityUnit());
+            !isNear(nearest, item.quantity)) {
+            wrong.append(QStringLiteral("%1: %2 %3 cannot be poured, the nearest is %4")
+                             .arg(item.id, quantityInWords(item.quantity),
+                                  formula.quantityUnit() == Formula::Steps ? QStringLiteral("steps")
+                                                                           : QStringLiteral("strokes"),
+                                  quantityInWords(nearest)));
+            item.quantity = nearest;
+        }
+        corrected.addItem(item);
+    }
+    if (!wrong.isEmpty())
+        formula = corrected;
+    return wrong;
 }
 
 } // namespace quv

@@ -3,6 +3,8 @@
 
 #include <QuvFramework/formula.h>
 
+#include <QtCore/QStringList>
+
 namespace quv {
 
 class CommandLine;
@@ -13,5 +15,11 @@ class CommandLine;
  * \throws UsageError
  */
 Formula formulaOf(const CommandLine &line);
+
+/**
+ * What of the formula no machine can pour as it is asked: quantities of 0, and parts of steps and strokes that are more than 1 %
+ * of what is asked. A sentence for each; \a formula becomes what can be poured, each ID once.
+ */
+QStringList correctAmounts(Formula &formula);
 
 } // namespace quv

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "hints.h"
 #include "operations.h"
 #include "progress.h"
 #include "replies.h"
@@ -16,8 +17,10 @@ namespace {
 ExitStatus statusOfEnd(const CmdStatus &status)
 {
     bool ok = false;
-    return status.status() == CmdStatus::Done && status.getXmlRpcAnswer(&ok).retCode() == 0 && ok ? Done
-                                                                                                  : Refused;
+    const XmlRpcAnswer envelope = status.getXmlRpcAnswer(&ok);
+    const bool isGood =
+        status.status() == CmdStatus::Done && ok && envelope.retCode() == 0 && errorLines(envelope).isEmpty();
+    return isGood ? Done : Refused;
 }
 
 /// \throws nothing: how the command ended badly is a part of what is told
@@ -64,10 +67,11 @@ ExitStatus run(const CommandLine &line)
         return Done;
     }
     const XmlRpcAnswer envelope = resultOf(status);
-    if (!line.isQuiet())
+    const bool hasErrors = tellErrors(envelope);
+    if (!hasErrors && !line.isQuiet())
         printLine(envelope.infoMsg(), Colour::Bold);
     printValue(envelope.xmlrpcRetValue());
-    return Done;
+    return hasErrors ? Refused : Done;
 }
 
 } // namespace
@@ -78,7 +82,8 @@ const Subcommand ticketSubcommand = {
     "a command that was started without waiting",
     "Asks a driver how far the command behind a ticket is (quvctl call --async, quvctl tint), and shows its\n"
     "answer when it has ended. With --wait it asks until then. Exit status: 0 while the command goes on and\n"
-    "when it has ended well, 1 when it was refused or failed, 130 after Ctrl-C, which ends the waiting only.",
+    "when it has ended well, 1 when it was refused, failed or ended with errors, 130 after Ctrl-C, which\n"
+    "ends the waiting only.",
     1,
     1,
     withDriverOptions({{"wait", nullptr, "ask until the command has ended"},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "tickets.h"
 
+#include "hints.h"
 #include "progress.h"
 #include "terminal.h"
 #include "xmlrpcerrors.h"
@@ -30,6 +31,12 @@ extern "C" void endInterrupted(int)
         static_cast<void>(written); // it ends either way
     }
     _exit(Interrupted);
+}
+
+/// A driver that forgot a ticket, or was started anew, cannot tell what the machine did.
+QString unknownTicketHint()
+{
+    return QStringLiteral("hint: ") + hintFor(QStringLiteral("DE03111"));
 }
 
 QString commandLineOf(const QString &id, const CommandLine &line)
@@ -81,8 +88,12 @@ CmdStatus Ticket::status() const
 {
     GetCommandStatusCmd command(m_id);
     const XmlRpcAnswer &envelope = m_driver.execute(command);
-    if (envelope.retCode() != 0)
-        throw RequestRefused(envelope);
+    if (envelope.retCode() != 0) {
+        RequestRefused refusal(envelope);
+        if (errorLines(envelope).filter(unknownTicketHint()).isEmpty())
+            refusal.addHint(unknownTicketHint());
+        throw refusal;
+    }
     const auto *answer = dynamic_cast<const GetCommandStatusAnswer *>(command.getProtoAnswer());
     if (!answer)
         throw std::runtime_error("the answer is no status of a ticket");
@@ -124,6 +135,20 @@ CmdStatus Ticket::statusDespiteFailures(int &failures) const
         if (++failures == mostFailures)
             throw;
         return CmdStatus();
+    }
+}
+
+const XmlRpcAnswer &startOnMachine(const Driver &driver, ProtoCommand &command)
+{
+    const QString hint =
+        QStringLiteral("the machine may have begun; look at it with: quvctl call GET_STATUS");
+    const OnInterrupt onInterrupt(hint);
+    try {
+        return driver.start(command);
+    } catch (const TransportError &error) {
+        if (!QByteArray(error.what()).startsWith("Cannot connect"))
+            printError(hint);
+        throw;
     }
 }
 

@@ -56,6 +56,12 @@ private:
     QString m_again{};
 };
 
+/**
+ * Sends a command that goes on by itself, as Driver::start. Ctrl-C, and a driver that does not answer, leave the user with the way
+ * to see whether the machine has begun.
+ */
+const XmlRpcAnswer &startOnMachine(const Driver &driver, ProtoCommand &command);
+
 /// The ticket of a command that has been started: Driver::start. \throws std::runtime_error when the driver gave none
 QString ticketIn(const ProtoCommand &command);
 

@@ -1,36 +1,28 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "formulawords.h"
+#include "hints.h"
 #include "operations.h"
 #include "replies.h"
 #include "subcommands.h"
 #include "terminal.h"
 #include "tickets.h"
+#include "tintreport.h"
+#include "xmlrpcerrors.h"
 
-#include "base/xmlrpcanswer.h"
+#include "base/getcmdestimatedexectimeanswer.h"
+#include "base/getcmdestimatedexectimecmd.h"
 #include "dispensing/checkformulalevelsanswer.h"
 #include "dispensing/checkformulalevelscmd.h"
-#include "dispensing/getdispensedformulaanswer.h"
-#include "dispensing/getdispensedformulacmd.h"
 #include "dispensing/tintcmd.h"
 
 #include <QuvFramework/formula.h>
 
+#include <algorithm>
+#include <optional>
+
 namespace quv {
 
 namespace {
-
-/// The answer of a command that was carried out. \throws RequestRefused, std::runtime_error for an answer of another class
-template <class Answer>
-const Answer &executed(const Driver &driver, ProtoCommand &command)
-{
-    const XmlRpcAnswer &envelope = driver.execute(command);
-    if (envelope.retCode() != 0)
-        throw RequestRefused(envelope);
-    const auto *answer = dynamic_cast<const Answer *>(command.getProtoAnswer());
-    if (!answer)
-        throw std::runtime_error("the answer to " + command.command().toStdString() + " is another one");
-    return *answer;
-}
 
 void warn(int canister, const char *level)
 {
@@ -39,7 +31,8 @@ void warn(int canister, const char *level)
                    .arg(QLatin1String(level)));
 }
 
-void tellLevels(const Driver &driver, const Formula &formula)
+/// Tells the canisters that would run low; false when one of them would fall below its critical level.
+bool tellLevels(const Driver &driver, const Formula &formula)
 {
     CheckFormulaLevelsCmd command(formula, false);
     const auto &answer = executed<CheckFormulaLevelsAnswer>(driver, command);
@@ -49,46 +42,71 @@ void tellLevels(const Driver &driver, const Formula &formula)
     for (const int canister : answer.canistersBelowWarning())
         if (!critical.contains(canister))
             warn(canister, "warning");
+    return critical.isEmpty();
 }
 
-Ticket begin(const Driver &driver, const Formula &formula, const CommandLine &line)
+/// The formula as the user typed it; with --force as it can be poured, as far as that is known without the machine. Nothing when
+/// it is to be refused, which has been told then.
+std::optional<Formula> typedFormula(const CommandLine &line)
 {
-    const OnInterrupt onInterrupt(
-        QStringLiteral("the machine may have begun to pour; look at it with: quvctl call GET_STATUS"));
-    TintCmd command(formula, nullptr);
-    const XmlRpcAnswer &envelope = driver.start(command);
-    if (envelope.retCode() != 0)
-        throw RequestRefused(envelope);
-    return {driver, ticketIn(command), line};
+    Formula formula = formulaOf(line);
+    const QStringList wrong = correctAmounts(formula);
+    const bool isForced = line.isSet("force");
+    for (const QString &sentence : wrong)
+        printError((isForced ? QStringLiteral("warning: ") : QString()) + sentence);
+    if (wrong.isEmpty() || (isForced && !formula.isEmpty()))
+        return formula;
+    printError(isForced ? QStringLiteral("nothing is left to pour")
+                        : QStringLiteral("hint: ") + hintFor(QStringLiteral("DE03141")));
+    return std::nullopt;
 }
 
-double quantityOf(const Formula &formula, const QString &id)
+/// The amounts that a driver, which knows its circuits, offers in the place of those that it has refused.
+std::optional<Formula> offeredFormula(const XmlRpcAnswer &refusal)
 {
-    double quantity = 0;
-    for (const FormulaItem &item : formula.items())
-        if (item.id == id)
-            quantity += item.quantity;
-    return quantity;
+    const QStringList reasons = refusal.getDriverErrorsStrings();
+    const bool isAboutAmounts =
+        !reasons.isEmpty() && std::all_of(reasons.begin(), reasons.end(), [](const QString &reason) {
+            return reason.startsWith(QLatin1String("DE03140")) || reason.startsWith(QLatin1String("DE03141"));
+        });
+    if (!isAboutAmounts || refusal.xmlrpcRetValue().getType() != XmlRpc::XmlRpcValue::TypeStruct)
+        return std::nullopt;
+    try {
+        return Formula(refusal.xmlrpcRetValue());
+    } catch (const std::invalid_argument &) {
+        return std::nullopt;
+    }
 }
 
-QString stepsInWords(double steps)
+/// Sends what \a send makes of the formula. With --force what the driver offers is sent in the place of what it refuses, and
+/// becomes the formula. \throws RequestRefused
+template <class Send>
+void sendPourable(Formula &formula, const CommandLine &line, Send send)
 {
-    return QString::number(steps, 'f', 0);
+    const XmlRpcAnswer refused = send(formula);
+    if (refused.retCode() == 0)
+        return;
+    const std::optional<Formula> offered = line.isSet("force") ? offeredFormula(refused) : std::nullopt;
+    if (!offered)
+        throw RequestRefused(refused);
+    for (const QString &reason : refused.getDriverErrorsStrings())
+        printError(QStringLiteral("warning: ") + reason);
+    formula = *offered;
+    if (const XmlRpcAnswer again = send(formula); again.retCode() != 0)
+        throw RequestRefused(again);
 }
 
-QString lastLine(const QStringList &lacking)
+Ticket begin(const Driver &driver, Formula &formula, const CommandLine &line)
 {
-    if (lacking.isEmpty())
-        return QStringLiteral("poured: all");
-    return QStringLiteral("poured less than asked on %1 %2")
-        .arg(lacking.size() == 1 ? QStringLiteral("circuit") : QStringLiteral("circuits"),
-             lacking.join(QStringLiteral(", ")));
-}
-
-GetDispensedFormulaAnswer pouredFormula(const Driver &driver)
-{
-    GetDispensedFormulaCmd command(Formula::CircuitPositions, Formula::Steps);
-    return executed<GetDispensedFormulaAnswer>(driver, command);
+    QString ticket;
+    sendPourable(formula, line, [&](const Formula &sent) {
+        TintCmd command(sent, nullptr);
+        const XmlRpcAnswer &envelope = startOnMachine(driver, command);
+        if (envelope.retCode() == 0)
+            ticket = ticketIn(command);
+        return envelope;
+    });
+    return {driver, ticket, line};
 }
 
 void printJson(const OrderedJson &json)
@@ -96,68 +114,96 @@ void printJson(const OrderedJson &json)
     printLine(QString::fromStdString(writeJson(json)));
 }
 
-/// The same as report(), as one JSON object.
-ExitStatus reportAsJson(const Driver &driver, const Ticket &ticket)
+/// What would be poured. Sends nothing but questions; the estimate is refused with what the pour would be refused with.
+ExitStatus plan(const Driver &driver, Formula formula, const CommandLine &line)
 {
-    const GetDispensedFormulaAnswer answer = pouredFormula(driver);
-    OrderedJson rows = OrderedJson::array();
-    bool lacks = false;
-    for (const FormulaItem &asked : answer.totalFormula().items()) {
-        const double poured = quantityOf(answer.dispensedFormula(), asked.id);
-        rows.push_back(OrderedJson::object(
-            {{"position", toJson(asked.id)}, {"poured_steps", poured}, {"asked_steps", asked.quantity}}));
-        lacks = lacks || poured < asked.quantity;
+    const bool isEnough = tellLevels(driver, formula);
+    long long time = 0;
+    sendPourable(formula, line, [&](const Formula &sent) {
+        TintCmd tint(sent, nullptr);
+        GetCmdEstimatedExecTimeCmd command(&tint);
+        const XmlRpcAnswer &envelope = driver.execute(command);
+        if (const auto *answer =
+                dynamic_cast<const GetCmdEstimatedExecTimeAnswer *>(command.getProtoAnswer()))
+            time = answer->executionTime();
+        return envelope;
+    });
+    PourPlan plan = pourPlan(driver, formula);
+    plan.time = time;
+    plan.isEnough = isEnough;
+    if (line.isSet("json")) {
+        OrderedJson reply = success();
+        reply["plan"] = planJson(plan);
+        printJson(reply);
+    } else {
+        printPlan(plan);
     }
-    OrderedJson reply = lacks ? failureReply("poured less than asked") : success();
-    reply["ticket"] = toJson(ticket.id());
-    reply["circuits"] = std::move(rows);
-    printJson(reply);
-    return lacks ? Refused : Done;
+    return Done;
 }
 
-/// What left each circuit; Refused when it is less than was asked for.
-ExitStatus report(const Driver &driver)
+/// Some of it has left the nozzles. A driver that ended the pour by ending itself tells it no more.
+void reportIfThere(const Driver &driver, const Formula &formula)
 {
-    const GetDispensedFormulaAnswer answer = pouredFormula(driver);
-    Columns columns;
-    columns.add({QStringLiteral("POSITION"), QStringLiteral("POURED STEPS"), QStringLiteral("ASKED STEPS")});
-    QStringList lacking;
-    for (const FormulaItem &asked : answer.totalFormula().items()) {
-        const double poured = quantityOf(answer.dispensedFormula(), asked.id);
-        columns.add({asked.id, stepsInWords(poured), stepsInWords(asked.quantity)});
-        if (poured < asked.quantity)
-            lacking.append(asked.id);
+    try {
+        printReport(pourReport(driver, formula));
+    } catch (const TransportError &) {
+        return; // why the pour was interrupted is told all the same
     }
-    columns.print(true);
-    printLine(lastLine(lacking), lacking.isEmpty() ? Colour::Bold : Colour::Red);
-    return lacking.isEmpty() ? Done : Refused;
+}
+
+ExitStatus reportAsJson(const PourReport &report, const Ticket &ticket, const XmlRpcAnswer &envelope)
+{
+    const bool isGood = report.lacking().isEmpty() && errorLines(envelope).isEmpty();
+    OrderedJson reply = report.lacking().isEmpty() ? success() : failureReply("poured less than asked");
+    reply["ok"] = isGood;
+    reply["ticket"] = toJson(ticket.id());
+    reply["items"] = reportJson(report);
+    reply["envelope"] = envelopeJson(envelope);
+    printJson(reply);
+    return isGood ? Done : Refused;
+}
+
+ExitStatus waitAndReport(const Driver &driver, const Ticket &ticket, const Formula &formula,
+                         const CommandLine &line)
+{
+    const bool isJson = line.isSet("json");
+    const CmdStatus ended = ticket.waitForEnd(intervalOf(line), !isJson && !line.isQuiet());
+    const bool isBroken = ended.status() == CmdStatus::Interrupted || ended.status() == CmdStatus::TimedOut;
+    if (isBroken && !isJson)
+        reportIfThere(driver, formula);
+    const XmlRpcAnswer envelope = resultOf(ended);
+    const bool hasErrors = tellErrors(envelope);
+    const PourReport report = pourReport(driver, formula);
+    if (isJson)
+        return reportAsJson(report, ticket, envelope);
+    if (!hasErrors && !line.isQuiet())
+        printLine(envelope.infoMsg(), Colour::Bold);
+    printReport(report);
+    return hasErrors || !report.lacking().isEmpty() ? Refused : Done;
 }
 
 ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
-    const std::chrono::milliseconds interval = intervalOf(line);
-    const Formula formula = formulaOf(line);
-    tellLevels(driver, formula);
-    const Ticket ticket = begin(driver, formula, line);
+    intervalOf(line); // refused before anything is poured
+    std::optional<Formula> formula = typedFormula(line);
     const bool isJson = line.isSet("json");
-    const bool isDone = line.isSet("no-wait");
+    if (!formula) {
+        if (isJson)
+            printJson(failureReply("the amounts cannot be poured as they are asked for"));
+        return Refused;
+    }
+    if (line.isSet("dry-run"))
+        return plan(driver, *formula, line);
+    tellLevels(driver, *formula);
+    const Ticket ticket = begin(driver, *formula, line);
     if (!isJson)
         printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
-    else if (isDone)
-        printJson({{"ok", true}, {"ticket", toJson(ticket.id())}});
-    if (isDone)
-        return Done;
-    const CmdStatus ended = ticket.waitForEnd(interval, !isJson && !line.isQuiet());
-    const bool isBroken = ended.status() == CmdStatus::Interrupted || ended.status() == CmdStatus::TimedOut;
-    if (isBroken && !isJson)
-        report(driver); // some of it has left the nozzles
-    const XmlRpcAnswer result = resultOf(ended);
+    if (!line.isSet("no-wait"))
+        return waitAndReport(driver, ticket, *formula, line);
     if (isJson)
-        return reportAsJson(driver, ticket);
-    if (!line.isQuiet())
-        printLine(result.infoMsg(), Colour::Bold);
-    return report(driver);
+        printJson({{"ok", true}, {"ticket", toJson(ticket.id())}});
+    return Done;
 }
 
 } // namespace
@@ -166,21 +212,23 @@ const Subcommand tintSubcommand = {
     "tint",
     "FORMULA | ID=QUANTITY...",
     "pours a formula",
-    "Pours on a driver's dispenser: a formula as JSON, or quantities of colorants by their codes. Warns of "
-    "the\n"
-    "canisters that would run low, waits until the machine has poured, shows how far it is, and reports "
-    "what\n"
-    "left each circuit. Ctrl-C ends the waiting, not the pour, with exit status 130. The exit status is 1\n"
-    "also when less was poured than asked for.",
+    "Pours on a driver's dispenser: a formula as JSON, or quantities of colorants by their codes. Warns of\n"
+    "the canisters that would run low, waits until the machine has poured, shows how far it is, and reports\n"
+    "what was poured of what was asked. A quantity of 0, and one that the machine misses by more than 1 %,\n"
+    "such as half a stroke, is refused before anything is poured. Ctrl-C ends the waiting, not the pour,\n"
+    "with exit status 130. The exit status is 1 also when less was poured than asked for.",
     1,
     -1,
-    withDriverOptions({{"by", "WHAT", "an ID is a position, circuit, canister or colorant (colorant)"},
-                       {"unit", "UNIT", "steps, strokes or weight: weight or volume, as calibrated (weight)"},
-                       {"levels-check", "on|off", "the driver refuses what canisters do not hold (on)"},
-                       {"no-wait", nullptr, "do not wait for the end; the ticket tells later"},
-                       intervalOption,
-                       quietOption,
-                       {"json", nullptr, "ticket and circuits as one JSON object"}}),
+    withDriverOptions(
+        {{"by", "WHAT", "an ID is a position, circuit, canister or colorant (colorant)"},
+         {"unit", "UNIT", "steps, strokes or weight: weight or volume, as calibrated (weight)"},
+         {"levels-check", "on|off", "the driver refuses what canisters do not hold (on)"},
+         {"force", nullptr, "pour the nearest amounts that the machine can, and leave out those of 0"},
+         {"dry-run", nullptr, "show what would be poured, and pour nothing"},
+         {"no-wait", nullptr, "do not wait for the end; the ticket tells later"},
+         intervalOption,
+         quietOption,
+         {"json", nullptr, "ticket and amounts, or the plan, as one JSON object"}}),
     run};
 
 } // namespace quv

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "hints.h"
+
+#include "terminal.h"
+
+#include "base/xmlrpcanswer.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace quv {
+
+namespace {
+
+struct Hint
+{
+    const char *code;
+    const char *text;
+};
+
+constexpr char lowLevels[] = "fill the canister and tell the driver by SET_LEVELS, or pour what there is "
+                             "with quvctl tint --levels-check off";
+constexpr char otherAmounts[] = "quvctl tint --force pours the nearest amounts, and leaves out those of 0";
+
+constexpr Hint hints[] = {
+    {"DE00060", lowLevels},
+    {"DE00061", lowLevels},
+    {"DE00334", "--machine tells for which machine the formula is, as in --machine dispenser"},
+    {"DE03104", "the driver was started without a machine of this kind; quvdriver --machine names them"},
+    {"DE03111", "the machine may have poured all the same; what it poured last is told by "
+                "quvctl call GET_DISPENSED_FORMULA 1 1"},
+    {"DE03112", "quvctl call GET_STATUS tells when it has ended"},
+    {"DE03140", otherAmounts},
+    {"DE03141", otherAmounts},
+    {"DE03142", "the canister is empty, or holds less than the driver believes; SET_LEVELS tells a refill"},
+};
+
+} // namespace
+
+QString hintFor(const QString &code)
+{
+    const auto hint = std::find_if(std::begin(hints), std::end(hints), [&code](const Hint &candidate) {
+        return code == QLatin1String(candidate.code);
+    });
+    return hint == std::end(hints) ? QString() : QLatin1String(hint->text);
+}
+
+QStringList errorLines(const XmlRpcAnswer &envelope)
+{
+    QStringList lines;
+    const QStringList errors = envelope.toPrintableString().mid(1); // behind the formality
+    for (int i = 0; i < errors.size(); ++i) {
+        const auto hintOf = [&errors](int index) {
+            return hintFor(errors.value(index).section(QLatin1Char(':'), 0, 0));
+        };
+        lines.append(errors[i]);
+        if (const QString hint = hintOf(i); !hint.isEmpty() && hint != hintOf(i + 1))
+            lines.append(QStringLiteral("hint: ") + hint);
+    }
+    return lines;
+}
+
+bool tellErrors(const XmlRpcAnswer &envelope)
+{
+    const QStringList lines = errorLines(envelope);
+    for (const QString &line : lines)
+        printError(line);
+    return !lines.isEmpty();
+}
+
+} // namespace quv

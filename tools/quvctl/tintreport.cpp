@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "tintreport.h"
+
+#include "quantities.h"
+#include "terminal.h"
+
+#include "dispensing/genericformulacmd.h"
+#include "dispensing/getdispensedformulaanswer.h"
+#include "dispensing/getdispensedformulacmd.h"
+#include "dispensing/getlowlevelformulaanswer.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace quv {
+
+namespace {
+
+QString headingOf(int formulaType)
+{
+    switch (formulaType) {
+    case Formula::CircuitPositions:
+        return QStringLiteral("POSITION");
+    case Formula::CircuitIDs:
+        return QStringLiteral("CIRCUIT");
+    case Formula::CanisterIDs:
+        return QStringLiteral("CANISTER");
+    default:
+        return QStringLiteral("COLORANT");
+    }
+}
+
+double quantityOf(const Formula &formula, const QString &id)
+{
+    double quantity = 0;
+    for (const FormulaItem &item : formula.items())
+        if (item.id == id)
+            quantity += item.quantity;
+    return quantity;
+}
+
+bool isIn(const Formula &told, int type, int unit)
+{
+    return told.formulaType() == type && told.quantityUnit() == unit;
+}
+
+/// The driver's report in steps. Not all drivers know other names than circuit positions.
+GetDispensedFormulaAnswer reportInSteps(const Driver &driver, int formulaType)
+{
+    GetDispensedFormulaCmd command(formulaType, Formula::Steps);
+    return executed<GetDispensedFormulaAnswer>(driver, command);
+}
+
+/// The report in the formula's own unit; nothing when that is steps, or the driver cannot tell it so.
+std::optional<GetDispensedFormulaAnswer> reportInUnit(const Driver &driver, const Formula &formula)
+{
+    if (formula.quantityUnit() == Formula::Steps)
+        return std::nullopt;
+    try {
+        GetDispensedFormulaCmd command(formula.formulaType(), formula.quantityUnit());
+        const auto &answer = executed<GetDispensedFormulaAnswer>(driver, command);
+        if (isIn(answer.totalFormula(), formula.formulaType(), formula.quantityUnit()))
+            return answer;
+    } catch (const RequestRefused &) {
+        return std::nullopt; // the steps are known
+    }
+    return std::nullopt;
+}
+
+QStringList headings(const PourReport &report, bool inUnit)
+{
+    QStringList cells(headingOf(report.formulaType));
+    if (inUnit) {
+        const QString unit = report.quantityUnit == Formula::Strokes ? QStringLiteral(" STROKES") : QString();
+        cells << QStringLiteral("ASKED") + unit << QStringLiteral("POURED") + unit
+              << QStringLiteral("LEFT TO POUR");
+    }
+    cells << QStringLiteral("ASKED STEPS") << QStringLiteral("POURED STEPS");
+    if (!inUnit)
+        cells << QStringLiteral("LEFT TO POUR");
+    return cells;
+}
+
+QString lastLine(const QStringList &lacking)
+{
+    return lacking.isEmpty()
+               ? QStringLiteral("poured: all")
+               : QStringLiteral("poured less than asked: %1").arg(lacking.join(QStringLiteral(", ")));
+}
+
+QStringList cellsOf(const PourReport::Item &item, bool inUnit)
+{
+    QStringList cells(item.id);
+    if (inUnit)
+        cells << quantityInWords(*item.asked) << quantityInWords(*item.poured) << quantityInWords(*item.left);
+    cells << quantityInWords(item.askedSteps) << quantityInWords(item.pouredSteps);
+    if (!inUnit)
+        cells << quantityInWords(std::max(item.askedSteps - item.pouredSteps, 0.0));
+    return cells;
+}
+
+} // namespace
+
+QStringList PourReport::lacking() const
+{
+    QStringList ids;
+    for (const Item &item : items)
+        if (item.pouredSteps < item.askedSteps)
+            ids.append(item.id);
+    return ids;
+}
+
+PourReport pourReport(const Driver &driver, const Formula &formula)
+{
+    const GetDispensedFormulaAnswer steps = reportInSteps(driver, formula.formulaType());
+    const auto inUnit = reportInUnit(driver, formula);
+    PourReport report{steps.totalFormula().formulaType(), formula.quantityUnit(), {}};
+    for (const FormulaItem &total : steps.totalFormula().items()) {
+        PourReport::Item item;
+        item.id = total.id;
+        item.askedSteps = total.quantity;
+        item.pouredSteps = quantityOf(steps.dispensedFormula(), total.id);
+        if (inUnit) {
+            item.asked = quantityOf(formula, total.id);
+            item.poured = quantityOf(inUnit->dispensedFormula(), total.id);
+            item.left = std::max(quantityOf(inUnit->totalFormula(), total.id) - *item.poured, 0.0);
+        }
+        report.items.append(item);
+    }
+    return report;
+}
+
+void printReport(const PourReport &report)
+{
+    const bool inUnit = !report.items.isEmpty() && report.items.first().asked.has_value();
+    Columns columns;
+    columns.add(headings(report, inUnit));
+    for (const PourReport::Item &item : report.items)
+        columns.add(cellsOf(item, inUnit));
+    columns.print(true);
+    const QStringList lacking = report.lacking();
+    printLine(lastLine(lacking), lacking.isEmpty() ? Colour::Bold : Colour::Red);
+}
+
+OrderedJson reportJson(const PourReport &report)
+{
+    OrderedJson items = OrderedJson::array();
+    for (const PourReport::Item &item : report.items) {
+        OrderedJson told = {{"id", toJson(item.id)}};
+        if (item.asked) {
+            told["asked"] = *item.asked;
+            told["poured"] = *item.poured;
+            told["left"] = *item.left;
+        }
+        told["asked_steps"] = item.askedSteps;
+        told["poured_steps"] = item.pouredSteps;
+        items.push_back(std::move(told));
+    }
+    return items;
+}
+
+PourPlan pourPlan(const Driver &driver, const Formula &formula)
+{
+    const QString name = ProtoCommandList::cmdStr(ProtoCommandList::GET_LOW_LEVEL_FORMULA);
+    GenericFormulaCmd command(name, formula);
+    const Formula &steps = executed<GetLowLevelFormulaAnswer>(driver, command).formula();
+    const QVector<FormulaItem> asked = addedUp(formula).items();
+    const bool isPaired = asked.size() == steps.items().size(); // each in the formula's order
+    PourPlan plan;
+    plan.formulaType = formula.formulaType();
+    for (int i = 0; i < steps.items().size(); ++i) {
+        PourPlan::Item item;
+        if (isPaired) {
+            item.id = asked[i].id;
+            item.asked = asked[i].quantity;
+        }
+        item.position = steps.items().at(i).id;
+        item.steps = std::max(steps.items().at(i).quantity, 1.0);
+        plan.items.append(item);
+    }
+    return plan;
+}
+
+void printPlan(const PourPlan &plan)
+{
+    const bool isPaired = !plan.items.isEmpty() && plan.items.first().asked.has_value();
+    Columns columns;
+    columns.add({isPaired ? headingOf(plan.formulaType) : QString(), QStringLiteral("ASKED"),
+                 QStringLiteral("POSITION"), QStringLiteral("STEPS")});
+    for (const PourPlan::Item &item : plan.items)
+        columns.add({item.id, item.asked ? quantityInWords(*item.asked) : QString(), item.position,
+                     quantityInWords(item.steps)});
+    columns.print(true);
+    if (plan.time > 0)
+        printLine(QStringLiteral("would take %1 s").arg(QString::number(double(plan.time) / 1000, 'f', 1)));
+    printLine(plan.isEnough ? QStringLiteral("the canisters hold enough")
+                            : QStringLiteral("the canisters do not hold enough"),
+              plan.isEnough ? Colour::Bold : Colour::Red);
+    printLine(QStringLiteral("nothing has been poured"));
+}
+
+OrderedJson planJson(const PourPlan &plan)
+{
+    OrderedJson items = OrderedJson::array();
+    for (const PourPlan::Item &item : plan.items) {
+        OrderedJson told = OrderedJson::object();
+        if (item.asked) {
+            told["id"] = toJson(item.id);
+            told["asked"] = *item.asked;
+        }
+        told["position"] = toJson(item.position);
+        told["steps"] = item.steps;
+        items.push_back(std::move(told));
+    }
+    return {{"exec_time", plan.time}, {"enough", plan.isEnough}, {"items", std::move(items)}};
+}
+
+} // namespace quv

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "commandline.h"
+#include "driver.h"
+
+#include "base/protoanswer.h"
+#include "base/protocommand.h"
+#include "base/xmlrpcanswer.h"
+
+#include <QuvFramework/formula.h>
+
+#include <optional>
+
+namespace quv {
+
+/// Sends a command, and gives its answer. \throws RequestRefused, std::runtime_error for an answer of another class
+template <class Answer>
+const Answer &executed(const Driver &driver, ProtoCommand &command)
+{
+    const XmlRpcAnswer &envelope = driver.execute(command);
+    if (envelope.retCode() != 0)
+        throw RequestRefused(envelope);
+    const auto *answer = dynamic_cast<const Answer *>(command.getProtoAnswer());
+    if (!answer)
+        throw std::runtime_error("the answer to " + command.command().toStdString() + " is another one");
+    return *answer;
+}
+
+/// What a pour was asked for and what left the nozzles, in the words of the formula.
+struct PourReport
+{
+    struct Item
+    {
+        QString id{};
+        // in the formula's own unit; nothing when that is steps, or the driver cannot tell it so
+        std::optional<double> asked{};
+        std::optional<double> poured{};
+        std::optional<double> left{};
+        double askedSteps = 0;
+        double pouredSteps = 0;
+    };
+
+    int formulaType = 0;
+    int quantityUnit = 0;
+    QVector<Item> items{};
+
+    QStringList lacking() const; ///< of which less was poured than asked
+};
+
+PourReport pourReport(const Driver &driver, const Formula &formula);
+void printReport(const PourReport &report);
+OrderedJson reportJson(const PourReport &report);
+
+/// What the driver's machine would do for a formula that it would not refuse.
+struct PourPlan
+{
+    struct Item
+    {
+        QString id{}; ///< as the formula calls it; empty, as is the amount, when that cannot be told
+        std::optional<double> asked{};
+        QString position{};
+        double steps = 0;
+    };
+
+    int formulaType = 0;
+    QVector<Item> items{};
+    long long time = 0;    ///< milliseconds; 0 when nobody knows
+    bool isEnough = false; ///< no canister would fall below its critical level
+};
+
+PourPlan pourPlan(const Driver &driver, const Formula &formula);
+void printPlan(const PourPlan &plan);
+OrderedJson planJson(const PourPlan &plan);
+
+} // namespace quv
