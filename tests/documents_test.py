@@ -332,9 +332,9 @@ class Reference(DocumentTest):
                 if ("CHANNEL_TINT" in example) != (machine == "dual"):
                     continue
                 with self.subTest(example):
-                    first, *more = shell.run(example)
-                    codes = set(re.findall(r"DE\d{5}", "\n".join(more)))
-                    self.assertTrue(first.endswith(" executed successfully!") or codes & self.LIMITS, [first, *more])
+                    told = shell.run(example)
+                    codes = set(re.findall(r"DE\d{5}", "\n".join(told)))
+                    self.assertTrue(any(line.endswith(" executed successfully!") for line in told) or codes & self.LIMITS, told)
                 with self.subTest(call):
                     with xmlrpc.client.ServerProxy(f"http://127.0.0.1:{shell.ports[PORT]}") as driver:
                         envelope = eval(call, {"driver": driver})

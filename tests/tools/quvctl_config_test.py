@@ -317,9 +317,10 @@ class File(ConfigTest):
     def test_what_is_no_regular_file_is_refused_and_not_waited_for(self):
         os.mkfifo(self.path)
         with ScriptedDriver({(7, 1): HUMIDIFIER}) as driver:
-            for action in ("pull", "diff", "push"):
-                self.assertEqual(self.config(driver, action),
-                                 (1, "", f"quvctl: {self.path}: it is no regular file\n"), action)
+            text = f"quvctl: {self.path}: it is no regular file"
+            self.assertEqual(self.config(driver, "pull"), (1, "", text + "\n"))
+            for action in ("diff", "push"):
+                self.assertEqual(self.config(driver, action), (2, "", text + " (see quvctl help)\n"), action)
             self.assertEqual(driver.asked, [])
         self.assertEqual(os.listdir(self.folder.name), [os.path.basename(self.path)])
 

@@ -290,7 +290,7 @@ class Pouring(unittest.TestCase):
         self.assertEqual((code, json.loads(out), err), (0, {"ok": True, "ticket": "T-1"}, ""))
         code, out, err = self.refused_here("B=0", "--json")
         self.assertEqual((code, json.loads(out)), (1, {
-            "ok": False, "text": "the amounts cannot be poured as they are asked for"}))
+            "ok": False, "code": "", "text": "the amounts cannot be poured as they are asked for", "function": ""}))
         self.assertEqual(err.split("\n")[0], "B: a quantity of 0 cannot be poured")
 
     def test_json_of_a_plan(self):
@@ -514,11 +514,10 @@ class Simulated(unittest.TestCase):
         formula = json.dumps({"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [5.0]})
         with quvdriver_process.Driver("--machine", "dispenser") as driver:
             query = ["call", "GET_LOW_LEVEL_FORMULA", formula, "--json", "--port", str(driver.port)]
-            self.assertEqual(run(*query), (1, "", (
-                "DE00334: Invalid dispenser data; --machine tells for which machine the formula is, as in "
-                "--machine dispenser\n")))
+            text = ("Invalid dispenser data; --machine tells for which machine the formula is, as in "
+                    "--machine dispenser")
             code, out, err = run(*query)
-            self.assertEqual((code, json.loads(out)["code"], err), (1, "DE00334", "DE00334: Invalid dispenser data\n"))
+            self.assertEqual((code, json.loads(out)["text"], err), (1, text, f"DE00334: {text}\n"))
             code, out, _ = run(*query, "--machine", "dispenser")
         self.assertEqual(code, 0)
         built = json.loads(out)["value"]["low_level_formula"]

@@ -42,7 +42,7 @@ class ClientTest(unittest.TestCase):
         self.assertGreater(percentages[-1], 50)
         # what the firmware reports: 50 g of B and 20 g of C by the calibrations of the circuits 2 and 3
         with self.driver.client() as client:
-            report = client.EXEC_B("GET_DISPENSED_FORMULA")["ret_value"]
+            report = client.EXEC_B("GET_DISPENSED_FORMULA", 1, 1)["ret_value"]
         self.assertEqual(report["total_formula"]["ids"], ["2", "3"])
         self.assertEqual(report["dispensed_formula"]["quantities"], [5280, 2170])
 
