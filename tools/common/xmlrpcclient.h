@@ -10,7 +10,7 @@ namespace quv {
 
 struct XmlRpcClientOptions
 {
-    std::string token{}; ///< that the server wants to be shown; empty: none
+    std::string token{};        ///< that the server wants to be shown; empty: none
     std::string path = "/RPC2"; ///< to which calls are posted
 };
 
