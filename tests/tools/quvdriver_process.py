@@ -45,7 +45,7 @@ class Driver:
 
     def post(self, document):
         """The reply to a raw document, decoded: raises xmlrpc.client.Fault for a fault."""
-        connection = http.client.HTTPConnection("127.0.0.1", self.port, timeout=5)
+        connection = http.client.HTTPConnection("127.0.0.1", self.port, timeout=60)
         try:
             connection.request("POST", "/RPC2", document, {"Content-Type": "text/xml"})
             response = connection.getresponse()
@@ -58,18 +58,18 @@ class Driver:
 
 
 class Transport(xmlrpc.client.Transport):
-    """Waits no longer than a few seconds for anything."""
+    """Waits no longer than a minute for anything."""
 
     def make_connection(self, host):
         connection = super().make_connection(host)
-        connection.timeout = 5
+        connection.timeout = 60
         return connection
 
 
 def run(*options):
     """The program until it ends by itself."""
     return subprocess.run([PROGRAM, *options], stdin=subprocess.DEVNULL, capture_output=True, text=True,
-                          timeout=10, check=False)
+                          timeout=60, check=False)
 
 
 def main():
