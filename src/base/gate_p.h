@@ -14,15 +14,15 @@ struct FamilyGate
     int aboveRevision = always;
 };
 
-/** True when the gate of the version's family lets its revision pass; false for a family without a gate. */
+/** True when the gate of the version's family lets its revision pass; \a others for a family without a gate. */
 template <class Gates>
-bool passesGate(const Gates &gates, const FW_Version &version)
+bool passesGate(const Gates &gates, const FW_Version &version, bool others = false)
 {
     for (const FamilyGate &gate : gates) {
         if (gate.family == version.m_family)
             return gate.aboveRevision == FamilyGate::always || version.m_revision > gate.aboveRevision;
     }
-    return false;
+    return others;
 }
 
 } // namespace quv

@@ -18,6 +18,9 @@ MemberFacts factsOf(const MemberRow &row)
     member.key = QString::fromUtf8(row.key);
     member.type = QString::fromLatin1(row.type ? row.type->name : fieldType<bool>().name);
     member.meaning = QString::fromUtf8(row.type ? row.meaning : "always false");
+    if (row.isFilled)
+        member.meaning +=
+            QLatin1String(member.meaning.isEmpty() ? "only when not empty" : "; only when not empty");
     member.required = isGiven(row.missing);
     if (isSame(row.missing, row.otherType)) {
         appendRefusal(member.refusals, "XML-RPC", "missing or another type", row.missing);

@@ -46,4 +46,58 @@ constexpr FieldType objectType()
             writeObject<T>, equalFields<T>,   resetField<T>};
 }
 
+template <class T>
+Decoded readObjects(const XmlRpc::XmlRpcValue &value, void *field)
+{
+    if (value.getType() != XmlRpc::XmlRpcValue::TypeArray)
+        return Decoded::OtherType;
+    QList<T> objects;
+    objects.reserve(value.size());
+    for (int i = 0; i < value.size(); ++i) {
+        if (!fillField<QList<T>>(&objects, [&] { return objects << T(value[i]); }))
+            return Decoded::BadElement;
+    }
+    *static_cast<QList<T> *>(field) = std::move(objects);
+    return Decoded::Good;
+}
+
+/** Takes a list of T, and a list of variants that each hold one. */
+template <class T>
+bool readObjectsVariant(const QVariant &variant, void *field)
+{
+    if (variant.userType() == qMetaTypeId<QList<T>>()) {
+        *static_cast<QList<T> *>(field) = variant.value<QList<T>>();
+        return true;
+    }
+    if (variant.userType() != QMetaType::QVariantList)
+        return false;
+    QList<T> objects;
+    for (const QVariant &element : variant.toList()) {
+        T object;
+        if (!readObjectVariant<T>(element, &object))
+            return false;
+        objects.append(object);
+    }
+    *static_cast<QList<T> *>(field) = std::move(objects);
+    return true;
+}
+
+template <class T>
+void writeObjects(const void *field, XmlRpc::XmlRpcValue &value)
+{
+    const auto &objects = *static_cast<const QList<T> *>(field);
+    value.clear();
+    value.setSize(objects.size());
+    for (int i = 0; i < objects.size(); ++i)
+        value[i] = objects.at(i).toXmlRpcValue();
+}
+
+/** A list of T that travels as an array of their structs. */
+template <class T>
+constexpr FieldType objectListType()
+{
+    return {"array of structs", FieldType::Other,      readObjects<T>,      readObjectsVariant<T>,
+            writeObjects<T>,    equalFields<QList<T>>, resetField<QList<T>>};
+}
+
 } // namespace quv

@@ -90,6 +90,11 @@ RecordTable::RecordTable(std::vector<MemberRow> rows) : m_rows(std::move(rows))
     Q_ASSERT(m_rows.size() <= maxMembers);
     m_read = sorted(Read);
     m_write = sorted(Write);
+    const auto filled = std::stable_partition(m_write.begin(), m_write.end(), [this](const SortedRow &place) {
+        return !m_rows[place.index].isFilled;
+    });
+    m_writeFilled.assign(filled, m_write.end());
+    m_write.erase(filled, m_write.end());
     for (const SortedRow &place : m_write) {
         const MemberRow &row = m_rows[place.index];
         if (row.type && row.type->speed == FieldType::Int)
@@ -156,6 +161,7 @@ XmlRpcValue RecordTable::encode(const void *source) const
     auto member = value.begin();
     for (const SortedRow &place : m_write)
         writeMember(m_rows[place.index], source, (member++)->second);
+    encodeFilled(source, value);
     return value;
 }
 
@@ -167,6 +173,16 @@ void RecordTable::encodeInto(const void *source, XmlRpcValue &value) const
     }
     for (const SortedRow &place : m_write)
         writeMember(m_rows[place.index], source, value[place.key]);
+    encodeFilled(source, value);
+}
+
+void RecordTable::encodeFilled(const void *source, XmlRpcValue &value) const
+{
+    for (const SortedRow &place : m_writeFilled) {
+        const MemberRow &row = m_rows[place.index];
+        if (row.isFilled(fieldOf(row, source)))
+            writeMember(row, source, value[place.key]);
+    }
 }
 
 bool RecordTable::equal(const void *left, const void *right) const

@@ -29,6 +29,8 @@ struct MemberRow
     Refusal inList;    ///< when the list's element of the same place is missing or of another type
     unsigned uses = AllUses;
     const char *meaning = "";
+    bool (*isFilled)(const void *field) =
+        nullptr; ///< given where the member is written only when its field is filled
 };
 
 /** Where a field lies in its object: what a pointer to a data member holds, with the compilers for Linux. */
@@ -54,6 +56,17 @@ public:
     {
         V T::*ownField = field; // which may be one of a base class
         m_row = {key, &fieldType<V>(), offsetOf(ownField), refusal, refusal, refusal, inList};
+    }
+
+    /** A list or a text that is written only when something is in it; read it may be missing, unless told otherwise. */
+    template <class C, class V>
+    static Member writtenWhenFilled(const char *key, V C::*field, const Refusal &refusal = {},
+                                    const Refusal &inList = {})
+    {
+        Member member(key, field, refusal, inList);
+        member.m_row.missing = {};
+        member.m_row.isFilled = [](const void *place) { return !static_cast<const V *>(place)->isEmpty(); };
+        return member;
     }
 
     /** A member that clients ask for and nothing stands behind: it is written as false, and never read. */
@@ -128,11 +141,13 @@ private:
     };
 
     std::vector<SortedRow> sorted(unsigned use) const;
+    void encodeFilled(const void *source, XmlRpc::XmlRpcValue &value) const;
     void decodeMembers(const XmlRpc::XmlRpcValue &value, void *target, Decoded *decoded, bool *found) const;
 
     std::vector<MemberRow> m_rows;
     std::vector<SortedRow> m_read;
     std::vector<SortedRow> m_write;
+    std::vector<SortedRow> m_writeFilled; ///< of the members that are written only when filled
     XmlRpc::XmlRpcValue m_prototype;
 };
 

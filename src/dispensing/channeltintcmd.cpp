@@ -2,6 +2,8 @@
 #include "dispensing/channeltintcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/digits_p.h"
+#include "base/wire_p.h"
 #include "dispensing/formula_p.h"
 
 #include <algorithm>

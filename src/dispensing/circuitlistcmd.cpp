@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "dispensing/circuitlistcmd.h"
 
+#include "base/digits_p.h"
 #include "base/gate_p.h"
 #include "dispensing/pcircuitformula_p.h"
 
@@ -29,7 +30,7 @@ QList<int> CircuitListCmd::serialParameters(int) const
     for (const PCircuit &circuit : m_formula.targetCircuits) {
         parameters << circuit.positionID << circuit.queueID << circuit.speed;
         if (circuit.strokes > 0)
-            quv::appendCounted(parameters, splitValue(circuit.strokes, quv::serialBase));
+            quv::appendCountedDigits(parameters, circuit.strokes);
     }
     return parameters;
 }

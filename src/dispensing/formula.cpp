@@ -164,24 +164,4 @@ long long autocapTime(const FW_Dispenser *dispenser)
     return AutocapCmd().getCmdEstimatedExecutionTime(dispenser);
 }
 
-void appendCounted(QList<int> &parameters, const QList<int> &digits)
-{
-    parameters.append(digits.size());
-    parameters.append(digits);
-}
-
-void appendCountedDigits(QList<int> &parameters, long long number)
-{
-    // as splitValue does, but without a list for each of a formula's numbers
-    const int place = parameters.size();
-    parameters.append(0);
-    if (number < 0)
-        return;
-    do {
-        parameters.append(static_cast<int>(number % serialBase));
-        number /= serialBase;
-    } while (number > 0);
-    parameters[place] = parameters.size() - place - 1;
-}
-
 } // namespace quv

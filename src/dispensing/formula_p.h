@@ -3,7 +3,6 @@
 
 #include "base/decoding_p.h"
 #include "base/refusal_p.h"
-#include "base/wire_p.h"
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
@@ -117,10 +116,5 @@ QList<int> pourParameters(const ProtoCommand &command, const Formula &formula,
 
 /** What a default movement of the automatic cap adds to the time of a pour. */
 long long autocapTime(const FW_Dispenser *dispenser);
-
-/** Appends the number of digits, then the digits. */
-void appendCounted(QList<int> &parameters, const QList<int> &digits);
-/** The same of a number's digits; none for a negative one. */
-void appendCountedDigits(QList<int> &parameters, long long number);
 
 } // namespace quv

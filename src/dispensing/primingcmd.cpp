@@ -2,6 +2,7 @@
 #include "dispensing/primingcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/digits_p.h"
 #include "dispensing/formula_p.h"
 
 namespace {
@@ -126,7 +127,7 @@ QList<int> PrimingCmd::serialParameters(int) const
         if (strokes <= 0)
             continue;
         parameters << item.positionId() << 0 << item.speed();
-        quv::appendCounted(parameters, splitValue(strokes, quv::serialBase));
+        quv::appendCountedDigits(parameters, strokes);
     }
     return parameters;
 }

@@ -2,6 +2,7 @@
 #include "dispensing/tintcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/digits_p.h"
 #include "dispensing/formula_p.h"
 
 #include <algorithm>

@@ -123,6 +123,48 @@ TEST(FieldType, ofAnObjectIsItsOwnStruct)
     EXPECT_STREQ(type.name, "nozzle");
 }
 
+TEST(FieldType, ofObjectsIsAnArrayOfTheirStructs)
+{
+    constexpr quv::FieldType type = quv::objectListType<Nozzle>();
+    QList<Nozzle> field;
+    EXPECT_EQ(type.read(arrayOf(structOf({{"turns", 5}}), structOf({{"turns", 6}})), &field),
+              quv::Decoded::Good);
+    EXPECT_EQ(field, (QList<Nozzle>{Nozzle(5), Nozzle(6)}));
+    for (const Value &bad : {Value(), Value(5), structOf({{"turns", 5}})})
+        EXPECT_EQ(type.read(bad, &field), quv::Decoded::OtherType);
+    EXPECT_EQ(type.read(arrayOf(structOf({{"turns", 5}}), Value(5)), &field), quv::Decoded::BadElement);
+    EXPECT_EQ(field, (QList<Nozzle>{Nozzle(5), Nozzle(6)}));
+    expectRefusal("DE1", "Turned back", "Nozzle::Nozzle()", [&] {
+        type.read(arrayOf(structOf({{"turns", -1}})), &field);
+    });
+
+    Value value(false);
+    type.write(&field, value);
+    EXPECT_EQ(dumped(value), R"([{"turns": 5}, {"turns": 6}])");
+    const QList<Nozzle> same = {Nozzle(5), Nozzle(6)};
+    EXPECT_TRUE(type.equal(&field, &same));
+    type.reset(&field);
+    EXPECT_EQ(field, QList<Nozzle>());
+    type.write(&field, value);
+    EXPECT_EQ(dumped(value), "[]");
+    EXPECT_STREQ(type.name, "array of structs");
+}
+
+TEST(FieldType, ofObjectsInAListIsAListOfThem)
+{
+    constexpr quv::FieldType type = quv::objectListType<Nozzle>();
+    QList<Nozzle> field;
+    EXPECT_TRUE(type.readVariant(QVariant::fromValue(QList<Nozzle>{Nozzle(5)}), &field));
+    EXPECT_EQ(field, QList<Nozzle>{Nozzle(5)});
+    EXPECT_TRUE(type.readVariant(QVariantList{QVariant::fromValue(Nozzle(1)), QVariant::fromValue(Nozzle(2))},
+                                 &field));
+    EXPECT_EQ(field, (QList<Nozzle>{Nozzle(1), Nozzle(2)}));
+    for (const QVariant &bad :
+         {QVariant(), QVariant(6), QVariant::fromValue(Nozzle(5)), QVariant(QVariantList{6})})
+        EXPECT_FALSE(type.readVariant(bad, &field));
+    EXPECT_EQ(field, (QList<Nozzle>{Nozzle(1), Nozzle(2)}));
+}
+
 TEST(FieldType, ofAnObjectInAListIsAlsoAMap)
 {
     QMetaType::registerConverter<QVariantMap, Nozzle>(

@@ -37,6 +37,13 @@ TEST(Gate, isClosedForOtherFamilies)
     EXPECT_FALSE(quv::passesGate(gates, FW_Version()));
 }
 
+TEST(Gate, isOpenForOtherFamiliesWhereToldSo)
+{
+    EXPECT_TRUE(quv::passesGate(gates, FW_Version(62, 0), true));
+    EXPECT_FALSE(quv::passesGate(gates, FW_Version(63, 38), true));
+    EXPECT_TRUE(quv::passesGate(gates, FW_Version(63, 39), true));
+}
+
 TEST(Gate, readsFamilyAndRevisionOnly)
 {
     EXPECT_TRUE(quv::passesGate(gates, FW_Version(63, 0, 0, 0, 0, 39)));

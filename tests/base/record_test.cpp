@@ -256,6 +256,32 @@ TEST(Record, beginsWithTheBaseOfADerivedClass)
     EXPECT_FALSE(record.equal(valve, other));
 }
 
+TEST(Record, writesSomeMembersOnlyWhenFilled)
+{
+    const quv::Record<Valve> record({
+        {"open", &Valve::open, {"DE2", expected}},
+        Row::writtenWhenFilled("steps", &Valve::steps, {"DE7", "Steps: another type"}),
+        Row::writtenWhenFilled("label", &Valve::label),
+    });
+    Valve valve = fullValve();
+    EXPECT_EQ(dumped(record.encode(valve)), R"({"label": "north", "open": true, "steps": [1, 2]})");
+    valve.steps.clear();
+    EXPECT_EQ(dumped(record.encode(valve)), R"({"label": "north", "open": true})");
+    valve.label.clear();
+    Value value = structOf({{"other", 1}});
+    record.encodeInto(valve, value);
+    EXPECT_EQ(dumped(value), R"({"open": true, "other": 1})");
+    valve.label = "south";
+    record.encodeInto(valve, value);
+    EXPECT_EQ(dumped(value), R"({"label": "south", "open": true, "other": 1})");
+
+    record.decode(structOf({{"open", false}}), valve, signature);
+    EXPECT_EQ(valve.label, "south");
+    expectRefusal("DE7", "Steps: another type", signature, [&] {
+        record.decode(structOf({{"open", false}, {"steps", 5}}), valve, signature);
+    });
+}
+
 TEST(Record, isAnEmptyStructWithoutMembers)
 {
     const quv::Record<Valve> record{std::vector<Row>()};

@@ -72,22 +72,6 @@ TEST(SharedFormula, knowsAFormulaInAVariant)
     }
 }
 
-TEST(SharedFormula, countsTheDigitsOfANumber)
-{
-    const auto sent = [](long long number) {
-        QList<int> parameters = {7};
-        quv::appendCountedDigits(parameters, number);
-        return parameters;
-    };
-    EXPECT_EQ(sent(0), (QList<int>{7, 1, 0}));
-    EXPECT_EQ(sent(245), (QList<int>{7, 1, 245}));
-    EXPECT_EQ(sent(246), (QList<int>{7, 2, 0, 1}));
-    EXPECT_EQ(sent(60515), (QList<int>{7, 2, 245, 245}));
-    EXPECT_EQ(sent(60516), (QList<int>{7, 3, 0, 0, 1}));
-    EXPECT_EQ(sent(9223372036854775807), (QList<int>{7, 8, 7, 210, 223, 38, 242, 195, 43, 169}));
-    EXPECT_EQ(sent(-1), (QList<int>{7, 0}));
-}
-
 TEST(SharedFormula, knowsTheLongTint)
 {
     TintCmd command;
