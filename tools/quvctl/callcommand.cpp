@@ -48,7 +48,7 @@ ExitStatus printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope
     OrderedJson reply = envelopeReply(command);
     if (reply.contains("value"))
         reply["value"] = toJson(envelope.xmlrpcRetValue());
-    printLine(QString::fromStdString(writeJson(reply)));
+    printJson(reply);
     return errorLines(envelope).isEmpty() ? Done : Refused;
 }
 

@@ -47,11 +47,6 @@ private:
     std::optional<Progress> m_progress{};
 };
 
-void printJson(const OrderedJson &json)
-{
-    printLine(QString::fromStdString(writeJson(json)));
-}
-
 QString inWords(std::size_t count, const char *one, const char *many)
 {
     return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));

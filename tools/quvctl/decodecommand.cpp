@@ -38,7 +38,7 @@ ExitStatus run(const CommandLine &line)
     const Request request(requestOf(line));
     withCommandName(line.words().first(), [&] {
         if (line.isSet("json"))
-            printLine(QString::fromStdString(writeJson(runOperation(request))));
+            printJson(runOperation(request));
         else
             printAnswer(*decodedCommand(request)->getProtoAnswer());
     });

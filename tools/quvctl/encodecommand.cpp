@@ -53,7 +53,7 @@ ExitStatus run(const CommandLine &line)
     typedCommand(line, request); // refuses what would be lost
     const OrderedJson reply = runOperation(Request(request));
     if (line.isSet("json"))
-        printLine(QString::fromStdString(writeJson(reply)));
+        printJson(reply);
     else
         print(reply);
     return Done;

@@ -146,7 +146,7 @@ ExitStatus run(const CommandLine &line)
     const QString code = codeOf(line.words().first());
     const Explanations found = explanationsOf(code);
     if (line.isSet("json"))
-        printLine(QString::fromStdString(writeJson(inJson(code, found))));
+        printJson(inJson(code, found));
     else
         print(code, found);
     return Done;

@@ -72,7 +72,7 @@ ExitStatus run(const CommandLine &line)
         OrderedJson array = OrderedJson::array();
         for (const CMD_STRUCT *row : rows)
             array.push_back(catalogueRow(*row));
-        printLine(QString::fromStdString(writeJson(array)));
+        printJson(array);
     } else {
         printTable(rows);
     }

@@ -17,7 +17,7 @@ ExitStatus run(const CommandLine &line)
     if (line.isSet("json")) {
         OrderedJson reply = success();
         reply["machine"] = OrderedJson::parse(machineFileOf(*machine).toStdString());
-        printLine(QString::fromStdString(writeJson(reply)));
+        printJson(reply);
         return Done;
     }
     const QStringList lines = QString::fromUtf8(machineFileOf(*machine)).split(QLatin1Char('\n'));

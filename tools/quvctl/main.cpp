@@ -110,7 +110,7 @@ ExitStatus runReporting(const QStringList &words)
         const Failure failure = failureCaught();
         // the options themselves may be what is wrong
         if (words.contains(QStringLiteral("--json")))
-            printLine(QString::fromStdString(writeJson(failure.json)));
+            printJson(failure.json);
         for (const QString &line : failure.lines)
             printError(line);
         return failure.status;

@@ -38,7 +38,7 @@ ExitStatus run(const CommandLine &line)
     if (line.isSet("names"))
         printNames(name);
     else if (line.isSet("json"))
-        printLine(QString::fromStdString(writeJson(referenceJson(referenceOf(*row)))));
+        printJson(referenceJson(referenceOf(*row)));
     else
         printReference(referenceOf(*row));
     return Done;

@@ -132,6 +132,11 @@ void printParagraph(const QString &text, Colour colour, int columns)
         printLine(line, colour);
 }
 
+void printJson(const OrderedJson &json)
+{
+    printLine(QString::fromStdString(writeJson(json)));
+}
+
 void printWhole(const QString &text)
 {
     write(stdout, text.toStdString());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "jsonvalue.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -20,6 +22,8 @@ void printLine(const QString &text, Colour colour = Colour::Plain);
 /// The same in as many lines as a terminal needs, broken between words.
 void printParagraph(const QString &text, Colour colour = Colour::Plain);
 void printParagraph(const QString &text, Colour colour, int columns);
+/// A line of JSON on standard output.
+void printJson(const OrderedJson &json);
 /// A text of the program's own on standard output, as it is and flushed.
 void printWhole(const QString &text);
 /// A line on standard error.

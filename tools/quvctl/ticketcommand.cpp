@@ -48,7 +48,7 @@ ExitStatus printAsJson(const Ticket &ticket, const CmdStatus &status)
         reply["envelope"] = envelopeJson(envelope);
         reply["value"] = toJson(envelope.xmlrpcRetValue());
     }
-    printLine(QString::fromStdString(writeJson(reply)));
+    printJson(reply);
     return running ? Done : statusOfEnd(status);
 }
 

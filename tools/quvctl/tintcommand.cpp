@@ -109,11 +109,6 @@ Ticket begin(const Driver &driver, Formula &formula, const CommandLine &line)
     return {driver, ticket, line};
 }
 
-void printJson(const OrderedJson &json)
-{
-    printLine(QString::fromStdString(writeJson(json)));
-}
-
 /// What would be poured. Sends nothing but questions; the estimate is refused with what the pour would be refused with.
 ExitStatus plan(const Driver &driver, Formula formula, const CommandLine &line)
 {

@@ -118,7 +118,7 @@ public:
         m_last = std::move(told);
         OrderedJson reply = now.reply;
         reply["time"] = toJson(QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
-        printLine(QString::fromStdString(writeJson(reply)));
+        printJson(reply);
     }
 
 private:

@@ -93,7 +93,7 @@ void printAnswer(const ProtoAnswer &answer)
 {
     const auto *status = dynamic_cast<const MachineStatusAnswer *>(&answer);
     if (!status) {
-        printLine(QString::fromStdString(writeJson(toJson(answer.toXmlRpcValue()))));
+        printJson(toJson(answer.toXmlRpcValue()));
         return;
     }
     printLine(QStringLiteral("Machine status %1").arg(status->status()), Colour::Bold);
@@ -106,7 +106,7 @@ void printValue(const XmlRpc::XmlRpcValue &value)
     if (FindXmlRpcMember(value, "disp_status"))
         printAnswer(DispenserStatusAnswer(value));
     else
-        printLine(QString::fromStdString(writeJson(toJson(value))));
+        printJson(toJson(value));
 }
 
 } // namespace quv
