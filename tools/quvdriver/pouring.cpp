@@ -23,11 +23,10 @@ void takeSteps(FW_Dispenser &dispenser, const FormulaItem &item)
     const FW_Canister *canister = circuit ? dispenser.getCanisterOfCircuitID(circuit->id()) : nullptr;
     if (!canister)
         return;
-    bool isKnown = false;
-    const double quantity = circuit->calibration().quantity(static_cast<long long>(item.quantity), &isKnown);
-    if (isKnown) {
+    const auto quantity = quantityOf(static_cast<qint64>(item.quantity), *circuit, Formula::WeightOrVolume);
+    if (quantity) {
         FW_Canister *changed = dispenser.getCanisterById(canister->id());
-        changed->setCurrentQuantity(std::max(changed->currentQuantity() - quantity, 0.0));
+        changed->setCurrentQuantity(std::max(changed->currentQuantity() - *quantity, 0.0));
     }
 }
 
