@@ -84,16 +84,21 @@ std::vector<Amount> amountsOf(const Formula &formula, const FW_Dispenser &dispen
     return amounts;
 }
 
-std::optional<Formula> pouredFormula(const ProtoCommand &command)
+std::optional<Formula> formulaOf(const ProtoCommand &command)
 {
-    if (!dynamic_cast<const FW_Dispenser *>(command.machine()) || !poursFormula(command.command()))
-        return std::nullopt;
     const QList<QVariant> parameters = command.parameters();
     for (const QVariant &parameter : parameters) {
         if (parameter.userType() == qMetaTypeId<Formula>())
             return parameter.value<Formula>();
     }
     return std::nullopt;
+}
+
+std::optional<Formula> pouredFormula(const ProtoCommand &command)
+{
+    const bool isPour =
+        dynamic_cast<const FW_Dispenser *>(command.machine()) && poursFormula(command.command());
+    return isPour ? formulaOf(command) : std::nullopt;
 }
 
 std::optional<double> quantityOf(qint64 steps, const FW_Circuit &circuit, int unit)

@@ -28,6 +28,9 @@ struct Amount
 /// The amounts of a formula, each ID once, in the formula's order; none when it does not fit the dispenser.
 std::vector<Amount> amountsOf(const Formula &formula, const FW_Dispenser &dispenser);
 
+/// The formula among the command's arguments, if any.
+std::optional<Formula> formulaOf(const ProtoCommand &command);
+
 /// The formula that the command pours on its dispenser; nothing for a command that pours none.
 std::optional<Formula> pouredFormula(const ProtoCommand &command);
 

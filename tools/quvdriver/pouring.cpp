@@ -104,13 +104,9 @@ RunningPour describedPour(const ProtoCommand &command, qint64 expected)
     RunningPour pour;
     pour.command = command.command();
     pour.progress = Progress(expected);
-    const QList<QVariant> parameters = command.parameters();
-    for (const QVariant &parameter : parameters) {
-        if (parameter.userType() == qMetaTypeId<Formula>())
-            pour.formula = parameter.value<Formula>();
-    }
+    pour.formula = formulaOf(command).value_or(Formula());
     if (pour.command == ProtoCommandList::cmdStr(ProtoCommandList::CHANNEL_TINT))
-        pour.channel = parameters.value(0).toInt();
+        pour.channel = command.parameters().value(0).toInt();
     return pour;
 }
 
