@@ -22,6 +22,16 @@ Formula addedUp(const Formula &formula)
     return once;
 }
 
+double quantityIn(const Formula &formula, const QString &id)
+{
+    double quantity = 0;
+    for (const FormulaItem &item : formula.items()) {
+        if (item.id == id)
+            quantity += item.quantity;
+    }
+    return quantity;
+}
+
 double nearestCount(double asked)
 {
     return std::max(std::round(asked), 1.0);

@@ -10,6 +10,9 @@ namespace quv {
 /// The formula with each ID once, its quantities added up, in the order in which they come first.
 Formula addedUp(const Formula &formula);
 
+/// All that the formula asks of one ID, in its own unit.
+double quantityIn(const Formula &formula, const QString &id);
+
 /// The nearest number of steps or strokes that a machine pours: a whole one, and never none.
 double nearestCount(double asked);
 

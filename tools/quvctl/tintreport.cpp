@@ -30,15 +30,6 @@ QString headingOf(int formulaType)
     }
 }
 
-double quantityOf(const Formula &formula, const QString &id)
-{
-    double quantity = 0;
-    for (const FormulaItem &item : formula.items())
-        if (item.id == id)
-            quantity += item.quantity;
-    return quantity;
-}
-
 bool isIn(const Formula &told, int type, int unit)
 {
     return told.formulaType() == type && told.quantityUnit() == unit;
@@ -119,11 +110,11 @@ PourReport pourReport(const Driver &driver, const Formula &formula)
         PourReport::Item item;
         item.id = total.id;
         item.askedSteps = total.quantity;
-        item.pouredSteps = quantityOf(steps.dispensedFormula(), total.id);
+        item.pouredSteps = quantityIn(steps.dispensedFormula(), total.id);
         if (inUnit) {
-            item.asked = quantityOf(formula, total.id);
-            item.poured = quantityOf(inUnit->dispensedFormula(), total.id);
-            item.left = std::max(quantityOf(inUnit->totalFormula(), total.id) - *item.poured, 0.0);
+            item.asked = quantityIn(formula, total.id);
+            item.poured = quantityIn(inUnit->dispensedFormula(), total.id);
+            item.left = std::max(quantityIn(inUnit->totalFormula(), total.id) - *item.poured, 0.0);
         }
         report.items.append(item);
     }

@@ -40,16 +40,6 @@ FW_ErrorList levelsAsTheyWere(const QString &reason)
     return errors;
 }
 
-double stepsAt(const Formula &formula, const QString &position)
-{
-    double steps = 0;
-    for (const FormulaItem &item : formula.items()) {
-        if (item.id == position)
-            steps += item.quantity;
-    }
-    return steps;
-}
-
 /// What of the formula a circuit pours, in the words of who asked: of "B" 4 of 10.
 QString pouredInWords(const ProtoCommand &command, int position, qint64 poured)
 {
@@ -86,7 +76,7 @@ FW_ErrorList lessThanAsked(const ProtoCommand &command, const GetDispensedFormul
     if (!isToPour(command.command()))
         return errors;
     for (const FormulaItem &total : report.totalFormula().items()) {
-        const double poured = stepsAt(report.dispensedFormula(), total.id);
+        const double poured = quantityIn(report.dispensedFormula(), total.id);
         if (poured < total.quantity)
             errors.append(FW_DriverError(
                 QStringLiteral("DE03142"),
