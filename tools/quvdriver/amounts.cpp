@@ -45,13 +45,14 @@ QString nearestInWords(const Amount &amount, int unit)
     switch (unit) {
     case Formula::Steps:
         return QStringLiteral("%1 steps cannot be poured, the nearest is %2")
-            .arg(inFull(amount.asked), quantityInWords(*amount.nearest));
+            .arg(inFull(amount.asked.quantity), quantityInWords(*amount.nearest));
     case Formula::Strokes:
         return QStringLiteral("%1 strokes cannot be poured, the nearest is %2")
-            .arg(inFull(amount.asked), quantityInWords(*amount.nearest));
+            .arg(inFull(amount.asked.quantity), quantityInWords(*amount.nearest));
     default:
         return QStringLiteral("%1 cannot be poured, the nearest is %2 (steps of the motor: %3)")
-            .arg(inFull(amount.asked), quantityInWords(*amount.nearest), QString::number(amount.steps));
+            .arg(inFull(amount.asked.quantity), quantityInWords(*amount.nearest),
+                 QString::number(amount.steps));
     }
 }
 
@@ -78,7 +79,7 @@ std::vector<Amount> amountsOf(const Formula &formula, const FW_Dispenser &dispen
     for (int i = 0; i < circuits.size(); ++i) {
         const FormulaItem &item = once.items().at(i);
         const CircuitFormulaItem &circuit = circuits.at(i);
-        amounts.push_back({item.id, circuit.positionId(), item.quantity, std::max(circuit.steps(), 1LL),
+        amounts.push_back({item, circuit.positionId(), std::max(circuit.steps(), 1LL),
                            nearestQuantity(circuit, item.quantity, formula.quantityUnit())});
     }
     return amounts;
@@ -140,18 +141,14 @@ void requirePourableAmounts(const ProtoCommand &command)
     Formula pourable = *formula;
     pourable.setItems({});
     FW_ErrorList errors;
-    const Formula once = addedUp(*formula);
-    const std::vector<Amount> amounts =
-        amountsOf(*formula, dynamic_cast<const FW_Dispenser &>(*command.machine()));
-    for (std::size_t i = 0; i < amounts.size(); ++i) {
-        const Amount &amount = amounts[i];
-        const QString name = nameInWords(amount.id, formula->formulaType());
-        FormulaItem item = once.items().at(static_cast<int>(i));
-        if (amount.asked == 0) {
+    for (const Amount &amount : amountsOf(*formula, dynamic_cast<const FW_Dispenser &>(*command.machine()))) {
+        FormulaItem item = amount.asked;
+        const QString name = nameInWords(item.id, formula->formulaType());
+        if (item.quantity == 0) {
             errors.append(nothingAsked(name));
             continue;
         }
-        if (amount.nearest && !isNear(*amount.nearest, amount.asked)) {
+        if (amount.nearest && !isNear(*amount.nearest, item.quantity)) {
             errors.append(notNear(name, nearestInWords(amount, formula->quantityUnit())));
             item.quantity = *amount.nearest;
         }

@@ -17,10 +17,9 @@ namespace quv {
 /// How much of one thing a pour is asked for, and how much of it the machine can pour.
 struct Amount
 {
-    QString id{};     ///< as the formula calls it
-    int position = 0; ///< of the circuit that it comes from
-    double asked = 0; ///< in the formula's unit
-    qint64 steps = 0; ///< the nearest that the motor can turn, 1 at least
+    FormulaItem asked{}; ///< in the formula's words and unit
+    int position = 0;    ///< of the circuit that it comes from
+    qint64 steps = 0;    ///< the nearest that the motor can turn, 1 at least
     std::optional<double>
         nearest{}; ///< what they are in the formula's unit; nothing when the circuit cannot tell
 };

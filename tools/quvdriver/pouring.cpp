@@ -55,11 +55,11 @@ QString pouredInWords(const ProtoCommand &command, int position, qint64 poured)
     const auto quantity = quantityOf(poured, *circuit, formula->quantityUnit());
     if (amount == amounts.end() || !quantity)
         return QStringLiteral("position %1").arg(position);
-    const QString name = nameInWords(amount->id, formula->formulaType());
+    const QString name = nameInWords(amount->asked.id, formula->formulaType());
     return formula->quantityUnit() == Formula::Steps
                ? name
                : QStringLiteral("%1 %2 of %3, in steps")
-                     .arg(name, quantityInWords(*quantity), quantityInWords(amount->asked));
+                     .arg(name, quantityInWords(*quantity), quantityInWords(amount->asked.quantity));
 }
 
 /// A pack and an air purge move the pumps, and nothing is to leave the nozzles.
