@@ -441,6 +441,10 @@ class Simulated(unittest.TestCase):
                 self.assertEqual(run(*call, "--token-file", paths["none"]), (
                     2, "", f'quvctl: Token file "{paths["none"]}": it must hold one line of 16 to 512 characters, without '
                            "blanks (see quvctl help)\n"))
+                pipe = os.path.join(folder, "pipe")  # nobody waits for whoever may write into it
+                os.mkfifo(pipe)
+                self.assertEqual(run(*call, "--token-file", pipe), (
+                    2, "", f'quvctl: Token file "{pipe}": it is no regular file (see quvctl help)\n'))
 
     def test_no_wait(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "100") as driver:

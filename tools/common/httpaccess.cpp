@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "httpaccess.h"
 
+#include "savedfile.h"
+
 #include <QtCore/QByteArray>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 
 #include <algorithm>
 #include <stdexcept>
@@ -96,12 +96,12 @@ std::string readToken(const QString &path)
     const auto fail = [&path](const QString &reason) -> std::runtime_error {
         return std::runtime_error(QStringLiteral("Token file \"%1\": %2").arg(path, reason).toStdString());
     };
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        throw fail(QStringLiteral("it is no regular file"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw fail(file.errorString());
-    std::string token = file.read(MaxToken + 3).trimmed().toStdString();
+    std::string token;
+    try {
+        token = loadFile(path, MaxToken + 3).trimmed().toStdString();
+    } catch (const FileError &error) {
+        throw fail(QString::fromUtf8(error.what()));
+    }
     if (token.size() < MinToken || token.size() > MaxToken ||
         !std::all_of(token.begin(), token.end(), isVisible))
         throw fail(QStringLiteral("it must hold one line of %1 to %2 characters, without blanks")
