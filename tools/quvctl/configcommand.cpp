@@ -57,26 +57,21 @@ QString rowsInWords(std::size_t count)
     return inWords(count, "row", "rows");
 }
 
-/// What \a work gives; its failures tell the file.
-template <class Work>
+/// What \a work gives; its failures tell the file, as an \a Error.
+template <class Error = FileError, class Work>
 auto onFile(const QString &path, Work work)
 {
     try {
         return work();
     } catch (const FileError &error) {
-        throw FileError(QStringLiteral("%1: %2").arg(path, QString::fromUtf8(error.what())));
+        throw Error(QStringLiteral("%1: %2").arg(path, QString::fromUtf8(error.what())));
     }
 }
 
 /// \throws UsageError when it cannot be read, or is none
 ConfigFile configFile(const QString &path)
 {
-    QByteArray text;
-    try {
-        text = loadFile(path, MaxConfigFileSize + 1);
-    } catch (const FileError &error) {
-        throw UsageError(QStringLiteral("%1: %2").arg(path, QString::fromUtf8(error.what())));
-    }
+    const QByteArray text = onFile<UsageError>(path, [&] { return loadFile(path, MaxConfigFileSize + 1); });
     if (text.size() > MaxConfigFileSize)
         throw UsageError(QStringLiteral("%1 is longer than 1 MiB").arg(path));
     try {
