@@ -1,4 +1,5 @@
-# What every target of this project shares: warnings and sanitizers, and how a library is versioned and installed.
+# What every target of this project shares: warnings and sanitizers, how a library is versioned and installed, and what a
+# program is made of.
 
 function(quv_compile_options target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow)
@@ -59,4 +60,17 @@ function(quv_install_library target)
     file(RELATIVE_PATH prefix_from_pc ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
     configure_file(${PROJECT_SOURCE_DIR}/cmake/${target}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc @ONLY)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()
+
+# A program for the shell. It is a thin shell itself: what it does is the library <name>_core, so that tests reach it.
+function(quv_add_tool name)
+    add_executable(${name} main.cpp)
+    quv_compile_options(${name})
+    target_compile_definitions(${name} PRIVATE QUV_VERSION="${PROJECT_VERSION}")
+    target_link_libraries(${name} PRIVATE ${name}_core)
+    if(QUVPROTOCOL_INSTALL)
+        install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+        install(FILES completion/${name}.bash
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ${name})
+    endif()
 endfunction()

@@ -54,7 +54,7 @@ ExitStatus run(QStringList words)
     if (name == QLatin1String("help") || name == QLatin1String("--help") || name == QLatin1String("-h"))
         return help(words);
     if (name == QLatin1String("--version") || name == QLatin1String("-V")) {
-        printLine(QStringLiteral("quvctl " QUVCTL_VERSION));
+        printLine(QStringLiteral("quvctl " QUV_VERSION));
         return Done;
     }
     const Subcommand &subcommand = subcommandOf(name);
