@@ -212,6 +212,14 @@ class Pouring(unittest.TestCase):
         code, out, err, _ = self.tint(tickets=[ticket(0, {**envelope(0), "errors": [error("DE03117", "Unknown")]})])
         self.assertEqual((code, err), (1, "DE03117: Unknown\n"))
         self.assertNotIn("executed successfully", out)
+        beside = [error("DE03117", "Unknown"), error("DE00060", "Another")]
+        with ScriptedDriver(tickets=[ticket(0, {**envelope(0), "errors": beside})]) as driver:
+            code, out, _ = run("tint", "B=12.5", "--json", "--interval", "0.01", "--port", str(driver.port))
+        reply = json.loads(out)
+        self.assertEqual((code, reply["ok"], reply["code"], reply["text"], reply["function"]),
+                         (1, False, "DE03117", "Unknown", ""))
+        self.assertEqual(reply["items"], [
+            {"id": "B", "asked": 12.5, "poured": 12.5, "left": 0, "asked_steps": 1340, "poured_steps": 1340}])
 
     def refused_here(self, *words):
         with ScriptedDriver() as driver:

@@ -52,7 +52,8 @@ qint64 millisecondsSince(std::chrono::steady_clock::time_point begin)
     return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - begin).count();
 }
 
-/// What an envelope without errors tells is its message. \a what, if any, comes before the text.
+} // namespace
+
 FW_DriverError firstError(const XmlRpcAnswer &envelope, const QString &what)
 {
     const QString before = what.isEmpty() ? what : what + QStringLiteral(": ");
@@ -61,8 +62,6 @@ FW_DriverError firstError(const XmlRpcAnswer &envelope, const QString &what)
             return {error->code(), before + error->text()};
     return {QString(), before + envelope.toPrintableString().join(QLatin1Char(' '))};
 }
-
-} // namespace
 
 RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what)
     : std::runtime_error(envelope.infoMsg().toStdString()),

@@ -11,12 +11,16 @@
 
 #include <stdexcept>
 
+class FW_DriverError;
 class ProtoCommand;
 class XmlRpcAnswer;
 
 namespace quv {
 
 class CommandLine;
+
+/// The first of the envelope's errors; what one without errors tells is its message. \a what, if any, comes before the text.
+FW_DriverError firstError(const XmlRpcAnswer &envelope, const QString &what = QString());
 
 /// What a driver did not carry out, in lines: the reasons, with a hint behind those that need one, then what became of it.
 class RequestRefused : public std::runtime_error

@@ -16,6 +16,7 @@
 #include "dispensing/tintcmd.h"
 
 #include <QuvFramework/formula.h>
+#include <QuvFramework/fw_error.h>
 
 #include <algorithm>
 #include <optional>
@@ -146,11 +147,17 @@ void reportIfThere(const Driver &driver, const Formula &formula)
     }
 }
 
+OrderedJson outcomeOf(const PourReport &report, const XmlRpcAnswer &envelope)
+{
+    if (!report.lacking().isEmpty())
+        return failureReply("poured less than asked");
+    return errorLines(envelope).isEmpty() ? success() : failureReply(firstError(envelope));
+}
+
 ExitStatus reportAsJson(const PourReport &report, const Ticket &ticket, const XmlRpcAnswer &envelope)
 {
-    const bool isGood = report.lacking().isEmpty() && errorLines(envelope).isEmpty();
-    OrderedJson reply = report.lacking().isEmpty() ? success() : failureReply("poured less than asked");
-    reply["ok"] = isGood;
+    OrderedJson reply = outcomeOf(report, envelope);
+    const bool isGood = reply["ok"].get<bool>();
     reply["ticket"] = toJson(ticket.id());
     reply["items"] = reportJson(report);
     reply["envelope"] = envelopeJson(envelope);
