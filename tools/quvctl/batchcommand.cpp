@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "batch.h"
 #include "subcommands.h"
+#include "terminal.h"
 
-#include <cerrno>
 #include <iostream>
-#include <stdexcept>
 
 namespace quv {
 
@@ -15,7 +14,7 @@ ExitStatus run(const CommandLine &)
     std::ios::sync_with_stdio(false);
     runBatch(std::cin, std::cout);
     if (!std::cout)
-        throw std::runtime_error("standard output: " + qt_error_string(errno).toStdString());
+        noteOutputFailure();
     return Done;
 }
 

@@ -81,8 +81,8 @@ void write(FILE *stream, const std::string &text)
 {
     const bool isWritten =
         std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
-    if (!isWritten && stream == stdout && outputError == 0)
-        outputError = errno;
+    if (!isWritten && stream == stdout)
+        noteOutputFailure();
 }
 
 void print(FILE *stream, const QString &text, Colour colour)
@@ -145,6 +145,12 @@ void printWhole(const QString &text)
 void printError(const QString &text)
 {
     print(stderr, text, Colour::Red);
+}
+
+void noteOutputFailure()
+{
+    if (outputError == 0)
+        outputError = errno;
 }
 
 QString outputFailure()

@@ -29,6 +29,8 @@ void printWhole(const QString &text);
 /// A line on standard error.
 void printError(const QString &text);
 
+/// For who writes to standard output by another way: it has failed, errno tells why.
+void noteOutputFailure();
 /// Flushes standard output. What went wrong with it since the program began, for the user; empty for nothing.
 QString outputFailure();
 
