@@ -90,6 +90,7 @@ class Quvdriver(unittest.TestCase):
         self.assertIn("--firmware", options)
         self.assertEqual(self.complete(""), options)
         self.assertEqual(self.complete("--fi"), ["--firmware"])
+        self.assertEqual(self.complete("--ver"), ["--version"])  # behind two letters in the help
 
     def test_values(self):
         self.assertEqual(self.complete("--machine", "turn"), ["turntable"])

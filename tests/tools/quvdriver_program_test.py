@@ -154,9 +154,11 @@ class ProgramTest(unittest.TestCase):
         for option in ("--host", "--port", "--machine", "--speed", "--state", "--firmware", "--token-file", "--open", "--trace",
                        "--once"):
             self.assertIn(option, told.stdout)
-        told = run("--version")
-        self.assertEqual(told.returncode, 0)
-        self.assertRegex(told.stdout, r"^quvdriver \d+\.\d+\.\d+\n$")
+        self.assertRegex(told.stdout, r"(?m)^  -v, -V, --version ")
+        for option in ("--version", "-V", "-v"):
+            told = run(option)
+            self.assertEqual((told.returncode, told.stderr), (0, ""), option)
+            self.assertRegex(told.stdout, r"^quvdriver \d+\.\d+\.\d+\n$", option)
 
 
 if __name__ == "__main__":

@@ -47,6 +47,9 @@ struct Options
     std::optional<quv::Trace::Form> trace{};
 };
 
+/// -V as in quvctl, where -v is another option.
+const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("V"), QStringLiteral("version")},
+                                       QStringLiteral("Displays version information."));
 const QCommandLineOption hostOption(QStringLiteral("host"),
                                     QStringLiteral("Address to listen on (default 127.0.0.1)."),
                                     QStringLiteral("ADDRESS"), QStringLiteral("127.0.0.1"));
@@ -91,9 +94,8 @@ void describe(QCommandLineParser &parser)
     parser.setApplicationDescription(
         QStringLiteral("Owns simulated machines and carries out their commands, called by XML-RPC."));
     parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions({hostOption, portOption, machineOption, speedOption, stateOption, firmwareOption,
-                       tokenOption, openOption, traceOption, onceOption});
+    parser.addOptions({versionOption, hostOption, portOption, machineOption, speedOption, stateOption,
+                       firmwareOption, tokenOption, openOption, traceOption, onceOption});
 }
 
 /// The parser knows no option whose value may be left out.
@@ -280,7 +282,7 @@ int main(int argc, char *argv[])
             std::fputs(qPrintable(parser.helpText()), stdout);
             return Done;
         }
-        if (parser.isSet(QStringLiteral("version"))) {
+        if (parser.isSet(versionOption)) {
             std::puts("quvdriver " QUV_VERSION);
             return Done;
         }
