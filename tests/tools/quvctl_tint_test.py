@@ -122,6 +122,10 @@ class Requests(unittest.TestCase):
         self.assertEqual(self.sent(json.dumps({**formula, "levels_policy": 7}), "--levels-check", "off")
                          ["levels_policy"], 5)
 
+    def test_members_that_nobody_reads(self):
+        formula = {"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [1], "shade": "grey"}
+        self.assertNotIn("shade", self.sent(json.dumps(formula)))
+
     def test_wrong_usage(self):
         formula = '{"formula_type":4,"quantity_unit":3,"ids":["B"],"quantities":[1]}'
         with ScriptedDriver() as driver:
@@ -142,7 +146,12 @@ class Requests(unittest.TestCase):
                      "colorant"),
                     ("a formula as JSON tells its own type and unit, without --by and --unit", formula, "--unit",
                      "steps"),
-                    ("the formula: there is no such type of formula", formula.replace("4", "5"))]:
+                    ("the formula: there is no such type of formula", formula.replace("4", "5")),
+                    ('the formula has no member "formla"; did you mean "formula_type"?', formula.replace("formula_type", "formla")),
+                    ('the formula has no member "Quantites"; did you mean "quantities"?',
+                     formula.replace('"quantities"', '"Quantites"')),
+                    ('the formula has no member "levels_polcy"; did you mean "levels_policy"?',
+                     formula.replace("}", ',"levels_polcy":0}'))]:
                 self.assertEqual(run("tint", *words, "--port", str(driver.port)),
                                  (2, "", f"quvctl: {text} (see quvctl help)\n"))
             for text in ["{", "{}", "{'a':1}", '{"formula_type":null}', formula.replace("[1]", "[1,2]"),

@@ -85,22 +85,12 @@ private:
         if (m_byName || m_facts.arguments.value(next).type != QLatin1String("string"))
             throw UsageError(
                 QStringLiteral("%1; it has: %2").arg(unknown, names().join(QStringLiteral(", "))));
-        const QString meant = nearName(name);
+        const QString meant = nameMeant(name, names());
         if (!meant.isEmpty())
             throw UsageError(
                 QStringLiteral("%1; did you mean \"%2\"? As a text it is given with its name: %3=%4")
                     .arg(unknown, meant, m_facts.arguments[next].name, word));
         m_given.emplace_back(Given{argumentFromWord(word), word});
-    }
-
-    /// The name that is meant by one that is nearly its whole or nearly its first word, as "tiket" is of "ticket_id".
-    QString nearName(const QString &typed) const
-    {
-        for (const QString &name : names())
-            for (const QString &part : {name, name.section(QLatin1Char('_'), 0, 0)})
-                if (isNear(typed, part))
-                    return name;
-        return {};
     }
 
     void give(int place, Given given)

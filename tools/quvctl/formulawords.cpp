@@ -2,8 +2,10 @@
 #include "formulawords.h"
 
 #include "commandline.h"
+#include "excerpt.h"
 #include "jsonvalue.h"
 #include "quantities.h"
+#include "suggestions.h"
 
 #include <cmath>
 
@@ -47,10 +49,27 @@ void setLevelsCheck(Formula &formula, bool check)
     formula.setLevelsManagementPolicy(check ? policy | Formula::CheckLevels : policy & ~Formula::CheckLevels);
 }
 
+/// A formula may hold more than is read of it. What has nearly the name of a member is misspelt, and would be passed over.
+void refuseMisspeltMembers(const nlohmann::json &formula)
+{
+    static const QStringList members = {
+        Formula::FORMULA_TYPE,   Formula::QUANTITY_UNIT, Formula::IDS,
+        Formula::QUANTITIES,     Formula::QUEUE_IDS,     Formula::NOZZLE_VALVES,
+        Formula::EXEC_CRITERION, Formula::LEVELS_POLICY, Formula::DECIMALS};
+    for (const auto &[name, value] : formula.items()) {
+        const QString member = QString::fromStdString(name);
+        const QString meant = members.contains(member) ? QString() : nameMeant(member, members);
+        if (!meant.isEmpty())
+            throw UsageError(QStringLiteral("the formula has no member \"%1\"; did you mean \"%2\"?")
+                                 .arg(excerpt(member), meant));
+    }
+}
+
 Formula formulaFromJson(const QString &word)
 {
     try {
         const nlohmann::json json = parseJson(word.toStdString());
+        refuseMisspeltMembers(json);
         Formula formula(toXmlRpcValue(json));
         if (!json.contains(Formula::LEVELS_POLICY))
             setLevelsCheck(formula, true);

@@ -65,9 +65,15 @@ QStringList nearestWords(const QString &word, const QStringList &words)
 
 } // namespace
 
-bool isNear(const QString &word, const QString &meant)
+QString nameMeant(const QString &typed, const QStringList &names)
 {
-    return !nearestWords(word, {meant}).isEmpty();
+    if (const QStringList meant = nearestWords(typed, names); !meant.isEmpty())
+        return meant.first();
+    QStringList beginnings;
+    for (const QString &name : names)
+        beginnings.append(name.section(QLatin1Char('_'), 0, 0));
+    const QStringList meant = nearestWords(typed, beginnings);
+    return meant.isEmpty() ? QString() : names[beginnings.indexOf(meant.first())];
 }
 
 QString didYouMean(const QString &word, const QStringList &words)

@@ -6,8 +6,9 @@
 
 namespace quv {
 
-/// Whether \a word may be \a meant with a letter or two wrong. Capitals do not count.
-bool isNear(const QString &word, const QString &meant);
+/// The name that is meant by one that is nearly its whole, or else nearly its first word, as "tiket" is of "ticket_id"; empty
+/// when none is. Capitals do not count.
+QString nameMeant(const QString &typed, const QStringList &names);
 /**
  * To append to an error: '; did you mean "A" or "B"?', with the words that are nearest to \a word, three at most; nothing when
  * none is near. Capitals do not count.
