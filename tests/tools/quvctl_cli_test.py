@@ -823,6 +823,16 @@ class Ticket(CliTest):
             self.assertEqual((process.returncode, out, err), (
                 130, "", f"the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}\n"))
 
+    def test_interrupt_for_json(self):
+        with Driver(ticket(1)) as driver, self.waiting(driver, "--json") as process:
+            while not driver.requests:
+                self.assertIsNone(process.poll())
+            process.send_signal(signal.SIGINT)
+            out, err = process.communicate(timeout=30)
+        text = f"the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}"
+        self.assertEqual((process.returncode, json.loads(out), err), (
+            130, {"ok": False, "code": "", "text": text, "function": "", "ticket": "T-1"}, text + "\n"))
+
     def test_a_hint_can_be_pasted(self):
         for ticket_id in ("T 1; echo $HOME", "it's \"1\" \\", "T\u202e-\n'1'\\\U000e0041"):
             with Driver(ticket(1)) as driver:

@@ -360,6 +360,17 @@ class Pouring(unittest.TestCase):
         with ScriptedDriver() as driver:
             self.assertEqual(run("tint", "B=1", "--no-wait", "--port", str(driver.port)), (0, "Ticket T-1\n", ""))
 
+    def test_interrupted_before_there_is_a_ticket(self):
+        with ScriptedDriver(delay=2) as driver:
+            with start("tint", "B=1", "--json", "--port", str(driver.port)) as process:
+                while not driver.started:
+                    self.assertIsNone(process.poll())
+                process.send_signal(signal.SIGINT)
+                out, err = process.communicate(timeout=30)
+        text = "the machine may have begun; look at it with: quvctl call GET_STATUS"
+        self.assertEqual((process.returncode, json.loads(out), err), (
+            130, {"ok": False, "code": "", "text": text, "function": ""}, text + "\n"))
+
 
 class LongCalls(unittest.TestCase):
     """What takes long gets a ticket by quvctl call as well."""

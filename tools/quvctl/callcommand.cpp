@@ -55,7 +55,7 @@ ExitStatus printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope
 /// Has a command that takes long carried out behind a ticket, and gives it the answer in the end.
 const XmlRpcAnswer &carriedOut(const Driver &driver, ProtoCommand &command, const CommandLine &line)
 {
-    const XmlRpcAnswer &begun = startOnMachine(driver, command);
+    const XmlRpcAnswer &begun = startOnMachine(driver, command, line);
     if (begun.retCode() != 0)
         return begun;
     const Ticket ticket(driver, ticketIn(command), line);
@@ -75,7 +75,7 @@ const XmlRpcAnswer &carriedOut(const Driver &driver, ProtoCommand &command, cons
 const XmlRpcAnswer &answered(const Driver &driver, ProtoCommand &command, const CommandLine &line)
 {
     if (line.isSet("async"))
-        return startOnMachine(driver, command);
+        return startOnMachine(driver, command, line);
     return takesLong(command.command()) ? carriedOut(driver, command, line) : driver.execute(command);
 }
 

@@ -177,11 +177,12 @@ bool agrees(std::size_t rows, const Shown &shown)
     return answer == "y" || answer == "yes";
 }
 
-void write(const std::vector<RowChange> &changes, const FirmwareConfiguration &firmware)
+void write(const std::vector<RowChange> &changes, const FirmwareConfiguration &firmware, bool asJson)
 {
     const OnInterrupt onInterrupt(
         QStringLiteral("the firmware may have some of the rows, and forgets them when it is "
-                       "switched off; look with: quvctl config diff"));
+                       "switched off; look with: quvctl config diff"),
+        asJson);
     std::size_t written = 0;
     try {
         for (const RowChange &change : changes) {
@@ -256,7 +257,7 @@ ExitStatus push(const FirmwareConfiguration &firmware, const QString &path, bool
         printLine(QStringLiteral("nothing was written"));
         return Refused;
     }
-    write(changes, firmware);
+    write(changes, firmware, shown.asJson);
     return verify(comparison, firmware, shown);
 }
 

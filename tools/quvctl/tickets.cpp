@@ -2,6 +2,7 @@
 #include "tickets.h"
 
 #include "hints.h"
+#include "operations.h"
 #include "progress.h"
 #include "terminal.h"
 #include "xmlrpcerrors.h"
@@ -21,16 +22,33 @@ namespace quv {
 
 namespace {
 
-std::atomic<const std::string *> interruptText{nullptr};
-static_assert(std::atomic<const std::string *>::is_always_lock_free, "a signal handler reads it");
+std::atomic<const OnInterrupt::Texts *> interruptTexts{nullptr};
+static_assert(std::atomic<const OnInterrupt::Texts *>::is_always_lock_free, "a signal handler reads it");
+
+void writeAtOnce(int descriptor, const std::string &text)
+{
+    const ssize_t written = write(descriptor, text.data(), text.size());
+    static_cast<void>(written); // it ends either way
+}
 
 extern "C" void endInterrupted(int)
 {
-    if (const std::string *text = interruptText.load()) {
-        const ssize_t written = write(STDERR_FILENO, text->data(), text->size());
-        static_cast<void>(written); // it ends either way
+    if (const OnInterrupt::Texts *texts = interruptTexts.load()) {
+        writeAtOnce(STDOUT_FILENO, texts->output);
+        writeAtOnce(STDERR_FILENO, texts->error);
     }
     _exit(Interrupted);
+}
+
+OnInterrupt::Texts interruptedTexts(const QString &text, bool asJson, const QString &ticket)
+{
+    const std::string error = printable(text).toStdString() + '\n';
+    if (!asJson)
+        return {{}, (canRedraw() ? "\n" : "") + error};
+    OrderedJson reply = failureReply(text.toStdString());
+    if (!ticket.isEmpty())
+        reply["ticket"] = toJson(ticket);
+    return {writeJson(reply) + '\n', error};
 }
 
 /// A driver that forgot a ticket, or was started anew, cannot tell what the machine did.
@@ -61,9 +79,9 @@ CmdStatus clamped(CmdStatus status)
 
 } // namespace
 
-OnInterrupt::OnInterrupt(const QString &text)
-    : m_text((canRedraw() ? "\n" : "") + printable(text).toStdString() + '\n'),
-      m_outerText(interruptText.exchange(&m_text))
+OnInterrupt::OnInterrupt(const QString &text, bool asJson, const QString &ticket)
+    : m_texts(interruptedTexts(text, asJson, ticket)),
+      m_outerTexts(interruptTexts.exchange(&m_texts))
 {
     struct sigaction action = {};
     action.sa_handler = endInterrupted;
@@ -75,13 +93,14 @@ OnInterrupt::OnInterrupt(const QString &text)
 OnInterrupt::~OnInterrupt()
 {
     sigaction(SIGINT, &m_outerAction, nullptr);
-    interruptText = m_outerText;
+    interruptTexts = m_outerTexts;
 }
 
 Ticket::Ticket(const Driver &driver, const QString &id, const CommandLine &line)
     : m_driver(driver),
       m_id(id),
-      m_again(commandLineOf(id, line))
+      m_again(commandLineOf(id, line)),
+      m_asJson(line.isSet("json"))
 {}
 
 CmdStatus Ticket::status() const
@@ -103,7 +122,7 @@ CmdStatus Ticket::status() const
 CmdStatus Ticket::waitForEnd(std::chrono::milliseconds interval, bool showProgress) const
 {
     const QString hint = QStringLiteral("the machine goes on; look again with: %1").arg(m_again);
-    const OnInterrupt onInterrupt(hint);
+    const OnInterrupt onInterrupt(hint, m_asJson, m_id);
     std::optional<Progress> progress;
     if (showProgress)
         progress.emplace();
@@ -138,11 +157,11 @@ CmdStatus Ticket::statusDespiteFailures(int &failures) const
     }
 }
 
-const XmlRpcAnswer &startOnMachine(const Driver &driver, ProtoCommand &command)
+const XmlRpcAnswer &startOnMachine(const Driver &driver, ProtoCommand &command, const CommandLine &line)
 {
     const QString hint =
         QStringLiteral("the machine may have begun; look at it with: quvctl call GET_STATUS");
-    const OnInterrupt onInterrupt(hint);
+    const OnInterrupt onInterrupt(hint, line.isSet("json"));
     try {
         return driver.start(command);
     } catch (const TransportError &error) {

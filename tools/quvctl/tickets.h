@@ -14,19 +14,26 @@ namespace quv {
 
 /**
  * While it stands, Ctrl-C ends the program at once with exit status 130 and a text on standard error, even within a call
- * that the driver does not answer. Those that are made later come first. A Ctrl-C that is ignored stays ignored.
+ * that the driver does not answer. With --json the failure is on standard output as well, and names the ticket, if any. Those
+ * that are made later come first. A Ctrl-C that is ignored stays ignored.
  */
 class OnInterrupt
 {
 public:
-    explicit OnInterrupt(const QString &text);
+    OnInterrupt(const QString &text, bool asJson, const QString &ticket = QString());
     ~OnInterrupt();
     OnInterrupt(const OnInterrupt &) = delete;
     OnInterrupt &operator=(const OnInterrupt &) = delete;
 
+    struct Texts
+    {
+        std::string output{};
+        std::string error{};
+    };
+
 private:
-    std::string m_text{};
-    const std::string *m_outerText = nullptr;
+    Texts m_texts{};
+    const Texts *m_outerTexts = nullptr;
     struct sigaction m_outerAction = {};
 };
 
@@ -54,13 +61,14 @@ private:
     const Driver &m_driver;
     QString m_id{};
     QString m_again{};
+    bool m_asJson = false;
 };
 
 /**
  * Sends a command that goes on by itself, as Driver::start. Ctrl-C, and a driver that does not answer, leave the user with the way
  * to see whether the machine has begun.
  */
-const XmlRpcAnswer &startOnMachine(const Driver &driver, ProtoCommand &command);
+const XmlRpcAnswer &startOnMachine(const Driver &driver, ProtoCommand &command, const CommandLine &line);
 
 /// The ticket of a command that has been started: Driver::start. \throws std::runtime_error when the driver gave none
 QString ticketIn(const ProtoCommand &command);

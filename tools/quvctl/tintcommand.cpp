@@ -102,7 +102,7 @@ Ticket begin(const Driver &driver, Formula &formula, const CommandLine &line)
     QString ticket;
     sendPourable(formula, line, [&](const Formula &sent) {
         TintCmd command(sent, nullptr);
-        const XmlRpcAnswer &envelope = startOnMachine(driver, command);
+        const XmlRpcAnswer &envelope = startOnMachine(driver, command, line);
         if (envelope.retCode() == 0)
             ticket = ticketIn(command);
         return envelope;
