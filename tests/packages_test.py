@@ -153,7 +153,7 @@ class Installed(PackagesTest):
 
 
 class PartOfAnotherProject(PackagesTest):
-    """Configured only; Whole compiles it."""
+    """Configured, and compiled as little as tells something; Whole compiles it all."""
 
     def check(self, how):
         caller = self.caller(how)
@@ -163,6 +163,8 @@ class PartOfAnotherProject(PackagesTest):
         targets = self.run_tool("ninja", "-C", caller / "build", "-t", "targets", "all")
         self.assertIn("libQuvProtocol.so", targets)
         self.assertNotIn("quvctl", targets)
+        # the user's own file tells whether it finds the headers
+        self.run_tool("ninja", "-C", caller / "build", "CMakeFiles/caller.dir/main.cpp.o")
 
     def test_by_add_subdirectory(self):
         self.check("add_subdirectory")
