@@ -128,6 +128,27 @@ class General(CliTest):
         self.wrong("watch", "--count", "-1")
         self.wrong("help", "fly")
 
+    def test_texts_quote_what_is_needed(self):
+        long = "x" * 1000
+        formula = json.dumps({"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [1], "queue_" + long: 1})
+        for words in [(long,), ("help", long), ("help", "tint", long), ("list", long), ("list", "--" + long),
+                      ("list", "--mashine", "--" + long), ("list", "-" + long), ("list", "--kind", long),
+                      ("tint", f"-{long}=5"), ("tint", long), ("tint", long + "=1", "--by", "position"),
+                      ("tint", long + "=0"), ("tint", long + "=0.2", "--unit", "strokes"), ("tint", "{}", long),
+                      ("tint", '{"formula_type":' + long), ("tint", formula), ("show", long), ("encode", long),
+                      ("encode", "GET_STATUS", "position=1", long), ("encode", "GET_STATUS", long + "=1"),
+                      ("encode", "GET_STATUS", '["' + long), ("encode", "GET_STATUS", long), ("encode", "RESET", long),
+                      ("encode", "TINT", '{"formula_' + long + '":1}'), ("decode", long, "0"), ("decode", "GET_STATUS", long),
+                      ("decode", "GET_STATUS", "0", "--args", long), ("config", long, "file"), ("explain", long),
+                      ("call", "GET_STATUS", "--port", long), ("call", "GET_STATUS", "--host", "/" + long),
+                      ("call", "GET_STATUS", "--host", "https://" + long), ("call", "GET_STATUS", "--host", "shop:" + long)]:
+            code, out, err = run(*words)
+            self.assertIn(code, (1, 2), words)
+            self.assertEqual(out, "", words)
+            self.assertNotIn("x" * 41, err, words)
+        self.assertEqual(self.wrong("explain", "fly" + long),
+                         f'quvctl: "fly{"x" * 37}..." is no code of a refusal, such as DE00060 or 60 (see quvctl help)\n')
+
     def test_what_may_have_been_meant(self):
         for words, error in [
                 (("shwo", "TINT"), 'there is no subcommand "shwo"; did you mean "show"?'),

@@ -2,6 +2,7 @@
 #include "argumentwords.h"
 
 #include "commandline.h"
+#include "excerpt.h"
 #include "suggestions.h"
 
 #include "catalogue/commandfacts.h"
@@ -33,8 +34,8 @@ public:
         else if (name.size() < word.size() && looksLikeName(name))
             takeUnknown(name, word);
         else if (m_byName)
-            throw UsageError(
-                QStringLiteral("\"%1\" needs a name, as it stands behind an argument with one").arg(word));
+            throw UsageError(QStringLiteral("\"%1\" needs a name, as it stands behind an argument with one")
+                                 .arg(excerpt(word)));
         else
             m_given.emplace_back(Given{argumentFromWord(word), word});
     }
@@ -81,7 +82,7 @@ private:
     void takeUnknown(const QString &name, const QString &word)
     {
         const int next = static_cast<int>(m_given.size());
-        const QString unknown = QStringLiteral("%1 has no argument \"%2\"").arg(m_facts.name, name);
+        const QString unknown = QStringLiteral("%1 has no argument \"%2\"").arg(m_facts.name, excerpt(name));
         if (m_byName || m_facts.arguments.value(next).type != QLatin1String("string"))
             throw UsageError(
                 QStringLiteral("%1; it has: %2").arg(unknown, names().join(QStringLiteral(", "))));
@@ -89,7 +90,7 @@ private:
         if (!meant.isEmpty())
             throw UsageError(
                 QStringLiteral("%1; did you mean \"%2\"? As a text it is given with its name: %3=%4")
-                    .arg(unknown, meant, m_facts.arguments[next].name, word));
+                    .arg(unknown, meant, m_facts.arguments[next].name, excerpt(word)));
         m_given.emplace_back(Given{argumentFromWord(word), word});
     }
 
@@ -135,7 +136,8 @@ json argumentFromWord(const QString &word)
         return value;
     } catch (const JsonError &error) {
         if (start.match(word).hasMatch())
-            throw UsageError(QStringLiteral("argument %1: %2").arg(word, QString::fromUtf8(error.what())));
+            throw UsageError(
+                QStringLiteral("argument %1: %2").arg(excerpt(word), QString::fromUtf8(error.what())));
         return word.toStdString();
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "commandline.h"
 
+#include "excerpt.h"
 #include "suggestions.h"
 
 #include <algorithm>
@@ -56,7 +57,7 @@ QString meantByOneDash(const QString &word, const QStringList &known)
 {
     const QString &name = word.mid(1);
     if (name.size() > 1 && name.contains(QLatin1Char('=')))
-        return QStringLiteral("; did you mean \"%1\"?").arg(name);
+        return QStringLiteral("; did you mean \"%1\"?").arg(excerpt(name));
     return name.size() > 1 ? didYouMean(QStringLiteral("--") + name, known) : QString();
 }
 
@@ -67,10 +68,13 @@ QString parserError(const QCommandLineParser &parser, const Subcommand &subcomma
     for (const OptionText &option : subcommand.options)
         known.append(QStringLiteral("--") + latin1(option.name));
     QString text = parser.errorText();
+    for (const QString &unknown : parser.unknownOptionNames())
+        text.replace(unknown, excerpt(unknown));
     for (const QString &unknown : parser.unknownOptionNames()) {
         if (unknown.size() == 1) {
             const QString word = wordOfLetter(unknown, words);
-            return QStringLiteral("there is no option \"%1\"%2").arg(word, meantByOneDash(word, known));
+            return QStringLiteral("there is no option \"%1\"%2")
+                .arg(excerpt(word), meantByOneDash(word, known));
         }
         const QString suggestion = didYouMean(QStringLiteral("--") + unknown, known);
         if (suggestion.isEmpty())
@@ -111,7 +115,7 @@ CommandLine::CommandLine(const Subcommand &subcommand, const QStringList &words)
         throw UsageError(
             QStringLiteral("%1 needs %2").arg(latin1(subcommand.name), latin1(subcommand.words)));
     if (subcommand.maxWords >= 0 && m_words.size() > subcommand.maxWords)
-        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(m_words[subcommand.maxWords]));
+        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(excerpt(m_words[subcommand.maxWords])));
 }
 
 bool CommandLine::isSet(const char *option) const

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "configtransfer.h"
+#include "excerpt.h"
 #include "operations.h"
 #include "progress.h"
 #include "replies.h"
@@ -287,7 +288,7 @@ ExitStatus run(const CommandLine &line)
         return diff(firmware, path, shown);
     const QStringList actions = {QStringLiteral("pull"), QStringLiteral("push"), QStringLiteral("diff")};
     throw UsageError(QStringLiteral("config has pull, push and diff, not \"%1\"%2")
-                         .arg(action, didYouMean(action, actions)));
+                         .arg(excerpt(action), didYouMean(action, actions)));
 }
 
 } // namespace

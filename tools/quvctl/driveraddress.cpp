@@ -2,6 +2,7 @@
 #include "driveraddress.h"
 
 #include "commandline.h"
+#include "excerpt.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -25,13 +26,14 @@ int portOf(const QString &text, const char *source)
     const int port = text.toInt(&ok);
     if (!ok || port < 1 || port > 65535)
         throw UsageError(QStringLiteral("%1: a port is a number from 1 to 65535, not \"%2\"")
-                             .arg(QLatin1String(source), text));
+                             .arg(QLatin1String(source), excerpt(text)));
     return port;
 }
 
 UsageError noAddress(const QString &text, const char *source, const char *why)
 {
-    return UsageError(QStringLiteral("%1: \"%2\" %3").arg(QLatin1String(source), text, QLatin1String(why)));
+    return UsageError(
+        QStringLiteral("%1: \"%2\" %3").arg(QLatin1String(source), excerpt(text), QLatin1String(why)));
 }
 
 ToldHost hostOf(const QString &text, const char *source)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "excerpt.h"
 #include "explanations.h"
 #include "jsonvalue.h"
 #include "refusallines.h"
@@ -26,7 +27,8 @@ QString codeOf(const QString &word)
                                          QRegularExpression::CaseInsensitiveOption);
     const auto match = form.match(word);
     if (!match.hasMatch())
-        throw UsageError(QStringLiteral("\"%1\" is no code of a refusal, such as DE00060 or 60").arg(word));
+        throw UsageError(
+            QStringLiteral("\"%1\" is no code of a refusal, such as DE00060 or 60").arg(excerpt(word)));
     return QStringLiteral("DE") + match.captured(2).rightJustified(5, QLatin1Char('0'));
 }
 

@@ -89,12 +89,12 @@ FormulaItem itemFromWord(const QString &word, int type)
     bool isNumber = false;
     item.quantity = word.mid(equals + 1).toDouble(&isNumber);
     if (equals < 1 || !isNumber || !std::isfinite(item.quantity))
-        throw UsageError(QStringLiteral("%1 is no ID=QUANTITY, such as B=12.5").arg(word));
+        throw UsageError(QStringLiteral("%1 is no ID=QUANTITY, such as B=12.5").arg(excerpt(word)));
     bool isId = type == Formula::ColorantCodes;
     if (!isId)
         item.id.toInt(&isId);
     if (!isId)
-        throw UsageError(QStringLiteral("%1: %2 is no whole number").arg(word, item.id));
+        throw UsageError(QStringLiteral("%1: %2 is no whole number").arg(excerpt(word), excerpt(item.id)));
     return item;
 }
 
@@ -118,7 +118,7 @@ Formula formulaOf(const CommandLine &line)
     const QString word = line.words().first();
     const bool isJson = word.startsWith(QLatin1Char('{'));
     if (isJson && line.words().size() > 1)
-        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(line.words()[1]));
+        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(excerpt(line.words()[1])));
     if (isJson && (line.isSet("by") || line.isSet("unit")))
         throw UsageError(
             QStringLiteral("a formula as JSON tells its own type and unit, without --by and --unit"));
@@ -136,13 +136,13 @@ QStringList correctAmounts(Formula &formula)
     const Formula once = addedUp(formula);
     for (FormulaItem item : once.items()) {
         if (item.quantity == 0) {
-            wrong.append(QStringLiteral("%1: a quantity of 0 cannot be poured").arg(item.id));
+            wrong.append(QStringLiteral("%1: a quantity of 0 cannot be poured").arg(excerpt(item.id)));
             continue;
         }
         if (const double nearest = nearestAmount(item.quantity, formula.quantityUnit());
             !isNear(nearest, item.quantity)) {
             wrong.append(QStringLiteral("%1: %2 %3 cannot be poured, the nearest is %4")
-                             .arg(item.id, quantityInWords(item.quantity),
+                             .arg(excerpt(item.id), quantityInWords(item.quantity),
                                   formula.quantityUnit() == Formula::Steps ? QStringLiteral("steps")
                                                                            : QStringLiteral("strokes"),
                                   quantityInWords(nearest)));

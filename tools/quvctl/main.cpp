@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "driver.h"
+#include "excerpt.h"
 #include "help.h"
 #include "operations.h"
 #include "subcommands.h"
@@ -32,13 +33,14 @@ const Subcommand &subcommandOf(const QString &name)
     QStringList names(QStringLiteral("help"));
     for (const Subcommand *subcommand : subcommands)
         names.append(QLatin1String(subcommand->name));
-    throw UsageError(QStringLiteral("there is no subcommand \"%1\"%2").arg(name, didYouMean(name, names)));
+    throw UsageError(
+        QStringLiteral("there is no subcommand \"%1\"%2").arg(excerpt(name), didYouMean(name, names)));
 }
 
 ExitStatus help(const QStringList &words)
 {
     if (words.size() > 1)
-        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(words[1]));
+        throw UsageError(QStringLiteral("unexpected \"%1\"").arg(excerpt(words[1])));
     if (words.isEmpty())
         printOverview(subcommands);
     else

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "commandreference.h"
+#include "excerpt.h"
 #include "subcommands.h"
 #include "suggestions.h"
 #include "terminal.h"
@@ -33,7 +34,7 @@ ExitStatus run(const CommandLine &line)
     const CMD_STRUCT *row = ProtoCommandList::row(name);
     if (!row)
         throw std::runtime_error(QStringLiteral("the catalogue has no command \"%1\"%2")
-                                     .arg(name, didYouMeanCommand(name))
+                                     .arg(excerpt(name), didYouMeanCommand(name))
                                      .toStdString());
     if (line.isSet("names"))
         printNames(name);

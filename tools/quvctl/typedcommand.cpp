@@ -3,6 +3,7 @@
 
 #include "commandexample.h"
 #include "commandline.h"
+#include "excerpt.h"
 #include "operations.h"
 #include "words.h"
 
@@ -104,7 +105,7 @@ void refuseMisspeltMembers(const CommandFacts &facts, const nlohmann::json &requ
             const QString meant = known.contains(member) ? QString() : didYouMean(member, known);
             if (!meant.isEmpty() && !isRead(request, placeOf(i) / name, sent))
                 throw UsageError(
-                    QStringLiteral("%1 takes no notice of \"%2\"%3").arg(facts.name, member, meant));
+                    QStringLiteral("%1 takes no notice of \"%2\"%3").arg(facts.name, excerpt(member), meant));
         }
     }
 }
@@ -120,7 +121,7 @@ QString misspeltMember(const CommandFacts &facts, const nlohmann::json &argument
             const QString member = QString::fromStdString(name);
             const QString meant = known.contains(member) ? QString() : didYouMean(member, known);
             if (!meant.isEmpty())
-                return QStringLiteral("; it has \"%1\"%2").arg(member, meant);
+                return QStringLiteral("; it has \"%1\"%2").arg(excerpt(member), meant);
         }
     }
     return {};
@@ -180,11 +181,11 @@ std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohma
         return command;
     }
     if (facts.tellsArguments && lost.size() < words.size() && words.size() <= facts.arguments.size())
-        throw UsageError(
-            QStringLiteral("%1 would not send \"%2\" as it is given").arg(name, lost.join(QLatin1Char(' '))));
+        throw UsageError(QStringLiteral("%1 would not send \"%2\" as it is given")
+                             .arg(name, excerpt(lost.join(QLatin1Char(' ')))));
     const QString why = whyLost(*command, words.size(), lost.size());
     throw UsageError(
-        QStringLiteral("%1 %2; \"%3\" would be lost").arg(name, why, lost.join(QLatin1Char(' '))));
+        QStringLiteral("%1 %2; \"%3\" would be lost").arg(name, why, excerpt(lost.join(QLatin1Char(' ')))));
 }
 
 } // namespace quv
