@@ -18,9 +18,10 @@
 
 // Reading and writing XML-RPC values.
 //
-// Reading is strict about types: an int is no bool, a text is no number. An int is taken where a double is asked for,
-// and an unsigned type takes no negative int. Every reader gives false and leaves its target alone when the value, the
-// member or the element is missing or of another type, and none of them throws or changes the value.
+// Reading is strict about types: an int is no bool, a text is no number. An int is taken where a double is asked for, a
+// double where a long long is and no int holds the number, and an unsigned type takes no negative int. Every reader gives
+// false and leaves its target alone when the value, the member or the element is missing or of another type, and none of
+// them throws or changes the value.
 
 /** Text of an XML-RPC string: UTF-8 when it is valid, else Latin-1, since clients write either. */
 QUVFRAMEWORK_EXPORT QString DecodeXmlRpcText(const std::string &bytes);

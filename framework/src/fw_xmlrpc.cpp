@@ -6,6 +6,7 @@
 #include <QtCore/QTime>
 
 #include <algorithm>
+#include <cmath>
 #include <ctime>
 #include <initializer_list>
 #include <limits>
@@ -150,6 +151,19 @@ void setMember(XmlRpcValue &value, const QString &key, const XmlRpcValue &member
     value[EncodeXmlRpcText(key)] = member;
 }
 
+/** Takes a whole number that no int holds, and which is therefore written as a double. */
+bool storeWideNumber(const XmlRpcValue &value, long long &out)
+{
+    using Int = std::numeric_limits<int>;
+    constexpr double limit = 9223372036854775808.0; // 2^63
+    const double *number = scalar<double>(value, XmlRpcValue::TypeDouble);
+    if (!number || std::trunc(*number) != *number || *number < -limit || *number >= limit ||
+        (*number >= Int::min() && *number <= Int::max()))
+        return false;
+    out = static_cast<long long>(*number);
+    return true;
+}
+
 bool isAscii(char character)
 {
     return (static_cast<unsigned char>(character) & 0x80U) == 0;
@@ -211,7 +225,7 @@ bool DecodeXmlRpcValue(const XmlRpcValue &value, unsigned int &out)
 
 bool DecodeXmlRpcValue(const XmlRpcValue &value, long long &out)
 {
-    return storeInt(value, out);
+    return storeInt(value, out) || storeWideNumber(value, out);
 }
 
 bool DecodeXmlRpcValue(const XmlRpcValue &value, unsigned long long &out)

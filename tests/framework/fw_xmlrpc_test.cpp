@@ -178,6 +178,16 @@ TEST(DecodeXmlRpcValue, readsLongLong)
     expectReads(XmlRpcValue(greatestInt), 5LL, 2147483647LL);
 }
 
+TEST(DecodeXmlRpcValue, readsALongLongBeyondAnIntAsItIsWritten)
+{
+    for (long long number : {2147483648LL, -2147483649LL, 9007199254740992LL, leastLong})
+        expectReads(EncodeXmlRpcVariant(number), 5LL, number);
+    for (double number :
+         {0.0, 7.0, -7.0, 2147483647.0, -2147483648.0, 2147483648.5, 9223372036854775808.0, -1e19,
+          std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()})
+        expectRefusedInEveryPlace(XmlRpcValue(number), 5LL);
+}
+
 TEST(DecodeXmlRpcValue, readsUnsignedLongLong)
 {
     expectAccepts<unsigned long long>({"int"}, 5ULL);
