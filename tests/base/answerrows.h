@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/basetesting.h"
 #include "factory/pending_p.h"
+
+#include <QtCore/QStringList>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 
-/** Which class the answer to a command has that has no class of its own. */
+/** Which class the answer to a command has that has no class of its own, and what it can be made of. */
 struct AnswerRow
 {
     const char *command;
     const char *answerClass;
+    testing_base::Value value = testing_base::arrayOf();
+    testing_base::List list = {};
+    QStringList tokens = {QStringLiteral("0")};
 };
 
 inline bool isPendingAnswer(const AnswerRow &row, unsigned kind)

@@ -92,9 +92,9 @@ TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
     for (const AnswerRow &row : rows) {
         SCOPED_TRACE(row.command);
         ConfProtoCommand command(row.command, nullptr);
-        List list;
+        List list = row.list;
         const std::string expected = expectedClass(row, 2, "ConfProtoAnswer");
-        ASSERT_TRUE(command.buildProtoAnswer(arrayOf(), nullptr));
+        ASSERT_TRUE(command.buildProtoAnswer(row.value, nullptr));
         EXPECT_EQ(className(command.getProtoAnswer()), expected);
         ASSERT_TRUE(command.buildProtoAnswer(list, nullptr));
         EXPECT_EQ(className(command.getProtoAnswer()), expected);

@@ -120,16 +120,16 @@ TEST(SerialProtoCommand, choosesTheAnswerClassByTheName)
     for (const AnswerRow &row : rows) {
         SCOPED_TRACE(row.command);
         SerialProtoCommand command(row.command, nullptr);
-        List list;
+        List list = row.list;
         const std::string expected = expectedClass(row, 1, "SerialProtoAnswer");
-        ASSERT_TRUE(command.buildProtoAnswer(arrayOf(), nullptr));
+        ASSERT_TRUE(command.buildProtoAnswer(row.value, nullptr));
         EXPECT_EQ(className(command.getProtoAnswer()), expected);
         ASSERT_TRUE(command.buildProtoAnswer(list, nullptr));
         EXPECT_EQ(className(command.getProtoAnswer()), expected);
         EXPECT_EQ(command.getProtoAnswer()->protoType(), 1);
 
         // a key code is asked of the driver: the firmware's tokens never become one
-        ASSERT_TRUE(command.buildProtoAnswer(QStringList{"0"}, nullptr));
+        ASSERT_TRUE(command.buildProtoAnswer(row.tokens, nullptr));
         EXPECT_EQ(className(command.getProtoAnswer()),
                   row.command == std::string("GET_KEY_CODE") ? "SerialProtoAnswer" : expected);
     }
