@@ -1,57 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "catalogue/commandfacts.h"
-
-#include "base/basetesting.h"
-
-#include <initializer_list>
-#include <string>
-#include <vector>
+#include "base/factlines.h"
 
 // What the commands of this family tell of themselves to those who explain them.
 
 namespace {
 
 using namespace testing_base;
-using Lines = std::vector<std::string>;
-
-void appendRefusals(Lines &lines, const QList<quv::RefusalFacts> &refusals)
-{
-    for (const quv::RefusalFacts &refusal : refusals)
-        lines.push_back(
-            QStringLiteral("  %1, %2: %3").arg(refusal.form, refusal.when, refusal.code).toStdString());
-}
-
-Lines argumentsOf(const char *command)
-{
-    const quv::CommandFacts facts = quv::commandFacts(command);
-    EXPECT_TRUE(facts.tellsArguments);
-    Lines lines;
-    for (const quv::ArgumentFacts &argument : facts.arguments) {
-        std::string line = QStringLiteral("%1 (%2)").arg(argument.name, argument.type).toStdString();
-        if (argument.optional)
-            line += " = " + dumped(argument.defaultValue);
-        if (!argument.meaning.isEmpty())
-            line += ": " + argument.meaning.toStdString();
-        lines.push_back(line);
-        appendRefusals(lines, argument.refusals);
-    }
-    return lines;
-}
-
-Lines membersOf(const char *command)
-{
-    const quv::CommandFacts facts = quv::commandFacts(command);
-    EXPECT_TRUE(facts.tellsMembers);
-    Lines lines = {facts.answerClass.toStdString()};
-    for (const quv::MemberFacts &member : facts.members) {
-        EXPECT_TRUE(member.required);
-        lines.push_back(
-            QStringLiteral("%1 (%2): %3").arg(member.key, member.type, member.meaning).toStdString());
-        appendRefusals(lines, member.refusals);
-    }
-    appendRefusals(lines, facts.answerRefusals);
-    return lines;
-}
 
 TEST(DispensingFacts, tellWhatIsPoured)
 {
