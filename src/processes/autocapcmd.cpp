@@ -3,10 +3,22 @@
 
 #include "base/describedcommand_p.h"
 #include "base/gate_p.h"
+#include "base/notwritten_p.h"
+#include "base/wordstable_p.h"
 
 namespace {
 
 constexpr quv::FamilyGate lateMovements[] = {{63, 38}};
+
+constexpr quv::Words words[] = {
+    {AutocapCmd::Close, "Cap close", QT_TRANSLATE_NOOP("QuvProtocol", "Closing cap")},
+    {AutocapCmd::Open, "Cap open", QT_TRANSLATE_NOOP("QuvProtocol", "Opening cap")}};
+
+const quv::Words &wordsOf(int movementType)
+{
+    static constexpr quv::Words others = {-1, "Cap movement", QT_TRANSLATE_NOOP("QuvProtocol", "Moving cap")};
+    return quv::wordsOf(words, movementType, others);
+}
 
 } // namespace
 
@@ -48,13 +60,7 @@ AutocapCmd *AutocapCmd::clone() const
 
 XmlRpc::XmlRpcValue AutocapCmd::xmlrpc_parameters(bool *ok) const
 {
-    if (m_movementType != noMovement)
-        return DescribedCommand::xmlrpc_parameters(ok);
-    if (ok)
-        *ok = false;
-    XmlRpc::XmlRpcValue none;
-    none.setSize(0);
-    return none;
+    return m_movementType == noMovement ? quv::notWritten(ok) : DescribedCommand::xmlrpc_parameters(ok);
 }
 
 QList<int> AutocapCmd::serialParameters(int) const
@@ -70,26 +76,12 @@ long long AutocapCmd::getCmdEstimatedExecutionTime(const FW_Machine *) const
 
 QString AutocapCmd::commandString() const
 {
-    switch (m_movementType) {
-    case Close:
-        return QStringLiteral("Cap close");
-    case Open:
-        return QStringLiteral("Cap open");
-    default:
-        return QStringLiteral("Cap movement");
-    }
+    return QString::fromLatin1(wordsOf(m_movementType).commandText);
 }
 
-TString AutocapCmd::actionString(bool) const
+TString AutocapCmd::actionString(bool detailed) const
 {
-    switch (m_movementType) {
-    case Close:
-        return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Closing cap"), quv::translationContext);
-    case Open:
-        return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Opening cap"), quv::translationContext);
-    default:
-        return TString(QT_TRANSLATE_NOOP("QuvProtocol", "Moving cap"), quv::translationContext);
-    }
+    return quv::actionOf(wordsOf(m_movementType), detailed);
 }
 
 bool AutocapCmd::checkMovementType(int movementType)
