@@ -5,6 +5,7 @@
 #include "base/serialprotoanswer.h"
 #include "factory/answertables_p.h"
 #include "masterdata/getdeviceparamsanswer.h"
+#include "processes/getshelfparamsanswer.h"
 
 namespace quv {
 
@@ -23,6 +24,7 @@ const std::vector<AnswerRow> &configurationRows()
 {
     static const std::vector<AnswerRow> rows = {
         answerRow<GetDeviceParamsAnswer>(Cmd::GET_DEVICE_PARAMS),
+        answerRow<GetShelfParamsAnswer>(Cmd::GET_SHELF_PARAMS),
     };
     return rows;
 }

@@ -59,8 +59,6 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Serial, BothForms, ProtoCommandList::RES_FILE_LIST, "ResourceFileListCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::RES_FILE_DELETE, "ResourceFileDeleteCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::MIXER_PLATES, "MixerPlatesCmd"},
-        {Dispatch::DispenserSerial, BothForms, ProtoCommandList::SHELF_MOVE, "ShelfCmd"},
-        {Dispatch::DispenserSerial, BothForms, ProtoCommandList::GET_SHELF_POS, "GetShelfPosCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::RESET, "ResetCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::GET_CIRCUITS_STATUS, "CircuitsStatusCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::TOGGLE_TEMPORIZED, "ToggleTemporizedCmd"},
@@ -167,7 +165,6 @@ const std::vector<PendingAnswer> &pendingAnswers()
         {ConfigurationType, ProtoCommandList::GET_SCALE_STATUS, "ScaleStatusAnswer"},
         {ConfigurationType, ProtoCommandList::GET_USS_W_STATUS, "GetUssWaterStatusAnswer"},
         {ConfigurationType, ProtoCommandList::GET_MIXER_STATUS, "MixerDriverStatusAnswer"},
-        {ConfigurationType, ProtoCommandList::GET_SHELF_PARAMS, "GetShelfParamsAnswer"},
     };
     return answers;
 }

@@ -13,6 +13,8 @@
 #include "dispensing/tintcmd.h"
 #include "factory/commandtables_p.h"
 #include "processes/autocapcmd.h"
+#include "processes/getshelfposcmd.h"
+#include "processes/shelfcmd.h"
 #include "status/dispenserstatuscmd.h"
 
 namespace quv {
@@ -36,6 +38,8 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
     {
         {Cmd::GET_STATUS, fromArguments<DispenserStatusCmd>()},
         {Cmd::AUTOCAP_MOVE, fromArguments<AutocapCmd>()},
+        {Cmd::SHELF_MOVE, fromArguments<ShelfCmd>()},
+        {Cmd::GET_SHELF_POS, fromArguments<GetShelfPosCmd>()},
         {Cmd::TINT, fromArgumentsAndDispenser<TintCmd>()},
         {Cmd::PRIMING, fromArgumentsAndDispenser<PrimingCmd>()},
         {Cmd::PACK, fromArgumentsAndDispenser<PackCmd>()},

@@ -72,6 +72,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_FORMULA_CIRCUITS", {formula, true}},
         {"GET_FORMULA_EXECUTION", {formula}},
         {"GET_LOW_LEVEL_FORMULA", {formula}},
+        {"GET_SHELF_POS", {3}},
         {"GET_STATUS", {7}},
         {"PACK", {1, formula}},
         {"PACK2", {circuits}},
@@ -80,6 +81,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"PURGE", {formula}},
         {"READ_CONFIG_ROW", {5, 3}},
         {"SET_LEVELS", {false, formula, true}},
+        {"SHELF_MOVE", {1, 300}},
         {"TINT", {formula}},
     };
     // commands whose arguments travel in another shape over XML-RPC

@@ -51,6 +51,8 @@ constexpr Sample samplesOfCommands[] = {
     {"PRIMING", R"([{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[3,3]}])"},
     {"PACK", R"([0,{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[1,1]}])"},
     {"PURGE", R"([{"purge_quantity":2.5,"quantity_unit":3,"only_filled":true,"head":0}])"},
+    {"SHELF_MOVE", "[0,300]"},
+    {"GET_SHELF_POS", "[3]"},
 };
 
 template <std::size_t N>
