@@ -6,6 +6,7 @@
 #include "factory/answertables_p.h"
 #include "masterdata/getdeviceparamsanswer.h"
 #include "processes/getshelfparamsanswer.h"
+#include "processes/getturntablepositionsanswer.h"
 
 namespace quv {
 
@@ -13,10 +14,11 @@ namespace {
 
 using Cmd = ProtoCommandList;
 
-/** The answers of serial commands; none has a class yet, see pendingAnswers. */
 const std::vector<AnswerRow> &serialRows()
 {
-    static const std::vector<AnswerRow> rows;
+    static const std::vector<AnswerRow> rows = {
+        answerRow<GetTurntablePositionsAnswer>(Cmd::GET_TURNTABLE_POSITIONS),
+    };
     return rows;
 }
 

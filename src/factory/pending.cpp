@@ -65,10 +65,7 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::STIRRING, "StirringCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::RECIRCULATION, "RecirculationCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::STIR_ALL, "StirAllCmd"},
-        {Dispatch::DispenserSerial, BothForms, ProtoCommandList::TURNTABLE_MOVE_TO_REFILL, "TurntableMoveToRefillCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::MOTOR_RUNNING, "MotorRunningCmd"},
-        {Dispatch::DispenserSerial, BothForms, ProtoCommandList::TURNTABLE_MOVE, "TurntableMoveCmd"},
-        {Dispatch::DispenserSerial, BothForms, ProtoCommandList::TURNTABLE_MOVE_STEPS, "TurntableMoveStepsCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::CLEANING, "CleaningCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::AUTOTEST, "AutotestCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::ULTRASOUND_CLEAN, "UltrasoundCleaningCmd"},
@@ -151,7 +148,6 @@ const std::vector<PendingAnswer> &pendingAnswers()
     static const std::vector<PendingAnswer> answers = {
         {SerialType, ProtoCommandList::GET_ERRORS, "GetErrorsAnswer"},
         {SerialType, ProtoCommandList::GET_SENSORS_STATUS, "SensorsStatusAnswer"},
-        {SerialType, ProtoCommandList::GET_TURNTABLE_POSITIONS, "GetTurntablePositionsAnswer"},
         {SerialType, ProtoCommandList::GET_KEY_CODE, "GetKeyCodeAnswer"},
         {SerialType, ProtoCommandList::ZDR_GET_COMMANDS, "GetZandorCommandsAnswer"},
         {ConfigurationType, ProtoCommandList::GET_CALIB_PROFILES, "GetCalibrationProfilesAnswer"},

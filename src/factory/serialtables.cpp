@@ -15,6 +15,9 @@
 #include "processes/autocapcmd.h"
 #include "processes/getshelfposcmd.h"
 #include "processes/shelfcmd.h"
+#include "processes/turntablemovecmd.h"
+#include "processes/turntablemovestepscmd.h"
+#include "processes/turntablemovetorefillcmd.h"
 #include "status/dispenserstatuscmd.h"
 
 namespace quv {
@@ -49,6 +52,9 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::PRIMING2, fromArgumentsAndDispenser<Priming2Cmd>()},
         {Cmd::PACK2, fromArgumentsAndDispenser<Pack2Cmd>()},
         {Cmd::AIRPURGE, fromArgumentsAndDispenser<AirpurgeCmd>()},
+        {Cmd::TURNTABLE_MOVE, fromArguments<TurntableMoveCmd>()},
+        {Cmd::TURNTABLE_MOVE_STEPS, fromArguments<TurntableMoveStepsCmd>()},
+        {Cmd::TURNTABLE_MOVE_TO_REFILL, fromArgumentsAndDispenser<TurntableMoveToRefillCmd>()},
         {Cmd::GET_TURNTABLE_POSITIONS, fromName<SerialProtoCommand>()},
     }};
 

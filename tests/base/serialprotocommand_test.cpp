@@ -107,7 +107,11 @@ TEST(SerialProtoCommand, choosesTheAnswerClassByTheName)
     const AnswerRow rows[] = {
         {"GET_ERRORS", "GetErrorsAnswer"},
         {"GET_SENSORS_STATUS", "SensorsStatusAnswer"},
-        {"GET_TURNTABLE_POSITIONS", "GetTurntablePositionsAnswer"},
+        {"GET_TURNTABLE_POSITIONS",
+         "GetTurntablePositionsAnswer",
+         structOf({{"turntable_circuits", arrayOf()}}),
+         {},
+         {"1", "0"}},
         {"GET_KEY_CODE", "GetKeyCodeAnswer"},
         {"ZDR_GET_COMMANDS", "GetZandorCommandsAnswer"},
         {"GET_STATUS", "SerialProtoAnswer"},

@@ -83,6 +83,9 @@ List argumentsFor(const CommandRow &row, Form form)
         {"SET_LEVELS", {false, formula, true}},
         {"SHELF_MOVE", {1, 300}},
         {"TINT", {formula}},
+        {"TURNTABLE_MOVE", {7, 2, 1, 90, 1, 50}},
+        {"TURNTABLE_MOVE_STEPS", {1, 50, 1}}, // of one step, which is both the number and its digits
+        {"TURNTABLE_MOVE_TO_REFILL", {7}},
     };
     // commands whose arguments travel in another shape over XML-RPC
     static const std::map<std::string, List> values = {
