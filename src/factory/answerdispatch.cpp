@@ -7,6 +7,7 @@
 #include "masterdata/getdeviceparamsanswer.h"
 #include "processes/getshelfparamsanswer.h"
 #include "processes/getturntablepositionsanswer.h"
+#include "processes/getzandorcommandsanswer.h"
 
 namespace quv {
 
@@ -18,6 +19,7 @@ const std::vector<AnswerRow> &serialRows()
 {
     static const std::vector<AnswerRow> rows = {
         answerRow<GetTurntablePositionsAnswer>(Cmd::GET_TURNTABLE_POSITIONS),
+        answerRow<GetZandorCommandsAnswer>(Cmd::ZDR_GET_COMMANDS),
     };
     return rows;
 }

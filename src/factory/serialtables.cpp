@@ -18,6 +18,9 @@
 #include "processes/turntablemovecmd.h"
 #include "processes/turntablemovestepscmd.h"
 #include "processes/turntablemovetorefillcmd.h"
+#include "processes/zdractuatormovingcmd.h"
+#include "processes/zdrcycleoperationcmd.h"
+#include "processes/zdrslaveprocedurecmd.h"
 #include "status/dispenserstatuscmd.h"
 
 namespace quv {
@@ -55,6 +58,9 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::TURNTABLE_MOVE, fromArguments<TurntableMoveCmd>()},
         {Cmd::TURNTABLE_MOVE_STEPS, fromArguments<TurntableMoveStepsCmd>()},
         {Cmd::TURNTABLE_MOVE_TO_REFILL, fromArgumentsAndDispenser<TurntableMoveToRefillCmd>()},
+        {Cmd::ZDR_CYCLE_OPERATION, fromArguments<ZDRCycleOperationCmd>()},
+        {Cmd::ZDR_ACTUATOR_MOVE, fromArguments<ZDRActuatorMovingCmd>()},
+        {Cmd::ZDR_SLAVE_PROCEDURE, fromArguments<ZDRSlaveProcedureCmd>()},
         {Cmd::GET_TURNTABLE_POSITIONS, fromName<SerialProtoCommand>()},
     }};
 

@@ -113,7 +113,7 @@ TEST(SerialProtoCommand, choosesTheAnswerClassByTheName)
          {},
          {"1", "0"}},
         {"GET_KEY_CODE", "GetKeyCodeAnswer"},
-        {"ZDR_GET_COMMANDS", "GetZandorCommandsAnswer"},
+        {"ZDR_GET_COMMANDS", "GetZandorCommandsAnswer", structOf({{"cmd_list", arrayOf()}}), {}, {"1", "0"}},
         {"GET_STATUS", "SerialProtoAnswer"},
         {"RESET", "SerialProtoAnswer"},
         {"GET_CALIB_PROFILES", "SerialProtoAnswer"},

@@ -86,6 +86,9 @@ List argumentsFor(const CommandRow &row, Form form)
         {"TURNTABLE_MOVE", {7, 2, 1, 90, 1, 50}},
         {"TURNTABLE_MOVE_STEPS", {1, 50, 1}}, // of one step, which is both the number and its digits
         {"TURNTABLE_MOVE_TO_REFILL", {7}},
+        {"ZDR_ACTUATOR_MOVE", {9, 2, 3, 4, 5, 300}},
+        {"ZDR_CYCLE_OPERATION", {3, 17, 245}},
+        {"ZDR_SLAVE_PROCEDURE", {200, QVariant(List{300})}},
     };
     // commands whose arguments travel in another shape over XML-RPC
     static const std::map<std::string, List> values = {

@@ -56,6 +56,9 @@ constexpr Sample samplesOfCommands[] = {
     {"TURNTABLE_MOVE", "[4,1,2,0,0,50]"},
     {"TURNTABLE_MOVE_STEPS", "[2,50,300]"},
     {"TURNTABLE_MOVE_TO_REFILL", "[4]"},
+    {"ZDR_CYCLE_OPERATION", "[2,0,0]"},
+    {"ZDR_ACTUATOR_MOVE", "[1,245,0,64,245,300]"},
+    {"ZDR_SLAVE_PROCEDURE", "[100,[300]]"},
 };
 
 template <std::size_t N>
