@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ratios.h"
 #include "status/dispenserstatusanswer.h"
+#include "status/sensorsstatusanswer.h"
 #include "suites.h"
 
 #include <QtCore/QStringList>
@@ -15,11 +16,18 @@ QStringList tokens()
     return QString::fromLatin1("E 0 1 4 1 0 8 4 5 2 6 3 10 0 8").split(QLatin1Char(' '));
 }
 
-unsigned sumOfWords(const QStringList &list)
+/** Sensors in every mask. */
+QStringList sensorTokens()
+{
+    return QString::fromLatin1("B 41 10 8 20 12 41 7 30 8 55 8").split(QLatin1Char(' '));
+}
+
+/** The numbers from \a first on. */
+unsigned sumOfWords(const QStringList &list, int first)
 {
     unsigned sum = 0;
     bool ok = false;
-    for (int i = 3; i < 15; ++i)
+    for (int i = first; i < list.size(); ++i)
         sum += list.at(i).toUInt(&ok, 16);
     return sum;
 }
@@ -70,7 +78,11 @@ void quv::addStatusRatios()
 {
     addRatio("status: 12 words from tokens", 1.3,
              repeat([list = tokens()] { return DispenserStatusAnswer(list); }),
-             repeat([list = tokens()] { return sumOfWords(list); }));
+             repeat([list = tokens()] { return sumOfWords(list, 3); }));
+
+    addRatio("sensors: 10 masks from tokens", 1.5,
+             repeat([list = sensorTokens()] { return SensorsStatusAnswer(list); }),
+             repeat([list = sensorTokens()] { return sumOfWords(list, 0); }));
 
     const DispenserStatusAnswer answer(tokens());
     addRatio("status: to its struct", 1.0, repeat([answer] { return answer.toXmlRpcValue(); }),

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "fuzzinput.h"
 #include "status/dispenserstatusanswer.h"
+#include "status/sensordataanswer.h"
+#include "status/sensorsstatusanswer.h"
 
 #include <QuvFramework/fw_exception.h>
 
@@ -27,17 +29,38 @@ void checkAnswer(const DispenserStatusAnswer &answer)
     DispenserStatusAnswer::getNewStatesDescriptions(&cleared, &answer);
 }
 
-} // namespace
-
-/** Blank-separated tokens of a firmware answer give a status, or a refusal with its code. */
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void checkAnswer(const SensorsStatusAnswer &answer)
 {
-    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    quv::require(answer == SensorsStatusAnswer(answer.toXmlRpcValue()),
+                 "sensors read back from their struct");
+}
+
+void checkAnswer(const SensorDataAnswer &answer)
+{
+    quv::require(answer == SensorDataAnswer(answer.toXmlRpcValue()), "a measure reads back from its struct");
+}
+
+/** The tokens give an answer, or a refusal with its code. */
+template <class Answer, class... Arguments>
+void decode(const QStringList &tokens, Arguments... arguments)
+{
     try {
-        checkAnswer(DispenserStatusAnswer(text.split(QLatin1Char(' '))));
+        checkAnswer(Answer(tokens, arguments...));
     } catch (const FW_Exception &refusal) {
         quv::require(isCode(refusal.code()) && !refusal.text().isEmpty() && !refusal.function().isEmpty(),
                      "a refusal has its code, its text and its function");
     }
+}
+
+} // namespace
+
+/** Blank-separated tokens of a firmware answer are given to every decoder of a status. */
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    const QStringList tokens = text.split(QLatin1Char(' '));
+    decode<DispenserStatusAnswer>(tokens);
+    decode<SensorsStatusAnswer>(tokens);
+    decode<SensorDataAnswer>(tokens);
     return 0;
 }

@@ -22,6 +22,12 @@ bool ArgumentTeller::isCountedByBase() const
     return m_facts.arguments.size() <= ProtoCommandList::cmdParamNum(m_facts.name, true);
 }
 
+void ArgumentTeller::require()
+{
+    m_facts.arguments.last().optional = false;
+    m_facts.arguments.last().defaultValue.clear();
+}
+
 void ArgumentTeller::tell(const ArgumentName &name, const char *type)
 {
     ArgumentFacts argument;

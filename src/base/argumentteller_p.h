@@ -37,6 +37,8 @@ public:
     void optional(const ArgumentName &name, const T &field, const ArgumentRefusal &otherType)
     {
         unread(name, field);
+        if (isCountedByBase())
+            require();
         refuse("another type", otherType);
     }
 
@@ -88,6 +90,7 @@ private:
     }
 
     void tell(const ArgumentName &name, const char *type);
+    void require(); ///< that the argument that was told last cannot be left out
     void refuse(const char *form, const char *when, const Refusal &refusal);
 
     CommandFacts &m_facts;

@@ -8,6 +8,7 @@
 #include "processes/getshelfparamsanswer.h"
 #include "processes/getturntablepositionsanswer.h"
 #include "processes/getzandorcommandsanswer.h"
+#include "status/sensorsstatusanswer.h"
 
 namespace quv {
 
@@ -19,6 +20,7 @@ const std::vector<AnswerRow> &serialRows()
 {
     static const std::vector<AnswerRow> rows = {
         answerRow<GetTurntablePositionsAnswer>(Cmd::GET_TURNTABLE_POSITIONS),
+        answerRow<SensorsStatusAnswer>(Cmd::GET_SENSORS_STATUS),
         answerRow<GetZandorCommandsAnswer>(Cmd::ZDR_GET_COMMANDS),
     };
     return rows;

@@ -37,7 +37,6 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Serial, BothForms, ProtoCommandList::GET_DISP_INFO, "GetDispInfoCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::SET_DISP_INFO, "SetDispInfoCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::CLEAR_DISP_INFO, "ClearDispInfoCmd"},
-        {Dispatch::Serial, BothForms, ProtoCommandList::GET_SENSOR_DATA, "SensorDataCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::SET_DISP_OUTPUT, "SetDispOutputCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::SET_BOARD_POWER, "SetBoardPowerCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::STOP, "StopSerialCmd"},
@@ -144,7 +143,6 @@ const std::vector<PendingAnswer> &pendingAnswers()
     // tokens never give a GetKeyCodeAnswer: a key code is asked of the driver
     static const std::vector<PendingAnswer> answers = {
         {SerialType, ProtoCommandList::GET_ERRORS, "GetErrorsAnswer"},
-        {SerialType, ProtoCommandList::GET_SENSORS_STATUS, "SensorsStatusAnswer"},
         {SerialType, ProtoCommandList::GET_KEY_CODE, "GetKeyCodeAnswer"},
         {ConfigurationType, ProtoCommandList::GET_CALIB_PROFILES, "GetCalibrationProfilesAnswer"},
         {ConfigurationType, ProtoCommandList::GET_ACTIVE_DISP, "GetActiveDispAnswer"},

@@ -22,6 +22,7 @@
 #include "processes/zdrcycleoperationcmd.h"
 #include "processes/zdrslaveprocedurecmd.h"
 #include "status/dispenserstatuscmd.h"
+#include "status/sensordatacmd.h"
 
 namespace quv {
 
@@ -36,6 +37,7 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::GET_CONFIG_CMDS, fromArguments<GetConfigCmdsCmd>()},
         {Cmd::FINALIZE_CONFIG, fromName<SerialProtoCommand>()},
         {Cmd::GET_SENSORS_STATUS, fromName<SerialProtoCommand>()},
+        {Cmd::GET_SENSOR_DATA, fromArguments<SensorDataCmd>()},
         {Cmd::CLOSE_SERIAL, fromName<SerialProtoCommand>()},
     }};
 

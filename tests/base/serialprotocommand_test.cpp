@@ -5,6 +5,7 @@
 #include "base/answerrows.h"
 #include "base/basetesting.h"
 #include "base/serialprotoanswer.h"
+#include "status/sensorsstatusanswer.h"
 
 #include <memory>
 
@@ -106,7 +107,11 @@ TEST(SerialProtoCommand, choosesTheAnswerClassByTheName)
 {
     const AnswerRow rows[] = {
         {"GET_ERRORS", "GetErrorsAnswer"},
-        {"GET_SENSORS_STATUS", "SensorsStatusAnswer"},
+        {"GET_SENSORS_STATUS",
+         "SensorsStatusAnswer",
+         SensorsStatusAnswer().toXmlRpcValue(),
+         {},
+         {"5", "0", "0", "0", "0", "0"}},
         {"GET_TURNTABLE_POSITIONS",
          "GetTurntablePositionsAnswer",
          structOf({{"turntable_circuits", arrayOf()}}),

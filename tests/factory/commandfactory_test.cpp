@@ -73,6 +73,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_FORMULA_EXECUTION", {formula}},
         {"GET_LOW_LEVEL_FORMULA", {formula}},
         {"GET_SHELF_POS", {3}},
+        {"GET_SENSOR_DATA", {4, 2}},
         {"GET_STATUS", {7}},
         {"PACK", {1, formula}},
         {"PACK2", {circuits}},
