@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "fuzzinput.h"
 #include "status/dispenserstatusanswer.h"
+#include "status/getactivecircuitsanswer.h"
 #include "status/sensordataanswer.h"
 #include "status/sensorsstatusanswer.h"
 
@@ -40,6 +41,16 @@ void checkAnswer(const SensorDataAnswer &answer)
     quv::require(answer == SensorDataAnswer(answer.toXmlRpcValue()), "a measure reads back from its struct");
 }
 
+void checkAnswer(const GetActiveCircuitsAnswer &answer)
+{
+    quv::require(answer == GetActiveCircuitsAnswer(answer.toXmlRpcValue()),
+                 "active circuits read back from their struct");
+    quv::require(answer.positionsID().size() == answer.nozzleValvePositions().size() +
+                                                    answer.statusTypeMasks().size() +
+                                                    answer.stallLevelsPos().size(),
+                 "each active circuit has one second value");
+}
+
 /** The tokens give an answer, or a refusal with its code. */
 template <class Answer, class... Arguments>
 void decode(const QStringList &tokens, Arguments... arguments)
@@ -62,5 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     decode<DispenserStatusAnswer>(tokens);
     decode<SensorsStatusAnswer>(tokens);
     decode<SensorDataAnswer>(tokens);
+    for (const int process : {1, 11, 13})
+        decode<GetActiveCircuitsAnswer>(tokens, static_cast<CircuitProcess>(process));
     return 0;
 }

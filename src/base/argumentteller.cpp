@@ -22,6 +22,14 @@ bool ArgumentTeller::isCountedByBase() const
     return m_facts.arguments.size() <= ProtoCommandList::cmdParamNum(m_facts.name, true);
 }
 
+void ArgumentTeller::argument(const ArgumentName &name, const char *type,
+                              const XmlRpc::XmlRpcValue &otherwise)
+{
+    tell(name, type);
+    m_facts.arguments.last().optional = true;
+    m_facts.arguments.last().defaultValue = otherwise;
+}
+
 void ArgumentTeller::require()
 {
     m_facts.arguments.last().optional = false;

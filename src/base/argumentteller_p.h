@@ -22,6 +22,8 @@ public:
 
     /** For arguments that no field holds, as structs that are taken apart. */
     void argument(const ArgumentName &name, const char *type) { tell(name, type); }
+    /** The same for one that may be left out, which is as if it were \a otherwise. */
+    void argument(const ArgumentName &name, const char *type, const XmlRpc::XmlRpcValue &otherwise);
 
     template <class T>
     void required(const ArgumentName &name, const T &, const ArgumentRefusal &absent,
@@ -67,9 +69,7 @@ public:
     template <class T>
     void unread(const ArgumentName &name, const T &field)
     {
-        tell(name, fieldType<T>().name);
-        m_facts.arguments.last().optional = true;
-        m_facts.arguments.last().defaultValue = EncodeXmlRpcVariant(QVariant::fromValue(field));
+        argument(name, fieldType<T>().name, EncodeXmlRpcVariant(QVariant::fromValue(field)));
     }
 
     void refuseUnless(bool, const ArgumentRefusal &refusal) { refuse("out of range", refusal); }

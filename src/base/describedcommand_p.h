@@ -118,7 +118,8 @@ private:
 template <class Leaf, class Base>
 bool TokenAnswered<Leaf, Base, true>::buildProtoAnswer(QStringList tokens, FW_DriverError *error)
 {
-    if constexpr (isGiven(answerOf<Leaf>.tokens))
+    // an answer that needs more than the tokens is made by the class itself
+    if constexpr (isGiven(answerOf<Leaf>.tokens) && std::is_constructible_v<AnswerOf<Leaf>, QStringList>)
         return this->replaceProtoAnswer(answerOf<Leaf>.tokens.code, answerOf<Leaf>.tokens.text, error,
                                         [&] { return new AnswerOf<Leaf>(std::move(tokens)); });
     else

@@ -21,7 +21,9 @@
 #include "processes/zdractuatormovingcmd.h"
 #include "processes/zdrcycleoperationcmd.h"
 #include "processes/zdrslaveprocedurecmd.h"
+#include "status/circuitsstatuscmd.h"
 #include "status/dispenserstatuscmd.h"
+#include "status/getactivecircuitscmd.h"
 #include "status/sensordatacmd.h"
 
 namespace quv {
@@ -45,6 +47,7 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
     Dispatch::DispenserSerial,
     {
         {Cmd::GET_STATUS, fromArguments<DispenserStatusCmd>()},
+        {Cmd::GET_CIRCUITS_STATUS, fromArgumentsAndDispenser<CircuitsStatusCmd>()},
         {Cmd::AUTOCAP_MOVE, fromArguments<AutocapCmd>()},
         {Cmd::SHELF_MOVE, fromArguments<ShelfCmd>()},
         {Cmd::GET_SHELF_POS, fromArguments<GetShelfPosCmd>()},
@@ -63,6 +66,7 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::ZDR_CYCLE_OPERATION, fromArguments<ZDRCycleOperationCmd>()},
         {Cmd::ZDR_ACTUATOR_MOVE, fromArguments<ZDRActuatorMovingCmd>()},
         {Cmd::ZDR_SLAVE_PROCEDURE, fromArguments<ZDRSlaveProcedureCmd>()},
+        {Cmd::GET_ACTIVE_CIRCUITS, fromArguments<GetActiveCircuitsCmd>()},
         {Cmd::GET_TURNTABLE_POSITIONS, fromName<SerialProtoCommand>()},
     }};
 

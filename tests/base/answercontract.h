@@ -78,9 +78,10 @@ struct AnswerFacts
     std::optional<AnswerOfTokens> tokens; ///< of a serial command
     AnswerOfValue value;
     AnswerOfList list;
-    CodeAndText envelope;  ///< when there is no memory for the envelope
-    std::string nullCode;  ///< no ready answer
-    std::string cloneCode; ///< a ready answer that cannot be copied
+    CodeAndText envelope;             ///< when there is no memory for the envelope
+    std::string nullCode;             ///< no ready answer
+    std::string cloneCode;            ///< a ready answer that cannot be copied
+    bool gathersReadyAnswers = false; ///< in a way of its own, which a test of its own tells
 };
 
 AnswerFacts plainAnswers();  ///< of ProtoCommand

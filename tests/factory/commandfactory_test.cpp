@@ -66,6 +66,8 @@ List argumentsFor(const CommandRow &row, Form form)
         {"AUTOCAP_MOVE", {1}},
         {"CHANNEL_TINT", {2, formula}},
         {"CHECK_FORMULA_LEVELS", {formula, true}},
+        {"GET_ACTIVE_CIRCUITS", {13}},
+        {"GET_CIRCUITS_STATUS", {2}},
         {"GET_CMD_EST_EXEC_TIME", {"GET_STATUS", 7}},
         {"GET_CMD_STATUS", {"ticket 7"}},
         {"GET_DISPENSED_FORMULA", {2, 1}},
@@ -93,6 +95,7 @@ List argumentsFor(const CommandRow &row, Form form)
     };
     // commands whose arguments travel in another shape over XML-RPC
     static const std::map<std::string, List> values = {
+        {"GET_CIRCUITS_STATUS", {QVariantMap{{"circuit_positions", List{2}}}}},
         {"GET_CMD_EST_EXEC_TIME", {QVariantMap{{"command", List{"GET_STATUS", 7}}}}},
         {"WRITE_CONFIG_ROW", {QVariantMap{{"cmd_value", 7}, {"cmd_parameters", "1,100,2,3"}}}},
     };
