@@ -18,8 +18,9 @@ constexpr quv::Refusal badPosition = {"DE01157", "Bad command parameter"};
 constexpr quv::Refusal badListPosition = {"DE01159", "Positions ID: expected INT parameter"};
 
 constexpr char notThere[] = "One or more positions ID not present or disabled";
-constexpr quv::Refusal notThereTyped = {"DE01154", notThere};
-constexpr quv::ArgumentRefusal notThereDecoded = {"DE01158", "DE01160", notThere};
+constexpr quv::Refusal typedNotThere = {"DE01154", notThere};
+constexpr quv::Refusal valueNotThere = {"DE01158", notThere};
+constexpr quv::Refusal listNotThere = {"DE01160", notThere};
 
 using XmlRpc::XmlRpcValue;
 
@@ -87,7 +88,7 @@ struct CircuitsStatusCmd::Description : quv::Description
         teller.refuse("another type", {badForm, {}});
         teller.refuse("a struct without the array", {noPositions, {}});
         teller.refuse("an element of another type", {badPosition, badListPosition});
-        teller.refuse("a circuit that is not there or not enabled", notThereDecoded);
+        teller.refuse("a circuit that is not there or not enabled", {valueNotThere, listNotThere});
     }
 };
 
@@ -95,7 +96,7 @@ template class quv::DescribedCommand<CircuitsStatusCmd, SerialProtoCommand>;
 
 CircuitsStatusCmd::CircuitsStatusCmd(QList<int> positions, const FW_Dispenser *dispenser)
     : DescribedCommand(dispenser),
-      m_positions(checkedPositions(positions, dispenser, notThereTyped, Q_FUNC_INFO))
+      m_positions(checkedPositions(positions, dispenser, typedNotThere, Q_FUNC_INFO))
 {}
 
 CircuitsStatusCmd::CircuitsStatusCmd(const XmlRpcValue &value, const FW_Dispenser *dispenser)
@@ -103,13 +104,12 @@ CircuitsStatusCmd::CircuitsStatusCmd(const XmlRpcValue &value, const FW_Dispense
 {
     const XmlRpcValue *argument = FindXmlRpcElement(value, 0);
     m_positions = checkedPositions(argument ? positionsOf(*argument, Q_FUNC_INFO) : QList<int>(), dispenser,
-                                   notThereDecoded.value, Q_FUNC_INFO);
+                                   valueNotThere, Q_FUNC_INFO);
 }
 
 CircuitsStatusCmd::CircuitsStatusCmd(QList<QVariant> list, const FW_Dispenser *dispenser)
     : DescribedCommand(list, dispenser),
-      m_positions(
-          checkedPositions(positionsOf(list, Q_FUNC_INFO), dispenser, notThereDecoded.list, Q_FUNC_INFO))
+      m_positions(checkedPositions(positionsOf(list, Q_FUNC_INFO), dispenser, listNotThere, Q_FUNC_INFO))
 {}
 
 CircuitsStatusCmd *CircuitsStatusCmd::clone() const

@@ -86,6 +86,8 @@ constexpr quv::StatusFlag<Sensors> sensors[] = {
      quv::Property},
 };
 
+constexpr quv::Refusal sensorMissing = {"DE00026", "SensorsStatusAnswer: expected %1 value"};
+
 constexpr quv::Refusal maskRefusals[requiredMasks] = {
     {"DE00778", "Error during command answer decoding: mask 1"},
     {"DE00779", "Error during command answer decoding: mask 2"},
@@ -99,7 +101,7 @@ struct SensorsStatusAnswer::Description
 {
     static std::vector<quv::Member<Sensors>> members()
     {
-        return quv::membersOf(sensors, {"DE00026", "SensorsStatusAnswer: expected %1 value"});
+        return quv::membersOf(sensors, sensorMissing);
     }
 };
 
