@@ -99,10 +99,7 @@ constexpr quv::Refusal maskRefusals[requiredMasks] = {
 
 struct SensorsStatusAnswer::Description
 {
-    static std::vector<quv::Member<Sensors>> members()
-    {
-        return quv::membersOf(sensors, sensorMissing);
-    }
+    static std::vector<quv::Member<Sensors>> members() { return quv::membersOf(sensors, sensorMissing); }
 };
 
 template class quv::DescribedAnswer<SensorsStatusAnswer, SerialProtoAnswer>;

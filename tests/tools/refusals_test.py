@@ -536,6 +536,24 @@ class Described(Collected):
         self.assertEqual([(one.text, one.names, one.refuser, one.form) for one in found],
                          [("Foo: expected \u2026 value", ("first", "third"), "Foo", "XML-RPC value")])
 
+    def test_flags_of_an_answer_that_are_required(self):
+        self.assertEqual(self.places('''
+            constexpr quv::StatusFlag<FooAnswer> flags[] = {{"first", &FooAnswer::first, quv::Required}};
+            constexpr quv::Refusal flagMissing = {"DE00001", "FooAnswer: expected %1 value"};
+            struct FooAnswer::Description
+            {
+                static std::vector<quv::Member<FooAnswer>> members() { return quv::membersOf(flags, flagMissing); }
+            };
+            ''', flags=REFUSAL + '''
+            template <class T> struct StatusFlag { const char *key = ""; bool T::*flag = nullptr; unsigned traits = Plain; };
+            template <class T, std::size_t count>
+            std::vector<Member<T>> membersOf(const StatusFlag<T> (&flags)[count], const Refusal &missing)
+            {
+                for (const StatusFlag<T> &row : flags)
+                    members.emplace_back(row.key, row.flag, row.has(Required) ? missing : Refusal());
+            }
+            '''), [("DE00001", "XML-RPC value", "", "", ("FooAnswer::FooAnswer",))])
+
     def test_table_of_an_answer(self):
         self.assertEqual(self.raised('''
             const AnswerTable<FooAnswer> &table()

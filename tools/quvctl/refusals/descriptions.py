@@ -70,6 +70,8 @@ class Descriptions:
         operation = callee_of(group) if is_group(group, "(") else None
         if operation in MEMBER_WORDS and parameter:
             return self.raised_by_constructors(group, VALUE, self.name_in(member_of(group)), MEMBER_WORDS[operation])
+        if parameter == "missing":  # what refuses each flag of a table
+            return self.raised_by_constructors(group, VALUE, "", "")
         if parameter not in ("refusal", "inList") or \
                 not any(one.name == MEMBER for one in handed_to(self.sources, group)):
             return None
