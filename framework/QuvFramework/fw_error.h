@@ -86,6 +86,7 @@ protected:
 class QUVFRAMEWORK_EXPORT FW_HwError : public FW_Error
 {
 public:
+    FW_HwError() = default; ///< all numbers 0, of a dispenser
     FW_HwError(int code, int module, int value, bool flag, const SerialDeviceType &device);
     /** Members "code", "module", "value", "device" (ints) and "flag" (bool). Throws FW_Exception DE03004. */
     explicit FW_HwError(const XmlRpc::XmlRpcValue &value);
@@ -114,6 +115,7 @@ private:
 class QUVFRAMEWORK_EXPORT FW_ConfError : public FW_Error
 {
 public:
+    FW_ConfError() = default; ///< all numbers 0
     FW_ConfError(int code, int module, int value, bool flag);
     /** Members "code", "module", "value" (ints) and "flag" (bool). Throws FW_Exception DE03005. */
     explicit FW_ConfError(const XmlRpc::XmlRpcValue &value);

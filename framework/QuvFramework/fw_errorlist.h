@@ -15,7 +15,7 @@ class QUVFRAMEWORK_EXPORT FW_ErrorList
 {
 public:
     FW_ErrorList() = default;
-    /** Takes the variants that hold an FW_DriverError or another FW_ErrorList; others are passed over. */
+    /** Takes the variants that hold an error of any kind or another FW_ErrorList; others are passed over. */
     explicit FW_ErrorList(const QList<QVariant> &errors);
     explicit FW_ErrorList(const QList<FW_Error *> &errors); ///< copies each; null pointers are passed over
     /** An array with one struct an error. Throws FW_Exception DE03006 for anything else, or the error's own. */
@@ -51,4 +51,6 @@ private:
 };
 
 Q_DECLARE_METATYPE(FW_DriverError)
+Q_DECLARE_METATYPE(FW_HwError)
+Q_DECLARE_METATYPE(FW_ConfError)
 Q_DECLARE_METATYPE(FW_ErrorList)

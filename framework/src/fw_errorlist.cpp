@@ -9,6 +9,10 @@ FW_ErrorList::FW_ErrorList(const QList<QVariant> &errors)
     for (const QVariant &error : errors) {
         if (error.canConvert<FW_DriverError>())
             append(error.value<FW_DriverError>());
+        else if (error.canConvert<FW_HwError>())
+            append(QList<FW_HwError>{error.value<FW_HwError>()});
+        else if (error.canConvert<FW_ConfError>())
+            append(QList<FW_ConfError>{error.value<FW_ConfError>()});
         else if (error.canConvert<FW_ErrorList>())
             append(error.value<FW_ErrorList>());
     }

@@ -434,4 +434,10 @@ TEST(FW_ConfError, differsInAnyNumber)
     EXPECT_FALSE(error.equalTo(FW_HwError(1, 2, 3, true, SerialDeviceType::Dispenser)));
 }
 
+TEST(FW_HwError, startsWithoutNumbers)
+{
+    EXPECT_TRUE(FW_HwError().equalTo(FW_HwError(0, 0, 0, false, SerialDeviceType::Dispenser)));
+    EXPECT_TRUE(FW_ConfError().equalTo(FW_ConfError(0, 0, 0, false)));
+}
+
 } // namespace

@@ -193,6 +193,20 @@ TEST(FW_ErrorList, takesErrorsOutOfVariants)
     EXPECT_TRUE(FW_ErrorList(QList<QVariant>()).isEmpty());
 }
 
+TEST(FW_ErrorList, takesErrorsOfAllKindsOutOfVariants)
+{
+    FW_HwError hardware(1234, 7, 31, true, SerialDeviceType::Mixer);
+    hardware.setTimestamp(noon);
+    const FW_ConfError configuration(99, 2, 5, false);
+    const FW_ErrorList list(QList<QVariant>{QVariant::fromValue(configuration), QVariant::fromValue(hardware),
+                                            7, QVariant::fromValue(FW_DriverError("DE00001", "text")),
+                                            QVariant::fromValue(hardware)});
+    EXPECT_EQ(summary(list), "3:99 2:1234 1:DE00001 2:1234");
+    EXPECT_TRUE(list[0]->equalTo(configuration));
+    EXPECT_TRUE(list[1]->equalTo(hardware));
+    EXPECT_EQ(list[1]->timestamp(), noon);
+}
+
 TEST(FW_ErrorList, indexOutOfRangeIsNull)
 {
     const FW_ErrorList list = listOfAllKinds();
