@@ -9,6 +9,7 @@
 #include "processes/getturntablepositionsanswer.h"
 #include "processes/getzandorcommandsanswer.h"
 #include "status/sensorsstatusanswer.h"
+#include "status/geterrorsanswer.h"
 
 namespace quv {
 
@@ -19,6 +20,7 @@ using Cmd = ProtoCommandList;
 const std::vector<AnswerRow> &serialRows()
 {
     static const std::vector<AnswerRow> rows = {
+        answerRow<GetErrorsAnswer>(Cmd::GET_ERRORS),
         answerRow<GetTurntablePositionsAnswer>(Cmd::GET_TURNTABLE_POSITIONS),
         answerRow<SensorsStatusAnswer>(Cmd::GET_SENSORS_STATUS),
         answerRow<GetZandorCommandsAnswer>(Cmd::ZDR_GET_COMMANDS),

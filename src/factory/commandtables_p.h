@@ -157,6 +157,14 @@ constexpr auto fromName()
     });
 }
 
+/** For a class of one command without arguments: whatever is given is dropped. */
+template <class Class, Form Forms = BothForms>
+constexpr auto fromNothing()
+{
+    return madeBy<Class, Forms>(
+        [](const QString &, auto &, const FW_Machine *) -> CommandKind<Class> * { return new Class; });
+}
+
 template <class Command>
 struct CommandRow
 {

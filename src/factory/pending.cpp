@@ -31,8 +31,6 @@ const std::vector<PendingCommand> &pendingCommands()
 {
     static const std::vector<PendingCommand> commands = {
         {Dispatch::Serial, BothForms, ProtoCommandList::SET_SERIAL, "SetSerialSerialCmd"},
-        {Dispatch::Serial, BothForms, ProtoCommandList::GET_ERROR_PKT, "FwErrorCmd"},
-        {Dispatch::Serial, BothForms, ProtoCommandList::CLEAR_ERRORS, "ClearErrorsCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::WORKING_MODE, "WorkingModeCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::GET_DISP_INFO, "GetDispInfoCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::SET_DISP_INFO, "SetDispInfoCmd"},
@@ -140,7 +138,6 @@ const std::vector<PendingAnswer> &pendingAnswers()
 {
     // tokens never give a GetKeyCodeAnswer: a key code is asked of the driver
     static const std::vector<PendingAnswer> answers = {
-        {SerialType, ProtoCommandList::GET_ERRORS, "GetErrorsAnswer"},
         {SerialType, ProtoCommandList::GET_KEY_CODE, "GetKeyCodeAnswer"},
         {ConfigurationType, ProtoCommandList::GET_CALIB_PROFILES, "GetCalibrationProfilesAnswer"},
         {ConfigurationType, ProtoCommandList::GET_ACTIVE_DISP, "GetActiveDispAnswer"},

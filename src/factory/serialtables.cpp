@@ -22,7 +22,9 @@
 #include "processes/zdrcycleoperationcmd.h"
 #include "processes/zdrslaveprocedurecmd.h"
 #include "status/circuitsstatuscmd.h"
+#include "status/clearerrorscmd.h"
 #include "status/dispenserstatuscmd.h"
+#include "status/fwerrorcmd.h"
 #include "status/getactivecircuitscmd.h"
 #include "status/sensordatacmd.h"
 
@@ -34,6 +36,8 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
     Dispatch::Serial,
     {
         {Cmd::GET_ERRORS, fromName<SerialProtoCommand>()},
+        {Cmd::GET_ERROR_PKT, fromArguments<FwErrorCmd>()},
+        {Cmd::CLEAR_ERRORS, fromNothing<ClearErrorsCmd>()},
         {Cmd::WRITE_CONFIG_ROW, fromArguments<WriteConfigurationParamCmd>()},
         {Cmd::READ_CONFIG_ROW, fromArguments<ReadConfigurationParamCmd>()},
         {Cmd::GET_CONFIG_CMDS, fromArguments<GetConfigCmdsCmd>()},

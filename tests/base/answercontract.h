@@ -53,6 +53,12 @@ struct AnswerForm
         wrong.push_back({std::move(source), {code, text}, function});
         return *this;
     }
+    /** For an answer whose errors are of the moment in which it was made: their times are not compared. */
+    AnswerForm &ofThisMoment()
+    {
+        tellsMoment = true;
+        return *this;
+    }
     /** For an answer that reads nothing of it. */
     AnswerForm &refusesNothing()
     {
@@ -66,6 +72,7 @@ struct AnswerForm
     CodeAndText failure;
     std::vector<Wrong> wrong;
     bool takesAnything = false;
+    bool tellsMoment = false;
 };
 
 using AnswerOfTokens = AnswerForm<QStringList>;

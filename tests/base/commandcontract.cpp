@@ -80,7 +80,10 @@ MissingFacts missingFacts(const CommandFacts &facts)
                         facts.catalogue.minimum >= 0,
                     "name, row, code and minimum of the catalogue");
     missing.require(facts.protoType >= 0, "the kind of the command");
-    missing.require(facts.forms.ofValue && facts.forms.ofList, "how the command is made in both forms");
+    missing.require(facts.takesNothing || (facts.forms.ofValue && facts.forms.ofList),
+                    "how the command is made in both forms");
+    missing.require(!facts.takesNothing || !(facts.forms.ofValue || facts.forms.ofList),
+                    "what the command takes");
     missing.require(facts.arguments.empty() || (!facts.valueFunction.empty() && !facts.listFunction.empty()),
                     "the signatures that refuse arguments");
     missing.require(!facts.requests.empty(), "a request");

@@ -191,7 +191,7 @@ CommandForms formsOf(const FW_Dispenser *machine = nullptr, Leading... leading)
         forms.ofList = [=](const List &list) -> Made {
             return std::make_unique<Command>(leading..., list, machine);
         };
-    } else {
+    } else if constexpr (std::is_constructible_v<Command, Leading..., OfSource<List>>) {
         forms.ofList = [=](const List &list) -> Made { return std::make_unique<Command>(leading..., list); };
     }
 
@@ -264,6 +264,7 @@ struct CommandFacts
     std::vector<Gate> firmware = everyFirmware();
 
     // What a class does its own way; a test of its own tells it then.
+    bool takesNothing = false; ///< the class has no form that takes arguments
     bool readsByHand =
         false; ///< no plain list of positions: nothing is known of what is absent or of another type
     bool keepsTheList = false;        ///< the list form reads nothing: parameters() gives the list as it came

@@ -72,6 +72,8 @@ std::string tooFew(const CommandFacts &facts, int count)
 
 void expectBaseRefusals(const CommandFacts &facts)
 {
+    if (facts.takesNothing)
+        return;
     const Arguments arguments(facts.requests.front());
     if (facts.valueIsCheckedByBase) {
         SCOPED_TRACE("XML-RPC form");

@@ -106,7 +106,7 @@ TEST(SerialProtoCommand, leavesTheCallersTokensAlone)
 TEST(SerialProtoCommand, choosesTheAnswerClassByTheName)
 {
     const AnswerRow rows[] = {
-        {"GET_ERRORS", "GetErrorsAnswer"},
+        {"GET_ERRORS", "GetErrorsAnswer", structOf({{"fw_errors", arrayOf()}})},
         {"GET_SENSORS_STATUS",
          "SensorsStatusAnswer",
          SensorsStatusAnswer().toXmlRpcValue(),

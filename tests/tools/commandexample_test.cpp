@@ -67,6 +67,13 @@ TEST(CommandExample, isCompleteWithoutArguments)
     EXPECT_EQ(python(command("GET_ERRORS")), "driver.EXEC_B(\"GET_ERRORS\")");
 }
 
+TEST(CommandExample, leavesOutWhatTheCommandWouldNotSend)
+{
+    const quv::CommandFacts packet = quv::commandFacts("GET_ERROR_PKT");
+    ASSERT_EQ(packet.arguments.size(), 1);
+    EXPECT_EQ(shell(packet), "quvctl call GET_ERROR_PKT");
+}
+
 TEST(CommandExample, namesTheMachineWithoutWhichQuvctlCannotMakeTheCommand)
 {
     EXPECT_EQ(shell(command("GET_LOW_LEVEL_FORMULA", {{"formula", "formula"}})),

@@ -45,6 +45,7 @@ constexpr Sample samplesOfTypes[] = {
 constexpr Sample samplesOfCommands[] = {
     {"GET_STATUS", "[3]"},
     {"GET_CIRCUITS_STATUS", R"([{"circuit_positions":[2,3]}])"},
+    {"GET_ERROR_PKT", "[]"}, // quvctl cannot send what the command does not write
     {"GET_CMD_STATUS", R"(["08c07d1b-0c86-482f-89f7-e64569cd7441"])"},
     {"GET_CMD_EST_EXEC_TIME", R"([{"command":["RESET"]}])"},
     {"READ_CONFIG_ROW", "[7,1]"},
