@@ -598,6 +598,185 @@ class Supports(BatchTest):
                     refused("DE00337", "Command type not recognized", GET_PROTO_VALUE))
 
 
+SERIAL_TOKENS = "SerialProtoAnswer::SerialProtoAnswer(QStringList)"
+
+
+class Refusals(BatchTest):
+    """What a firmware answers to a command that it refuses."""
+
+    def refusal(self, reply, **request):
+        self.expect({"op": "refusal", **request}, reply)
+
+    def test_reasons(self):
+        flags = dict.fromkeys("""
+            field_out_of_range no_etx bad_checksum bad_cmd_code bad_position_id bad_cmd_parameters
+            cmd_refused_error_state conf_write_error conf_row_write_error dispenser_not_available
+            bad_working_mode""".split(), False)
+        self.refusal({"ok": True, "codes": [8, 10],
+                      "texts": ["Command refused because of errors", "Configuration row writing error"],
+                      "value": {"cmd_refused_error": {
+                          **flags, "cmd_refused_error_state": True, "conf_row_write_error": True}}},
+                     tokens=["6", "0", "5", "0", "0", "0", "0"])
+        reply = self.ask({"op": "refusal", "tokens": ["6", "7F", "7F", "x", "x", "x", "x"]})
+        self.assertEqual(reply["codes"], [1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12])
+        self.assertEqual(reply["texts"], [
+            "One or more fields contain values out of range", "ETX not present", "Bad checksum", "Unknown command code",
+            "Wrong position ID", "Bad command parameters", "Command refused because of errors",
+            "Configuration writing error", "Configuration row writing error", "Machine not available",
+            "Bad working mode"])
+        self.assertEqual(reply["value"], {"cmd_refused_error": dict.fromkeys(flags, True)})
+
+    def test_tokens_that_are_none(self):
+        answer = "CommandRefusedAnswer::CommandRefusedAnswer(QStringList)"
+        error = "CommandRefusedError::CommandRefusedError(QStringList)"
+        for tokens, code, text, function in [
+                ([], "DE00076", "Empty answer received", SERIAL_TOKENS),
+                (["5", "1", "0", "0", "0", "0"], "DE00063", "Error during command answer decoding: bad length", answer),
+                (["6", "x", "0", "0", "0", "0", "0"], "DE00869",
+                 "Error during command refused error decoding: mask 1", error),
+                (["6", "0", "x", "0", "0", "0", "0"], "DE00870",
+                 "Error during command refused error decoding: mask 2", error),
+                (["6", "0", "0", "0", "0", "0", "0"], "DE00173",
+                 "Command refused due to unknown reason. No refused answer bit set!", answer)]:
+            self.refusal(refused(code, text, function), tokens=tokens)
+
+    def test_raw_answers(self):
+        self.refusal({"ok": True, "refused": True}, raw="A1A00BB00A0")
+        self.refusal({"ok": True, "refused": True}, raw="A1A00BB00a")
+        self.refusal({"ok": True, "refused": False}, raw="A1A00BB0A0")
+        self.refusal({"ok": True, "refused": False}, raw="")
+
+    def test_bad_requests(self):
+        self.refusal(bad('a refusal needs "tokens" or "raw"'))
+        self.refusal(bad('"tokens" must be an array of strings'), tokens="6 0 5")
+        self.refusal(bad('"raw" must be a string'), raw=["0A"])
+
+
+class Errors(BatchTest):
+    """The buffer of errors that a firmware keeps."""
+
+    def test_three_commands_of_one_code(self):
+        for name, arguments, class_name, serial in [("GET_ERROR_PKT", [5], "FwErrorCmd", [5]),
+                                                    ("GET_ERROR_PKT", [], "FwErrorCmd", [0]),
+                                                    ("CLEAR_ERRORS", [], "ClearErrorsCmd", [0])]:
+            for form in ["value", "list"]:
+                reply = self.ask({"op": "encode", "name": name, "args": arguments, "form": form})
+                self.assertEqual((reply["class"], reply["code"], reply["serial"]), (class_name, "000C", serial))
+                self.assertEqual((reply["request"], reply["parameters"], reply["module"]), ([name], [], 0))
+        for form, code in [("value", "DE00465"), ("list", "DE00466")]:
+            reply = self.ask({"op": "encode", "name": "GET_ERROR_PKT", "args": ["5"], "form": form})
+            self.assertEqual((reply["code"], reply["text"]), (code, "Error Packet: expected INT parameter"))
+
+    def test_a_packet(self):
+        reply = self.ask({"op": "decode", "name": "GET_ERROR_PKT",
+                          "tokens": ["8", "1", "0", "1", "7", "1", "2", "3", "60"]})
+        self.assertEqual((reply["ok"], reply["class"]), (True, "FwErrorAnswer"))
+        [error] = reply["value"]["fw_errors"]
+        self.assertRegex(error.pop("timestamp"), r"^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z$")
+        self.assertEqual(error, {"error_type": 2, "code": 182041, "module": 7, "value": 0, "flag": True, "device": 1})
+        self.expect({"op": "decode", "name": "GET_ERROR_PKT", "tokens": ["3", "1", "0", "1"]},
+                    refused("DE00092", "Error during command answer decoding: module value not found",
+                            "FwErrorAnswer::FwErrorAnswer(QStringList)"))
+
+    def test_the_errors_of_a_driver(self):
+        time = {"timestamp": "2024-02-29T23:59:58.123Z"}
+        errors = [{"error_type": 1, "code": "DE00289", "text": "Too few parameters", **time},
+                  {"error_type": 3, "code": 99, "module": 2, "value": 5, "flag": True, **time},
+                  {"error_type": 2, "code": 1, "module": 7, "value": 31, "flag": False, "device": 4, **time}]
+        self.expect({"op": "answer", "name": "GET_ERRORS", "value": {"fw_errors": errors}},
+                    {"ok": True, "class": "GetErrorsAnswer", "value": {"fw_errors": errors}})
+        self.expect({"op": "answer", "name": "GET_ERROR_PKT", "value": {"fw_errors": errors}},
+                    {"ok": True, "class": "FwErrorAnswer", "value": {"fw_errors": [errors[2], errors[1]]}})
+        self.expect({"op": "decode", "name": "GET_ERRORS", "tokens": ["1", "x"]},
+                    {"ok": True, "class": "GetErrorsAnswer", "value": {"fw_errors": []}})
+        self.expect({"op": "answer", "name": "GET_ERRORS", "value": {}},
+                    refused("DE00471", "GetErrorsAnswer: Errors during FW_ErrorList list creation (XmlRpcValue)",
+                            "GetErrorsAnswer::GetErrorsAnswer(const XmlRpc::XmlRpcValue&)"))
+
+
+class Classes(BatchTest):
+    """Commands of classes that the factory never makes."""
+
+    def test_number_of_errors(self):
+        command = {"class": "ErrorNumCmd"}
+        self.expect({"op": "encode", **command}, {
+            "ok": True, "class": "ErrorNumCmd", "request": ["ERRORS_NUM"], "parameters": [], "code": "000C",
+            "module": 0, "serial": [245], "estimated_ms": 0, "command": "", "action": "In progress",
+            "action_detailed": "In progress"})
+        number = {"ok": True, "class": "ErrorNumAnswer", "value": {"num_errors": 300, "packets_count": 17}}
+        self.expect({"op": "decode", **command, "tokens": ["3", "36", "1", "11"]}, number)
+        self.expect({"op": "answer", **command, "value": number["value"]}, number)
+        self.expect({"op": "setanswer", **command, "envelope": {
+            "ret_code": 0, "info": "", "ret_value": number["value"], "errors": []}},
+            {**number, "envelope": {"ret_code": 0, "info": "", "printable": ["Success!"]}})
+        self.expect({"op": "supports", **command, "family": 1, "revision": 0}, {"ok": True, "supported": True})
+        self.expect({"op": "decode", **command, "tokens": ["2", "36", "1"]},
+                    refused("DE00088", "Error during command answer decoding: bad length",
+                            "ErrorNumAnswer::ErrorNumAnswer(QStringList)"))
+        # by its name it is a plain command
+        reply = self.ask({"op": "encode", "name": "ERRORS_NUM"})
+        self.assertEqual((reply["class"], reply["serial"]), ("SerialProtoCommand", []))
+
+    def test_purges(self):
+        purge = {"purge_quantity": 2.5, "quantity_unit": 3, "only_filled": True, "head": 0}
+        for form, given in [("value", purge), ("value", [purge]), ("list", [2.5, 3, True, 0])]:
+            reply = self.ask({"op": "encode", "class": "PurgeQuantityCmd", "args": given, "form": form})
+            self.assertEqual((reply["class"], reply["request"]), ("PurgeQuantityCmd", ["PURGE", purge]))
+        for form in ["value", "list"]:
+            reply = self.ask({"op": "encode", "class": "PurgeCmd", "args": [purge], "form": form})
+            self.assertEqual((reply["class"], reply["request"]), ("PurgeCmd", ["PURGE"]))
+        self.assertEqual(self.ask({"op": "encode", "class": "PurgeCmd"})["code"], "DE00312")
+        self.assertEqual(self.ask({"op": "encode", "class": "PurgeCmd", "form": "list"})["code"], "DE00313")
+
+    def test_turntables(self):
+        formula = {"formula_type": 1, "quantity_unit": 2, "ids": [1], "quantities": [3]}
+        for class_name in ["TurntableTintCmd", "TurntablePurgeFormulaCmd"]:
+            request = {"op": "encode", "class": class_name, "machine": "turntable", "args": [formula]}
+            by_value = self.ask({**request, "position": 4})
+            by_list = self.ask({**request, "args": [formula, 4], "form": "list"})
+            self.assertEqual((by_value["class"], by_value["parameters"][-1]), (class_name, 4))
+            self.assertEqual(by_list, by_value)
+            self.assertEqual(self.ask(request)["parameters"][-1], 0)
+
+    def test_a_client_that_asks_what_was_poured(self):
+        for form in ["value", "list"]:
+            reply = self.ask({"op": "encode", "class": "GetDispensedFormulaCmd", "args": [4, 3], "form": form})
+            self.assertEqual((reply["class"], reply["request"]),
+                             ("GetDispensedFormulaCmd", ["GET_DISPENSED_FORMULA", 4, 3]))
+            self.assertNotIn("serial", reply)
+
+    def test_bad_requests(self):
+        unknown = bad('"class" names no class of commands that only a driver makes; others go by "name"')
+        for name in ["TintCmd", "errornumcmd", ""]:
+            self.expect({"op": "encode", "class": name}, unknown)
+        self.expect({"op": "encode", "class": 5}, bad('"class" must be a string'))
+        self.expect({"op": "encode", "class": "PurgeCmd", "form": "xml"}, bad('"form" must be "value" or "list"'))
+        self.expect({"op": "encode", "class": "TurntableTintCmd", "args": [1], "position": "4"},
+                    bad('"position" must be a whole number'))
+        self.expect({"op": "decode", "class": "GetDispensedFormulaCmd", "tokens": ["0"]},
+                    bad('"class": GET_DISPENSED_FORMULA is no serial command, so tokens are no answer to it'))
+
+
+class Renamed(BatchTest):
+    """A command that a driver gives its newer name."""
+
+    TINT = {"op": "encode", "name": "TINT", "machine": "dispenser",
+            "args": [{"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [10]}]}
+
+    def test_tint2(self):
+        tint = self.ask(self.TINT)
+        tint2 = self.ask({**self.TINT, "as": "TINT2"})
+        self.assertEqual((tint["code"], tint["serial"]), ("0017", [2, 1, 2, 1, 50, 2, 96, 4]))
+        self.assertEqual((tint2["class"], tint2["request"][0]), ("TintCmd", "TINT2"))
+        self.assertEqual(tint2["request"][1:], tint["request"][1:])
+        # six fields a circuit: its nozzle valve and its level, 2086 = 8 * 246 + 118 hundreds of steps, as well
+        self.assertEqual((tint2["code"], tint2["serial"]), ("0035", [2, 1, 6, 2, 1, 50, 0, 2, 96, 4, 2, 118, 8]))
+
+    def test_bad_requests(self):
+        self.expect({**self.TINT, "as": "TINT3"}, bad('"as" names no command of the catalogue'))
+        self.expect({**self.TINT, "as": 2}, bad('"as" must be a string'))
+
+
 class Lines(BatchTest):
     def test_requests_that_are_none(self):
         for line, text in [

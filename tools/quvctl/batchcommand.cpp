@@ -27,7 +27,7 @@ const Subcommand batchSubcommand = {
     "Reads one JSON object a line on standard input and writes one reply a line on standard output, in "
     "order.\n"
     "A bad request gets a reply too. Operations: catalogue, query, encode, decode, answer, setanswer,\n"
-    "envelope, supports, status, row, apply.",
+    "envelope, supports, status, row, apply, refusal.",
     0,
     0,
     {},

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "operations.h"
 
+#include "commandarguments.h"
+#include "commandclasses.h"
 #include "queries.h"
+#include "refusaloperation.h"
 #include "replies.h"
 #include "rowoperations.h"
 
@@ -24,30 +27,21 @@ namespace quv {
 
 namespace {
 
-/// A few commands take a struct in place of the array, so whatever value there is goes to the factory.
-XmlRpc::XmlRpcValue argumentsOf(const Request &request)
-{
-    if (request.has("args"))
-        return request.value("args");
-    XmlRpc::XmlRpcValue none;
-    none.setSize(0);
-    return none;
-}
-
 std::unique_ptr<ProtoCommand> makeCommand(const Request &request, const FW_Machine *machine)
 {
+    if (request.has("class"))
+        return commandOfClass(request, machine);
     const QString name = request.text("name");
-    const QString form = request.text("form", QStringLiteral("value"));
-    ProtoCommand *command = nullptr;
-    if (form == QLatin1String("value")) {
-        XmlRpc::XmlRpcValue arguments = argumentsOf(request);
-        command = ProtoCommandList::getProtoCommand(name, arguments, machine);
-    } else if (form == QLatin1String("list")) {
-        command = ProtoCommandList::getProtoCommand(name, request.variants("args"), machine);
-    } else {
-        throw BadRequest("\"form\" must be \"value\" or \"list\"");
-    }
-    return std::unique_ptr<ProtoCommand>(command);
+    return withArguments(request, [&](auto &arguments) {
+        return std::unique_ptr<ProtoCommand>(ProtoCommandList::getProtoCommand(name, arguments, machine));
+    });
+}
+
+/// Gives the command its newer name, as a driver does for a firmware that knows the newer form.
+void rename(ProtoCommand &command, const QString &name)
+{
+    if (!command.setCommand(name))
+        throw BadRequest("\"as\" names no command of the catalogue");
 }
 
 OrderedJson catalogue(const Request &)
@@ -69,6 +63,8 @@ OrderedJson encode(const Request &request)
     const int family = request.number("family", 1);
     const auto machine = machineOf(request);
     const auto command = makeCommand(request, machine.get());
+    if (request.has("as"))
+        rename(*command, request.text("as"));
     OrderedJson reply = success();
     reply["class"] = className(*command);
     reply["request"] = toJson(command->toXmlRpcValue(QString()));
@@ -165,9 +161,10 @@ struct Operation
 };
 
 constexpr Operation operations[] = {
-    {"catalogue", catalogue}, {"query", query},         {"encode", encode},        {"decode", decode},
-    {"answer", answer},       {"setanswer", setAnswer}, {"envelope", envelope},    {"supports", supports},
-    {"status", status},       {"row", rowOperation},    {"apply", applyOperation},
+    {"catalogue", catalogue}, {"query", query},          {"encode", encode},
+    {"decode", decode},       {"answer", answer},        {"setanswer", setAnswer},
+    {"envelope", envelope},   {"supports", supports},    {"status", status},
+    {"row", rowOperation},    {"apply", applyOperation}, {"refusal", refusalOperation},
 };
 
 } // namespace
@@ -194,7 +191,8 @@ std::unique_ptr<ProtoCommand> decodedCommand(const Request &request)
     auto command = makeCommand(request);
     auto *serial = dynamic_cast<SerialProtoCommand *>(command.get());
     if (!serial)
-        throw BadRequest("\"name\": " + command->command().toStdString() +
+        throw BadRequest((request.has("class") ? "\"class\": " : "\"name\": ") +
+                         command->command().toStdString() +
                          " is no serial command, so tokens are no answer to it");
     FW_DriverError error;
     if (!serial->setSerialAnswer(tokens, &error))

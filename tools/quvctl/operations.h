@@ -19,7 +19,7 @@ namespace quv {
  */
 OrderedJson runOperation(const Request &request);
 
-/// The command that "name", "args", "form" and "machine" tell, from the factory. \throws as runOperation
+/// The command that "name" or "class", "args", "form" and "machine" tell. \throws as runOperation
 std::unique_ptr<ProtoCommand> makeCommand(const Request &request);
 
 /// The same, holding the answer that it made of "tokens". \throws as runOperation

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "commandclasses.h"
+
+#include "commandarguments.h"
+
+#include "dispensing/getdispensedformulacmd.h"
+#include "dispensing/purgecmd.h"
+#include "dispensing/purgequantitycmd.h"
+#include "dispensing/turntablepurgeformulacmd.h"
+#include "dispensing/turntabletintcmd.h"
+#include "status/errornumcmd.h"
+
+#include <QuvFramework/fw_dispenser.h>
+
+#include <algorithm>
+#include <iterator>
+#include <type_traits>
+
+namespace quv {
+
+namespace {
+
+using Made = std::unique_ptr<ProtoCommand>;
+
+// What a class's constructor takes.
+
+template <class Class>
+Made fromNothing(const Request &, const FW_Machine *)
+{
+    return std::make_unique<Class>();
+}
+
+template <class Class>
+Made fromArguments(const Request &request, const FW_Machine *)
+{
+    return withArguments(request, [](auto &arguments) -> Made { return std::make_unique<Class>(arguments); });
+}
+
+template <class Class>
+Made fromArgumentsAndDispenser(const Request &request, const FW_Machine *machine)
+{
+    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(machine);
+    return withArguments(request, [dispenser](auto &arguments) -> Made {
+        return std::make_unique<Class>(arguments, dispenser);
+    });
+}
+
+/// Of a turntable: where it stands is the last element of a list, and apart from a value, which has no place for it.
+template <class Class>
+Made fromArgumentsAndPosition(const Request &request, const FW_Machine *machine)
+{
+    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(machine);
+    return withArguments(request, [&](auto &arguments) -> Made {
+        if constexpr (std::is_same_v<decltype(arguments), XmlRpc::XmlRpcValue &>)
+            return std::make_unique<Class>(arguments, request.number("position", 0), dispenser);
+        else
+            return std::make_unique<Class>(arguments, dispenser);
+    });
+}
+
+struct CommandClass
+{
+    const char *name;
+    Made (*make)(const Request &request, const FW_Machine *machine);
+};
+
+constexpr CommandClass commandClasses[] = {
+    {"ErrorNumCmd", fromNothing<ErrorNumCmd>},
+    {"GetDispensedFormulaCmd", fromArguments<GetDispensedFormulaCmd>},
+    {"PurgeCmd", fromArgumentsAndDispenser<PurgeCmd>},
+    {"PurgeQuantityCmd", fromArguments<PurgeQuantityCmd>},
+    {"TurntablePurgeFormulaCmd", fromArgumentsAndPosition<TurntablePurgeFormulaCmd>},
+    {"TurntableTintCmd", fromArgumentsAndPosition<TurntableTintCmd>},
+};
+
+} // namespace
+
+std::unique_ptr<ProtoCommand> commandOfClass(const Request &request, const FW_Machine *machine)
+{
+    const std::string name = request.text("class").toStdString();
+    const auto found =
+        std::find_if(std::begin(commandClasses), std::end(commandClasses),
+                     [&](const CommandClass &commandClass) { return name == commandClass.name; });
+    if (found == std::end(commandClasses))
+        throw BadRequest(
+            "\"class\" names no class of commands that only a driver makes; others go by \"name\"");
+    return found->make(request, machine);
+}
+
+} // namespace quv
