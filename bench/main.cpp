@@ -7,6 +7,7 @@ int main(int argc, char **argv)
     quv::addCatalogueRatios();
     quv::addConfigurationRatios();
     quv::addDispensingRatios();
+    quv::addErrorRatios();
     quv::addStatusRatios();
     return quv::runRatios(argc, argv);
 }

@@ -6,6 +6,7 @@ namespace quv {
 void addCatalogueRatios();
 void addConfigurationRatios();
 void addDispensingRatios();
+void addErrorRatios();
 void addStatusRatios();
 
 } // namespace quv
