@@ -69,7 +69,6 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::NOZZLE_CLEAN, "NozzleCleanCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::GET_LEVEL_SENSORS, "GetLevelSensorsCmd"},
         {Dispatch::DispenserSerial, BothForms, ProtoCommandList::PAUSE, "PauseCmd"},
-        {Dispatch::MixerSerial, BothForms, ProtoCommandList::MIXER_STATUS, "MixerStatusCmd"},
         {Dispatch::MixerSerial, BothForms, ProtoCommandList::MIX, "MixCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CONFIG, "GetConfigCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SAVE_CONFIG, "SaveConfigCmd"},

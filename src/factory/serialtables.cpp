@@ -26,6 +26,7 @@
 #include "status/dispenserstatuscmd.h"
 #include "status/fwerrorcmd.h"
 #include "status/getactivecircuitscmd.h"
+#include "status/mixerstatuscmd.h"
 #include "status/sensordatacmd.h"
 
 namespace quv {
@@ -74,6 +75,10 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::GET_TURNTABLE_POSITIONS, fromName<SerialProtoCommand>()},
     }};
 
-constexpr CommandTable<SerialProtoCommand> mixerSerialTable{Dispatch::MixerSerial, {}};
+constexpr CommandTable<SerialProtoCommand> mixerSerialTable{
+    Dispatch::MixerSerial,
+    {
+        {Cmd::MIXER_STATUS, fromArguments<MixerStatusCmd>()},
+    }};
 
 } // namespace quv

@@ -10,7 +10,6 @@
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_exception.h>
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -237,7 +236,7 @@ const quv::Refusal *DispenserStatusAnswer::decodeWords(const QStringList &tokens
 
 bool DispenserStatusAnswer::acceptCommands() const
 {
-    return !board_not_initialized && !dispenser_not_ready && !emergency_pressed && !offline_pressed;
+    return quv::takesCommands(*this);
 }
 
 QList<QPair<QString, bool>> DispenserStatusAnswer::getStatusDescriptions(const FW_Machine *machine) const
@@ -258,17 +257,12 @@ QList<QPair<QString, bool>> DispenserStatusAnswer::getStatusDescriptions(const F
 
 bool DispenserStatusAnswer::hasBadWorkingState() const
 {
-    const auto descriptions = getStatusDescriptions(nullptr);
-    return std::any_of(descriptions.begin(), descriptions.end(),
-                       [](const auto &entry) { return entry.second; });
+    return quv::firstBadLine(getStatusDescriptions(nullptr)).has_value();
 }
 
 QString DispenserStatusAnswer::getFirstBadWorkingState() const
 {
-    const auto descriptions = getStatusDescriptions(nullptr);
-    const auto bad = std::find_if(descriptions.begin(), descriptions.end(),
-                                  [](const auto &entry) { return entry.second; });
-    return bad == descriptions.end() ? QString() : bad->first;
+    return quv::firstBadLine(getStatusDescriptions(nullptr)).value_or(QString());
 }
 
 bool DispenserStatusAnswer::equalTo(const ProtoAnswer *other) const

@@ -144,6 +144,21 @@ const quv::Record<MachineStatusAnswer> &quv::machineStatusRecord()
     return record;
 }
 
+bool quv::takesCommands(const MachineStatusAnswer &status)
+{
+    return !status.board_not_initialized && !status.dispenser_not_ready && !status.emergency_pressed &&
+           !status.offline_pressed;
+}
+
+std::optional<QString> quv::firstBadLine(const QList<QPair<QString, bool>> &lines)
+{
+    for (const auto &[text, bad] : lines) {
+        if (bad)
+            return text;
+    }
+    return std::nullopt;
+}
+
 MachineStatusAnswer::MachineStatusAnswer() = default;
 
 MachineStatusAnswer::MachineStatusAnswer(QList<QVariant>) {}
