@@ -14,6 +14,8 @@
 #include "factory/commandtables_p.h"
 #include "processes/autocapcmd.h"
 #include "processes/getshelfposcmd.h"
+#include "processes/mixcmd.h"
+#include "processes/mixerplatescmd.h"
 #include "processes/shelfcmd.h"
 #include "processes/turntablemovecmd.h"
 #include "processes/turntablemovestepscmd.h"
@@ -46,6 +48,7 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::GET_SENSORS_STATUS, fromName<SerialProtoCommand>()},
         {Cmd::GET_SENSOR_DATA, fromArguments<SensorDataCmd>()},
         {Cmd::CLOSE_SERIAL, fromName<SerialProtoCommand>()},
+        {Cmd::MIXER_PLATES, fromArguments<MixerPlatesCmd>()},
     }};
 
 constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
@@ -79,6 +82,7 @@ constexpr CommandTable<SerialProtoCommand> mixerSerialTable{
     Dispatch::MixerSerial,
     {
         {Cmd::MIXER_STATUS, fromArguments<MixerStatusCmd>()},
+        {Cmd::MIX, fromArguments<MixCmd>()},
     }};
 
 } // namespace quv
