@@ -7,6 +7,10 @@
 #include "dispensing/getformulacircuitscmd.h"
 #include "dispensing/setlevelscmd.h"
 #include "factory/commandtables_p.h"
+#include "sessions/certifysessioncmd.h"
+#include "sessions/getkeycmd.h"
+#include "sessions/logincmd.h"
+#include "sessions/logoutcmd.h"
 
 namespace quv {
 
@@ -18,6 +22,10 @@ constexpr CommandTable<ConfProtoCommand> configTable{
     Dispatch::Config,
     {
         {Cmd::GET_CMD_STATUS, fromArguments<GetCommandStatusCmd>()},
+        {Cmd::LOGIN, fromArguments<LoginCmd>()},
+        {Cmd::LOGOUT, fromArguments<LogoutCmd>()},
+        {Cmd::GET_KEY, fromArguments<GetKeyCmd>()},
+        {Cmd::CERTIFY_SESSION, fromArguments<CertifySessionCmd>()},
         {Cmd::SET_LEVELS, fromArguments<SetLevelsCmd, ListForm>()},
         {Cmd::CHECK_FORMULA_LEVELS, fromArguments<CheckFormulaLevelsCmd, ListForm>()},
         {Cmd::GET_FORMULA_CIRCUITS, fromArguments<GetFormulaCircuitsCmd, ListForm>()},
