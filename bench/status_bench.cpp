@@ -11,9 +11,6 @@ namespace {
 
 using XmlRpc::XmlRpcValue;
 
-/** Where the words of a status begin. */
-constexpr int firstWord = 3;
-
 QStringList tokensOf(const char *tokens)
 {
     return QString::fromLatin1(tokens).split(QLatin1Char(' '));
@@ -31,7 +28,6 @@ unsigned sumOfWords(const QStringList &list, int first)
     unsigned sum = 0;
     bool ok = false;
     for (int i = first; i < list.size(); ++i)
-    for (int i = firstWord; i < list.size(); ++i)
         sum += list.at(i).toUInt(&ok, 16);
     return sum;
 }
@@ -78,7 +74,7 @@ template <class Answer>
 void addRatiosOf(const std::string &name, const std::string &fromTokens, const QStringList &tokens)
 {
     quv::addRatio(name + fromTokens, 1.3, quv::repeat([tokens] { return Answer(tokens); }),
-                  quv::repeat([tokens] { return sumOfWords(tokens); }));
+                  quv::repeat([tokens] { return sumOfWords(tokens, 3); }));
 
     const Answer answer(tokens);
     const XmlRpcValue value = answer.toXmlRpcValue();

@@ -4,6 +4,7 @@
 #include "status/getactivecircuitsanswer.h"
 #include "status/sensordataanswer.h"
 #include "status/sensorsstatusanswer.h"
+#include "status/mixerstatusanswer.h"
 
 #include <QuvFramework/fw_exception.h>
 
@@ -17,17 +18,16 @@ bool isCode(const QString &code)
 }
 
 /** A status that was decoded writes itself and reads back the same, and can be told in words. */
-void checkAnswer(const DispenserStatusAnswer &answer)
+template <class Status>
+void checkAnswer(const Status &answer)
 {
     quv::require(answer.checkStatus(answer.status()), "a decoded status is 1 or 2");
-    quv::require(answer == DispenserStatusAnswer(answer.toXmlRpcValue()),
-                 "a status reads back from its struct");
+    quv::require(answer == Status(answer.toXmlRpcValue()), "a status reads back from its struct");
     quv::require(answer.hasBadWorkingState() == !answer.getFirstBadWorkingState().isEmpty(),
                  "a bad state has a text");
-    const DispenserStatusAnswer cleared;
-    quv::require(DispenserStatusAnswer::getNewStatesDescriptions(&answer, &answer).isEmpty(),
-                 "no change, no text");
-    DispenserStatusAnswer::getNewStatesDescriptions(&cleared, &answer);
+    const Status cleared;
+    quv::require(Status::getNewStatesDescriptions(&answer, &answer).isEmpty(), "no change, no text");
+    Status::getNewStatesDescriptions(&cleared, &answer);
 }
 
 void checkAnswer(const SensorsStatusAnswer &answer)
@@ -35,12 +35,10 @@ void checkAnswer(const SensorsStatusAnswer &answer)
     quv::require(answer == SensorsStatusAnswer(answer.toXmlRpcValue()),
                  "sensors read back from their struct");
 }
-
 void checkAnswer(const SensorDataAnswer &answer)
 {
     quv::require(answer == SensorDataAnswer(answer.toXmlRpcValue()), "a measure reads back from its struct");
 }
-
 void checkAnswer(const GetActiveCircuitsAnswer &answer)
 {
     quv::require(answer == GetActiveCircuitsAnswer(answer.toXmlRpcValue()),
@@ -50,13 +48,15 @@ void checkAnswer(const GetActiveCircuitsAnswer &answer)
                                                     answer.stallLevelsPos().size(),
                  "each active circuit has one second value");
 }
-
 /** The tokens give an answer, or a refusal with its code. */
 template <class Answer, class... Arguments>
 void decode(const QStringList &tokens, Arguments... arguments)
+template <class Answer>
+void decode(const QStringList &tokens)
 {
     try {
         checkAnswer(Answer(tokens, arguments...));
+        checkAnswer(Answer(tokens));
     } catch (const FW_Exception &refusal) {
         quv::require(isCode(refusal.code()) && !refusal.text().isEmpty() && !refusal.function().isEmpty(),
                      "a refusal has its code, its text and its function");
@@ -75,5 +75,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     decode<SensorDataAnswer>(tokens);
     for (const int process : {1, 11, 13})
         decode<GetActiveCircuitsAnswer>(tokens, static_cast<CircuitProcess>(process));
+    decode<MixerStatusAnswer>(tokens);
     return 0;
 }

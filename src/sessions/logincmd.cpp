@@ -33,7 +33,7 @@ struct Arguments
         archive.optional("client_level", clientLevel,
                          {"DE01396", "DE01396", "Login failed: expected int type for third parameter"});
         archive.optional({"device_type", "1 dispenser, 2 scale, 4 mixer"}, deviceType,
-                         {"DE03160", "DE03160", "Login failed: expected int type for fourth parameter"});
+                         {"DE03030", "DE03030", "Login failed: expected int type for fourth parameter"});
     }
 
     int machineID = 0;

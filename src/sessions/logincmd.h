@@ -17,7 +17,7 @@ public:
     LoginCmd(int machineID, QString name, int level); ///< of a dispenser
     /**
      * The machine's ID (int), the client's name (string), and if given its level (int) and the type of the machine (int). Throws
-     * DE00160, DE00161, DE01396, DE03160 in this order for another type.
+     * DE00160, DE00161, DE01396, DE03030 in this order for another type.
      */
     explicit LoginCmd(const XmlRpc::XmlRpcValue &value);
     explicit LoginCmd(QList<QVariant> list); ///< likewise

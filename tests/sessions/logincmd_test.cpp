@@ -40,7 +40,7 @@ CommandFacts facts()
         required(Text, {"DE00161", "DE00161", "Login failed: expected String type for second parameter"})
             .takes({"", QString::fromUtf8("T\xC3\xBCr")}),
         optional(Integer, {"DE01396", "DE01396", "Login failed: expected int type for third parameter"}),
-        optional(Integer, {"DE03160", "DE03160", "Login failed: expected int type for fourth parameter"})
+        optional(Integer, {"DE03030", "DE03030", "Login failed: expected int type for fourth parameter"})
             .takes({1, 2, 4, 3, -1}),
     };
     facts.words = silence();

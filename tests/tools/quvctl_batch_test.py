@@ -220,6 +220,22 @@ class Encode(BatchTest):
         self.encode({**plain, "code": "I3"}, name="GET_STATUS", family=2)
         self.encode({**plain, "code": ""}, name="GET_STATUS", family=3)
 
+    def test_objects_in_a_list(self):
+        cycle = {"cycle_type": 2, "mixing_speed": -1, "clamping_force": 7, "duration": 300}
+        mix = {"ok": True, "class": "MixCmd", "request": ["MIX", {"mixer_cycles": [cycle]}], "parameters": [[cycle]],
+               "code": "0031", "module": 0, "serial": [0, 1, 5, 2, 245, 7, 54, 1], "estimated_ms": 0, "command": "",
+               "action": "Mix in progress", "action_detailed": "Mix in progress"}
+        self.encode(mix, name="MIX", args=[{"mixer_cycles": [cycle]}])
+        self.encode(mix, name="MIX", args=[[cycle]], form="list", machine="mixer")
+
+    def test_enumerations(self):
+        plates = {"ok": True, "class": "MixerPlatesCmd", "request": ["MIXER_PLATES", 2, 60515, 245, 0],
+                  "parameters": [2, 60515, 245, 0], "code": "0030", "module": 0, "serial": [2, 245, 245, 245, 0],
+                  "estimated_ms": 0, "command": "", "action": "Mixer plates movement in progress",
+                  "action_detailed": "Mixer plates movement in progress"}
+        self.encode(plates, name="MIXER_PLATES", args=[2])
+        self.encode(plates, name="MIXER_PLATES", args=[2, 60515, 245, 0], form="list")
+
     def test_texts_of_the_bases(self):
         self.encode({"ok": True, "class": "ConfProtoCommand", "request": ["GET_DRIVER_SETTINGS"], "parameters": [],
                      "estimated_ms": 20000, "command": "Application settings read",

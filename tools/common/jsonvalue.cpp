@@ -403,10 +403,10 @@ OrderedJson toJson(const QVariant &variant)
     }
     if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantMap>())
         return mapJson(variant.value<QVariantMap>());
+    if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantList>())
+        return listJson(variant.value<QVariantList>());
     if (QMetaType::typeFlags(variant.userType()).testFlag(QMetaType::IsEnumeration))
         return variant.toLongLong();
-    if (variant.canConvert<QVariantList>())
-        return listJson(variant.value<QVariantList>());
     if (variant.canConvert<QString>())
         return toJson(variant.toString());
     return nullptr;
