@@ -11,6 +11,8 @@
 #include "dispensing/pcircuitformula.h"
 #include "factory/factoryrows.h"
 #include "factory/pending_p.h"
+#include "processes/mixcmd.h"
+#include "processes/mixerplatescmd.h"
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
@@ -64,6 +66,7 @@ List argumentsFor(const CommandRow &row, Form form)
     static const std::map<std::string, List> arguments = {
         {"AIRPURGE", {circuits}},
         {"AUTOCAP_MOVE", {1}},
+        {"CERTIFY_SESSION", {"S-7", "28"}},
         {"CHANNEL_TINT", {2, formula}},
         {"CHECK_FORMULA_LEVELS", {formula, true}},
         {"GET_ACTIVE_CIRCUITS", {13}},
@@ -73,10 +76,16 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_DISPENSED_FORMULA", {2, 1}},
         {"GET_FORMULA_CIRCUITS", {formula, true}},
         {"GET_FORMULA_EXECUTION", {formula}},
+        {"GET_KEY", {"S-7", "38"}},
         {"GET_LOW_LEVEL_FORMULA", {formula}},
         {"GET_SHELF_POS", {3}},
         {"GET_SENSOR_DATA", {4, 2}},
         {"GET_STATUS", {7}},
+        {"LOGIN", {3, "till", 2, 4}},
+        {"LOGOUT", {"S-7"}},
+        {"MIX", {QVariant::fromValue(QList<MixerCycle>{MixerCycle(2, 40, 7, 300)})}},
+        {"MIXER_PLATES",
+         {QVariant::fromValue(static_cast<MixerPlatesCmd::MixerPlatesAction>(2)), 300, 40, 7}},
         {"PACK", {1, formula}},
         {"PACK2", {circuits}},
         {"PRIMING", {priming}},
@@ -97,6 +106,12 @@ List argumentsFor(const CommandRow &row, Form form)
     static const std::map<std::string, List> values = {
         {"GET_CIRCUITS_STATUS", {QVariantMap{{"circuit_positions", List{2}}}}},
         {"GET_CMD_EST_EXEC_TIME", {QVariantMap{{"command", List{"GET_STATUS", 7}}}}},
+        {"MIX",
+         {QVariantMap{
+             {"mixer_cycles",
+              List{QVariantMap{
+                  {"cycle_type", 2}, {"mixing_speed", 40}, {"clamping_force", 7}, {"duration", 300}}}}}}},
+        {"MIXER_PLATES", {2, 300, 40, 7}},
         {"WRITE_CONFIG_ROW", {QVariantMap{{"cmd_value", 7}, {"cmd_parameters", "1,100,2,3"}}}},
     };
     const auto value = values.find(row.name);
