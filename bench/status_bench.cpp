@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ratios.h"
 #include "status/dispenserstatusanswer.h"
-#include "status/sensorsstatusanswer.h"
 #include "status/mixerstatusanswer.h"
+#include "status/sensorsstatusanswer.h"
 #include "suites.h"
 
 #include <QtCore/QStringList>
@@ -17,10 +17,7 @@ QStringList tokensOf(const char *tokens)
 }
 
 /** Sensors in every mask. */
-QStringList sensorTokens()
-{
-    return QString::fromLatin1("B 41 10 8 20 12 41 7 30 8 55 8").split(QLatin1Char(' '));
-}
+constexpr char sensorTokens[] = "B 41 10 8 20 12 41 7 30 8 55 8";
 
 /** The numbers from \a first on. */
 unsigned sumOfWords(const QStringList &list, int first)
@@ -89,10 +86,9 @@ void addRatiosOf(const std::string &name, const std::string &fromTokens, const Q
 
 void quv::addStatusRatios()
 {
-             repeat([list = tokens()] { return sumOfWords(list, 3); }));
     addRatio("sensors: 10 masks from tokens", 1.5,
-             repeat([list = sensorTokens()] { return SensorsStatusAnswer(list); }),
-             repeat([list = sensorTokens()] { return sumOfWords(list, 0); }));
+             repeat([list = tokensOf(sensorTokens)] { return SensorsStatusAnswer(list); }),
+             repeat([list = tokensOf(sensorTokens)] { return sumOfWords(list, 0); }));
     // a dispenser in the middle of its work: flags in every word, a position and a zone
     addRatiosOf<DispenserStatusAnswer>("status", ": 12 words from tokens",
                                        tokensOf("E 0 1 4 1 0 8 4 5 2 6 3 10 0 8"));

@@ -2,9 +2,9 @@
 #include "fuzzinput.h"
 #include "status/dispenserstatusanswer.h"
 #include "status/getactivecircuitsanswer.h"
+#include "status/mixerstatusanswer.h"
 #include "status/sensordataanswer.h"
 #include "status/sensorsstatusanswer.h"
-#include "status/mixerstatusanswer.h"
 
 #include <QuvFramework/fw_exception.h>
 
@@ -35,10 +35,12 @@ void checkAnswer(const SensorsStatusAnswer &answer)
     quv::require(answer == SensorsStatusAnswer(answer.toXmlRpcValue()),
                  "sensors read back from their struct");
 }
+
 void checkAnswer(const SensorDataAnswer &answer)
 {
     quv::require(answer == SensorDataAnswer(answer.toXmlRpcValue()), "a measure reads back from its struct");
 }
+
 void checkAnswer(const GetActiveCircuitsAnswer &answer)
 {
     quv::require(answer == GetActiveCircuitsAnswer(answer.toXmlRpcValue()),
@@ -48,15 +50,13 @@ void checkAnswer(const GetActiveCircuitsAnswer &answer)
                                                     answer.stallLevelsPos().size(),
                  "each active circuit has one second value");
 }
+
 /** The tokens give an answer, or a refusal with its code. */
 template <class Answer, class... Arguments>
 void decode(const QStringList &tokens, Arguments... arguments)
-template <class Answer>
-void decode(const QStringList &tokens)
 {
     try {
         checkAnswer(Answer(tokens, arguments...));
-        checkAnswer(Answer(tokens));
     } catch (const FW_Exception &refusal) {
         quv::require(isCode(refusal.code()) && !refusal.text().isEmpty() && !refusal.function().isEmpty(),
                      "a refusal has its code, its text and its function");
