@@ -46,7 +46,11 @@ QList<QVariant> FwErrorCmd::parameters() const
 
 XmlRpc::XmlRpcValue FwErrorCmd::xmlrpc_parameters(bool *ok) const
 {
-    return SerialProtoCommand::xmlrpc_parameters(ok); // those of a command without arguments
+    if (ok)
+        *ok = true;
+    XmlRpc::XmlRpcValue none;
+    none.setSize(0);
+    return none;
 }
 
 QList<int> FwErrorCmd::serialParameters(int) const
