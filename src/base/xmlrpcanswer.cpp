@@ -133,7 +133,11 @@ XmlRpc::XmlRpcValue XmlRpcAnswer::toXmlRpcValue() const
     XmlRpc::XmlRpcValue value;
     value[retCode_TAG] = m_retCode;
     value[infoMsg_TAG] = quv::latin1(m_infoMsg);
-    value[xmlrpcRetValue_TAG] = m_retValue.valid() ? m_retValue : XmlRpc::XmlRpcValue(0);
+    auto &retValue = value[xmlrpcRetValue_TAG];
+    if (m_retValue.valid()) // a table of many members at times, so no copy but this one
+        retValue = m_retValue;
+    else
+        retValue = 0;
     value[errors_TAG] = m_errors.toXmlRpcValue();
     value[executionTime_TAG] = static_cast<int>(m_executionTime);
     return value;

@@ -11,6 +11,8 @@
 #include <cmath>
 #include <ctime>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace quv {
 namespace {
@@ -64,67 +66,58 @@ QString dateTimeText(const std::tm &time)
 }
 
 /// What QXmlStreamWriter writes of elements and texts, as UTF-8 and without its detour by a codec and a device, which took
-/// most of the time of a call.
+/// most of the time of a call. Each element gets an end tag of its own: the parser of XmlRpc++ refuses <data/> and <struct/>.
 class XmlStream
 {
 public:
-    void writeStartDocument() { m_document += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"; }
-    void writeEndDocument();
-    void writeStartElement(QLatin1String name);
+    XmlStream();
+
+    void writeStartElement(std::string_view name);
     void writeEndElement();
     void writeCharacters(const QString &text);
-    void writePlain(const std::string &text); ///< in which nothing needs to be escaped
+    void writePlain(std::string_view text) { m_document += text; } ///< in which nothing needs to be escaped
     void writeEntityReference(const QString &name);
 
-    QByteArray document() const { return QByteArray::fromStdString(m_document); }
+    QByteArray document(); ///< with the ends of what is open
 
 private:
-    void finishStart();
-
     std::string m_document{};
-    QVector<QLatin1String> m_open{};
-    bool m_isStarting = false; ///< the start tag may yet become that of an empty element
+    std::vector<std::string_view> m_open{};
 };
 
-void XmlStream::finishStart()
+XmlStream::XmlStream()
 {
-    if (m_isStarting)
-        m_document += '>';
-    m_isStarting = false;
+    constexpr std::size_t StatusReply = 8 * 1024; // the answer that is asked for most
+    m_document.reserve(StatusReply);
+    m_document += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
 }
 
-void XmlStream::writeStartElement(QLatin1String name)
+void XmlStream::writeStartElement(std::string_view name)
 {
-    finishStart();
     m_document += '<';
-    m_document.append(name.data(), static_cast<std::size_t>(name.size()));
-    m_open.append(name);
-    m_isStarting = true;
+    m_document += name;
+    m_document += '>';
+    m_open.push_back(name);
 }
 
 void XmlStream::writeEndElement()
 {
-    const QLatin1String name = m_open.takeLast();
-    if (m_isStarting) {
-        m_document += "/>";
-    } else {
-        m_document += "</";
-        m_document.append(name.data(), static_cast<std::size_t>(name.size()));
-        m_document += '>';
-    }
-    m_isStarting = false;
+    m_document += "</";
+    m_document += m_open.back();
+    m_document += '>';
+    m_open.pop_back();
 }
 
-void XmlStream::writeEndDocument()
+QByteArray XmlStream::document()
 {
-    while (!m_open.isEmpty())
+    while (!m_open.empty())
         writeEndElement();
     m_document += '\n';
+    return QByteArray::fromStdString(m_document);
 }
 
 void XmlStream::writeCharacters(const QString &text)
 {
-    finishStart();
     const std::string characters = text.toStdString();
     std::size_t begin = 0;
     for (auto at = characters.find_first_of("<>&\""); at != std::string::npos;
@@ -137,31 +130,22 @@ void XmlStream::writeCharacters(const QString &text)
     m_document.append(characters, begin, std::string::npos);
 }
 
-void XmlStream::writePlain(const std::string &text)
-{
-    finishStart();
-    m_document += text;
-}
-
 void XmlStream::writeEntityReference(const QString &name)
 {
-    finishStart();
     m_document += '&' + name.toStdString() + ';';
 }
 
 class Writer
 {
 public:
-    Writer() { m_xml.writeStartDocument(); }
-
     void methodCall(const QString &method, const XmlRpcValue &params);
     void methodResponse(const XmlRpcValue &value);
     void fault(const Fault &fault);
 
-    QByteArray document();
+    QByteArray document() { return m_xml.document(); }
 
 private:
-    void start(const char *name);
+    void start(std::string_view name) { m_xml.writeStartElement(name); }
     void end() { m_xml.writeEndElement(); }
     void text(const QString &text);
     void element(const char *name, const QString &content);
@@ -171,18 +155,11 @@ private:
     void array(const XmlRpcValue &value);
     void structure(const XmlRpcValue &value);
     void textElement(const char *name, const std::string &content);
-    void plainElement(const char *name, const std::string &content);
+    void plainElement(const char *name, std::string_view content);
 
     XmlStream m_xml{};
     int m_nesting = 0;
 };
-
-/// Each element gets an end tag of its own: the parser of XmlRpc++ refuses <data/> and <struct/>.
-void Writer::start(const char *name)
-{
-    m_xml.writeStartElement(QLatin1String(name));
-    m_xml.writeCharacters(QString());
-}
 
 void Writer::text(const QString &text)
 {
@@ -217,7 +194,7 @@ void Writer::textElement(const char *name, const std::string &content)
         element(name, DecodeXmlRpcText(content));
 }
 
-void Writer::plainElement(const char *name, const std::string &content)
+void Writer::plainElement(const char *name, std::string_view content)
 {
     start(name);
     m_xml.writePlain(content);
@@ -252,12 +229,6 @@ void Writer::fault(const Fault &fault)
     start("methodResponse");
     start("fault");
     value(members);
-}
-
-QByteArray Writer::document()
-{
-    m_xml.writeEndDocument();
-    return m_xml.document();
 }
 
 void Writer::param(const XmlRpcValue &parameter)
