@@ -3,6 +3,7 @@
 
 #include "drivercalls.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -16,6 +17,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using quv::FirmwareReply;
+using testing::HasSubstr;
 using namespace quv::test;
 
 class DriverTest : public DriverFixture
@@ -31,6 +33,45 @@ TEST_F(DriverTest, theStatusComesAsTheStructOfItsAnswer)
     EXPECT_TRUE(envelope.flag("head1_can_dose"));
     EXPECT_FALSE(envelope.flag("resetting"));
     EXPECT_EQ(firmware.asked, QStringList{QStringLiteral("0006 0 0")});
+}
+
+/// The reply to EXEC_B with \a params as the document that a client reads.
+template <class... Params>
+std::string documentFor(quv::Driver &driver, const Params &...params)
+{
+    quv::MethodCall call;
+    call.method = QStringLiteral("EXEC_B");
+    call.params = arrayOf(params...);
+    quv::Ending never;
+    return driver.reply(call, never).toStdString();
+}
+
+TEST_F(DriverTest, aStatusThatIsToldAgainIsTheOneThatTheMachineHasNow)
+{
+    constexpr char Resets[] = "<name>resetting</name><value><boolean>1</boolean>";
+    constexpr char Rests[] = "<name>resetting</name><value><boolean>0</boolean>";
+    QStringList resetting = IdleTokens;
+    resetting[3] = QStringLiteral("40");
+    FirmwareReply reply{false, IdleTokens};
+    const ScriptedFirmware &firmware =
+        addScripted(std::make_unique<FW_Dispenser>(), [&reply] { return reply; });
+    for (int round = 0; round < 3; ++round) {
+        reply = {false, IdleTokens};
+        EXPECT_THAT(documentFor(*m_driver, "GET_STATUS"), HasSubstr(Rests));
+        EXPECT_THAT(documentFor(*m_driver, "GET_STATUS", 5), HasSubstr(Rests));
+        reply = {false, resetting};
+        EXPECT_THAT(documentFor(*m_driver, "leading", "GET_STATUS"), HasSubstr(Resets));
+        reply = {true, QStringList{QStringLiteral("6")}};
+        EXPECT_THAT(documentFor(*m_driver, "GET_STATUS"), HasSubstr("DE03106"));
+        reply = {false, QStringList{QStringLiteral("0")}};
+        EXPECT_THAT(documentFor(*m_driver, "GET_STATUS"), HasSubstr("DE00066"));
+    }
+    EXPECT_EQ(firmware.asked.size(), 15); // each time
+    const std::string failure = documentFor(*m_driver, "GET_STATUS");
+    std::this_thread::sleep_for(5ms);
+    EXPECT_NE(documentFor(*m_driver, "GET_STATUS"), failure); // its error tells when it happened
+    EXPECT_THAT(documentFor(*m_driver, "GET_STATUS", "text"), HasSubstr("DE00298"));
+    EXPECT_THAT(documentFor(*m_driver, "RESET", 1, 2), HasSubstr("<methodResponse>"));
 }
 
 TEST_F(DriverTest, argumentsReachTheFirmware)

@@ -3,6 +3,7 @@
 
 #include "callthreads.h"
 #include "httpaccess.h"
+#include "readcalls.h"
 
 #include <xmlrpcpp/XmlRpcException.h>
 
@@ -42,7 +43,8 @@ using Executor = net::strand<net::io_context::executor_type>;
 using Socket = net::basic_stream_socket<tcp, Executor>;
 using Parser = http::request_parser<http::string_body>;
 using Header = http::request<http::string_body>;
-using Response = http::response<http::string_body>;
+using ResponseBody = http::span_body<const char>;
+using Response = http::response<ResponseBody>;
 
 constexpr std::size_t MaxHeaderBytes = 32 * 1024;
 constexpr std::size_t MaxUnread = 128 * 1024; ///< what a connection keeps of what is not yet understood
@@ -92,12 +94,12 @@ QString currentExceptionText()
     }
 }
 
-/// What \a work gives as a document, or the fault for what it throws.
+/// The document that \a work gives, or the fault for what it throws.
 template <class Work>
 QByteArray replyOf(Work work)
 {
     try {
-        return writeMethodResponse(work());
+        return work();
     } catch (const FaultException &error) {
         return writeFault(error.fault());
     } catch (...) {
@@ -200,9 +202,10 @@ class XmlRpcServer::Impl
 public:
     class Connection;
 
-    Impl(XmlRpcServer::Handler handler, XmlRpcServerOptions options)
+    Impl(DocumentHandler handler, XmlRpcServerOptions options)
         : m_handler(std::move(handler)),
           m_options(std::move(options)),
+          m_calls(m_options.limits, m_options.mayLast),
           m_longCalls(m_options.longCalls)
     {}
 
@@ -221,8 +224,9 @@ private:
     std::vector<std::shared_ptr<Connection>> connections();
     void forget(const Connection *connection);
 
-    XmlRpcServer::Handler m_handler{};
+    const DocumentHandler m_handler{};
     const XmlRpcServerOptions m_options{};
+    ReadCalls m_calls;
     Access m_access{};
     int m_port = 0;
     std::atomic<bool> m_isStopping{false};
@@ -272,10 +276,10 @@ private:
     bool parse();
     void allowContent();
     void carryOut();
-    void carryOutLong(MethodCall call);
+    void carryOutLong(const std::shared_ptr<const ReadCalls::Call> &read);
     void answer(const QByteArray &document);
     void refuse(const Refusal &refusal);
-    void send(Response response);
+    void send(Response response, const QByteArray &content);
     void onSent(const error_code &error);
     void leave();
 
@@ -288,8 +292,9 @@ private:
     beast::flat_buffer m_unread{MaxUnread};
     std::optional<Parser> m_parser{};
     bool m_isHeaderRead = false;
+    QByteArray m_content{}; ///< of the response; several connections may share one
     Response m_response{};
-    std::optional<http::response_serializer<http::string_body>> m_serializer{};
+    std::optional<http::response_serializer<ResponseBody>> m_serializer{};
     std::shared_ptr<Ending> m_gone{}; ///< of a call that lasts
 };
 
@@ -310,6 +315,7 @@ void XmlRpcServer::Impl::Connection::rest()
         return close();
     m_serializer.reset();
     m_response = {};
+    m_content.clear();
     m_parser.emplace();
     m_parser->header_limit(MaxHeaderBytes);
     m_parser->body_limit(static_cast<std::uint64_t>(m_server.m_options.limits.documentSize));
@@ -445,33 +451,29 @@ void XmlRpcServer::Impl::Connection::allowContent()
 void XmlRpcServer::Impl::Connection::carryOut()
 {
     enter(State::Working, {});
-    const std::string document = std::move(m_parser->get().body());
-    MethodCall call;
+    std::shared_ptr<const ReadCalls::Call> read;
     try {
-        call = parseMethodCall(QByteArray::fromRawData(document.data(), static_cast<int>(document.size())),
-                               m_server.m_options.limits);
+        read = m_server.m_calls.read(std::move(m_parser->get().body()));
     } catch (const CodecError &error) {
         return answer(writeFault({error.faultCode(), QString::fromUtf8(error.what())}));
     }
-    const auto &mayLast = m_server.m_options.mayLast;
-    if (mayLast && mayLast(call))
-        return carryOutLong(std::move(call));
+    if (read->mayLast)
+        return carryOutLong(read);
     Ending never;
-    answer(replyOf([&] { return m_server.m_handler(call, never); }));
+    answer(replyOf([&] { return m_server.m_handler(read->call, never); }));
 }
 
-void XmlRpcServer::Impl::Connection::carryOutLong(MethodCall call)
+void XmlRpcServer::Impl::Connection::carryOutLong(const std::shared_ptr<const ReadCalls::Call> &read)
 {
     m_gone = std::make_shared<Ending>();
-    const auto shared = std::make_shared<const MethodCall>(std::move(call));
-    const auto job = [self = shared_from_this(), shared, gone = m_gone,
+    const auto job = [self = shared_from_this(), read, gone = m_gone,
                       isAwaited = net::make_work_guard(m_server.m_io)] {
-        const QByteArray document = replyOf([&] { return self->m_server.m_handler(*shared, *gone); });
+        const QByteArray document = replyOf([&] { return self->m_server.m_handler(read->call, *gone); });
         net::post(self->executor(), [self, document] { self->answer(document); });
     };
     if (m_server.m_longCalls.start(job))
         return watch();
-    answer(replyOf([&] { return m_server.m_options.refuseLongCall(*shared); }));
+    answer(replyOf([&] { return writeMethodResponse(m_server.m_options.refuseLongCall(read->call)); }));
 }
 
 void XmlRpcServer::Impl::Connection::answer(const QByteArray &document)
@@ -481,8 +483,7 @@ void XmlRpcServer::Impl::Connection::answer(const QByteArray &document)
     Response response(http::status::ok, m_parser->get().version());
     response.set(http::field::content_type, "text/xml");
     response.keep_alive(m_parser->keep_alive() && !m_server.m_isStopping);
-    response.body().assign(document.constData(), static_cast<std::size_t>(document.size()));
-    send(std::move(response));
+    send(std::move(response), document);
 }
 
 void XmlRpcServer::Impl::Connection::refuse(const Refusal &refusal)
@@ -496,14 +497,15 @@ void XmlRpcServer::Impl::Connection::refuse(const Refusal &refusal)
     }
     response.set(http::field::content_type, "text/plain");
     response.keep_alive(false);
-    response.body() = refusal.reason + "\n";
-    send(std::move(response));
+    send(std::move(response), QByteArray::fromStdString(refusal.reason + "\n"));
 }
 
-void XmlRpcServer::Impl::Connection::send(Response response)
+void XmlRpcServer::Impl::Connection::send(Response response, const QByteArray &content)
 {
     enter(State::Answering, m_server.m_isStopping ? LastWrite : m_server.m_options.answerTimeout);
+    m_content = content;
     m_response = std::move(response);
+    m_response.body() = {m_content.constData(), static_cast<std::size_t>(m_content.size())};
     m_response.prepare_payload();
     m_serializer.emplace(m_response);
     // It mostly leaves at once, without a detour.
@@ -739,7 +741,14 @@ void XmlRpcServer::Impl::forget(const Connection *connection)
     m_open.erase(connection);
 }
 
-XmlRpcServer::XmlRpcServer(Handler handler, XmlRpcServerOptions options)
+XmlRpcServer::XmlRpcServer(const Handler &handler, XmlRpcServerOptions options)
+    : XmlRpcServer(DocumentHandler([handler](const MethodCall &call, Ending &gone) {
+                       return writeMethodResponse(handler(call, gone));
+                   }),
+                   std::move(options))
+{}
+
+XmlRpcServer::XmlRpcServer(DocumentHandler handler, XmlRpcServerOptions options)
     : m_impl(std::make_unique<Impl>(std::move(handler), std::move(options)))
 {}
 

@@ -28,9 +28,9 @@ struct XmlRpcServerOptions
     std::chrono::milliseconds requestTimeout{5000}; ///< for a whole request to arrive
     std::chrono::milliseconds answerTimeout{15000}; ///< for its answer to leave
     std::chrono::milliseconds idleTimeout{5000};    ///< longest pause between two requests of a connection
-    int connections = 960; ///< at once; beyond them the one that has rested or sent longest is closed
-    int threads = 8;       ///< that read, carry out what is short, and write
-    int longCalls = 128;   ///< at once, each on a thread of its own
+    int connections = 960;      ///< at once; beyond them the one that has rested or sent longest is closed
+    int threads = 8;            ///< that read, carry out what is short, and write
+    int longCalls = 128;        ///< at once, each on a thread of its own
     /// Whether a call may last. Nothing: none does.
     std::function<bool(const MethodCall &call)> mayLast{};
     /// Answers a call that may last while there are as many as allowed.
@@ -40,7 +40,7 @@ struct XmlRpcServerOptions
 /**
  * Serves XML-RPC by POST on any path. Whatever a client sends, it gets a response, a fault or an HTTP error within the
  * timeouts, and the server goes on: 405 for other methods, 411 without a length, 413 beyond the size limit, 408 for a
- * sender that is too slow, 400 with the reason for malformed HTTP; a fault for what is no XML-RPC call, and for whatever
+ * sender that is too slow, 503 for a large request while too many of them come, 400 with the reason for malformed HTTP; a fault for what is no XML-RPC call, and for whatever
  * the handler throws.
  *
  * No page in a browser can call it: a request with an Origin, or from any site as Sec-Fetch-Site tells, is refused (403),
@@ -57,7 +57,11 @@ public:
     /// connection; that is closed then, and the answer is for nobody.
     using Handler = std::function<XmlRpc::XmlRpcValue(const MethodCall &call, Ending &gone)>;
 
-    explicit XmlRpcServer(Handler handler, XmlRpcServerOptions options = {});
+    /// Gives the document of the reply.
+    using DocumentHandler = std::function<QByteArray(const MethodCall &call, Ending &gone)>;
+
+    explicit XmlRpcServer(const Handler &handler, XmlRpcServerOptions options = {});
+    explicit XmlRpcServer(DocumentHandler handler, XmlRpcServerOptions options = {});
     ~XmlRpcServer();
     XmlRpcServer(const XmlRpcServer &) = delete;
     XmlRpcServer &operator=(const XmlRpcServer &) = delete;

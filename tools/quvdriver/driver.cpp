@@ -26,6 +26,7 @@
 #include <QtCore/QElapsedTimer>
 
 #include <algorithm>
+#include <new>
 #include <optional>
 #include <stdexcept>
 
@@ -81,10 +82,28 @@ XmlRpcValue enveloped(const QString &name, Work work)
     }
 }
 
+/// Makes \a value what \a make gives, without a copy: values cannot be moved, and a status has a hundred members.
+template <class Make>
+void makeInPlace(XmlRpcValue &value, Make make)
+{
+    value.~XmlRpcValue();
+    try {
+        new (&value) XmlRpcValue(make());
+    } catch (...) {
+        new (&value) XmlRpcValue();
+        throw;
+    }
+}
+
 XmlRpcValue success(const ProtoAnswer &answer, const QString &name, qint64 time,
                     const FW_ErrorList &errors = {})
 {
-    return XmlRpcAnswer(Done, answer.toXmlRpcValue(), errors, name, time).toXmlRpcValue();
+    XmlRpcValue envelope = XmlRpcAnswer(Done, XmlRpcValue(), errors, name, time).toXmlRpcValue();
+    XmlRpcValue &retValue = envelope[XmlRpcAnswer::xmlrpcRetValue_TAG];
+    makeInPlace(retValue, [&] { return answer.toXmlRpcValue(); });
+    if (!retValue.valid())
+        retValue = 0;
+    return envelope;
 }
 
 /// Nothing for another method.
@@ -98,6 +117,28 @@ std::optional<ProtoCommandList::CallKind> kindOf(const MethodCall &call)
     return std::nullopt;
 }
 
+/// \throws FaultException
+ProtoCommandList::CallKind knownKindOf(const MethodCall &call)
+{
+    if (const auto kind = kindOf(call))
+        return *kind;
+    throw FaultException({UnknownMethod, QStringLiteral("Unknown method \"%1\"").arg(excerpt(call.method))});
+}
+
+/// A call in the form of its own that waits for a change: its arguments must not be taken for plain ones.
+bool isChangeCall(ProtoCommandList::CallKind kind, const Request &request)
+{
+    return kind == ProtoCommandList::ChangeCall && ProtoCommandList::existsCommand(request.name) &&
+           request.isWaiting();
+}
+
+/// A question for the status that is answered at once.
+bool asksForStatus(ProtoCommandList::CallKind kind, const Request &request)
+{
+    return kind != ProtoCommandList::NonBlockingCall && !isChangeCall(kind, request) &&
+           request.name == ProtoCommandList::cmdStr(ProtoCommandList::GET_STATUS);
+}
+
 /// The envelope that \a work makes of what \a call asks for.
 template <class Work>
 XmlRpcValue withRequest(const MethodCall &call, Work work)
@@ -108,13 +149,6 @@ XmlRpcValue withRequest(const MethodCall &call, Work work)
         return XmlRpcValue();
     });
     return request ? enveloped(request->name, [&] { return work(*request); }) : refused;
-}
-
-/// A call in the form of its own that waits for a change: its arguments must not be taken for plain ones.
-bool isChangeCall(ProtoCommandList::CallKind kind, const Request &request)
-{
-    return kind == ProtoCommandList::ChangeCall && ProtoCommandList::existsCommand(request.name) &&
-           request.isWaiting();
 }
 
 void checkWaiting(const NCCommand &asked)
@@ -163,11 +197,25 @@ bool Driver::addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Fir
 
 XmlRpcValue Driver::call(const MethodCall &call, Ending &gone)
 {
-    const auto kind = kindOf(call);
-    if (!kind)
-        throw FaultException(
-            {UnknownMethod, QStringLiteral("Unknown method \"%1\"").arg(excerpt(call.method))});
-    return withRequest(call, [&](const Request &request) { return carryOut(*kind, request, gone); });
+    const auto kind = knownKindOf(call);
+    return withRequest(call, [&](const Request &request) { return carryOut(kind, request, gone); });
+}
+
+QByteArray Driver::reply(const MethodCall &call, Ending &gone)
+{
+    const auto kind = knownKindOf(call);
+    StatusSource source;
+    QByteArray written;
+    const XmlRpcValue envelope = withRequest(call, [&](const Request &request) {
+        return asksForStatus(kind, request) ? askStatus(request, source, written)
+                                            : carryOut(kind, request, gone);
+    });
+    if (!written.isEmpty())
+        return written;
+    written = writeMethodResponse(envelope);
+    if (!source.tokens.isEmpty())
+        m_statusReplies.keep(source, written);
+    return written;
 }
 
 bool Driver::mayLast(const MethodCall &call)
@@ -258,7 +306,7 @@ XmlRpcValue Driver::perform(Task &task)
     timer.start();
     FW_ErrorList errors;
     if (auto *serial = dynamic_cast<SerialProtoCommand *>(task.command.get())) {
-        askFirmware(*serial, task);
+        takeAnswer(*serial, askFirmware(*serial, task));
         errors = finish(task);
     } else {
         const auto answer = answerDriverQuery(*task.command, {m_tickets, task.machine});
@@ -267,17 +315,38 @@ XmlRpcValue Driver::perform(Task &task)
     return success(*task.command->getProtoAnswer(), task.name, timer.elapsed(), errors);
 }
 
-void Driver::askFirmware(SerialProtoCommand &command, const Task &task)
+/// The envelope with the status and its \a source, or \a written, the document of a reply that followed from the same.
+XmlRpcValue Driver::askStatus(const Request &request, StatusSource &source, QByteArray &written)
+{
+    const std::shared_ptr<Task> task = prepare(request);
+    auto &command = dynamic_cast<SerialProtoCommand &>(*task->command);
+    QElapsedTimer timer;
+    timer.start();
+    const FirmwareReply reply = askFirmware(command, *task);
+    const StatusSource told{command.moduleID(), reply.tokens, timer.elapsed()};
+    written = m_statusReplies.find(told);
+    if (!written.isEmpty())
+        return {};
+    takeAnswer(command, reply);
+    source = told; // only now: a failure tells when it happened, so it is another each time
+    return success(*command.getProtoAnswer(), task->name, told.time);
+}
+
+FirmwareReply Driver::askFirmware(const SerialProtoCommand &command, const Task &task)
 {
     const int family = task.machine->family();
     const QString code = ProtoCommandList::cmdCode(task.name, family);
-    const FirmwareReply reply =
-        task.machine->exchange(code, command.moduleID(), command.serialParameters(family));
+    FirmwareReply reply = task.machine->exchange(code, command.moduleID(), command.serialParameters(family));
     if (reply.refused)
         refuse(isUnknownCode(reply) ? UnknownToFirmware : RefusedByFirmware, "DE03106",
                QStringLiteral("The firmware refused the code %1: %2%3")
                    .arg(code, reasonsInWords(reply),
                         reply.reason.isEmpty() ? QString() : QStringLiteral("; ") + reply.reason));
+    return reply;
+}
+
+void Driver::takeAnswer(SerialProtoCommand &command, const FirmwareReply &reply)
+{
     FW_DriverError error;
     if (!command.setSerialAnswer(reply.tokens, &error))
         throw CallRefusal{InvalidSerialAnswer, error};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drivenmachine.h"
+#include "statusreplies.h"
 #include "tickets.h"
 
 #include "ending.h"
@@ -42,6 +43,8 @@ public:
     /// The envelope; never fails, whatever the parameters are. When \a gone begins, a call that waits for a change ends;
     /// what the machine has begun is seen to its end. \throws FaultException -32601 for another method
     XmlRpc::XmlRpcValue call(const MethodCall &call, Ending &gone);
+    /// The same as the document that a client reads. A status that has not changed is not written anew.
+    QByteArray reply(const MethodCall &call, Ending &gone);
 
     /// Whether \a call may wait for a change, or for the end of what a machine does.
     static bool mayLast(const MethodCall &call);
@@ -60,7 +63,9 @@ private:
     static void checkCarriedOut(const Task &task);
     XmlRpc::XmlRpcValue begin(std::shared_ptr<Task> task);
     XmlRpc::XmlRpcValue perform(Task &task);
-    static void askFirmware(SerialProtoCommand &command, const Task &task);
+    XmlRpc::XmlRpcValue askStatus(const Request &request, StatusSource &source, QByteArray &written);
+    static FirmwareReply askFirmware(const SerialProtoCommand &command, const Task &task);
+    static void takeAnswer(SerialProtoCommand &command, const FirmwareReply &reply);
     FW_ErrorList finish(const Task &task);
     FW_ErrorList finishPour(const Task &task);
     FW_ErrorList finishConfiguration(const Task &task);
@@ -68,6 +73,7 @@ private:
 
     Ending m_ending{};
     std::vector<std::unique_ptr<DrivenMachine>> m_machines{};
+    StatusReplies m_statusReplies{};
     Tickets m_tickets{}; ///< last, so that its threads end before what they use
 };
 

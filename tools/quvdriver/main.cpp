@@ -233,14 +233,16 @@ void run(const Options &options)
         return told(call, [&call] { return quv::Driver::refuseLongCall(call); });
     };
     quv::XmlRpcServer server(
-        [&](const quv::MethodCall &call, quv::Ending &gone) {
+        [&](const quv::MethodCall &call, quv::Ending &gone) -> QByteArray {
             if (options.once) {
                 if (isUsed.exchange(true))
                     throw quv::FaultException({quv::FaultInternal, QStringLiteral("The driver is ending")});
                 // It still answers the call that it is in.
                 server.stop();
             }
-            return told(call, [&] { return driver.call(call, gone); });
+            return trace
+                       ? quv::writeMethodResponse(trace->call(call, [&] { return driver.call(call, gone); }))
+                       : driver.reply(call, gone);
         },
         serverOptions);
     try {
