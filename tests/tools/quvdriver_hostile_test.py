@@ -85,9 +85,9 @@ class HostileTest(unittest.TestCase):
     def tearDown(self):
         self.assert_alive()
 
-    def peak_memory(self):
-        """The most that the driver had at once, bytes."""
-        with open(f"/proc/{self.driver.process.pid}/status", encoding="utf-8") as file:
+    def peak_memory(self, driver):
+        """The most that a driver had at once, bytes."""
+        with open(f"/proc/{driver.process.pid}/status", encoding="utf-8") as file:
             found = re.search(r"VmHWM:\s+(\d+) kB", file.read())
         return int(found.group(1)) * 1024
 
@@ -100,7 +100,7 @@ class HostileTest(unittest.TestCase):
         for thread in threads:
             thread.join()
         if programmemory.is_its_own(quvdriver_process.PROGRAM):
-            self.assertLess(self.peak_memory(), 500 * MEGABYTE)
+            self.assertLess(self.peak_memory(self.driver), 500 * MEGABYTE)
 
     def test_truncated_documents(self):
         for size in range(0, len(GOOD), 7):
@@ -140,6 +140,25 @@ class HostileTest(unittest.TestCase):
         sent, answer = self.send_until_answered(connection, b"10000\r\n" + b"x" * 65536 + b"\r\n")
         self.assertEqual(self.status_line(answer), 413)
         self.assertLess(sent, 30 * MEGABYTE)
+
+    def test_many_large_requests_at_once(self):
+        driver = Driver()
+        self.addCleanup(driver.kill)
+        size = 1000 * 1000
+        connections = []
+        for _ in range(300):
+            connection = socket.create_connection(("127.0.0.1", driver.port), timeout=60)
+            self.addCleanup(connection.close)
+            connections.append(connection)
+            try:
+                connection.sendall(http(b"x" * (size - 1), size))
+            except OSError:
+                pass  # refused before it was all sent
+        self.assertEqual(driver.post(GOOD)["ret_code"], 0)
+        if programmemory.is_its_own(quvdriver_process.PROGRAM):
+            self.assertLess(self.peak_memory(driver), 150 * MEGABYTE)
+        for connection in connections:
+            connection.close()
 
     def send_until_answered(self, connection, block):
         """Sends up to 100 MB, but stops when the driver says something."""

@@ -491,6 +491,47 @@ TEST(XmlRpcServer, closesTheOldestOfTooManyConnections)
     EXPECT_THAT(second.receive("</methodResponse>"), HasSubstr(GoodReply));
 }
 
+std::string announced(int length)
+{
+    return "POST / HTTP/1.1\r\nContent-Type: text/xml\r\nContent-Length: " + std::to_string(length) +
+           "\r\n\r\n";
+}
+
+TEST(XmlRpcServer, takesNoMoreLargeRequestsAtOnceThanThereIsRoomFor)
+{
+    XmlRpcServerOptions options;
+    options.requestBytes = 100000;
+    options.smallRequest = 1000;
+    const RunningServer running(handle, options);
+    const std::string blanks(60000 - std::string(GoodCall).size(), ' ');
+    const std::string large = GoodCall + blanks;
+    const RawSocket first(running.port());
+    first.send(announced(60000) + large.substr(0, 50000));
+    std::this_thread::sleep_for(50ms);
+
+    const RawSocket second(running.port());
+    second.send(announced(60000));
+    EXPECT_THAT(second.receive(), StartsWith("HTTP/1.1 503"));
+    const RawSocket chunked(running.port());
+    chunked.send("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nTransfer-Encoding: chunked\r\n\r\n");
+    EXPECT_THAT(chunked.receive(), StartsWith("HTTP/1.1 503"));
+    const RawSocket small(running.port());
+    small.send(post(GoodCall));
+    EXPECT_THAT(small.receive("</methodResponse>"), HasSubstr(GoodReply));
+
+    first.send(large.substr(50000));
+    EXPECT_THAT(first.receive("</methodResponse>"), HasSubstr(GoodReply));
+    const RawSocket third(running.port());
+    third.send(announced(60000) + large);
+    EXPECT_THAT(third.receive("</methodResponse>"), HasSubstr(GoodReply));
+    first.send(announced(60000)); // one that has gone away leaves its room as well
+    first.sendNoMore();
+    EXPECT_THAT(first.receive(), StartsWith("HTTP/1.1 400"));
+    const RawSocket fourth(running.port());
+    fourth.send(announced(60000) + large);
+    EXPECT_THAT(fourth.receive("</methodResponse>"), HasSubstr(GoodReply));
+}
+
 /// A server of which the method "last" lasts until its client has gone, and that takes two of these at once.
 class LongCalls : public testing::Test
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "xmlrpcserver.h"
 
+#include "budget.h"
 #include "callthreads.h"
 #include "httpaccess.h"
 #include "readcalls.h"
@@ -206,6 +207,7 @@ public:
         : m_handler(std::move(handler)),
           m_options(std::move(options)),
           m_calls(m_options.limits, m_options.mayLast),
+          m_requestBytes(m_options.requestBytes),
           m_longCalls(m_options.longCalls)
     {}
 
@@ -227,6 +229,7 @@ private:
     const DocumentHandler m_handler{};
     const XmlRpcServerOptions m_options{};
     ReadCalls m_calls;
+    Budget m_requestBytes;
     Access m_access{};
     int m_port = 0;
     std::atomic<bool> m_isStopping{false};
@@ -274,6 +277,7 @@ private:
     void receive(const error_code &error);
     void take();
     bool parse();
+    bool takeShare();
     void allowContent();
     void carryOut();
     void carryOutLong(const std::shared_ptr<const ReadCalls::Call> &read);
@@ -290,6 +294,7 @@ private:
     std::atomic<Clock::time_point> m_deadline{Never};
     std::atomic<Clock::time_point> m_restsSince{Clock::now()};
     beast::flat_buffer m_unread{MaxUnread};
+    std::unique_ptr<Budget::Share> m_share{}; ///< for the content of the request, until it has been answered
     std::optional<Parser> m_parser{};
     bool m_isHeaderRead = false;
     QByteArray m_content{}; ///< of the response; several connections may share one
@@ -432,10 +437,26 @@ bool XmlRpcServer::Impl::Connection::parse()
                 refuse(*refusal);
                 return false;
             }
+            if (!takeShare()) {
+                refuse({503, "Too many large requests come at once"});
+                return false;
+            }
             allowContent();
         }
     }
     return true;
+}
+
+/// Whether there is room for the content. Nobody knows how much comes in chunks.
+bool XmlRpcServer::Impl::Connection::takeShare()
+{
+    const auto &options = m_server.m_options;
+    const auto length =
+        m_parser->content_length().value_or(static_cast<std::uint64_t>(options.limits.documentSize));
+    if (length <= options.smallRequest)
+        return true;
+    m_share = m_server.m_requestBytes.take(length);
+    return m_share != nullptr;
 }
 
 void XmlRpcServer::Impl::Connection::allowContent()
@@ -503,6 +524,8 @@ void XmlRpcServer::Impl::Connection::refuse(const Refusal &refusal)
 void XmlRpcServer::Impl::Connection::send(Response response, const QByteArray &content)
 {
     enter(State::Answering, m_server.m_isStopping ? LastWrite : m_server.m_options.answerTimeout);
+    std::string().swap(m_parser->get().body());
+    m_share.reset();
     m_content = content;
     m_response = std::move(response);
     m_response.body() = {m_content.constData(), static_cast<std::size_t>(m_content.size())};

@@ -28,6 +28,10 @@ struct XmlRpcServerOptions
     std::chrono::milliseconds requestTimeout{5000}; ///< for a whole request to arrive
     std::chrono::milliseconds answerTimeout{15000}; ///< for its answer to leave
     std::chrono::milliseconds idleTimeout{5000};    ///< longest pause between two requests of a connection
+    /// Bytes of requests that come or are being carried out at once; beyond them another large one is refused.
+    std::size_t requestBytes = std::size_t(32) * 1024 * 1024;
+    std::size_t smallRequest =
+        std::size_t(64) * 1024; ///< bytes of a request that is not counted, and always taken
     int connections = 960;      ///< at once; beyond them the one that has rested or sent longest is closed
     int threads = 8;            ///< that read, carry out what is short, and write
     int longCalls = 128;        ///< at once, each on a thread of its own
