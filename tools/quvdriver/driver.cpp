@@ -306,6 +306,8 @@ XmlRpcValue Driver::perform(Task &task)
     timer.start();
     FW_ErrorList errors;
     if (auto *serial = dynamic_cast<SerialProtoCommand *>(task.command.get())) {
+        if (task.claim) // before the machine's status can tell anybody that it pours
+            task.machine->setRunningPour(task.claim, describedPour(*task.command, task.expected));
         takeAnswer(*serial, askFirmware(*serial, task));
         errors = finish(task);
     } else {
@@ -370,7 +372,6 @@ FW_ErrorList Driver::finish(const Task &task)
 /// The machine pours. Sees it to its end; what goes wrong afterwards no longer makes the pour a failure.
 FW_ErrorList Driver::finishPour(const Task &task)
 {
-    task.machine->setRunningPour(task.claim, describedPour(*task.command, task.expected));
     waitWhile(&DispenserStatusAnswer::tinting, *task.machine, task.expected, m_ending);
     return takePourFromLevels(*task.machine, *task.command);
 }
