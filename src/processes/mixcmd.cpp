@@ -49,7 +49,7 @@ struct MixCmd::Description : quv::Description
         teller.refuse("another type", {noStruct, noList});
         teller.refuse("without mixer_cycles", {noCycles, {}});
         teller.refuse("mixer_cycles is no array", {noArray, {}});
-        teller.refuse("with a bad cycle", {quv::badMixerCycle, quv::badMixerCycle});
+        teller.refuse("with a bad cycle", {quv::badMixerCycle, {}});
         teller.refuse("unreadable", {{}, incorrectList});
     }
 };

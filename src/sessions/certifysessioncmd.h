@@ -10,7 +10,7 @@ class QUVPROTOCOL_EXPORT CertifySessionCmd : public quv::DescribedCommand<Certif
 public:
     struct Description;
 
-    CertifySessionCmd() = default; ///< without arguments
+    CertifySessionCmd() = default;
     CertifySessionCmd(QString sessionID, QString sharedKey);
     /**
      * Session ID and key, both strings. Throws DE01031 or DE01030 (empty) for the first; DE01035, DE01034 (empty) or DE01032
@@ -21,8 +21,10 @@ public:
 
     CertifySessionCmd *clone() const override;
 
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
+    QString sessionID() const { return m_sessionID; }
+    QString sharedKey() const { return m_sharedKey; }
 
-    QString sessionID() const { return m_parameters.value(0).toString(); }
-    QString sharedKey() const { return m_parameters.value(1).toString(); }
+private:
+    QString m_sessionID;
+    QString m_sharedKey;
 };

@@ -3,7 +3,7 @@
 
 #include "base/describedcommand_p.h"
 #include "sessions/getkeyanswer.h"
-#include "sessions/sessiontexts_p.h"
+#include "sessions/keytext_p.h"
 
 #include <QuvFramework/fw_utils.h>
 
@@ -12,17 +12,6 @@ namespace {
 // What both sides of the exchange must know.
 constexpr unsigned long long exchangeBase = 50;
 constexpr unsigned long long exchangeModulus = 59;
-
-constexpr quv::SessionText texts[] = {
-    {{"session_id", "as LOGIN gave it"},
-     {"DE00918", "Session ID decoding failed: expected String type"},
-     {"DE00917", "Session ID decoding failed: empty String received"},
-     {}},
-    {{"client_key", "the client's public value, a decimal number"},
-     {"DE00910", "Client key decoding failed: expected String type"},
-     {"DE00916", "Client key decoding failed: empty String received"},
-     {"DE00915", "Client key decoding failed: expected String containing an Int value"}},
-};
 
 /** A power of 64 bits, of which those beyond are lost, as in all programs that take part in the exchange. */
 unsigned long long powerOf(unsigned long long base, int exponent)
@@ -50,34 +39,43 @@ struct GetKeyCmd::Description : quv::Description
     static constexpr quv::AnsweredBy<GetKeyAnswer> answer = {
         {}, {"DE01289", answerFailed}, {"DE00912", answerFailed}, {}};
 
-    static void tellArguments(quv::ArgumentTeller &teller) { quv::tellSessionTexts(texts, teller); }
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        constexpr quv::ArgumentRefusal noID = {"DE00918", "DE00918",
+                                               "Session ID decoding failed: expected String type"};
+        constexpr quv::ArgumentRefusal noKey = {"DE00910", "DE00910",
+                                                "Client key decoding failed: expected String type"};
+        archive.required({"session_id", "as LOGIN gave it"}, self.m_sessionID, noID, noID);
+        archive.refuseUnless(!self.m_sessionID.isEmpty(),
+                             {"DE00917", "DE00917", "Session ID decoding failed: empty String received"});
+        archive.required({"client_key", "the client's public value, a decimal number"}, self.m_clientKey,
+                         noKey, noKey);
+        archive.refuseUnless(!self.m_clientKey.isEmpty(),
+                             {"DE00916", "DE00916", "Client key decoding failed: empty String received"});
+        archive.refuseUnless(
+            quv::holdsInt(self.m_clientKey),
+            {"DE00915", "DE00915", "Client key decoding failed: expected String containing an Int value"});
+    }
 };
 
 template class quv::DescribedCommand<GetKeyCmd, ConfProtoCommand>;
 
-GetKeyCmd::GetKeyCmd(QString sessionID, QString clientKey)
-{
-    m_parameters = {sessionID, clientKey};
-}
+GetKeyCmd::GetKeyCmd(QString sessionID, QString clientKey) : m_sessionID(sessionID), m_clientKey(clientKey) {}
 
 GetKeyCmd::GetKeyCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value)
 {
-    m_parameters = quv::readSessionTexts(quv::ValueSource(value), texts, Q_FUNC_INFO);
+    read(value, Q_FUNC_INFO);
 }
 
 GetKeyCmd::GetKeyCmd(QList<QVariant> list) : DescribedCommand(list)
 {
-    m_parameters = quv::readSessionTexts(quv::ListSource(list), texts, Q_FUNC_INFO);
+    read(list, Q_FUNC_INFO);
 }
 
 GetKeyCmd *GetKeyCmd::clone() const
 {
     return new GetKeyCmd(*this);
-}
-
-XmlRpc::XmlRpcValue GetKeyCmd::xmlrpc_parameters(bool *ok) const
-{
-    return quv::writtenSessionTexts(m_parameters, ok);
 }
 
 int GetKeyCmd::getRandomValue()

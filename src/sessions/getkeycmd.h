@@ -15,7 +15,7 @@ class QUVPROTOCOL_EXPORT GetKeyCmd : public quv::DescribedCommand<GetKeyCmd, Con
 public:
     struct Description;
 
-    GetKeyCmd() = default; ///< without arguments
+    GetKeyCmd() = default;
     GetKeyCmd(QString sessionID, QString clientKey);
     /**
      * Session ID and public value, both strings. Throws DE00918 or DE00917 (empty) for the first; DE00910, DE00916 (empty) or
@@ -26,10 +26,8 @@ public:
 
     GetKeyCmd *clone() const override;
 
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
-
-    QString sessionID() const { return m_parameters.value(0).toString(); }
-    QString clientKey() const { return m_parameters.value(1).toString(); }
+    QString sessionID() const { return m_sessionID; }
+    QString clientKey() const { return m_clientKey; }
 
     static int
     getRandomValue(); ///< an exponent from 2 to 9; from -5 to 2 should the framework draw a negative number
@@ -37,4 +35,8 @@ public:
     static bool createSharedKey(QString *key, int *secret);
     /** The session's key; empty when the other's public value is no positive decimal number, or \a secret below 1. */
     static QString createLoginKey(QString otherKey, int secret);
+
+private:
+    QString m_sessionID;
+    QString m_clientKey;
 };

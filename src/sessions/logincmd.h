@@ -25,11 +25,10 @@ public:
 
     LoginCmd *clone() const override;
 
-    QList<QVariant> parameters() const override;
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
-
     const Session &session() const { return m_session; }
 
 private:
     Session m_session;
+    int m_deviceType =
+        static_cast<int>(SerialDeviceType::Dispenser); ///< of the session's machine, as it travels
 };

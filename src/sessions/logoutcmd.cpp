@@ -2,50 +2,36 @@
 #include "sessions/logoutcmd.h"
 
 #include "base/describedcommand_p.h"
-#include "sessions/sessiontexts_p.h"
-
-namespace {
-
-constexpr quv::SessionText texts[] = {
-    // users know it by the words of the login
-    {{"session_id", "as LOGIN gave it"},
-     {"DE00162", "Login failed: expected Int type for first parameter"},
-     {},
-     {}},
-};
-
-} // namespace
 
 struct LogoutCmd::Description : quv::Description
 {
     static constexpr auto command = ProtoCommandList::LOGOUT;
 
-    static void tellArguments(quv::ArgumentTeller &teller) { quv::tellSessionTexts(texts, teller); }
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        // users know it by the words of the login
+        constexpr quv::ArgumentRefusal noID = {"DE00162", "DE00162",
+                                               "Login failed: expected Int type for first parameter"};
+        archive.required({"session_id", "as LOGIN gave it"}, self.m_sessionID, noID, noID);
+    }
 };
 
 template class quv::DescribedCommand<LogoutCmd, ConfProtoCommand>;
 
-LogoutCmd::LogoutCmd(QString sessionID)
-{
-    m_parameters = {sessionID};
-}
+LogoutCmd::LogoutCmd(QString sessionID) : m_sessionID(sessionID) {}
 
 LogoutCmd::LogoutCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value)
 {
-    m_parameters = quv::readSessionTexts(quv::ValueSource(value), texts, Q_FUNC_INFO);
+    read(value, Q_FUNC_INFO);
 }
 
 LogoutCmd::LogoutCmd(QList<QVariant> list) : DescribedCommand(list)
 {
-    m_parameters = quv::readSessionTexts(quv::ListSource(list), texts, Q_FUNC_INFO);
+    read(list, Q_FUNC_INFO);
 }
 
 LogoutCmd *LogoutCmd::clone() const
 {
     return new LogoutCmd(*this);
-}
-
-XmlRpc::XmlRpcValue LogoutCmd::xmlrpc_parameters(bool *ok) const
-{
-    return quv::writtenSessionTexts(m_parameters, ok);
 }

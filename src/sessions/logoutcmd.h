@@ -10,7 +10,7 @@ class QUVPROTOCOL_EXPORT LogoutCmd : public quv::DescribedCommand<LogoutCmd, Con
 public:
     struct Description;
 
-    LogoutCmd() = default; ///< without an argument
+    LogoutCmd() = default;
     explicit LogoutCmd(QString sessionID);
     explicit LogoutCmd(
         const XmlRpc::XmlRpcValue &value);     ///< the session ID, a string; throws DE00162 for another type
@@ -19,7 +19,8 @@ public:
 
     LogoutCmd *clone() const override;
 
-    XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
+    QString sessionID() const { return m_sessionID; }
 
-    QString sessionID() const { return m_parameters.value(0).toString(); }
+private:
+    QString m_sessionID;
 };

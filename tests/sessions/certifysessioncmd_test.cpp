@@ -44,7 +44,7 @@ CommandFacts facts()
     };
     facts.getters = {getter(&CertifySessionCmd::sessionID), getter(&CertifySessionCmd::sharedKey)};
     facts.words = silence();
-    facts.defaults = Request().parameters({}).holds({"", ""}).written("[]");
+    facts.defaults = Request().parameters({"", ""}).written(R"(["", ""])");
     facts.requests = {
         Request({"S-7", "28"})
             .typed<CertifySessionCmd>(QString("S-7"), QString("28"))

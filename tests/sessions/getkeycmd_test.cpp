@@ -46,7 +46,7 @@ CommandFacts facts()
     };
     facts.getters = {getter(&GetKeyCmd::sessionID), getter(&GetKeyCmd::clientKey)};
     facts.words = silence();
-    facts.defaults = Request().parameters({}).holds({"", ""}).written("[]");
+    facts.defaults = Request().parameters({"", ""}).written(R"(["", ""])");
     facts.requests = {
         Request({"S-7", "38"}).typed<GetKeyCmd>(QString("S-7"), QString("38")).written(R"(["S-7", "38"])"),
         Request({QString::fromUtf8("S\xC3\xBC"), "7"}).written("[\"S\xC3\xBC\", \"7\"]"),

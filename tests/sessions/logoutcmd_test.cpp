@@ -19,7 +19,7 @@ CommandFacts facts()
             .takes({"", "7"})};
     facts.getters = {getter(&LogoutCmd::sessionID)};
     facts.words = silence();
-    facts.defaults = Request().parameters({}).holds({""}).written("[]");
+    facts.defaults = Request().parameters({""}).written(R"([""])");
     facts.requests = {
         Request({"S-7"}).typed<LogoutCmd>(QString("S-7")).written(R"(["S-7"])"),
         Request({QString::fromUtf8("S\xC3\xBC")}).written("[\"S\xC3\xBC\"]"),
