@@ -26,7 +26,8 @@ namespace quv {
 //     convertible(name, field, refusal)              an int; in a list whatever converts to one
 //     object(name, field, refusal, unreadable)       a struct; in a list the object itself or the map that stands for it
 //     unread(name, field)                            is sent, and never read
-//     refuseUnless(condition, refusal)               a check between two arguments, for readers only
+//     refuseUnless(condition, refusal)               a check between two arguments, for readers only, and not in a form in
+//                                                    which the refusal has no code
 //     whenRead(check)                                the same by a function that gets the signature for its refusals
 
 /** An argument's name, and its unit and range where the name does not say it. */
@@ -99,7 +100,7 @@ public:
 
     void refuseUnless(bool good, const ArgumentRefusal &refusal) const
     {
-        if (!good)
+        if (!good && isGiven(Source::of(refusal)))
             refuse(refusal);
     }
 

@@ -208,6 +208,35 @@ TEST(Arguments, areWrittenInUtf8)
 
 namespace {
 
+/** A check that only one of the forms makes. */
+struct Turn
+{
+    int turns = 1;
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.optional("turns", self.turns, {});
+        archive.refuseUnless(self.turns < 9, {{"V1", "Too many turns"}, {}});
+    }
+};
+
+} // namespace
+
+TEST(Arguments, areNotCheckedInAFormThatHasNoCodeForIt)
+{
+    Turn turn;
+    const Value value = arrayOf(9);
+    quv::ValueReader valueReader(value, signature);
+    expectRefusal("V1", "Too many turns", signature, [&] { Turn::arguments(turn, valueReader); });
+    const List list = {10};
+    quv::ListReader listReader(list, signature);
+    Turn::arguments(turn, listReader);
+    EXPECT_EQ(turn.turns, 10);
+}
+
+namespace {
+
 /** What is sent between two arguments that are read. */
 struct Rinse
 {
