@@ -93,8 +93,9 @@ QUVFRAMEWORK_EXPORT bool DecodeXmlRpcTimestamp(const XmlRpc::XmlRpcValue &value,
 /** Any XML-RPC value as a variant: scalars, QByteArray, QDateTime, QList<QVariant>, QMap<QString, QVariant>. */
 QUVFRAMEWORK_EXPORT QVariant DecodeXmlRpcVariant(const XmlRpc::XmlRpcValue &value);
 /**
- * The inverse. A whole number beyond 32 bits becomes a double, a date and time is written in local time. What XML-RPC
- * cannot hold, an invalid variant among it, becomes the integer 0: an empty value cannot be read back from a document.
+ * The inverse. A whole number beyond 32 bits becomes a double, a date and time is written in local time, and a type that
+ * converts to a map or a list as that. What XML-RPC cannot hold, an invalid variant among it, becomes the integer 0: an
+ * empty value cannot be read back from a document.
  */
 QUVFRAMEWORK_EXPORT XmlRpc::XmlRpcValue EncodeXmlRpcVariant(const QVariant &variant);
 

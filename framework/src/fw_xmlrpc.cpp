@@ -434,6 +434,9 @@ XmlRpcValue EncodeXmlRpcVariant(const QVariant &variant)
         return arrayOf(variant.value<QList<int>>(), [](int number) { return XmlRpcValue(number); });
     if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantMap>())
         return structOf(variant.value<QVariantMap>());
+    if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantList>())
+        return arrayOf(variant.value<QVariantList>(),
+                       [](const QVariant &element) { return EncodeXmlRpcVariant(element); });
     return XmlRpcValue(0);
 }
 

@@ -719,6 +719,8 @@ TEST(EncodeXmlRpcVariant, writesEachTypeAsItsKind)
     EXPECT_EQ(std::string(bytes.begin(), bytes.end()), std::string("a\0b", 3));
     EXPECT_TRUE(same(EncodeXmlRpcVariant(QStringList{"a", "b"}), arrayOf({"a", "b"})));
     EXPECT_TRUE(same(EncodeXmlRpcVariant(QVariant::fromValue(QList<int>{1, 2})), arrayOf({1, 2})));
+    EXPECT_TRUE(
+        same(EncodeXmlRpcVariant(QVariant::fromValue(QList<bool>{true, false})), arrayOf({true, false})));
     EXPECT_TRUE(same(EncodeXmlRpcVariant(QVariantList{1, QVariantList()}), arrayOf({1, arrayOf({})})));
     EXPECT_TRUE(same(EncodeXmlRpcVariant(QVariantMap{{"a", 1}}), structOf({{"a", 1}})));
     EXPECT_TRUE(same(EncodeXmlRpcVariant(QVariantHash{{"a", 1}}), structOf({{"a", 1}})));

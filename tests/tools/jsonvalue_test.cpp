@@ -298,6 +298,7 @@ TEST(JsonValue, VariantsAreWrittenByTheirTypes)
                                QVariant()};
     EXPECT_EQ(jsonOf(QVariant(list)),
               R"([1,2.0,true,"x",{"$base64":"AQ=="},4294967301,["p","q"],{"k":5},null])");
+    EXPECT_EQ(jsonOf(QVariant::fromValue(QList<int>{1, 2})), "[1,2]");
 }
 
 TEST(JsonValue, TypesThatConvertToMembersAreWrittenAsObjects)
