@@ -3,7 +3,10 @@
 
 #include <QuvFramework/fw_global.h>
 
+#include <QtCore/QList>
 #include <QtCore/QString>
+
+class FW_Dispenser;
 
 /** A colorant of the machine's colour system. */
 class QUVFRAMEWORK_EXPORT FW_Colorant
@@ -18,10 +21,17 @@ public:
     void setName(const QString &name) { m_name = name; }
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled) { m_enabled = enabled; }
+    /** The number under which the colour system knows the colorant; 0 for none. */
+    int systemColorantID() const { return m_systemColorantID; }
+    void setSystemColorantID(int id) { m_systemColorantID = id; }
+
+    /** Positions of the circuits of the machine's canisters that hold it: of all, or of what is enabled only. */
+    QList<int> getPositionsID(const FW_Dispenser &machine, bool onlyEnabled) const;
 
     bool operator==(const FW_Colorant &other) const
     {
-        return m_code == other.m_code && m_name == other.m_name && m_enabled == other.m_enabled;
+        return m_code == other.m_code && m_name == other.m_name && m_enabled == other.m_enabled &&
+               m_systemColorantID == other.m_systemColorantID;
     }
     bool operator!=(const FW_Colorant &other) const { return !(*this == other); }
 
@@ -29,4 +39,5 @@ private:
     QString m_code;
     QString m_name;
     bool m_enabled = true;
+    int m_systemColorantID = 0;
 };

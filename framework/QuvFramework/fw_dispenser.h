@@ -114,6 +114,7 @@ public:
     const FW_Canister *getCanisterById(int id) const;
     FW_Canister *getCanisterById(int id);
     const FW_Canister *getCanisterOfCircuitID(int circuitID) const;
+    QVector<const FW_Canister *> getEnabledCanisters(bool onlyWithCircuits) const; ///< with enabled ones
 
     QVector<const FW_Circuit *> getCircuits() const; ///< in the canisters' order
     QVector<const FW_Circuit *> getEnabledCircuits() const;
@@ -136,6 +137,13 @@ public:
     // Motors of all circuits, in the circuits' order.
     QVector<const FW_StirringMotor *> stirringMotors() const;
     const FW_StirringMotor *firstStirringMotor() const;
+    bool areStirringMotorsEnabled() const; ///< true when one of them is
+    /** Null for a position without one, or with \a onlyEnabled without one that is enabled. */
+    const FW_StirringMotor *getFirstStirringMotorOfCircuitPosition(int position, bool onlyEnabled) const;
+    /** Positions in ascending order of the circuits with such a motor. */
+    QList<int> getPositionsIDListOfStirringMotors(bool onlyEnabledCircuits, bool onlyEnabledMotors) const;
+    /** The activities, in seconds, of the motors at the positions; a position without such a motor has none. */
+    QList<int> getStirringActivitiesForPositions(const QList<int> &positions, bool onlyEnabledMotors) const;
     void setStirringMotor(const FW_StirringMotor &motor);       ///< every circuit gets this one alone
     bool hasGlobalStirring() const { return m_globalStirring; } ///< one motor stirs all canisters
     void setGlobalStirring(bool global) { m_globalStirring = global; }
@@ -172,6 +180,10 @@ public:
     void addColorant(const FW_Colorant &colorant) { m_colorants.append(colorant); }
     bool hasColorantCode(const QString &code) const { return getColorantByColCode(code) != nullptr; }
     const FW_Colorant *getColorantByColCode(const QString &code) const;
+    bool hasSystemColorantID(int id) const { return getColorantBySystemColorantID(id, false) != nullptr; }
+    const FW_Colorant *getColorantBySystemColorantID(int id, bool onlyEnabled) const; ///< none has the ID 0
+    /** The colorants that a canister of the machine holds. */
+    QVector<const FW_Colorant *> getRealColorants(bool onlyEnabled) const;
 
     // Devices, one of a kind (FW_Device::Kind) at most.
     bool hasDevice(int kind) const { return getDevice(kind) != nullptr; }
@@ -188,6 +200,7 @@ public:
     static bool isLUMINAdispenser(const QString &modelName);
     static bool isSOLA100dispenser(const QString &modelName);
     static bool isLIRADORdispenser(const QString &modelName);
+    static bool isRotatingDispenserModel(MachineModel model); ///< of the two that turn a table
 
 private:
     CommandFamily m_commandFamily = CommandFamily1;

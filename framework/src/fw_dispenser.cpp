@@ -232,6 +232,16 @@ const FW_Canister *FW_Dispenser::getCanisterOfCircuitID(int circuitID) const
     });
 }
 
+QVector<const FW_Canister *> FW_Dispenser::getEnabledCanisters(bool onlyWithCircuits) const
+{
+    QVector<const FW_Canister *> canisters;
+    for (const FW_Canister &canister : m_canisters) {
+        if (canister.isEnabled() && (!onlyWithCircuits || !canister.getCircuitPositions(true).isEmpty()))
+            canisters.append(&canister);
+    }
+    return canisters;
+}
+
 QVector<const FW_Circuit *> FW_Dispenser::getCircuits() const
 {
     QVector<const FW_Circuit *> circuits;
@@ -306,6 +316,45 @@ const FW_StirringMotor *FW_Dispenser::firstStirringMotor() const
     const FW_Circuit *circuit =
         foundCircuit(m_canisters, [](const FW_Circuit &c) { return c.firstStirringMotor() != nullptr; });
     return circuit ? circuit->firstStirringMotor() : nullptr;
+}
+
+bool FW_Dispenser::areStirringMotorsEnabled() const
+{
+    const QVector<const FW_StirringMotor *> motors = stirringMotors();
+    return std::any_of(motors.cbegin(), motors.cend(),
+                       [](const FW_StirringMotor *motor) { return motor->isEnabled(); });
+}
+
+const FW_StirringMotor *FW_Dispenser::getFirstStirringMotorOfCircuitPosition(int position,
+                                                                             bool onlyEnabled) const
+{
+    const FW_Circuit *circuit = getCircuitByPosition(position);
+    return circuit ? found(circuit->stirringMotors(),
+                           [=](const FW_StirringMotor &motor) { return motor.isEnabled() || !onlyEnabled; })
+                   : nullptr;
+}
+
+QList<int> FW_Dispenser::getPositionsIDListOfStirringMotors(bool onlyEnabledCircuits,
+                                                            bool onlyEnabledMotors) const
+{
+    QList<int> stirred;
+    for (const int position : getPositionsIDList(onlyEnabledCircuits)) {
+        if (getFirstStirringMotorOfCircuitPosition(position, onlyEnabledMotors))
+            stirred.append(position);
+    }
+    return stirred;
+}
+
+QList<int> FW_Dispenser::getStirringActivitiesForPositions(const QList<int> &positions,
+                                                           bool onlyEnabledMotors) const
+{
+    QList<int> activities;
+    for (const int position : positions) {
+        if (const FW_StirringMotor *motor =
+                getFirstStirringMotorOfCircuitPosition(position, onlyEnabledMotors))
+            activities.append(motor->stirringActivity());
+    }
+    return activities;
 }
 
 void FW_Dispenser::setStirringMotor(const FW_StirringMotor &motor)
@@ -436,6 +485,26 @@ const FW_Colorant *FW_Dispenser::getColorantByColCode(const QString &code) const
     return found(m_colorants, [&](const FW_Colorant &colorant) { return colorant.code() == code; });
 }
 
+const FW_Colorant *FW_Dispenser::getColorantBySystemColorantID(int id, bool onlyEnabled) const
+{
+    return found(m_colorants, [=](const FW_Colorant &colorant) {
+        return id != 0 && colorant.systemColorantID() == id && (colorant.isEnabled() || !onlyEnabled);
+    });
+}
+
+QVector<const FW_Colorant *> FW_Dispenser::getRealColorants(bool onlyEnabled) const
+{
+    QVector<const FW_Colorant *> colorants;
+    for (const FW_Colorant &colorant : m_colorants) {
+        const bool isHeld = found(m_canisters, [&](const FW_Canister &canister) {
+                                return canister.colorantCode() == colorant.code();
+                            }) != nullptr;
+        if (isHeld && (colorant.isEnabled() || !onlyEnabled))
+            colorants.append(&colorant);
+    }
+    return colorants;
+}
+
 const FW_Device *FW_Dispenser::getDevice(int kind) const
 {
     const auto device = m_devices.find(kind);
@@ -490,4 +559,9 @@ bool FW_Dispenser::isSOLA100dispenser(const QString &modelName)
 bool FW_Dispenser::isLIRADORdispenser(const QString &modelName)
 {
     return isOfLine(modelName, QLatin1String("LIRADOR"));
+}
+
+bool FW_Dispenser::isRotatingDispenserModel(MachineModel model)
+{
+    return model == MachineModel::Rotan || model == MachineModel::Lirador;
 }

@@ -85,6 +85,122 @@ TEST(FW_Dispenser, findsColorantsByTheirWholeCode)
     EXPECT_FALSE(machine.hasColorantCode(""));
 }
 
+TEST(FW_Dispenser, findsColorantsByTheirNumberInTheSystem)
+{
+    FW_Dispenser machine = dispenser();
+    FW_Colorant numbered("N");
+    numbered.setSystemColorantID(5);
+    machine.addColorant(numbered);
+    numbered.setSystemColorantID(6);
+    numbered.setEnabled(false);
+    machine.addColorant(numbered);
+    ASSERT_NE(machine.getColorantBySystemColorantID(5, true), nullptr);
+    EXPECT_EQ(machine.getColorantBySystemColorantID(5, true)->code(), "N");
+    EXPECT_EQ(machine.getColorantBySystemColorantID(6, true), nullptr);
+    ASSERT_NE(machine.getColorantBySystemColorantID(6, false), nullptr);
+    EXPECT_EQ(machine.getColorantBySystemColorantID(6, false)->systemColorantID(), 6);
+    for (const int id : {5, 6})
+        EXPECT_TRUE(machine.hasSystemColorantID(id)) << id;
+    for (const int id : {0, 7, -1}) // 0 is no number, though colorants have it
+        EXPECT_FALSE(machine.hasSystemColorantID(id)) << id;
+}
+
+TEST(FW_Dispenser, findsTheColorantsThatItHolds)
+{
+    const FW_Dispenser machine = dispenser();
+    const auto codes = [](const QVector<const FW_Colorant *> &colorants) {
+        QStringList found;
+        for (const FW_Colorant *colorant : colorants)
+            found.append(colorant->code());
+        return found;
+    };
+    EXPECT_EQ(codes(machine.getRealColorants(false)), (QStringList{"B", "KX", "R", "V", "OFF"}));
+    EXPECT_EQ(codes(machine.getRealColorants(true)), (QStringList{"B", "KX", "R", "V"}));
+}
+
+TEST(FW_Dispenser, findsTheCanistersInUse)
+{
+    FW_Dispenser machine = dispenser();
+    const auto canisterIds = [](const QVector<const FW_Canister *> &canisters) {
+        QList<int> found;
+        for (const FW_Canister *canister : canisters)
+            found.append(canister->id());
+        return found;
+    };
+    EXPECT_THAT(canisterIds(machine.getEnabledCanisters(false)), ElementsAre(1, 2, 3, 5, 6, 7));
+    EXPECT_THAT(canisterIds(machine.getEnabledCanisters(true)), ElementsAre(1, 2, 3, 5, 7));
+    machine.getCircuitById(32)->setEnabled(false); // the last of canister 3
+    EXPECT_THAT(canisterIds(machine.getEnabledCanisters(true)), ElementsAre(1, 2, 5, 7));
+}
+
+TEST(FW_Colorant, isWhereItsCanistersAre)
+{
+    const FW_Dispenser machine = dispenser();
+    EXPECT_THAT(FW_Colorant("B").getPositionsID(machine, true), ElementsAre(1, 2, 3));
+    EXPECT_THAT(FW_Colorant("KX").getPositionsID(machine, false), ElementsAre(4, 5));
+    EXPECT_THAT(FW_Colorant("KX").getPositionsID(machine, true), ElementsAre(5));
+    EXPECT_THAT(FW_Colorant("R").getPositionsID(machine, false), ElementsAre(6));
+    EXPECT_THAT(FW_Colorant("R").getPositionsID(machine, true), IsEmpty()); // its canister is closed
+    EXPECT_THAT(FW_Colorant("EMPTY").getPositionsID(machine, false), IsEmpty());
+}
+
+/** The positions 3 and 1 stir for 30 and 10 seconds, 2 has a motor that is off, 5 none. */
+FW_Dispenser stirred()
+{
+    FW_Dispenser machine = dispenser();
+    const auto setMotor = [&](int position, int activity, bool enabled) {
+        FW_StirringMotor motor;
+        motor.setStirringActivity(activity);
+        motor.setEnabled(enabled);
+        machine.getCircuitByPosition(position)->setStirringMotor(motor);
+    };
+    setMotor(3, 30, true);
+    setMotor(1, 10, true);
+    setMotor(2, 20, false);
+    return machine;
+}
+
+TEST(FW_Dispenser, findsTheMotorThatStirsAPosition)
+{
+    const FW_Dispenser machine = stirred();
+    ASSERT_NE(machine.getFirstStirringMotorOfCircuitPosition(3, true), nullptr);
+    EXPECT_EQ(machine.getFirstStirringMotorOfCircuitPosition(3, true)->stirringActivity(), 30);
+    EXPECT_EQ(machine.getFirstStirringMotorOfCircuitPosition(2, true), nullptr);
+    ASSERT_NE(machine.getFirstStirringMotorOfCircuitPosition(2, false), nullptr);
+    EXPECT_EQ(machine.getFirstStirringMotorOfCircuitPosition(2, false)->stirringActivity(), 20);
+    EXPECT_EQ(machine.getFirstStirringMotorOfCircuitPosition(5, false), nullptr);
+    EXPECT_EQ(machine.getFirstStirringMotorOfCircuitPosition(99, false), nullptr);
+}
+
+TEST(FW_Dispenser, findsThePositionsThatAreStirred)
+{
+    FW_Dispenser machine = stirred();
+    EXPECT_THAT(machine.getPositionsIDListOfStirringMotors(true, true), ElementsAre(1, 3));
+    EXPECT_THAT(machine.getPositionsIDListOfStirringMotors(true, false), ElementsAre(1, 2, 3));
+    machine.getCircuitByPosition(1)->setEnabled(false);
+    EXPECT_THAT(machine.getPositionsIDListOfStirringMotors(true, true), ElementsAre(3));
+    EXPECT_THAT(machine.getPositionsIDListOfStirringMotors(false, true), ElementsAre(1, 3));
+    EXPECT_THAT(dispenser().getPositionsIDListOfStirringMotors(false, false), IsEmpty());
+}
+
+TEST(FW_Dispenser, tellsForHowLongPositionsAreStirred)
+{
+    const FW_Dispenser machine = stirred();
+    EXPECT_THAT(machine.getStirringActivitiesForPositions({3, 2, 5, 1, 99}, true), ElementsAre(30, 10));
+    EXPECT_THAT(machine.getStirringActivitiesForPositions({3, 2, 5, 1, 99}, false), ElementsAre(30, 20, 10));
+    EXPECT_THAT(machine.getStirringActivitiesForPositions({}, true), IsEmpty());
+}
+
+TEST(FW_Dispenser, knowsWhetherAMotorStirs)
+{
+    FW_Dispenser machine = stirred();
+    EXPECT_TRUE(machine.areStirringMotorsEnabled());
+    for (const int position : {1, 3})
+        machine.getCircuitByPosition(position)->removeStirringMotors();
+    EXPECT_FALSE(machine.areStirringMotorsEnabled()); // the one left is off
+    EXPECT_FALSE(dispenser().areStirringMotorsEnabled());
+}
+
 TEST(FW_Dispenser, whatChangesInPlaceStaysInTheMachine)
 {
     FW_Dispenser machine = dispenser();
@@ -158,6 +274,11 @@ TEST(FW_Colorant, anyChangeMakesItAnother)
     FW_Colorant changed = original;
     EXPECT_TRUE(changed == original);
     changed.setEnabled(false);
+    EXPECT_TRUE(changed != original);
+    changed = original;
+    EXPECT_EQ(changed.systemColorantID(), 0);
+    changed.setSystemColorantID(5);
+    EXPECT_EQ(changed.systemColorantID(), 5);
     EXPECT_TRUE(changed != original);
     EXPECT_TRUE(FW_Colorant("C", "Black") != original);
     EXPECT_TRUE(FW_Colorant("B") != original);

@@ -206,4 +206,12 @@ TEST(FW_Dispenser, modelTestsAskForTheLineAtTheBeginning)
     }
 }
 
+TEST(FW_Dispenser, knowsTheModelsThatTurnATable)
+{
+    for (const int model : {6, 10})
+        EXPECT_TRUE(FW_Dispenser::isRotatingDispenserModel(static_cast<MachineModel>(model))) << model;
+    for (const int model : {-1, 0, 5, 7, 19, 20, 30, 100})
+        EXPECT_FALSE(FW_Dispenser::isRotatingDispenserModel(static_cast<MachineModel>(model))) << model;
+}
+
 } // namespace

@@ -201,6 +201,11 @@ Changes machineChanges()
              colorant.setEnabled(false);
              dispenser.addColorant(colorant);
          })},
+        {"numbered colorant", onDispenser([](D &dispenser) {
+             FW_Colorant colorant("D");
+             colorant.setSystemColorantID(26);
+             dispenser.addColorant(colorant);
+         })},
     };
 }
 
@@ -550,7 +555,7 @@ constexpr char FullDispenser[] = R"({
     "stirring_parallelism": 16, "power_off_delay": 17, "post_tinting_time": 18, "modules": [31, 1],
     "rcs_pause": "19 min", "rcs_mask": 5, "led_management": 20, "timed_processes_mask": 21,
     "reserve_sensor": {"type": 1, "policy": 22}, "inv_type": 2, "global_stirring": true,
-    "colorants": [{"code": "B", "name": "Black"}, {"code": "C", "enabled": false}],
+    "colorants": [{"code": "B", "name": "Black"}, {"code": "C", "enabled": false}, {"code": "D", "system_id": 26}],
     "canisters": [{
         "id": 1, "enabled": false, "colorant": "B", "maximum": 2500.5, "current": 0.1, "reserve": 100.25,
         "warning": 200.75, "activated": true, "layout_positions": [244, 3],

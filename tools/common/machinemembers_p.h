@@ -403,6 +403,7 @@ void describe(Archive<FW_Colorant> &colorant)
     colorant.required("code", &FW_Colorant::code, &FW_Colorant::setCode);
     colorant.optional("name", &FW_Colorant::name, &FW_Colorant::setName);
     colorant.optional("enabled", &FW_Colorant::isEnabled, &FW_Colorant::setEnabled);
+    colorant.optional("system_id", &FW_Colorant::systemColorantID, &FW_Colorant::setSystemColorantID);
 }
 
 // --- devices
