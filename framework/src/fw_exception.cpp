@@ -6,7 +6,7 @@
 namespace {
 
 /** clang puts the blank before "*" and "&": "const A &", "A *f()", where g++ prints "const A&", "A* f()". */
-QString asGccPrints(const QString &signature)
+QString withBlanksOfGcc(const QString &signature)
 {
     QString text;
     bool blankTaken = false;
@@ -22,6 +22,30 @@ QString asGccPrints(const QString &signature)
             blankTaken = false;
         }
         text += c;
+    }
+    return text;
+}
+
+bool isPartOfName(QChar c)
+{
+    return c.isLetterOrNumber() || c == QLatin1Char('_') || c == QLatin1Char(':');
+}
+
+/** Among the arguments of a class's operation g++ leaves the class out: "A::A(B)" for "A::A(A::B)". */
+QString asGccPrints(const QString &signature)
+{
+    QString text = withBlanksOfGcc(signature);
+    const int arguments = text.indexOf(QLatin1Char('('));
+    const int scope = text.lastIndexOf(QLatin1String("::"), arguments);
+    if (arguments < 0 || scope < 0)
+        return text;
+    int begin = scope;
+    while (begin > 0 && isPartOfName(text.at(begin - 1)))
+        --begin;
+    const QString ownClass = text.mid(begin, scope + 2 - begin);
+    for (int at = text.indexOf(ownClass, arguments); at > 0; at = text.indexOf(ownClass, at + 1)) {
+        if (!isPartOfName(text.at(at - 1)))
+            text.remove(at, ownClass.size());
     }
     return text;
 }

@@ -77,6 +77,13 @@ TEST(FW_Exception, functionReadsTheSameWhicheverCompilerMadeIt)
     EXPECT_EQ(FW_Exception("", "", "A **_f(B *const, void (*)(C *))").function(),
               "A** _f(B* const, void (*)(C*))");
     EXPECT_EQ(FW_Exception(FW_DriverError(), "bool f(A &)").function(), "bool f(A&)");
+    // the arguments' own class
+    EXPECT_EQ(FW_Exception("", "", "A::A(V<A::B>, const A::B &, AA::B, N::A::B, bool)").function(),
+              "A::A(V<B>, const B&, AA::B, N::A::B, bool)");
+    EXPECT_EQ(FW_Exception("", "", "A::A(V<B>, const B&, AA::B, N::A::B, bool)").function(),
+              "A::A(V<B>, const B&, AA::B, N::A::B, bool)");
+    EXPECT_EQ(FW_Exception("", "", "static A::B N::A::f(N::A::B, A::B) const").function(),
+              "static A::B N::A::f(B, A::B) const");
 }
 
 } // namespace
