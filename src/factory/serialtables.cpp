@@ -16,7 +16,10 @@
 #include "processes/getshelfposcmd.h"
 #include "processes/mixcmd.h"
 #include "processes/mixerplatescmd.h"
+#include "processes/recirculationcmd.h"
 #include "processes/shelfcmd.h"
+#include "processes/stirallcmd.h"
+#include "processes/stirringcmd.h"
 #include "processes/turntablemovecmd.h"
 #include "processes/turntablemovestepscmd.h"
 #include "processes/turntablemovetorefillcmd.h"
@@ -59,6 +62,9 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::AUTOCAP_MOVE, fromArguments<AutocapCmd>()},
         {Cmd::SHELF_MOVE, fromArguments<ShelfCmd>()},
         {Cmd::GET_SHELF_POS, fromArguments<GetShelfPosCmd>()},
+        {Cmd::STIRRING, fromArguments<StirringCmd>()},
+        {Cmd::RECIRCULATION, fromArgumentsAndDispenser<RecirculationCmd>()},
+        {Cmd::STIR_ALL, fromArgumentsAndDispenser<StirAllCmd>()},
         {Cmd::TINT, fromArgumentsAndDispenser<TintCmd>()},
         {Cmd::PRIMING, fromArgumentsAndDispenser<PrimingCmd>()},
         {Cmd::PACK, fromArgumentsAndDispenser<PackCmd>()},

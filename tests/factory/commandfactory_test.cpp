@@ -13,6 +13,7 @@
 #include "factory/pending_p.h"
 #include "processes/mixcmd.h"
 #include "processes/mixerplatescmd.h"
+#include "processes/stiritem.h"
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
@@ -92,8 +93,11 @@ List argumentsFor(const CommandRow &row, Form form)
         {"PRIMING2", {circuits}},
         {"PURGE", {formula}},
         {"READ_CONFIG_ROW", {5, 3}},
+        {"RECIRCULATION", {2, 300, 40, 1, true}},
         {"SET_LEVELS", {false, formula, true}},
         {"SHELF_MOVE", {1, 300}},
+        {"STIRRING", {2, 300, true}},
+        {"STIR_ALL", {QVariant::fromValue(QList<StirItem>{StirItem(12, 40)}), 1, false, 700}},
         {"TINT", {formula}},
         {"TURNTABLE_MOVE", {7, 2, 1, 90, 1, 50}},
         {"TURNTABLE_MOVE_STEPS", {1, 50, 1}}, // of one step, which is both the number and its digits
@@ -112,6 +116,7 @@ List argumentsFor(const CommandRow &row, Form form)
               List{QVariantMap{
                   {"cycle_type", 2}, {"mixing_speed", 40}, {"clamping_force", 7}, {"duration", 300}}}}}}},
         {"MIXER_PLATES", {2, 300, 40, 7}},
+        {"STIR_ALL", {QVariant(List{QVariantMap{{"item", 12}, {"duration", 40}}}), 1, false, 700}},
         {"WRITE_CONFIG_ROW", {QVariantMap{{"cmd_value", 7}, {"cmd_parameters", "1,100,2,3"}}}},
     };
     const auto value = values.find(row.name);
