@@ -13,9 +13,11 @@
 #include "dispensing/tintcmd.h"
 #include "factory/commandtables_p.h"
 #include "processes/autocapcmd.h"
+#include "processes/cleaningcmd.h"
 #include "processes/getshelfposcmd.h"
 #include "processes/mixcmd.h"
 #include "processes/mixerplatescmd.h"
+#include "processes/nozzlecleancmd.h"
 #include "processes/recirculationcmd.h"
 #include "processes/shelfcmd.h"
 #include "processes/stirallcmd.h"
@@ -23,6 +25,7 @@
 #include "processes/turntablemovecmd.h"
 #include "processes/turntablemovestepscmd.h"
 #include "processes/turntablemovetorefillcmd.h"
+#include "processes/ultrasoundcleaningcmd.h"
 #include "processes/zdractuatormovingcmd.h"
 #include "processes/zdrcycleoperationcmd.h"
 #include "processes/zdrslaveprocedurecmd.h"
@@ -65,6 +68,9 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::STIRRING, fromArguments<StirringCmd>()},
         {Cmd::RECIRCULATION, fromArgumentsAndDispenser<RecirculationCmd>()},
         {Cmd::STIR_ALL, fromArgumentsAndDispenser<StirAllCmd>()},
+        {Cmd::CLEANING, fromArguments<CleaningCmd>()},
+        {Cmd::ULTRASOUND_CLEAN, fromArguments<UltrasoundCleaningCmd>()},
+        {Cmd::NOZZLE_CLEAN, fromArguments<NozzleCleanCmd>()},
         {Cmd::TINT, fromArgumentsAndDispenser<TintCmd>()},
         {Cmd::PRIMING, fromArgumentsAndDispenser<PrimingCmd>()},
         {Cmd::PACK, fromArgumentsAndDispenser<PackCmd>()},

@@ -72,6 +72,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"CHECK_FORMULA_LEVELS", {formula, true}},
         {"GET_ACTIVE_CIRCUITS", {13}},
         {"GET_CIRCUITS_STATUS", {2}},
+        {"CLEANING", {0, 40, 300, 2, true}},
         {"GET_CMD_EST_EXEC_TIME", {"GET_STATUS", 7}},
         {"GET_CMD_STATUS", {"ticket 7"}},
         {"GET_DISPENSED_FORMULA", {2, 1}},
@@ -87,6 +88,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"MIX", {QVariant::fromValue(QList<MixerCycle>{MixerCycle(2, 40, 7, 300)})}},
         {"MIXER_PLATES",
          {QVariant::fromValue(static_cast<MixerPlatesCmd::MixerPlatesAction>(2)), 300, 40, 7}},
+        {"NOZZLE_CLEAN", {2, 300}},
         {"PACK", {1, formula}},
         {"PACK2", {circuits}},
         {"PRIMING", {priming}},
@@ -105,6 +107,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"ZDR_ACTUATOR_MOVE", {9, 2, 3, 4, 5, 300}},
         {"ZDR_CYCLE_OPERATION", {3, 17, 245}},
         {"ZDR_SLAVE_PROCEDURE", {200, QVariant(List{300})}},
+        {"ULTRASOUND_CLEAN", {4, 300}},
     };
     // commands whose arguments travel in another shape over XML-RPC
     static const std::map<std::string, List> values = {

@@ -60,6 +60,8 @@ constexpr Sample samplesOfCommands[] = {
     {"STIRRING", "[3,60]"},
     {"RECIRCULATION", "[3,60,50]"},
     {"STIR_ALL", R"([[{"item":3,"duration":60},{"item":4,"duration":60}],0,false,500])"},
+    {"CLEANING", "[1,50,30]"},
+    {"NOZZLE_CLEAN", "[3,60515]"},
     {"PURGE", R"([{"purge_quantity":2.5,"quantity_unit":3,"only_filled":true,"head":0}])"},
     {"SHELF_MOVE", "[0,300]"},
     {"GET_SHELF_POS", "[3]"},
