@@ -7,6 +7,7 @@
 #include "dispensing/getformulacircuitscmd.h"
 #include "dispensing/setlevelscmd.h"
 #include "factory/commandtables_p.h"
+#include "processes/stopconfcmd.h"
 #include "sessions/certifysessioncmd.h"
 #include "sessions/getkeycmd.h"
 #include "sessions/logincmd.h"
@@ -26,6 +27,7 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::LOGOUT, fromArguments<LogoutCmd>()},
         {Cmd::GET_KEY, fromArguments<GetKeyCmd>()},
         {Cmd::CERTIFY_SESSION, fromArguments<CertifySessionCmd>()},
+        {Cmd::STOP, fromArguments<StopConfCmd>()},
         {Cmd::SET_LEVELS, fromArguments<SetLevelsCmd, ListForm>()},
         {Cmd::CHECK_FORMULA_LEVELS, fromArguments<CheckFormulaLevelsCmd, ListForm>()},
         {Cmd::GET_FORMULA_CIRCUITS, fromArguments<GetFormulaCircuitsCmd, ListForm>()},

@@ -18,10 +18,13 @@
 #include "processes/mixcmd.h"
 #include "processes/mixerplatescmd.h"
 #include "processes/nozzlecleancmd.h"
+#include "processes/pausecmd.h"
 #include "processes/recirculationcmd.h"
+#include "processes/resetcmd.h"
 #include "processes/shelfcmd.h"
 #include "processes/stirallcmd.h"
 #include "processes/stirringcmd.h"
+#include "processes/stopserialcmd.h"
 #include "processes/turntablemovecmd.h"
 #include "processes/turntablemovestepscmd.h"
 #include "processes/turntablemovetorefillcmd.h"
@@ -55,6 +58,7 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::GET_SENSOR_DATA, fromArguments<SensorDataCmd>()},
         {Cmd::CLOSE_SERIAL, fromName<SerialProtoCommand>()},
         {Cmd::MIXER_PLATES, fromArguments<MixerPlatesCmd>()},
+        {Cmd::STOP, fromArguments<StopSerialCmd>()},
     }};
 
 constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
@@ -65,12 +69,14 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::AUTOCAP_MOVE, fromArguments<AutocapCmd>()},
         {Cmd::SHELF_MOVE, fromArguments<ShelfCmd>()},
         {Cmd::GET_SHELF_POS, fromArguments<GetShelfPosCmd>()},
+        {Cmd::RESET, fromArguments<ResetCmd>()},
         {Cmd::STIRRING, fromArguments<StirringCmd>()},
         {Cmd::RECIRCULATION, fromArgumentsAndDispenser<RecirculationCmd>()},
         {Cmd::STIR_ALL, fromArgumentsAndDispenser<StirAllCmd>()},
         {Cmd::CLEANING, fromArguments<CleaningCmd>()},
         {Cmd::ULTRASOUND_CLEAN, fromArguments<UltrasoundCleaningCmd>()},
         {Cmd::NOZZLE_CLEAN, fromArguments<NozzleCleanCmd>()},
+        {Cmd::PAUSE, fromArguments<PauseCmd>()},
         {Cmd::TINT, fromArgumentsAndDispenser<TintCmd>()},
         {Cmd::PRIMING, fromArgumentsAndDispenser<PrimingCmd>()},
         {Cmd::PACK, fromArgumentsAndDispenser<PackCmd>()},

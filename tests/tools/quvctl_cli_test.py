@@ -717,7 +717,7 @@ class Async(CliTest):
     def test_ticket(self):
         with Driver(envelope({"ticket_id": "T-1"}, info="RESET command executed successfully!")) as driver:
             out = self.done("call", "RESET", "--async", "--port", str(driver.port))
-            self.assertEqual((driver.requests, driver.started), ([], [["RESET"]]))
+            self.assertEqual((driver.requests, driver.started), ([], [["RESET", 0]]))
             reply = json.loads(self.done("call", "RESET", "--async", "--json", "--port", str(driver.port)))
         self.assertEqual(out, "RESET has begun\nTicket T-1\n")
         self.assertEqual((reply["class"], reply["value"]), ("AsyncAnswer", {"ticket_id": "T-1"}))
