@@ -9,20 +9,19 @@
 
 CommandRefusedAnswer::CommandRefusedAnswer(const XmlRpc::XmlRpcValue &) {}
 
-CommandRefusedAnswer::CommandRefusedAnswer(QStringList tokens) : SerialProtoAnswer(std::move(tokens))
-{
+CommandRefusedAnswer::CommandRefusedAnswer(QStringList tokens)
+try : SerialProtoAnswer(std::move(tokens)) {
     constexpr int parametersOfARefusal = 6;
     const char *function = Q_FUNC_INFO;
-    try {
-        if (m_parameters.size() < parametersOfARefusal)
-            throw FW_Exception("DE00063", "Error during command answer decoding: bad length", function);
-        m_error = CommandRefusedError(m_parameters.mid(0, 2));
-        if (!m_error.hasErrors())
-            throw FW_Exception("DE00173", "Command refused due to unknown reason. No refused answer bit set!",
-                               function);
-    } catch (...) {
-        quv::rethrowCurrentException("DE00065", "CommandRefusedAnswer: invalid error answer", function);
-    }
+    if (m_parameters.size() < parametersOfARefusal)
+        throw FW_Exception("DE00063", "Error during command answer decoding: bad length", function);
+    m_error = CommandRefusedError(m_parameters.mid(0, 2));
+    if (!m_error.hasErrors())
+        throw FW_Exception("DE00173", "Command refused due to unknown reason. No refused answer bit set!",
+                           function);
+} catch (...) {
+    // only memory can lack here, and not for new: there is no test of it
+    quv::rethrowCurrentException("DE00065", "CommandRefusedAnswer: invalid error answer", Q_FUNC_INFO);
 }
 
 CommandRefusedAnswer *CommandRefusedAnswer::clone() const

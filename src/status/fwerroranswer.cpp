@@ -119,15 +119,17 @@ FwErrorAnswer::FwErrorAnswer(QStringList tokens) : DescribedAnswer(std::move(tok
     const char *function = Q_FUNC_INFO;
     quv::TokenReader reader(m_parameters, 0, function);
     reader.require(3, {"DE00090", "Error during command answer decoding: bad length"});
-    const int type = reader.next({"DE00166", "Error during command answer decoding: error type"});
-    if (!checkErrorAnswerType(type))
+    const unsigned type =
+        reader.nextUnsigned({"DE00166", "Error during command answer decoding: error type"});
+    if (!checkErrorAnswerType(static_cast<int>(type)))
         throw FW_Exception("DE00137", "Error during command answer decoding: invalid error type", function);
-    reader.next({"DE00134", "Error during command answer decoding: error packet index"});
-    const int count = reader.next({"DE00135", "Error during command answer decoding: errors count"});
+    reader.nextUnsigned({"DE00134", "Error during command answer decoding: error packet index"});
+    const unsigned count =
+        reader.nextUnsigned({"DE00135", "Error during command answer decoding: errors count"});
     if (count == 0)
         throw FW_Exception("DE00167", "Error during command answer decoding: error count value equal to 0",
                            function);
-    for (int i = 0; i < count; ++i) {
+    for (unsigned i = 0; i < count; ++i) {
         const quv::BufferedError error = quv::nextError(reader, function);
         if (type == HardwareErrors)
             m_errors.hardware.append(FW_HwError(error.code, error.module, error.value(), error.flag(),

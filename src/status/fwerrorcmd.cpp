@@ -15,8 +15,10 @@ struct FwErrorCmd::Description : quv::Description
     template <class Self, class Archive>
     static void arguments(Self &self, Archive &archive)
     {
-        archive.optional({"packet_index", "of the packet; read, but never written over XML-RPC"},
-                         self.m_packetIndex, {"DE00465", "DE00466", "Error Packet: expected INT parameter"});
+        archive.optional(
+            {"packet_index",
+             "of the packet; 0 asks the firmware to clear its errors; read, but never written over XML-RPC"},
+            self.m_packetIndex, {"DE00465", "DE00466", "Error Packet: expected INT parameter"});
     }
 };
 

@@ -182,8 +182,16 @@ TEST(FwErrorAnswer, refusesTokensThatAreCutShort)
 TEST(FwErrorAnswer, refusesANumberThatNoTokensFollow)
 {
     expectTokensRefused("8 1 0 7FFFFFFF 7 5 0 0 0", "DE00092", noModule);
-    expectTokensRefused("8 1 0 80000000 7 5 0 0 0", "DE00135",
-                        "Error during command answer decoding: errors count");
+    expectTokensRefused("8 1 0 FFFFFFFF 7 5 0 0 0", "DE00092", noModule);
+}
+
+TEST(FwErrorAnswer, takesAnyHexadecimalNumberOf32Bits)
+{
+    EXPECT_EQ(FwErrorAnswer(tokensOf("8 1 FFFFFFFF 1 7 5 0 0 0")).hwErrors().size(), 1);
+    expectTokensRefused("8 80000001 0 1 7 5 0 0 0", "DE00137",
+                        "Error during command answer decoding: invalid error type");
+    expectTokensRefused("8 1 100000000 1 7 5 0 0 0", "DE00134",
+                        "Error during command answer decoding: error packet index");
 }
 
 TEST(FwErrorAnswer, travelsWithTheHardwareErrorsFirst)

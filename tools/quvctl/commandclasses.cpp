@@ -25,9 +25,9 @@ using Made = std::unique_ptr<ProtoCommand>;
 // What a class's constructor takes.
 
 template <class Class>
-Made fromNothing(const Request &, const FW_Machine *)
+Made fromNothing(const Request &request, const FW_Machine *)
 {
-    return std::make_unique<Class>();
+    return withArguments(request, [](auto &) -> Made { return std::make_unique<Class>(); });
 }
 
 template <class Class>
