@@ -20,6 +20,8 @@ using quv::FirmwareReply;
 using testing::HasSubstr;
 using namespace quv::test;
 
+const QStringList IdleMixerTokens = QStringLiteral("F 0 1 0 0 0 0 0 0 0 0 0 0 0 0 0").split(QLatin1Char(' '));
+
 class DriverTest : public DriverFixture
 {};
 
@@ -114,7 +116,7 @@ TEST_F(DriverTest, aDispenserOfFamily2IsAskedByItsOwnCode)
 
 TEST_F(DriverTest, aCommandGoesToTheMachineThatItIsFor)
 {
-    const ScriptedFirmware &mixer = addMixer({QStringLiteral("0")});
+    const ScriptedFirmware &mixer = addMixer(IdleMixerTokens);
     const ScriptedFirmware &dispenser = addDispenser({QStringLiteral("0")});
     EXPECT_EQ(call("EXEC_B", "MIXER_STATUS").retCode, 0);
     EXPECT_EQ(mixer.asked, QStringList{QStringLiteral("0033 0 0")});
@@ -449,7 +451,7 @@ TEST_F(DriverTest, aBusyMachineHoldsUpNobodyElse)
         release.get_future().wait();
         return FirmwareReply{false, IdleTokens};
     });
-    addMixer({QStringLiteral("0")});
+    addMixer(IdleMixerTokens);
     auto busy = std::async(std::launch::async, [&] { return call("EXEC_B", "GET_STATUS").retCode; });
     entered.get_future().wait();
 
