@@ -127,7 +127,7 @@ int asInt(long long number)
     return number <= std::numeric_limits<int>::max() ? static_cast<int>(number) : 0;
 }
 
-/** Two digits, the high one of which may be missing; 0 when one of them is no number. */
+/** Two digits, the high one of which may be missing; 0 when one of them is no number. As joinValues does, without a list. */
 int nextTwoDigits(quv::TokenReader &tokens)
 {
     unsigned low = 0;

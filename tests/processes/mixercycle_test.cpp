@@ -96,6 +96,14 @@ TEST(MixerCycle, isNothingButAStruct)
     static_assert(!std::is_constructible_v<MixerCycle, const char *>);
 }
 
+TEST(MixerCycle, readsADurationBeyondAnIntBack)
+{
+    const MixerCycle cycle(2, 40, 7, 5000000000);
+    const Value value = cycle.toXmlRpcValue();
+    EXPECT_EQ(value["duration"].getType(), Value::TypeDouble);
+    EXPECT_EQ(MixerCycle(value), cycle);
+}
+
 TEST(MixerCycle, differsInEachNumber)
 {
     const MixerCycle cycle(2, 40, 7, 300);
