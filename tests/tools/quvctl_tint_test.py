@@ -356,6 +356,39 @@ class Pouring(unittest.TestCase):
                                            "2         300          12            288",
                                            "poured less than asked: 2", ""])
 
+    def test_the_report_of_another_pour(self):
+        gone = "warning: the machine has poured something else since; its report of this pour is gone\n"
+        other = {1: dispensed(colorants(1, C=580), colorants(1, C=580)),
+                 3: dispensed(colorants(3, C=5), colorants(3, C=5))}
+        more = {1: dispensed(colorants(1, B=1340, C=580), colorants(1, B=1340, C=580)),
+                3: dispensed(colorants(3, B=12.5, C=5), colorants(3, B=12.5, C=5))}
+        another_amount = {1: dispensed(colorants(1, B=1300), colorants(1, B=1300)),
+                          3: dispensed(colorants(3, B=12), colorants(3, B=12))}
+        for report in [other, more, another_amount]:
+            code, out, err, _ = self.tint(dispensed=report)
+            self.assertEqual((code, out.split("\n")[2:], err), (0, ["TINT command executed successfully!", ""], gone))
+        less = error("DE03142", "Less")
+        code, out, err, _ = self.tint(tickets=[ticket(0, {**envelope(0), "errors": [less]})], dispensed=other)
+        self.assertEqual((code, out), (1, "Ticket T-1\n100 %  Done successfully!\n"))
+        self.assertEqual(err.split("\n")[-2], gone[:-1])
+        code, out, err, _ = self.tint(tickets=[ticket(-3, envelope(0, 7))], dispensed=other)
+        self.assertEqual((code, err), (1, gone + "Command has been interrupted!\n"))
+        for tickets, ok in [([ticket(0, envelope(0))], True), ([ticket(0, {**envelope(0), "errors": [less]})], False)]:
+            with ScriptedDriver(dispensed=other, tickets=tickets) as driver:
+                code, out, err = run("tint", "B=12.5", "--json", "--interval", "0.01", "--port", str(driver.port))
+            reply = json.loads(out)
+            self.assertEqual((code, reply["ok"], reply.get("code"), "items" in reply),
+                             (0, True, None, False) if ok else (1, False, "DE03142", False))
+            self.assertIn(gone, err)
+
+    def test_numbers_are_those_of_the_report_however_they_are_typed(self):
+        report = steps(p3=300)
+        with ScriptedDriver(dispensed=dispensed(report, report)) as driver:
+            code, out, err = run("tint", "--by", "position", "--unit", "steps", "03=100", "3=200", "--interval", "0.01",
+                                 "--port", str(driver.port))
+        self.assertEqual((code, err), (0, ""))
+        self.assertIn("\npoured: all\n", out)
+
     def test_no_wait(self):
         with ScriptedDriver() as driver:
             self.assertEqual(run("tint", "B=1", "--no-wait", "--port", str(driver.port)), (0, "Ticket T-1\n", ""))
@@ -531,6 +564,20 @@ class Simulated(unittest.TestCase):
             with driver.client() as client:
                 report = client.EXEC_B("GET_DISPENSED_FORMULA", 1, 1)["ret_value"]["total_formula"]
         self.assertEqual(report["ids"], [])
+
+    def test_another_pour_meanwhile(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "10000") as driver:
+            port = ["--port", str(driver.port)]
+            with start("tint", "B=10", "--interval", "2", *port) as process:
+                process.stdout.readline()
+                process.stdout.readline()  # it waits for its next question
+                time.sleep(0.5)
+                self.assertEqual(self.tint(driver, "C=5")[0], 0)
+                out, err = process.communicate(timeout=30)
+        self.assertEqual((process.returncode, err), (
+            0, "warning: the machine has poured something else since; its report of this pour is gone\n"))
+        self.assertNotIn("COLORANT", out)
+
     def test_refusals(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "100") as driver:
             for words, code in [(["NOPE=1"], "DE03021"), (["B=-1"], "DE00552")]:

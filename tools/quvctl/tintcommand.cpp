@@ -137,29 +137,47 @@ ExitStatus plan(const Driver &driver, Formula formula, const CommandLine &line)
     return Done;
 }
 
+/// What the pour gave, unless the machine, which keeps but one report, has poured something else since.
+std::optional<PourReport> reportOf(const Driver &driver, const Formula &formula)
+{
+    std::optional<PourReport> report = pourReport(driver, formula);
+    if (!report)
+        printError(QStringLiteral(
+            "warning: the machine has poured something else since; its report of this pour is gone"));
+    return report;
+}
+
 /// Some of it has left the nozzles. A driver that ended the pour by ending itself tells it no more.
 void reportIfThere(const Driver &driver, const Formula &formula)
 {
     try {
-        printReport(pourReport(driver, formula));
+        if (const std::optional<PourReport> report = reportOf(driver, formula))
+            printReport(*report);
     } catch (const TransportError &) {
         return; // why the pour was interrupted is told all the same
     }
 }
 
-OrderedJson outcomeOf(const PourReport &report, const XmlRpcAnswer &envelope)
+bool isLacking(const std::optional<PourReport> &report)
 {
-    if (!report.lacking().isEmpty())
-        return failureReply("poured less than asked");
-    return errorLines(envelope).isEmpty() ? success() : failureReply(firstError(envelope));
+    return report && !report->lacking().isEmpty();
 }
 
-ExitStatus reportAsJson(const PourReport &report, const Ticket &ticket, const XmlRpcAnswer &envelope)
+OrderedJson outcomeOf(const std::optional<PourReport> &report, const XmlRpcAnswer &envelope)
+{
+    if (!errorLines(envelope).isEmpty())
+        return failureReply(firstError(envelope));
+    return isLacking(report) ? failureReply("poured less than asked") : success();
+}
+
+ExitStatus reportAsJson(const std::optional<PourReport> &report, const Ticket &ticket,
+                        const XmlRpcAnswer &envelope)
 {
     OrderedJson reply = outcomeOf(report, envelope);
     const bool isGood = reply["ok"].get<bool>();
     reply["ticket"] = toJson(ticket.id());
-    reply["items"] = reportJson(report);
+    if (report)
+        reply["items"] = reportJson(*report);
     reply["envelope"] = envelopeJson(envelope);
     printJson(reply);
     return isGood ? Done : Refused;
@@ -175,13 +193,14 @@ ExitStatus waitAndReport(const Driver &driver, const Ticket &ticket, const Formu
         reportIfThere(driver, formula);
     const XmlRpcAnswer envelope = resultOf(ended);
     const bool hasErrors = tellErrors(envelope);
-    const PourReport report = pourReport(driver, formula);
+    const std::optional<PourReport> report = reportOf(driver, formula);
     if (isJson)
         return reportAsJson(report, ticket, envelope);
     if (!hasErrors && !line.isQuiet())
         printLine(envelope.infoMsg(), Colour::Bold);
-    printReport(report);
-    return hasErrors || !report.lacking().isEmpty() ? Refused : Done;
+    if (report)
+        printReport(*report);
+    return hasErrors || isLacking(report) ? Refused : Done;
 }
 
 ExitStatus run(const CommandLine &line)

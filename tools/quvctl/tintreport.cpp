@@ -58,6 +58,33 @@ std::optional<GetDispensedFormulaAnswer> reportInUnit(const Driver &driver, cons
     return std::nullopt;
 }
 
+/// Each ID once, as a driver tells it: a number without leading zeros.
+Formula asTold(Formula formula)
+{
+    QVector<FormulaItem> items = formula.items();
+    if (formula.formulaType() != Formula::ColorantCodes)
+        for (FormulaItem &item : items)
+            item.id = QString::number(item.id.toInt());
+    formula.setItems(items);
+    return addedUp(formula);
+}
+
+/// Whether a pour of the formula has this total, as far as its names and its unit tell.
+bool isTotalOf(const Formula &total, const Formula &formula)
+{
+    if (total.formulaType() != formula.formulaType())
+        return true;
+    const QVector<FormulaItem> asked = asTold(formula).items();
+    const bool inUnit = total.quantityUnit() == formula.quantityUnit();
+    const auto isIn = [&](const FormulaItem &item) {
+        const auto &all = total.items();
+        const bool isThere = std::any_of(all.begin(), all.end(),
+                                         [&item](const FormulaItem &other) { return other.id == item.id; });
+        return isThere && (!inUnit || isNear(quantityIn(total, item.id), item.quantity));
+    };
+    return total.items().size() == asked.size() && std::all_of(asked.begin(), asked.end(), isIn);
+}
+
 QStringList headings(const PourReport &report, bool inUnit)
 {
     QStringList cells(headingOf(report.formulaType));
@@ -101,10 +128,12 @@ QStringList PourReport::lacking() const
     return ids;
 }
 
-PourReport pourReport(const Driver &driver, const Formula &formula)
+std::optional<PourReport> pourReport(const Driver &driver, const Formula &formula)
 {
     const GetDispensedFormulaAnswer steps = reportInSteps(driver, formula.formulaType());
     const auto inUnit = reportInUnit(driver, formula);
+    if (!isTotalOf(steps.totalFormula(), formula) || (inUnit && !isTotalOf(inUnit->totalFormula(), formula)))
+        return std::nullopt;
     PourReport report{steps.totalFormula().formulaType(), formula.quantityUnit(), {}};
     for (const FormulaItem &total : steps.totalFormula().items()) {
         PourReport::Item item;

@@ -48,7 +48,8 @@ struct PourReport
     QStringList lacking() const; ///< of which less was poured than asked
 };
 
-PourReport pourReport(const Driver &driver, const Formula &formula);
+/// What the machine poured last; nothing when that was not the pour of the formula.
+std::optional<PourReport> pourReport(const Driver &driver, const Formula &formula);
 void printReport(const PourReport &report);
 OrderedJson reportJson(const PourReport &report);
 
