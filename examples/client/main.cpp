@@ -118,6 +118,9 @@ void tint(Driver &driver, const Formula &formula)
         throw std::runtime_error(now.info().toStdString());
     if (envelope.retCode() != 0)
         Driver::refuse(envelope);
+    // a pour that gave less than asked was carried out, and tells so in the errors beside its answer
+    if (const QStringList errors = envelope.getDriverErrorsStrings(); !errors.isEmpty())
+        throw std::runtime_error(errors.join(QLatin1Char('\n')).toStdString());
     std::cout << "poured\n";
 }
 

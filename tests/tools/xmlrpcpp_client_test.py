@@ -52,6 +52,20 @@ class ClientTest(unittest.TestCase):
         self.assertIn("DE03021: Formula: the dispenser does not have \"NONE\"", err)
         self.assertNotIn("poured", out)
 
+    def test_a_pour_that_gave_less(self):
+        levels = {"formula_type": 4, "quantity_unit": 3, "ids": ["B"]}
+        with Driver("--machine", "dispenser", "--speed", "10000") as driver:
+            with driver.client() as client:
+                pour = {**levels, "quantities": [2500.0], "levels_policy": 0}  # 2000 are there
+                self.assertTrue(client.EXEC_B("TINT", pour)["errors"])
+                for _ in range(300):  # the driver believes in it; less than 1 is no refill that the firmware is told
+                    envelope = client.EXEC_B("SET_LEVELS", True, {**levels, "quantities": [0.9]})
+                    self.assertEqual(envelope["ret_code"], 0, envelope)
+            code, out, err = self.run_client("B=100", port=driver.port)
+        self.assertEqual(code, 1)
+        self.assertRegex(err, r'^tintclient: DE03142: Less was poured than asked: "B" 0 of 100, in steps 0 of \d+\n$')
+        self.assertNotIn("poured\n", out)
+
     def test_no_driver(self):
         self.driver.kill()
         code, out, err = self.run_client()
