@@ -790,6 +790,11 @@ class Ticket(CliTest):
             self.assertEqual((reply["envelope"]["ret_code"], reply["value"]), (ret_code, {"a": 1}))
             self.assertIs(reply["ok"], exit_code == 0)
         self.assertEqual(self.ask(ticket(-3), "--json")[0], 1)
+        beside = {"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE03142", "text": "Less"}
+        code, out, _ = self.ask(ticket(0, {**envelope(0), "errors": [beside]}), "--json")
+        reply = json.loads(out)
+        self.assertEqual((code, reply["ok"], reply["code"], reply["text"], reply["envelope"]["ret_code"]),
+                         (1, False, "DE03142", "Less", 0))
 
     def test_unknown_ticket(self):
         for options in [(), ("--wait",), ("--json",)]:

@@ -428,6 +428,8 @@ class LongCalls(unittest.TestCase):
         errors = {"errors": [error("DE03142", "Less")]}
         code, out, err = self.call("--json", tickets=[ticket(0, {**envelope(0), **errors})])
         self.assertEqual((code, err, json.loads(out)["envelope"]["ret_code"]), (1, "", 0))
+        reply = json.loads(out)
+        self.assertEqual((reply["ok"], reply["code"], reply["text"], reply["value"]), (False, "DE03142", "Less", 0))
 
     def test_begun_is_not_done(self):
         self.assertEqual(self.call("--async"), (0, "TINT has begun\nTicket T-1\n", ""))

@@ -45,11 +45,15 @@ ExitStatus print(const ProtoCommand &command, const XmlRpcAnswer &envelope, bool
 
 ExitStatus printAsJson(const ProtoCommand &command, const XmlRpcAnswer &envelope)
 {
-    OrderedJson reply = envelopeReply(command);
-    if (reply.contains("value"))
-        reply["value"] = toJson(envelope.xmlrpcRetValue());
+    OrderedJson told = envelopeReply(command);
+    if (told.contains("value"))
+        told["value"] = toJson(envelope.xmlrpcRetValue());
+    told.erase("ok"); // errors may stand beside the answer
+    OrderedJson reply = outcomeOf(envelope);
+    const bool isGood = reply["ok"].get<bool>();
+    reply.update(told);
     printJson(reply);
-    return errorLines(envelope).isEmpty() ? Done : Refused;
+    return isGood ? Done : Refused;
 }
 
 /// Has a command that takes long carried out behind a ticket, and gives it the answer in the end.

@@ -5,6 +5,7 @@
 #include "hints.h"
 #include "httpaccess.h"
 #include "operations.h"
+#include "replies.h"
 #include "terminal.h"
 
 #include "base/protoanswer.h"
@@ -61,6 +62,11 @@ FW_DriverError firstError(const XmlRpcAnswer &envelope, const QString &what)
         if (const auto *error = dynamic_cast<const FW_DriverError *>(envelope.errors()[i]))
             return {error->code(), before + error->text()};
     return {QString(), before + envelope.toPrintableString().join(QLatin1Char(' '))};
+}
+
+OrderedJson outcomeOf(const XmlRpcAnswer &envelope)
+{
+    return errorLines(envelope).isEmpty() ? success() : failureReply(firstError(envelope));
 }
 
 RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what)

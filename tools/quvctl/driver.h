@@ -22,6 +22,9 @@ class CommandLine;
 /// The first of the envelope's errors; what one without errors tells is its message. \a what, if any, comes before the text.
 FW_DriverError firstError(const XmlRpcAnswer &envelope, const QString &what = QString());
 
+/// A reply that tells success, or the first of the errors that stand beside the answer.
+OrderedJson outcomeOf(const XmlRpcAnswer &envelope);
+
 /// What a driver did not carry out, in lines: the reasons, with a hint behind those that need one, then what became of it.
 class RequestRefused : public std::runtime_error
 {

@@ -14,21 +14,12 @@ namespace quv {
 
 namespace {
 
-ExitStatus statusOfEnd(const CmdStatus &status)
-{
-    bool ok = false;
-    const XmlRpcAnswer envelope = status.getXmlRpcAnswer(&ok);
-    const bool isGood =
-        status.status() == CmdStatus::Done && ok && envelope.retCode() == 0 && errorLines(envelope).isEmpty();
-    return isGood ? Done : Refused;
-}
-
 /// \throws nothing: how the command ended badly is a part of what is told
 OrderedJson endOf(const CmdStatus &status)
 {
     try {
         if (status.status() <= 0)
-            resultOf(status);
+            return outcomeOf(resultOf(status));
     } catch (const RequestRefused &refusal) {
         return refusal.json();
     } catch (const std::runtime_error &error) {
@@ -40,16 +31,16 @@ OrderedJson endOf(const CmdStatus &status)
 ExitStatus printAsJson(const Ticket &ticket, const CmdStatus &status)
 {
     OrderedJson reply = endOf(status);
+    const bool isGood = reply["ok"].get<bool>();
     reply["ticket"] = toJson(ticket.id());
     reply["status"] = commandStatusReply(status, false);
-    const bool running = status.status() > 0;
     bool ok = false;
-    if (const XmlRpcAnswer envelope = status.getXmlRpcAnswer(&ok); !running && ok) {
+    if (const XmlRpcAnswer envelope = status.getXmlRpcAnswer(&ok); status.status() <= 0 && ok) {
         reply["envelope"] = envelopeJson(envelope);
         reply["value"] = toJson(envelope.xmlrpcRetValue());
     }
     printJson(reply);
-    return running ? Done : statusOfEnd(status);
+    return isGood ? Done : Refused;
 }
 
 ExitStatus run(const CommandLine &line)

@@ -163,17 +163,16 @@ bool isLacking(const std::optional<PourReport> &report)
     return report && !report->lacking().isEmpty();
 }
 
-OrderedJson outcomeOf(const std::optional<PourReport> &report, const XmlRpcAnswer &envelope)
+OrderedJson outcomeOfPour(const std::optional<PourReport> &report, const XmlRpcAnswer &envelope)
 {
-    if (!errorLines(envelope).isEmpty())
-        return failureReply(firstError(envelope));
-    return isLacking(report) ? failureReply("poured less than asked") : success();
+    OrderedJson outcome = outcomeOf(envelope);
+    return outcome["ok"].get<bool>() && isLacking(report) ? failureReply("poured less than asked") : outcome;
 }
 
 ExitStatus reportAsJson(const std::optional<PourReport> &report, const Ticket &ticket,
                         const XmlRpcAnswer &envelope)
 {
-    OrderedJson reply = outcomeOf(report, envelope);
+    OrderedJson reply = outcomeOfPour(report, envelope);
     const bool isGood = reply["ok"].get<bool>();
     reply["ticket"] = toJson(ticket.id());
     if (report)
