@@ -305,10 +305,14 @@ class Pouring(unittest.TestCase):
         with ScriptedDriver() as driver:
             code, out, err = run("tint", "B=1", "--no-wait", "--json", "--port", str(driver.port))
         self.assertEqual((code, json.loads(out), err), (0, {"ok": True, "ticket": "T-1"}, ""))
-        code, out, err = self.refused_here("B=0", "--json")
-        self.assertEqual((code, json.loads(out)), (1, {
-            "ok": False, "code": "", "text": "the amounts cannot be poured as they are asked for", "function": ""}))
-        self.assertEqual(err.split("\n")[0], "B: a quantity of 0 cannot be poured")
+        nothing = "B: a quantity of 0 cannot be poured"
+        half = "C: 0.5 strokes cannot be poured, the nearest is 1"
+        for words, code, text in [(["B=0", "C=0.5"], "DE03140", nothing), (["C=0.5", "B=0"], "DE03141", half),
+                                  (["B=0", "--force"], "DE03140", nothing)]:
+            status, out, err = self.refused_here(*words, "--unit", "strokes", "--json")
+            self.assertEqual((status, json.loads(out)),
+                             (1, {"ok": False, "code": code, "text": text, "function": ""}))
+            self.assertIn(text, err.split("\n")[0])
 
     def test_json_of_a_plan(self):
         plan = envelope({"low_level_formula": steps(p2=1340)})

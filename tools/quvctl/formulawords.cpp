@@ -128,24 +128,26 @@ Formula formulaOf(const CommandLine &line)
     return formula;
 }
 
-QStringList correctAmounts(Formula &formula)
+QList<FW_DriverError> correctAmounts(Formula &formula)
 {
-    QStringList wrong;
+    QList<FW_DriverError> wrong;
     Formula corrected = formula;
     corrected.setItems({});
     const Formula once = addedUp(formula);
     for (FormulaItem item : once.items()) {
         if (item.quantity == 0) {
-            wrong.append(QStringLiteral("%1: a quantity of 0 cannot be poured").arg(excerpt(item.id)));
+            wrong.append({QStringLiteral("DE03140"),
+                          QStringLiteral("%1: a quantity of 0 cannot be poured").arg(excerpt(item.id))});
             continue;
         }
         if (const double nearest = nearestAmount(item.quantity, formula.quantityUnit());
             !isNear(nearest, item.quantity)) {
-            wrong.append(QStringLiteral("%1: %2 %3 cannot be poured, the nearest is %4")
-                             .arg(excerpt(item.id), quantityInWords(item.quantity),
-                                  formula.quantityUnit() == Formula::Steps ? QStringLiteral("steps")
-                                                                           : QStringLiteral("strokes"),
-                                  quantityInWords(nearest)));
+            wrong.append({QStringLiteral("DE03141"),
+                          QStringLiteral("%1: %2 %3 cannot be poured, the nearest is %4")
+                              .arg(excerpt(item.id), quantityInWords(item.quantity),
+                                   formula.quantityUnit() == Formula::Steps ? QStringLiteral("steps")
+                                                                            : QStringLiteral("strokes"),
+                                   quantityInWords(nearest))});
             item.quantity = nearest;
         }
         corrected.addItem(item);

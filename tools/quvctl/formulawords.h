@@ -2,8 +2,9 @@
 #pragma once
 
 #include <QuvFramework/formula.h>
+#include <QuvFramework/fw_error.h>
 
-#include <QtCore/QStringList>
+#include <QtCore/QList>
 
 namespace quv {
 
@@ -18,8 +19,8 @@ Formula formulaOf(const CommandLine &line);
 
 /**
  * What of the formula no machine can pour as it is asked: quantities of 0, and parts of steps and strokes that are more than 1 %
- * of what is asked. A sentence for each; \a formula becomes what can be poured, each ID once.
+ * of what is asked. The driver's refusal for each; \a formula becomes what can be poured, each ID once.
  */
-QStringList correctAmounts(Formula &formula);
+QList<FW_DriverError> correctAmounts(Formula &formula);
 
 } // namespace quv

@@ -51,14 +51,16 @@ bool tellLevels(const Driver &driver, const Formula &formula)
 std::optional<Formula> typedFormula(const CommandLine &line)
 {
     Formula formula = formulaOf(line);
-    const QStringList wrong = correctAmounts(formula);
+    const QList<FW_DriverError> wrong = correctAmounts(formula);
     const bool isForced = line.isSet("force");
-    for (const QString &sentence : wrong)
-        printError((isForced ? QStringLiteral("warning: ") : QString()) + sentence);
+    for (const FW_DriverError &error : wrong)
+        printError((isForced ? QStringLiteral("warning: ") : QString()) + error.text());
     if (wrong.isEmpty() || (isForced && !formula.isEmpty()))
         return formula;
     printError(isForced ? QStringLiteral("nothing is left to pour")
                         : QStringLiteral("hint: ") + hintFor(QStringLiteral("DE03141")));
+    if (line.isSet("json"))
+        printJson(failureReply(wrong.first()));
     return std::nullopt;
 }
 
@@ -207,16 +209,13 @@ ExitStatus run(const CommandLine &line)
     const Driver driver(line);
     intervalOf(line); // refused before anything is poured
     std::optional<Formula> formula = typedFormula(line);
-    const bool isJson = line.isSet("json");
-    if (!formula) {
-        if (isJson)
-            printJson(failureReply("the amounts cannot be poured as they are asked for"));
+    if (!formula)
         return Refused;
-    }
     if (line.isSet("dry-run"))
         return plan(driver, *formula, line);
     tellLevels(driver, *formula);
     const Ticket ticket = begin(driver, *formula, line);
+    const bool isJson = line.isSet("json");
     if (!isJson)
         printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
     if (!line.isSet("no-wait"))
