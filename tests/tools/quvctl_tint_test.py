@@ -460,6 +460,26 @@ class LongCalls(unittest.TestCase):
         self.assertEqual(err.split("\n")[0],
                          f"the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}")
 
+    def test_the_ticket_of_what_fails_is_told(self):
+        for words in [("tint", "B=12.5", "--interval", "0.01"), ("call", "TINT", self.FORMULA)]:
+            driver = ScriptedDriver(tickets=[ticket(1, percentage=45, time_left=11500)])
+            with start(*words, "--json", "--port", str(driver.port)) as process:
+                while len(driver.asked) < 2:
+                    self.assertIsNone(process.poll())
+                    time.sleep(0.01)
+                driver.close()
+                out, err = process.communicate(timeout=30)
+            self.assertEqual(process.returncode, 1)
+            self.assertEqual(json.loads(out), {"ok": False, "code": "", "function": "", "ticket": "T-1",
+                                               "text": f"Cannot connect to 127.0.0.1:{driver.port}"})
+            self.assertIn("quvctl ticket T-1 ", err)
+            failed = [ticket(-1, {**envelope(0, 4), "errors": [error("DE00123", "No")]})]
+            with ScriptedDriver(tickets=failed) as driver:
+                code, out, _ = run(*words, "--json", "--port", str(driver.port))
+            reply = json.loads(out)
+            self.assertEqual((code, reply["ok"], reply["code"], reply["ticket"]), (1, False, "DE00123", "T-1"))
+            self.assertEqual(reply["envelope"]["ret_code"], 4)
+
     def test_no_answer_to_the_start(self):
         with ScriptedDriver(delay=2) as driver:
             code, out, err = run("tint", "B=1", "--timeout", "1", "--port", str(driver.port))

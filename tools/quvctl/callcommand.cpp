@@ -66,13 +66,17 @@ const XmlRpcAnswer &carriedOut(const Driver &driver, ProtoCommand &command, cons
     const bool isSilent = line.isSet("json");
     if (!isSilent)
         printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
-    constexpr std::chrono::milliseconds interval(500);
-    const CmdStatus ended = ticket.waitForEnd(interval, !isSilent);
-    if (!ended.hasResultValue())
-        throw std::runtime_error(ended.info().toStdString());
-    FW_DriverError error;
-    if (!command.setAnswer(ended.resultValue(), false, &error))
-        throw FW_DriverError(error);
+    behindTicket(ticket.id(), [&] {
+        constexpr std::chrono::milliseconds interval(500);
+        const CmdStatus ended = ticket.waitForEnd(interval, !isSilent);
+        if (!ended.hasResultValue())
+            throw std::runtime_error(ended.info().toStdString());
+        FW_DriverError error;
+        if (!command.setAnswer(ended.resultValue(), false, &error))
+            throw FW_DriverError(error);
+        if (command.getXmlRpcAnswer()->retCode() != 0)
+            throw RequestRefused(*command.getXmlRpcAnswer());
+    });
     return *command.getXmlRpcAnswer();
 }
 

@@ -6,6 +6,7 @@
 #include "subcommands.h"
 #include "suggestions.h"
 #include "terminal.h"
+#include "tickets.h"
 #include "xmlrpcerrors.h"
 
 #include <QuvFramework/fw_error.h>
@@ -79,11 +80,15 @@ Failure failureOf(const QString &text)
     return {{QStringLiteral("quvctl: ") + text}, failureReply(text.toStdString())};
 }
 
+Failure failureOf(const FailedBehindTicket &failed);
+
 /// What the exception tells that is being handled.
 Failure failureCaught()
 {
     try {
         throw;
+    } catch (const FailedBehindTicket &failed) {
+        return failureOf(failed);
     } catch (const UsageError &error) {
         const QString text = QString::fromUtf8(error.what());
         return {{QStringLiteral("quvctl: %1 (see quvctl help)").arg(text)},
@@ -101,6 +106,17 @@ Failure failureCaught()
         return failureOf(QString::fromUtf8(error.what()));
     } catch (const XmlRpc::XmlRpcException &error) {
         return failureOf(QString::fromStdString(error.getMessage()));
+    }
+}
+
+Failure failureOf(const FailedBehindTicket &failed)
+{
+    try {
+        std::rethrow_exception(failed.cause());
+    } catch (...) {
+        Failure failure = failureCaught();
+        failure.json["ticket"] = toJson(failed.ticket());
+        return failure;
     }
 }
 

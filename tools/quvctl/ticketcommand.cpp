@@ -49,8 +49,9 @@ ExitStatus run(const CommandLine &line)
     const std::chrono::milliseconds interval = intervalOf(line);
     const Ticket ticket(driver, line.words().first(), line);
     const bool json = line.isSet("json");
-    const CmdStatus status =
-        line.isSet("wait") ? ticket.waitForEnd(interval, !json && !line.isQuiet()) : ticket.status();
+    const CmdStatus status = behindTicket(ticket.id(), [&] {
+        return line.isSet("wait") ? ticket.waitForEnd(interval, !json && !line.isQuiet()) : ticket.status();
+    });
     if (json)
         return printAsJson(ticket, status);
     if (status.status() > 0) {

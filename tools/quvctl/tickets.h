@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <exception>
 #include <string>
 
 namespace quv {
@@ -36,6 +37,32 @@ private:
     const Texts *m_outerTexts = nullptr;
     struct sigaction m_outerAction = {};
 };
+
+/// What failed while the command behind a ticket went on, so that the ticket is told with it.
+class FailedBehindTicket : public std::exception
+{
+public:
+    explicit FailedBehindTicket(const QString &ticket) : m_ticket(ticket) {}
+    const char *what() const noexcept override { return "what failed behind a ticket"; }
+
+    const QString &ticket() const { return m_ticket; }
+    const std::exception_ptr &cause() const { return m_cause; }
+
+private:
+    QString m_ticket{};
+    std::exception_ptr m_cause = std::current_exception();
+};
+
+/// What \a work gives, which is done behind a ticket. \throws FailedBehindTicket for all that it throws
+template <class Work>
+auto behindTicket(const QString &ticket, Work work)
+{
+    try {
+        return work();
+    } catch (...) {
+        throw FailedBehindTicket(ticket);
+    }
+}
 
 /// A command that a driver carries out while nobody waits for it.
 class Ticket

@@ -219,7 +219,7 @@ ExitStatus run(const CommandLine &line)
     if (!isJson)
         printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
     if (!line.isSet("no-wait"))
-        return waitAndReport(driver, ticket, *formula, line);
+        return behindTicket(ticket.id(), [&] { return waitAndReport(driver, ticket, *formula, line); });
     if (isJson)
         printJson({{"ok", true}, {"ticket", toJson(ticket.id())}});
     return Done;
