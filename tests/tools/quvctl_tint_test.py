@@ -385,14 +385,6 @@ class Pouring(unittest.TestCase):
                              (0, True, None, False) if ok else (1, False, "DE03142", False))
             self.assertIn(gone, err)
 
-    def test_numbers_are_those_of_the_report_however_they_are_typed(self):
-        report = steps(p3=300)
-        with ScriptedDriver(dispensed=dispensed(report, report)) as driver:
-            code, out, err = run("tint", "--by", "position", "--unit", "steps", "03=100", "3=200", "--interval", "0.01",
-                                 "--port", str(driver.port))
-        self.assertEqual((code, err), (0, ""))
-        self.assertIn("\npoured: all\n", out)
-
     def test_no_wait(self):
         with ScriptedDriver() as driver:
             self.assertEqual(run("tint", "B=1", "--no-wait", "--port", str(driver.port)), (0, "Ticket T-1\n", ""))
@@ -579,6 +571,30 @@ class Simulated(unittest.TestCase):
             code, out, err = self.tint(driver, "B=2", "--unit", "strokes")
             self.assertEqual((code, err), (0, ""))
             self.assertRegex(out, r"\nCOLORANT  ASKED STROKES  POURED STROKES  LEFT TO POUR .+\nB +2 +2 +0 ")
+
+    def test_asked_is_what_was_typed(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "10000") as driver:
+            for words, rows in [
+                    (["--unit", "strokes", "B=0.5"], [r"B +0\.5 +1 +0 +6000 +6000"]),
+                    (["B=0.03", "C=0"], [r"B +0\.03 +0\.03\d+ +0 +\d +\d", "C +0 +0 +0 +0 +0"]),
+                    (["--unit", "steps", "B=100.6"], ["B +100\\.6 +101 +0"]),
+                    (["--unit", "steps", "B=100.4"], ["B +100\\.4 +100 +0"]),
+                    (["--by", "circuit", "--unit", "strokes", "2=1", "2=0.5"], ["2 +1\\.5 +2 +0 +12000 +12000"])]:
+                code, out, err = self.tint(driver, *words, "--force")
+                self.assertEqual(code, 0, err)
+                self.assertRegex(out, "\n" + "\n".join(rows) + "\npoured: all\n$")
+            code, out, err = self.tint(driver, "--unit", "strokes", "B=0.5", "--force", "--json")
+            item = json.loads(out)["items"][0]
+            self.assertEqual((item["asked"], item["poured"], item["left"]), (0.5, 1, 0))
+            code, out, err = self.tint(driver, "--unit", "strokes", "B=0.5", "--force", "--dry-run")
+            self.assertRegex(out, r"\nB +0\.5 +2 +6000\n")
+
+    def test_nothing_poured_leaves_what_was_asked(self):
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "10000") as driver:
+            self.assertEqual(self.tint(driver, "B=2500", "--levels-check", "off")[0], 1)  # 2000 are there
+            code, out, err = self.tint(driver, "B=100", "--levels-check", "off")
+            self.assertEqual(code, 1)
+            self.assertRegex(out, r"\nB +100 +0 +100 +\d+ +0\n")
 
     def test_dry_run_pours_nothing(self):
         with quvdriver_process.Driver("--machine", "dispenser", "--speed", "10000") as driver:

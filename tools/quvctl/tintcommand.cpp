@@ -46,17 +46,18 @@ bool tellLevels(const Driver &driver, const Formula &formula)
     return critical.isEmpty();
 }
 
-/// The formula as the user typed it; with --force as it can be poured, as far as that is known without the machine. Nothing when
-/// it is to be refused, which has been told then.
-std::optional<Formula> typedFormula(const CommandLine &line)
+/// The formula as the user typed it, to be sent so; with --force as it can be poured, as far as that is known without the machine.
+/// Nothing when it is to be refused, which has been told then.
+std::optional<PourOrder> typedOrder(const CommandLine &line)
 {
-    Formula formula = formulaOf(line);
+    const Formula asked = formulaOf(line);
+    Formula formula = asked;
     const QList<FW_DriverError> wrong = correctAmounts(formula);
     const bool isForced = line.isSet("force");
     for (const FW_DriverError &error : wrong)
         printError((isForced ? QStringLiteral("warning: ") : QString()) + error.text());
     if (wrong.isEmpty() || (isForced && !formula.isEmpty()))
-        return formula;
+        return PourOrder{asked, formula};
     printError(isForced ? QStringLiteral("nothing is left to pour")
                         : QStringLiteral("hint: ") + hintFor(QStringLiteral("DE03141")));
     if (line.isSet("json"))
@@ -113,11 +114,11 @@ Ticket begin(const Driver &driver, Formula &formula, const CommandLine &line)
 }
 
 /// What would be poured. Sends nothing but questions; the estimate is refused with what the pour would be refused with.
-ExitStatus plan(const Driver &driver, Formula formula, const CommandLine &line)
+ExitStatus plan(const Driver &driver, PourOrder order, const CommandLine &line)
 {
-    const bool isEnough = tellLevels(driver, formula);
+    const bool isEnough = tellLevels(driver, order.sent);
     long long time = 0;
-    sendPourable(formula, line, [&](const Formula &sent) {
+    sendPourable(order.sent, line, [&](const Formula &sent) {
         TintCmd tint(sent, nullptr);
         GetCmdEstimatedExecTimeCmd command(&tint);
         const XmlRpcAnswer &envelope = driver.execute(command);
@@ -126,7 +127,7 @@ ExitStatus plan(const Driver &driver, Formula formula, const CommandLine &line)
             time = answer->executionTime();
         return envelope;
     });
-    PourPlan plan = pourPlan(driver, formula);
+    PourPlan plan = pourPlan(driver, order);
     plan.time = time;
     plan.isEnough = isEnough;
     if (line.isSet("json")) {
@@ -140,9 +141,9 @@ ExitStatus plan(const Driver &driver, Formula formula, const CommandLine &line)
 }
 
 /// What the pour gave, unless the machine, which keeps but one report, has poured something else since.
-std::optional<PourReport> reportOf(const Driver &driver, const Formula &formula)
+std::optional<PourReport> reportOf(const Driver &driver, const PourOrder &order)
 {
-    std::optional<PourReport> report = pourReport(driver, formula);
+    std::optional<PourReport> report = pourReport(driver, order);
     if (!report)
         printError(QStringLiteral(
             "warning: the machine has poured something else since; its report of this pour is gone"));
@@ -150,10 +151,10 @@ std::optional<PourReport> reportOf(const Driver &driver, const Formula &formula)
 }
 
 /// Some of it has left the nozzles. A driver that ended the pour by ending itself tells it no more.
-void reportIfThere(const Driver &driver, const Formula &formula)
+void reportIfThere(const Driver &driver, const PourOrder &order)
 {
     try {
-        if (const std::optional<PourReport> report = reportOf(driver, formula))
+        if (const std::optional<PourReport> report = reportOf(driver, order))
             printReport(*report);
     } catch (const TransportError &) {
         return; // why the pour was interrupted is told all the same
@@ -184,17 +185,17 @@ ExitStatus reportAsJson(const std::optional<PourReport> &report, const Ticket &t
     return isGood ? Done : Refused;
 }
 
-ExitStatus waitAndReport(const Driver &driver, const Ticket &ticket, const Formula &formula,
+ExitStatus waitAndReport(const Driver &driver, const Ticket &ticket, const PourOrder &order,
                          const CommandLine &line)
 {
     const bool isJson = line.isSet("json");
     const CmdStatus ended = ticket.waitForEnd(intervalOf(line), !isJson && !line.isQuiet());
     const bool isBroken = ended.status() == CmdStatus::Interrupted || ended.status() == CmdStatus::TimedOut;
     if (isBroken && !isJson)
-        reportIfThere(driver, formula);
+        reportIfThere(driver, order);
     const XmlRpcAnswer envelope = resultOf(ended);
     const bool hasErrors = tellErrors(envelope);
-    const std::optional<PourReport> report = reportOf(driver, formula);
+    const std::optional<PourReport> report = reportOf(driver, order);
     if (isJson)
         return reportAsJson(report, ticket, envelope);
     if (!hasErrors && !line.isQuiet())
@@ -208,18 +209,18 @@ ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
     intervalOf(line); // refused before anything is poured
-    std::optional<Formula> formula = typedFormula(line);
-    if (!formula)
+    std::optional<PourOrder> order = typedOrder(line);
+    if (!order)
         return Refused;
     if (line.isSet("dry-run"))
-        return plan(driver, *formula, line);
-    tellLevels(driver, *formula);
-    const Ticket ticket = begin(driver, *formula, line);
+        return plan(driver, *order, line);
+    tellLevels(driver, order->sent);
+    const Ticket ticket = begin(driver, order->sent, line);
     const bool isJson = line.isSet("json");
     if (!isJson)
         printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
     if (!line.isSet("no-wait"))
-        return behindTicket(ticket.id(), [&] { return waitAndReport(driver, ticket, *formula, line); });
+        return behindTicket(ticket.id(), [&] { return waitAndReport(driver, ticket, *order, line); });
     if (isJson)
         printJson({{"ok", true}, {"ticket", toJson(ticket.id())}});
     return Done;

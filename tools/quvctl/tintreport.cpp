@@ -58,23 +58,12 @@ std::optional<GetDispensedFormulaAnswer> reportInUnit(const Driver &driver, cons
     return std::nullopt;
 }
 
-/// Each ID once, as a driver tells it: a number without leading zeros.
-Formula asTold(Formula formula)
-{
-    QVector<FormulaItem> items = formula.items();
-    if (formula.formulaType() != Formula::ColorantCodes)
-        for (FormulaItem &item : items)
-            item.id = QString::number(item.id.toInt());
-    formula.setItems(items);
-    return addedUp(formula);
-}
-
 /// Whether a pour of the formula has this total, as far as its names and its unit tell.
 bool isTotalOf(const Formula &total, const Formula &formula)
 {
     if (total.formulaType() != formula.formulaType())
         return true;
-    const QVector<FormulaItem> asked = asTold(formula).items();
+    const QVector<FormulaItem> asked = addedUp(formula).items();
     const bool inUnit = total.quantityUnit() == formula.quantityUnit();
     const auto isIn = [&](const FormulaItem &item) {
         const auto &all = total.items();
@@ -83,6 +72,19 @@ bool isTotalOf(const Formula &total, const Formula &formula)
         return isThere && (!inUnit || isNear(quantityIn(total, item.id), item.quantity));
     };
     return total.items().size() == asked.size() && std::all_of(asked.begin(), asked.end(), isIn);
+}
+
+/// Those that the machine was to pour, and where it calls them alike those that were asked for and left out.
+QStringList reportedIds(const Formula &total, const Formula &asked)
+{
+    QStringList ids;
+    for (const FormulaItem &item : total.items())
+        ids.append(item.id);
+    if (total.formulaType() == asked.formulaType())
+        for (const FormulaItem &item : asked.items())
+            if (!ids.contains(item.id))
+                ids.append(item.id);
+    return ids;
 }
 
 QStringList headings(const PourReport &report, bool inUnit)
@@ -106,6 +108,12 @@ QString lastLine(const QStringList &lacking)
                : QStringLiteral("poured less than asked: %1").arg(lacking.join(QStringLiteral(", ")));
 }
 
+/// Nothing is left of an amount whose steps have all been poured, even where the machine rounds them.
+double leftOf(const PourReport::Item &item, double asked, double poured)
+{
+    return item.isAll ? 0 : std::max(asked - poured, 0.0);
+}
+
 QStringList cellsOf(const PourReport::Item &item, bool inUnit)
 {
     QStringList cells(item.id);
@@ -113,7 +121,7 @@ QStringList cellsOf(const PourReport::Item &item, bool inUnit)
         cells << quantityInWords(*item.asked) << quantityInWords(*item.poured) << quantityInWords(*item.left);
     cells << quantityInWords(item.askedSteps) << quantityInWords(item.pouredSteps);
     if (!inUnit)
-        cells << quantityInWords(std::max(item.askedSteps - item.pouredSteps, 0.0));
+        cells << quantityInWords(leftOf(item, item.askedSteps, item.pouredSteps));
     return cells;
 }
 
@@ -123,27 +131,32 @@ QStringList PourReport::lacking() const
 {
     QStringList ids;
     for (const Item &item : items)
-        if (item.pouredSteps < item.askedSteps)
+        if (!item.isAll)
             ids.append(item.id);
     return ids;
 }
 
-std::optional<PourReport> pourReport(const Driver &driver, const Formula &formula)
+std::optional<PourReport> pourReport(const Driver &driver, const PourOrder &order)
 {
-    const GetDispensedFormulaAnswer steps = reportInSteps(driver, formula.formulaType());
-    const auto inUnit = reportInUnit(driver, formula);
-    if (!isTotalOf(steps.totalFormula(), formula) || (inUnit && !isTotalOf(inUnit->totalFormula(), formula)))
+    const Formula &sent = order.sent;
+    const GetDispensedFormulaAnswer steps = reportInSteps(driver, sent.formulaType());
+    const auto inUnit = reportInUnit(driver, sent);
+    if (!isTotalOf(steps.totalFormula(), sent) || (inUnit && !isTotalOf(inUnit->totalFormula(), sent)))
         return std::nullopt;
-    PourReport report{steps.totalFormula().formulaType(), formula.quantityUnit(), {}};
-    for (const FormulaItem &total : steps.totalFormula().items()) {
+    const Formula &total = steps.totalFormula();
+    const Formula &asked = order.asked;
+    const bool inSteps = isIn(total, sent.formulaType(), sent.quantityUnit());
+    PourReport report{total.formulaType(), sent.quantityUnit(), {}};
+    for (const QString &id : reportedIds(total, asked)) {
         PourReport::Item item;
-        item.id = total.id;
-        item.askedSteps = total.quantity;
-        item.pouredSteps = quantityIn(steps.dispensedFormula(), total.id);
+        item.id = id;
+        item.pouredSteps = quantityIn(steps.dispensedFormula(), id);
+        item.isAll = item.pouredSteps >= quantityIn(total, id);
+        item.askedSteps = quantityIn(inSteps ? asked : total, id);
         if (inUnit) {
-            item.asked = quantityIn(formula, total.id);
-            item.poured = quantityIn(inUnit->dispensedFormula(), total.id);
-            item.left = std::max(quantityIn(inUnit->totalFormula(), total.id) - *item.poured, 0.0);
+            item.asked = quantityIn(asked, id);
+            item.poured = quantityIn(inUnit->dispensedFormula(), id);
+            item.left = leftOf(item, *item.asked, *item.poured);
         }
         report.items.append(item);
     }
@@ -179,20 +192,21 @@ OrderedJson reportJson(const PourReport &report)
     return items;
 }
 
-PourPlan pourPlan(const Driver &driver, const Formula &formula)
+PourPlan pourPlan(const Driver &driver, const PourOrder &order)
 {
+    const Formula &formula = order.sent;
     const QString name = ProtoCommandList::cmdStr(ProtoCommandList::GET_LOW_LEVEL_FORMULA);
     GenericFormulaCmd command(name, formula);
     const Formula &steps = executed<GetLowLevelFormulaAnswer>(driver, command).formula();
-    const QVector<FormulaItem> asked = addedUp(formula).items();
-    const bool isPaired = asked.size() == steps.items().size(); // each in the formula's order
+    const QVector<FormulaItem> sent = addedUp(formula).items();
+    const bool isPaired = sent.size() == steps.items().size(); // each in the formula's order
     PourPlan plan;
     plan.formulaType = formula.formulaType();
     for (int i = 0; i < steps.items().size(); ++i) {
         PourPlan::Item item;
         if (isPaired) {
-            item.id = asked[i].id;
-            item.asked = asked[i].quantity;
+            item.id = sent[i].id;
+            item.asked = quantityIn(order.asked, item.id);
         }
         item.position = steps.items().at(i).id;
         item.steps = std::max(steps.items().at(i).quantity, 1.0);

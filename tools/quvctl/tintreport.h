@@ -37,8 +37,9 @@ struct PourReport
         std::optional<double> asked{};
         std::optional<double> poured{};
         std::optional<double> left{};
-        double askedSteps = 0;
+        double askedSteps = 0; ///< as they are asked for in a formula of steps
         double pouredSteps = 0;
+        bool isAll = true; ///< all of the steps that the machine makes of it
     };
 
     int formulaType = 0;
@@ -48,8 +49,15 @@ struct PourReport
     QStringList lacking() const; ///< of which less was poured than asked
 };
 
-/// What the machine poured last; nothing when that was not the pour of the formula.
-std::optional<PourReport> pourReport(const Driver &driver, const Formula &formula);
+/// What the user asked for, and what is sent: the nearest of it that the machine can pour.
+struct PourOrder
+{
+    Formula asked{};
+    Formula sent{};
+};
+
+/// What the machine poured last; nothing when that was not the pour of the order.
+std::optional<PourReport> pourReport(const Driver &driver, const PourOrder &order);
 void printReport(const PourReport &report);
 OrderedJson reportJson(const PourReport &report);
 
@@ -70,7 +78,7 @@ struct PourPlan
     bool isEnough = false; ///< no canister would fall below its critical level
 };
 
-PourPlan pourPlan(const Driver &driver, const Formula &formula);
+PourPlan pourPlan(const Driver &driver, const PourOrder &order);
 void printPlan(const PourPlan &plan);
 OrderedJson planJson(const PourPlan &plan);
 
