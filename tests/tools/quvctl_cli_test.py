@@ -968,6 +968,17 @@ class Watch(CliTest):
         self.assertEqual(self.wrong("watch", "--interval", "0.009"),
                          "quvctl: --interval takes a number from 0.01 to 86400 (see quvctl help)\n")
 
+    def test_refused(self):
+        errors = [{"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": "DE03104", "text": "No machine"}]
+        with Driver(envelope(0, 5, "GET_STATUS : failed", errors)) as driver:
+            code, out, err = run("watch", "--count", "2", "--interval", "0.01", "--port", str(driver.port))
+        self.assertEqual((code, err), (1, ""))
+        lines = [line[9:] for line in out.splitlines()]
+        self.assertEqual(lines[0], "No status: DE03104: No machine")
+        self.assertRegex(lines[1], "^hint: the driver was started without ")
+        self.assertRegex(lines[2], "^Failed! ")
+        self.assertEqual(len(lines), 3)  # told once
+
     def test_no_driver(self):
         with socket.socket() as closed:
             closed.bind(("127.0.0.1", 0))

@@ -25,13 +25,18 @@ namespace {
 struct Observation
 {
     std::optional<DispenserStatusAnswer> status;
-    QString failure;
+    QStringList failure;
     OrderedJson reply;
 };
 
 Observation noStatus(const QString &why)
 {
-    return {std::nullopt, why, failureReply(why.toStdString())};
+    return {std::nullopt, {why}, failureReply(why.toStdString())};
+}
+
+Observation refused(const RequestRefused &refusal)
+{
+    return {std::nullopt, refusal.lines(), refusal.json()};
 }
 
 Observation observe(const Driver &driver)
@@ -40,14 +45,13 @@ Observation observe(const Driver &driver)
         DispenserStatusCmd command;
         const XmlRpcAnswer &envelope = driver.execute(command);
         if (envelope.retCode() != 0)
-            return {std::nullopt, envelope.toPrintableString().join(QStringLiteral(" ")),
-                    RequestRefused(envelope).json()};
+            return refused(RequestRefused(envelope));
         const auto *status = dynamic_cast<const DispenserStatusAnswer *>(command.getProtoAnswer());
         if (!status)
             return noStatus(QStringLiteral("the answer is no status"));
-        return {*status, QString(), answerReply(command)};
+        return {*status, {}, answerReply(command)};
     } catch (const FW_DriverError &error) {
-        return {std::nullopt, error.toPrintableString(), failureReply(error)};
+        return {std::nullopt, {error.toPrintableString()}, failureReply(error)};
     } catch (const std::exception &error) {
         return noStatus(QString::fromUtf8(error.what()));
     }
@@ -69,7 +73,7 @@ public:
     {
         if (!now.status) {
             if (now.failure != m_failure)
-                tell(QStringLiteral("No status: ") + now.failure, true);
+                tellFailure(now.failure);
             m_failure = now.failure;
             return;
         }
@@ -84,6 +88,12 @@ public:
     }
 
 private:
+    static void tellFailure(const QStringList &lines)
+    {
+        for (int i = 0; i < lines.size(); ++i)
+            tell((i == 0 ? QStringLiteral("No status: ") : QString()) + lines[i], true);
+    }
+
     static void tellAll(const DispenserStatusAnswer &status)
     {
         tell(QStringLiteral("Machine status %1").arg(status.status()), false);
@@ -100,7 +110,7 @@ private:
     }
 
     std::optional<DispenserStatusAnswer> m_last;
-    QString m_failure;
+    QStringList m_failure;
 };
 
 /// An object with the time whenever the status, or the reason that there is none, is another one.
