@@ -571,6 +571,15 @@ class Call(CliTest):
                              "DE00298: Position ID: expected INT parameter\n")
             self.assertEqual(driver.requests, [])
 
+    def test_a_formula_that_is_read_by_a_machine(self):
+        formula = '{"formula_type":1,"quantity_unit":1,"ids":["2"],"quantities":[100]}'
+        with Driver(envelope(0)) as driver:
+            for words, machine in [(("PURGE", formula), "dispenser"), (("GET_LOW_LEVEL_FORMULA", formula), "dispenser"),
+                                   (("CHANNEL_TINT", "1", formula), "dual")]:
+                self.assertIn(f"; --machine tells for which machine the formula is, as in --machine {machine}\n",
+                              self.refused("call", *words, "--port", str(driver.port)))
+            self.assertEqual(driver.requests, [])
+
 
 class JsonFailures(CliTest):
     """What programs get that ask for JSON when something goes wrong: one object, on standard output."""

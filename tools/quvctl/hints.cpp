@@ -22,10 +22,15 @@ constexpr char lowLevels[] = "fill the canister and tell the driver by SET_LEVEL
                              "with quvctl tint --levels-check off";
 constexpr char otherAmounts[] = "quvctl tint --force pours the nearest amounts, and leaves out those of 0";
 
+constexpr char formulaNeedsMachine[] =
+    "--machine tells for which machine the formula is, as in --machine dispenser";
+
 constexpr Hint hints[] = {
     {"DE00060", lowLevels},
     {"DE00061", lowLevels},
-    {"DE00334", "--machine tells for which machine the formula is, as in --machine dispenser"},
+    {"DE00334", formulaNeedsMachine},
+    {"DE01429", "--machine tells for which machine the formula is, as in --machine dual"},
+    {"DE01662", formulaNeedsMachine},
     {"DE03104", "the driver was started without a machine of this kind; quvdriver --machine names them"},
     {"DE03111", "the machine may have poured all the same; what it poured last is told by "
                 "quvctl call GET_DISPENSED_FORMULA 1 1"},
