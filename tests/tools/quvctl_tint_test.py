@@ -516,7 +516,13 @@ class Simulated(unittest.TestCase):
                 for options in [(), ("--token-file", paths["bad"])]:
                     code, out, err = run(*call, *options)
                     self.assertEqual((code, out), (1, ""))
-                    self.assertIn("401", err)
+                    self.assertEqual(err, f"quvctl: 127.0.0.1:{driver.port} answered with the HTTP status 401: The token is "
+                                          "missing or wrong\nhint: --token-file, or QUV_TOKEN_FILE, names the file with the "
+                                          "token that the driver was given\n")
+                formula = json.dumps({"formula_type": 4, "quantity_unit": 3, "ids": ["B"], "quantities": [12.5]})
+                code, out, err = run("call", "TINT", formula, "--port", str(driver.port))
+                self.assertEqual((code, out), (1, ""))
+                self.assertNotIn("may have begun", err)
                 self.assertEqual(run(*call, "--token-file", paths["none"]), (
                     2, "", f'quvctl: Token file "{paths["none"]}": it must hold one line of 16 to 512 characters, without '
                            "blanks (see quvctl help)\n"))

@@ -168,6 +168,15 @@ TEST(XmlRpcClient, saysWhatIsWrongWithTheAnswer)
         const ScriptedServer server("HTTP/1.1 404 Not Found\r\nContent-Length: 2\r\n\r\nno");
         EXPECT_EQ(troubleWith(server.port()), address(server.port()) + " answered with the HTTP status 404");
     }
+    for (const auto &[content, told] : {std::pair{std::string("No\xC3\xA9 \n"), std::string(": No\xC3\xA9")},
+                                        {"two\nlines", ""},
+                                        {std::string(201, 'x'), ""}}) {
+        const ScriptedServer server(
+            "HTTP/1.1 401 Unauthorized\r\nContent-Type: text/plain\r\nContent-Length: " +
+            std::to_string(content.size()) + "\r\n\r\n" + content);
+        EXPECT_EQ(troubleWith(server.port()),
+                  address(server.port()) + " answered with the HTTP status 401" + told);
+    }
     {
         const ScriptedServer server("\x16\x03\x01 rubbish\r\n\r\n");
         EXPECT_EQ(troubleWith(server.port()),

@@ -68,6 +68,8 @@ public:
 
     unsigned status() const { return m_parser.get().result_int(); }
     const std::string &content() const { return m_parser.get().body(); }
+    /// What a program says to people, not a page that it shows them.
+    bool isPlainText() const { return m_parser.get()[http::field::content_type].starts_with("text/plain"); }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -89,6 +91,16 @@ private:
     beast::flat_buffer m_buffer{};
     http::response_parser<http::string_body> m_parser{};
 };
+
+/// Why the server refuses, when it says so in a line; empty otherwise.
+QString reasonIn(Exchange &exchange)
+{
+    if (!exchange.isPlainText() || exchange.readContent())
+        return {};
+    const QString content = QString::fromStdString(exchange.content()).trimmed();
+    constexpr int Longest = 200;
+    return content.size() <= Longest && !content.contains(QLatin1Char('\n')) ? content : QString();
+}
 
 } // namespace
 
@@ -134,9 +146,14 @@ QByteArray XmlRpcClient::post(const QByteArray &document) const
     // Whoever refuses a request may answer, and close, before it has arrived in full.
     const QString closed = QStringLiteral("%1 closed the connection without an answer");
     check(exchange.readHeader(), closed);
-    if (exchange.status() != static_cast<unsigned>(http::status::ok))
-        throw TransportError(
-            QStringLiteral("%1 answered with the HTTP status %2").arg(server).arg(exchange.status()));
+    if (exchange.status() != static_cast<unsigned>(http::status::ok)) {
+        const QString reason = reasonIn(exchange);
+        throw HttpRefusal(exchange.status(),
+                          QStringLiteral("%1 answered with the HTTP status %2%3")
+                              .arg(server)
+                              .arg(exchange.status())
+                              .arg(reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
+    }
     check(exchange.readContent(), closed);
     return QByteArray::fromStdString(exchange.content());
 }

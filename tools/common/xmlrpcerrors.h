@@ -57,4 +57,18 @@ public:
     explicit TransportError(const QString &text) : std::runtime_error(text.toStdString()) {}
 };
 
+/// An HTTP status other than 200 in the place of an answer.
+class HttpRefusal : public TransportError
+{
+public:
+    HttpRefusal(unsigned status, const QString &text) : TransportError(text), m_status(status) {}
+
+    unsigned status() const { return m_status; }
+    /// The request was not carried out: the server found it wrong.
+    bool isOfRequest() const { return m_status >= 400 && m_status < 500; }
+
+private:
+    unsigned m_status = 0;
+};
+
 } // namespace quv

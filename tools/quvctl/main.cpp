@@ -96,6 +96,12 @@ Failure failureCaught()
                 WrongUsage};
     } catch (const RequestRefused &refusal) {
         return {refusal.lines(), refusal.json()};
+    } catch (const HttpRefusal &refusal) {
+        Failure failure = failureOf(QString::fromUtf8(refusal.what()));
+        if (refusal.status() == 401)
+            failure.lines.append(QStringLiteral("hint: --token-file, or QUV_TOKEN_FILE, names the file with "
+                                                "the token that the driver was given"));
+        return failure;
     } catch (const FW_DriverError &error) {
         return {{error.toPrintableString()}, failureReply(error)};
     } catch (const FaultException &error) {

@@ -164,6 +164,10 @@ const XmlRpcAnswer &startOnMachine(const Driver &driver, ProtoCommand &command, 
     const OnInterrupt onInterrupt(hint, line.isSet("json"));
     try {
         return driver.start(command);
+    } catch (const HttpRefusal &refusal) {
+        if (!refusal.isOfRequest())
+            printError(hint);
+        throw;
     } catch (const TransportError &error) {
         if (!QByteArray(error.what()).startsWith("Cannot connect"))
             printError(hint);
