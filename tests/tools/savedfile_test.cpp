@@ -129,6 +129,23 @@ TEST_F(SavedFileTest, aLockKnowsAFileByAllItsNames)
     EXPECT_EQ(failureOf([&] { const FileLock second(path("file")); }), "another process uses it");
 }
 
+TEST_F(SavedFileTest, aLockKnowsAFileThatIsStillToCome)
+{
+    ASSERT_TRUE(QFile::link(path("file"), path("link")));
+    ASSERT_TRUE(QFile::link(QStringLiteral("link"), path("second"))); // relative, to a link
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("folder")));
+    ASSERT_TRUE(QFile::link(path("folder"), path("other")));
+    const FileLock lock(path("file"));
+    for (const char *name : {"link", "second"})
+        EXPECT_EQ(failureOf([&] { const FileLock again(path(name)); }), "another process uses it") << name;
+    const FileLock inFolder(path("folder/file"));
+    EXPECT_EQ(failureOf([&] { const FileLock again(path("other/file")); }), "another process uses it");
+    ASSERT_TRUE(QFile::link(path("round"), path("round")));
+    EXPECT_EQ(failureOf([&] { const FileLock turning(path("round")); }), ""); // whoever saves it is refused
+    saveFile(path("second"), "x");
+    EXPECT_EQ(loadFile(path("file"), 10), "x"); // what is locked is what is written
+}
+
 TEST_F(SavedFileTest, whatAProcessLeftBehindIsNoLock)
 {
     saveFile(path("file.lock"), "");

@@ -35,6 +35,19 @@ void openForSaving(QSaveFile &file)
         throw FileError(file.errorString());
 }
 
+/// The one name of a file that may have several, through links as well, and that may be still to come.
+QString oneName(const QString &path)
+{
+    QFileInfo info(path);
+    constexpr int MostLinks = 40; // as the system follows
+    for (int links = 0; info.isSymLink() && !info.exists() && links < MostLinks; ++links)
+        info.setFile(info.symLinkTarget());
+    if (info.exists())
+        return info.canonicalFilePath();
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? info.absoluteFilePath() : folder + QLatin1Char('/') + info.fileName();
+}
+
 bool isSameFile(const struct stat &one, const struct stat &other)
 {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
@@ -87,10 +100,7 @@ void checkSavable(const QString &path)
 
 FileLock::FileLock(const QString &path)
 {
-    // one file may have several names
-    const QFileInfo info(path);
-    const QString name = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
-    m_path = QFile::encodeName(name + QStringLiteral(".lock"));
+    m_path = QFile::encodeName(oneName(path) + QStringLiteral(".lock"));
     constexpr mode_t Mode = 0644;
     while (true) {
         m_file = ::open(m_path, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, Mode);
