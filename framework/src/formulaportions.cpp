@@ -52,6 +52,16 @@ Sources::Entry *chosen(Sources &sources, Sources::Entry *first, int unit)
     return able;
 }
 
+/** Enough of an ID to find it; one that nobody has may be of any length. */
+QString quoted(const QString &id)
+{
+    constexpr int most = 40;
+    if (id.size() <= most)
+        return id;
+    const bool splitsPair = id.at(most - 1).isHighSurrogate();
+    return id.left(splitsPair ? most - 1 : most) + QStringLiteral("...");
+}
+
 } // namespace
 
 namespace quv {
@@ -117,7 +127,7 @@ bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, std::vect
         const FormulaItem &item = formula.items().at(i);
         if (!named[i])
             return fail(error, "DE03021",
-                        QStringLiteral("Formula: the dispenser does not have \"%1\"").arg(item.id));
+                        QStringLiteral("Formula: the dispenser does not have \"%1\"").arg(quoted(item.id)));
         Sources::Entry *entry = chosen(sources, named[i], formula.quantityUnit());
         if (!entry)
             return fail(error, "DE03022", QStringLiteral("Formula: \"%1\" is disabled").arg(item.id));

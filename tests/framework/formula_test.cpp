@@ -624,6 +624,12 @@ TEST(Formula, whatTheDispenserDoesNotHave)
         expectError(formulaOf(type, Formula::WeightOrVolume, {{QString::fromLatin1(id), 1}}), &machine,
                     "DE03021", text);
     }
+    const std::string longest(40, 'x');
+    const std::string begin = "Formula: the dispenser does not have \"" + longest;
+    for (const auto &[id, text] : {std::pair{longest, begin + "\""}, {longest + "y", begin + "...\""}})
+        expectError(
+            formulaOf(Formula::ColorantCodes, Formula::WeightOrVolume, {{QString::fromStdString(id), 1}}),
+            &machine, "DE03021", text.c_str());
 }
 
 TEST(Formula, whatIsDisabled)

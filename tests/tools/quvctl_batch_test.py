@@ -276,6 +276,14 @@ class Encode(BatchTest):
         self.encode(bad('"args": null is no value of the protocol'), name="GET_STATUS", args=[None])
         self.encode(bad('"family" must be a whole number'), name="GET_STATUS", family="1")
 
+    def test_texts_quote_forty_characters(self):
+        name = "x" * 100000
+        for machine, colorant in [(name, "B"), ("dispenser", name)]:
+            formula = {"formula_type": 4, "quantity_unit": 3, "quantities": [1.0], "ids": [colorant]}
+            text = self.ask({"op": "encode", "name": "TINT", "args": [formula], "machine": machine})["text"]
+            self.assertIn('"' + "x" * 40 + '..."', text)
+            self.assertLess(len(text), 200)
+
     def test_machine_file(self):
         with tempfile.TemporaryDirectory() as folder:
             path = os.path.join(folder, "machine.json")

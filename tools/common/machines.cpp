@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "machines.h"
 
+#include "excerpt.h"
 #include "machinefile.h"
 #include "savedfile.h"
 
@@ -192,7 +193,7 @@ std::unique_ptr<FW_Machine> machineByName(const QString &nameOrFile)
         return readMachineFile(contentOf(nameOrFile));
     } catch (const std::runtime_error &error) {
         throw std::runtime_error(QStringLiteral("Machine \"%1\": %2")
-                                     .arg(nameOrFile, QString::fromUtf8(error.what()))
+                                     .arg(excerpt(nameOrFile), QString::fromUtf8(error.what()))
                                      .toStdString());
     }
 }
