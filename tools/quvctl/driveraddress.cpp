@@ -38,28 +38,32 @@ UsageError noAddress(const QString &text, const char *source, const char *why)
 
 ToldHost hostOf(const QString &text, const char *source)
 {
-    static const QRegularExpression form(QStringLiteral(
-        R"(^(?:([A-Za-z][A-Za-z0-9+.-]*)://)?(\[[^\]/\s]+\]|[^:/\[\]\s]+)(?::([^:/]*))?(/.*)?$)"));
+    static const QRegularExpression schemeForm(QStringLiteral("^([A-Za-z][A-Za-z0-9+.-]*)://"));
+    static const QRegularExpression form(
+        QStringLiteral(R"(^(\[[^\]/\s]+\]|[^:/\[\]\s]+)(?::([^:/]*))?(/.*)?$)"));
     static const QRegularExpression numberOfSixthVersion(
         QStringLiteral("^[0-9A-Fa-f.]*(:[0-9A-Fa-f.]*){2,}(%.+)?$"));
     if (numberOfSixthVersion.match(text).hasMatch())
         return {text, std::nullopt, QString()};
-    const QRegularExpressionMatch match = form.match(text);
-    const QString scheme = match.captured(1).toLower();
+    const QRegularExpressionMatch begin = schemeForm.match(text);
+    const QString scheme = begin.captured(1).toLower();
+    const QString rest = text.mid(begin.capturedLength());
+    const QRegularExpressionMatch match = form.match(rest);
     if (scheme == QLatin1String("https"))
         throw noAddress(text, source,
                         "is no address that quvctl can call: it speaks http, without encryption");
-    if (!match.hasMatch() || (!scheme.isEmpty() && scheme != QLatin1String("http")))
-        throw noAddress(text, source, "is no HOST, HOST:PORT or http://HOST:PORT/PATH");
-    if (scheme.isEmpty() && !match.captured(4).isEmpty())
-        throw noAddress(text, source, "has a path, so it begins with http://");
-    if (match.captured(2).contains(QLatin1Char('@')))
+    const bool isHttp = scheme.isEmpty() || scheme == QLatin1String("http");
+    if (isHttp && rest.section(QLatin1Char('/'), 0, 0).contains(QLatin1Char('@')))
         throw noAddress(text, source, "tells a user, which nobody would see");
-    ToldHost told{match.captured(2), std::nullopt, match.captured(4)};
+    if (!isHttp || !match.hasMatch())
+        throw noAddress(text, source, "is no HOST, HOST:PORT or http://HOST:PORT/PATH");
+    if (scheme.isEmpty() && !match.captured(3).isEmpty())
+        throw noAddress(text, source, "has a path, so it begins with http://");
+    ToldHost told{match.captured(1), std::nullopt, match.captured(3)};
     if (told.host.startsWith(QLatin1Char('[')))
         told.host = told.host.mid(1, told.host.size() - 2);
-    if (match.capturedStart(3) >= 0)
-        told.port = portOf(match.captured(3), source);
+    if (match.capturedStart(2) >= 0)
+        told.port = portOf(match.captured(2), source);
     return told;
 }
 
