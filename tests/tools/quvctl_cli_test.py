@@ -884,6 +884,17 @@ class Ticket(CliTest):
                                    env={**os.environ, "LC_ALL": "C.UTF-8"}).stdout.decode("utf-8")
             self.assertEqual(words.split("\0")[:3], ["quvctl", "ticket", ticket_id])
 
+    def test_a_ticket_like_an_option(self):
+        for ticket_id in ("-h", "--wait", "-1"):
+            with Driver(ticket(1)) as driver:
+                with start("ticket", "--wait", "--port", str(driver.port), "--", ticket_id) as process:
+                    self.assertEqual(self.lines(process, 1), "Executing...\n")
+                    process.send_signal(signal.SIGINT)
+                    _, err = process.communicate(timeout=30)
+                hint = err.rstrip("\n").partition("look again with: quvctl ")[2]
+                self.assertEqual(run(*hint.split()), (0, "Executing...\n", ""))
+            self.assertEqual([words[:2] for words in driver.requests], [["GET_CMD_STATUS", ticket_id]] * 2)
+
     def test_driver_that_goes_away(self):
         driver = Driver(ticket(1))
         with self.waiting(driver) as process:

@@ -59,12 +59,15 @@ QString unknownTicketHint()
 
 QString commandLineOf(const QString &id, const CommandLine &line)
 {
-    QString text = QStringLiteral("quvctl ticket ") + shellWord(id);
+    const bool isLikeAnOption = id.startsWith(QLatin1Char('-')); // and comes behind all options
+    QString text = QStringLiteral("quvctl ticket");
+    if (!isLikeAnOption)
+        text += QLatin1Char(' ') + shellWord(id);
     for (const char *option : {"host", "port", "token-file"})
         if (line.isSet(option))
             text += QStringLiteral(" --%1 %2")
                         .arg(QLatin1String(option), shellWord(line.value(option, QString())));
-    return text;
+    return isLikeAnOption ? text + QStringLiteral(" -- ") + shellWord(id) : text;
 }
 
 /// A driver may tell any percentage and any time.
