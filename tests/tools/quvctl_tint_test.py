@@ -608,7 +608,9 @@ class Simulated(unittest.TestCase):
             self.assertEqual((code, err), (0, ""))
             self.assertEqual(out.split("\n")[:3], ["COLORANT  ASKED  POSITION  STEPS", "B         10     2         1080",
                                                    "C         2      3         232"])
-            self.assertEqual(self.tint(driver, "B=1900", "--dry-run")[0], 1)  # as the pour would be refused
+            refused = self.tint(driver, "B=1900", "--dry-run")
+            self.assertEqual(refused, self.tint(driver, "B=1900"))  # as the pour is refused
+            self.assertIn("\nDE03144: Canister 2 ", refused[2])
             with driver.client() as client:
                 report = client.EXEC_B("GET_DISPENSED_FORMULA", 1, 1)["ret_value"]["total_formula"]
         self.assertEqual(report["ids"], [])

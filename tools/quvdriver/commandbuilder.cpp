@@ -6,11 +6,13 @@
 #include "lowlevels.h"
 #include "refusal.h"
 
+#include "base/getcmdestimatedexectimecmd.h"
 #include "catalogue/protocommandlist.h"
 #include "dispensing/turntablepurgeformulacmd.h"
 #include "dispensing/turntabletintcmd.h"
 
 #include <QuvFramework/fw_exception.h>
+#include <QuvFramework/fw_xmlrpc.h>
 
 #include <cmath>
 
@@ -43,6 +45,23 @@ std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcVal
     return std::unique_ptr<ProtoCommand>(Catalogue::getProtoCommand(name, arguments, copy.get()));
 }
 
+/// The canisters that would fall too low by a pour, or by that of which the time is asked for.
+FW_ErrorList lowLevelsOf(const QString &name, const XmlRpc::XmlRpcValue &arguments,
+                         const DrivenMachine *machine)
+{
+    if (Catalogue::erogationCommand(name))
+        return lowLevels(arguments, machine);
+    if (!isNamed(name, Catalogue::GET_CMD_EST_EXEC_TIME))
+        return {};
+    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(arguments, 0);
+    const XmlRpc::XmlRpcValue *asked =
+        request ? FindXmlRpcMember(*request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS) : nullptr;
+    QString pour;
+    return asked && DecodeXmlRpcValue(*asked, 0, pour) && Catalogue::erogationCommand(pour)
+               ? lowLevels(*asked, machine)
+               : FW_ErrorList();
+}
+
 } // namespace
 
 std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
@@ -53,8 +72,7 @@ std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::Xm
         requirePourableAmounts(*command);
         return command;
     } catch (const FW_Exception &error) {
-        const FW_ErrorList canisters =
-            Catalogue::erogationCommand(name) ? lowLevels(arguments, machine) : FW_ErrorList();
+        const FW_ErrorList canisters = lowLevelsOf(name, arguments, machine);
         if (canisters.isEmpty())
             throw;
         FW_ErrorList errors;
