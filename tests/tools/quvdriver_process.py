@@ -66,10 +66,10 @@ class Transport(xmlrpc.client.Transport):
         return connection
 
 
-def run(*options):
+def run(*options, **more):
     """The program until it ends by itself."""
     return subprocess.run([PROGRAM, *options], stdin=subprocess.DEVNULL, capture_output=True, text=True,
-                          timeout=60, check=False)
+                          timeout=60, check=False, **more)
 
 
 def main():

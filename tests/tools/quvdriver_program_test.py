@@ -103,6 +103,7 @@ class ProgramTest(unittest.TestCase):
                               (["--machine", "mixer", "--machine", "mixer"], "one dispenser and one mixer"),
                               (["--trace=xml"], "--trace stands alone, or as --trace=json"),
                               (["--nothing"], "nothing"),
+                              (["--help-all"], "help-all"),
                               (["extra"], 'unexpected argument "extra"')):
             ended = run(*options)
             self.assertEqual(ended.returncode, 2, options)
@@ -155,10 +156,28 @@ class ProgramTest(unittest.TestCase):
                        "--once"):
             self.assertIn(option, told.stdout)
         self.assertRegex(told.stdout, r"(?m)^  -v, -V, --version ")
+        self.assertNotIn("--help-all", told.stdout)
+        self.assertRegex(told.stdout, r"(?m)^  --trace\[=json\] ")
+        for columns in (40, 60, 100):
+            lines = run("-h", env={**os.environ, "COLUMNS": str(columns)}).stdout.splitlines()
+            self.assertEqual([line for line in lines if len(line) > columns], [])
+            self.assertGreater(max(map(len, lines)), columns - 20)
         for option in ("--version", "-V", "-v"):
             told = run(option)
             self.assertEqual((told.returncode, told.stderr), (0, ""), option)
             self.assertRegex(told.stdout, r"^quvdriver \d+\.\d+\.\d+\n$", option)
+
+    def test_output_that_cannot_be_written(self):
+        text = "quvdriver: standard output: No space left on device\n"
+        with open("/dev/full", "w", encoding="ascii") as full:
+            for option in ("--help", "--version"):
+                ended = subprocess.run([quvdriver_process.PROGRAM, option], stdout=full, stderr=subprocess.PIPE, text=True,
+                                       timeout=60, check=False)
+                self.assertEqual((ended.returncode, ended.stderr), (1, text))
+            driver = subprocess.Popen([quvdriver_process.PROGRAM, "--port", "0"], stdout=full, stderr=subprocess.PIPE, text=True)
+        self.assertEqual(driver.stderr.readline(), text)
+        driver.send_signal(signal.SIGTERM)  # it serves all the same
+        self.assertEqual((driver.communicate(timeout=60)[1], driver.returncode), ("", 0))
 
 
 if __name__ == "__main__":

@@ -6,6 +6,7 @@
 #include "callthreads.h"
 #include "httpaccess.h"
 #include "machines.h"
+#include "terminal.h"
 #include "trace.h"
 #include "xmlrpcserver.h"
 
@@ -47,9 +48,12 @@ struct Options
     std::optional<quv::Trace::Form> trace{};
 };
 
+/// The parser's own has a second option beside it, of which nothing here knows.
+const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
+                                    QStringLiteral("This help."));
 /// -V as in quvctl, where -v is another option.
 const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("V"), QStringLiteral("version")},
-                                       QStringLiteral("Displays version information."));
+                                       QStringLiteral("The version."));
 const QCommandLineOption hostOption(QStringLiteral("host"),
                                     QStringLiteral("Address to listen on (default 127.0.0.1)."),
                                     QStringLiteral("ADDRESS"), QStringLiteral("127.0.0.1"));
@@ -86,16 +90,53 @@ const QCommandLineOption traceOption(
     QStringLiteral("trace"),
     QStringLiteral("Tell each call and each exchange with a firmware on standard error: alone for "
                    "people, or as --trace=json in JSON lines."),
-    QStringLiteral("json"));
+    QStringLiteral("[=json]"));
 const QCommandLineOption onceOption(QStringLiteral("once"), QStringLiteral("Answer one call, then end."));
 
-void describe(QCommandLineParser &parser)
+const QList<QCommandLineOption> knownOptions{helpOption,    versionOption, hostOption,  portOption,
+                                             machineOption, speedOption,   stateOption, firmwareOption,
+                                             tokenOption,   openOption,    traceOption, onceOption};
+
+/// The option as it is typed.
+QString headOf(const QCommandLineOption &option)
 {
-    parser.setApplicationDescription(
-        QStringLiteral("Owns simulated machines and carries out their commands, called by XML-RPC."));
-    parser.addHelpOption();
-    parser.addOptions({versionOption, hostOption, portOption, machineOption, speedOption, stateOption,
-                       firmwareOption, tokenOption, openOption, traceOption, onceOption});
+    QStringList names;
+    for (const QString &name : option.names())
+        names.append((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
+    const QString value = option.valueName();
+    const bool needsBlank = !value.isEmpty() && !value.startsWith(QLatin1Char('['));
+    return names.join(QStringLiteral(", ")) + (needsBlank ? QStringLiteral(" ") : QString()) + value;
+}
+
+void printHelp()
+{
+    using quv::printLine;
+    const int columns = quv::columnsOfText();
+    printLine(QStringLiteral("Usage: quvdriver [options]"));
+    printLine(QString());
+    quv::printParagraph(
+        QStringLiteral("Owns simulated machines and carries out their commands, called by XML-RPC."),
+        quv::Colour::Plain, columns);
+    printLine(QString());
+    printLine(QStringLiteral("Options:"));
+    quv::Columns table;
+    for (const QCommandLineOption &option : knownOptions)
+        table.add({headOf(option), option.description()});
+    table.printBroken(2, columns);
+}
+
+/// Tells why standard output did not take what was written, if so.
+void tellOutputFailure()
+{
+    if (const QString failure = quv::outputFailure(); !failure.isEmpty())
+        std::fprintf(stderr, "quvdriver: %s\n", qPrintable(failure));
+}
+
+/// The exit status of a run that only prints.
+int statusOfOutput()
+{
+    tellOutputFailure();
+    return quv::outputFailure().isEmpty() ? Done : Failed;
 }
 
 /// The parser knows no option whose value may be left out.
@@ -253,8 +294,8 @@ void run(const Options &options)
     }
 
     std::signal(SIGPIPE, SIG_IGN);
-    std::printf("listening on %s:%d\n", qPrintable(options.server.host), server.port());
-    std::fflush(stdout);
+    quv::printLine(QStringLiteral("listening on %1:%2").arg(options.server.host).arg(server.port()));
+    tellOutputFailure(); // whoever knows the port needs no more
     std::thread serving = quv::startQuietThread([&server] {
         server.run();
         EndSignals::send(); // when it has ended by itself
@@ -277,16 +318,16 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(QUV_VERSION));
     try {
         QCommandLineParser parser;
-        describe(parser);
+        parser.addOptions(knownOptions);
         if (!parser.parse(withTraceValue(QCoreApplication::arguments())))
             throw Usage(parser.errorText().toStdString());
-        if (parser.isSet(QStringLiteral("help"))) {
-            std::fputs(qPrintable(parser.helpText()), stdout);
-            return Done;
+        if (parser.isSet(helpOption)) {
+            printHelp();
+            return statusOfOutput();
         }
         if (parser.isSet(versionOption)) {
-            std::puts("quvdriver " QUV_VERSION);
-            return Done;
+            quv::printLine(QStringLiteral("quvdriver " QUV_VERSION));
+            return statusOfOutput();
         }
         run(readOptions(parser));
         return Done;
