@@ -79,7 +79,8 @@ class WebPageTest(unittest.TestCase):
         for host in (None, "localhost", f"LOCALHOST:{port}", "127.0.0.1", "127.9.8.7:1", "[::1]", f"[::1]:{port}", "::1"):
             self.assertEqual(self.status({"Host": host}), 200, host)
         for host in ("evil.example", f"evil.example:{port}", "localhost.evil.example", "127.0.0.1.evil.example", "",
-                     "192.168.0.1", "128.0.0.1", "[::2]", "[", "localhost:1:2", "0.0.0.0", "127.1"):
+                     "192.168.0.1", "128.0.0.1", "[::2]", "[", "localhost:1:2", "0.0.0.0", "127.1", "localhost:80@evil.example", "localhost:80x", ":80",
+                     "[::1]evil.example", "[::1]:80x", "[127.0.0.1", "[]"):
             self.assertEqual(self.status({"Host": host}), 421, host)
 
     def test_what_is_refused_is_told_in_a_line(self):

@@ -135,6 +135,8 @@ TEST_F(XmlRpcServerTest, answersOnAnyPath)
 {
     for (const char *path : {"/", "/RPC2", "/a/b?c=d", "/%20%ff"})
         EXPECT_THAT(answerTo(post(GoodCall, "Connection: close\r\n", path)), HasSubstr(GoodReply)) << path;
+    for (const char *target : {"http://evil.example/", "http://localhost/", "RPC2", "*"})
+        EXPECT_THAT(answerTo(post(GoodCall, "", target)), StartsWith("HTTP/1.1 400")) << target;
     const std::string longPath = "/" + std::string(8000, 'a');
     EXPECT_THAT(answerTo(post(GoodCall, "", longPath)), StartsWith("HTTP/1.1 414"));
 }
@@ -242,6 +244,11 @@ TEST_F(XmlRpcServerTest, refusesLengthsThatMakeNoSense)
     EXPECT_THAT(
         answerTo("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nTransfer-Encoding: gzip\r\n\r\n" + GoodCall),
         StartsWith("HTTP/1.1 501"));
+    for (const char *encodings : {"gzip, chunked", "chunked, chunked"})
+        EXPECT_THAT(answerTo(std::string("POST / HTTP/1.1\r\nContent-Type: text/xml\r\nTransfer-Encoding: ") +
+                             encodings + "\r\n\r\n" + chunk(GoodCall) + "0\r\n\r\n"),
+                    testing::Not(HasSubstr(" 200 ")))
+            << encodings;
     for (const char *size : {"zz", "-5", "ffffffffffffffff", "fffffffffffffffff"})
         EXPECT_THAT(
             answerTo(std::string(

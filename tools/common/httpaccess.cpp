@@ -30,11 +30,22 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+/// What may stand behind a host: nothing, or a port.
+bool isPort(std::string_view rest)
+{
+    return rest.empty() || (rest.front() == ':' && rest.find_first_not_of("0123456789", 1) == rest.npos);
+}
+
+/// Empty for what is no host with or without a port.
 std::string_view withoutPort(std::string_view host)
 {
-    if (!host.empty() && host.front() == '[')
-        return host.substr(1, host.find(']') - 1);
-    return host.find(':') == host.rfind(':') ? host.substr(0, host.find(':')) : host;
+    const bool isBracketed = !host.empty() && host.front() == '[';
+    const auto end = isBracketed ? host.find(']') : std::min(host.find(':'), host.size());
+    if (!isBracketed && host.find(':') != host.rfind(':'))
+        return host; // a number of version 6 as it is
+    if (end == host.npos || !isPort(host.substr(isBracketed ? end + 1 : end)))
+        return {};
+    return isBracketed ? host.substr(1, end - 1) : host.substr(0, end);
 }
 
 bool isLoopback(const std::string &address)
@@ -66,6 +77,8 @@ bool isVisible(char character)
 bool namesThisComputer(std::string_view host, std::string_view own)
 {
     const std::string_view name = withoutPort(trimmed(host));
+    if (name.empty())
+        return false;
     return equal(name, "localhost") || isLoopback(std::string(name)) || equal(name, own);
 }
 

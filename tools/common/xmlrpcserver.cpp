@@ -137,7 +137,8 @@ Refusal refusalOf(const error_code &error, bool isHeaderDone, beast::string_view
 std::optional<Refusal> lengthRefusal(const Parser &parser)
 {
     const auto &header = parser.get();
-    if (header.count(http::field::transfer_encoding) > 0 && !parser.chunked())
+    const auto encoding = header[http::field::transfer_encoding];
+    if (header.count(http::field::transfer_encoding) > 0 && !beast::iequals(encoding, "chunked"))
         return Refusal{501, "The transfer encoding is not supported"};
     if (!parser.chunked() && !parser.content_length())
         return Refusal{411, "The length of the content is not told"};
@@ -187,6 +188,9 @@ std::optional<Refusal> headerRefusal(const Parser &parser, const Access &access)
         return Refusal{405, "Only POST is allowed"};
     if (header.target().size() > MaxPathLength)
         return Refusal{414, "The path is too long"};
+    if (header.target().empty() || header.target().front() != '/')
+        return Refusal{400,
+                       "The path begins with /"}; // another host's name would tell more than the header Host
     if (header.count(http::field::range) > 0)
         return Refusal{400, "Ranges are not supported"};
     if (auto refusal = accessRefusal(header, access))
