@@ -115,6 +115,9 @@ class General(CliTest):
     def test_wrong_usage(self):
         self.assertEqual(self.wrong(), "quvctl: a subcommand is missing (see quvctl help)\n")
         self.assertEqual(self.wrong("fly"), 'quvctl: there is no subcommand "fly" (see quvctl help)\n')
+        for option in ["-v", "--quiet"]:
+            self.assertEqual(self.wrong(option, "call", "GET_STATUS"),
+                             f'quvctl: there is no subcommand "{option}"; options stand behind the subcommand (see quvctl help)\n')
         self.assertEqual(self.wrong("show"), "quvctl: show needs NAME (see quvctl help)\n")
         self.assertEqual(self.wrong("show", "TINT", "PACK"), 'quvctl: unexpected "PACK" (see quvctl help)\n')
         self.assertEqual(self.wrong("list", "--wings"), "quvctl: Unknown option 'wings'. (see quvctl help)\n")

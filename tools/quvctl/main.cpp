@@ -31,6 +31,9 @@ const Subcommand &subcommandOf(const QString &name)
     for (const Subcommand *subcommand : subcommands)
         if (name == QLatin1String(subcommand->name))
             return *subcommand;
+    if (name.startsWith(QLatin1Char('-')))
+        throw UsageError(QStringLiteral("there is no subcommand \"%1\"; options stand behind the subcommand")
+                             .arg(excerpt(name)));
     QStringList names(QStringLiteral("help"));
     for (const Subcommand *subcommand : subcommands)
         names.append(QLatin1String(subcommand->name));
