@@ -563,10 +563,10 @@ class Push(ConfigTest):
     def test_driver_that_goes_away(self):
         self.put(HUMIDIFIER_FILE.replace("60", "61"))
         for command, told in [
-                ("WRITE_CONFIG_ROW", r"0 rows written, perhaps \[@HUM\] as well, and not finalised: the firmware forgets them "
+                ("WRITE_CONFIG_ROW", r"0 rows written, perhaps \[@HUM\] as well, and not finalised: the firmware forgets it "
                                      r"when it is switched off"),
-                ("FINALIZE_CONFIG", r"1 row written; nobody knows whether the firmware has finalised them; look with: quvctl "
-                                    r"config diff")]:
+                ("FINALIZE_CONFIG", r"1 row written; nobody knows whether the firmware has finalised that; have it keep it with: "
+                                    r"quvctl call FINALIZE_CONFIG")]:
             with ScriptedDriver({(7, 1): HUMIDIFIER}, silent=command) as driver:
                 code, _, err = self.config(driver, "push", "--yes", "--timeout", "0.5")
             self.assertEqual(code, 1)
@@ -585,7 +585,7 @@ class Push(ConfigTest):
         with ScriptedDriver({(1, 1): "1", (7, 1): HUMIDIFIER}, refusing=[["WRITE_CONFIG_ROW", row]]) as driver:
             code, out, err = self.config(driver, "push", "--yes")
             self.assertEqual((code, out), (1, "[@HUM]\n  cmd_enabled: 1 -> 2\n[@ICS]\n  cmd_enabled: 1 -> 2\n"))
-            self.assertEqual(err, "1 row written, and not finalised: the firmware forgets them when it is switched off\n"
+            self.assertEqual(err, "1 row written, and not finalised: the firmware forgets it when it is switched off\n"
                                   "[@ICS] cannot be written\n"
                                   "Failed! Command not executed due to errors on firmware.\n")
             self.assertEqual(driver.told("FINALIZE_CONFIG"), [])
@@ -595,7 +595,7 @@ class Push(ConfigTest):
         with ScriptedDriver({(7, 1): HUMIDIFIER}, refusing=[["FINALIZE_CONFIG"]]) as driver:
             code, _, err = self.config(driver, "push", "--yes")
         self.assertEqual((code, err), (
-            1, "1 row written, and not finalised: the firmware forgets them when it is switched off\n"
+            1, "1 row written, and not finalised: have it keep it with: quvctl call FINALIZE_CONFIG\n"
                "the configuration cannot be finalised\nFailed! Command not executed due to errors on firmware.\n"))
 
     def test_firmware_that_does_not_take_it(self):

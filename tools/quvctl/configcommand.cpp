@@ -58,6 +58,20 @@ QString rowsInWords(std::size_t count)
     return inWords(count, "row", "rows");
 }
 
+/// What becomes of rows that were written only; a machine keeps them when it is told to.
+QString notFinalised(std::size_t rows)
+{
+    return QStringLiteral("the firmware forgets %1 when it is switched off")
+        .arg(QLatin1String(rows == 1 ? "it" : "them"));
+}
+
+/// How to have it do what a push without differences does not.
+QString finaliseHint(std::size_t rows)
+{
+    return QStringLiteral("have it keep %1 with: quvctl call FINALIZE_CONFIG")
+        .arg(QLatin1String(rows == 1 ? "it" : "them"));
+}
+
 /// What \a work gives; its failures tell the file, as an \a Error.
 template <class Error = FileError, class Work>
 auto onFile(const QString &path, Work work)
@@ -192,23 +206,19 @@ void write(const std::vector<RowChange> &changes, const FirmwareConfiguration &f
         }
         firmware.finalise();
     } catch (const TransportError &) {
-        printError(written == changes.size()
-                       ? QStringLiteral(
-                             "%1 written; nobody knows whether the firmware has finalised them; look with: "
-                             "quvctl config diff")
-                             .arg(rowsInWords(written))
-                       : QStringLiteral(
-                             "%1 written, perhaps %2 as well, and not finalised: the firmware forgets them "
-                             "when it is switched off")
-                             .arg(rowsInWords(written), headingOf(changes[written].row)));
+        printError(
+            written == changes.size()
+                ? QStringLiteral("%1 written; nobody knows whether the firmware has finalised that; %2")
+                      .arg(rowsInWords(written), finaliseHint(written))
+                : QStringLiteral("%1 written, perhaps %2 as well, and not finalised: %3")
+                      .arg(rowsInWords(written), headingOf(changes[written].row), notFinalised(written + 1)));
         throw;
     } catch (...) {
-        printError(
-            written == 0
-                ? QStringLiteral("no row was written, and nothing is changed")
-                : QStringLiteral(
-                      "%1 written, and not finalised: the firmware forgets them when it is switched off")
-                      .arg(rowsInWords(written)));
+        printError(written == 0
+                       ? QStringLiteral("no row was written, and nothing is changed")
+                       : QStringLiteral("%1 written, and not finalised: %2")
+                             .arg(rowsInWords(written),
+                                  written == changes.size() ? finaliseHint(written) : notFinalised(written)));
         throw;
     }
 }
