@@ -344,6 +344,7 @@ class File(ConfigTest):
     def test_machine(self):
         self.wrong_below(1, 'the machine is a dispenser or a mixer, not "boat"', "machine = boat\n")
         self.wrong_below(2, "the machine stands here for the second time", "machine = mixer\nmachine=mixer\n")
+        self.wrong_below(3, "the machine stands above all rows", "[@HUM]\ncmd_enabled = 0\nmachine = dispenser\n")
 
     def test_what_is_passed_over(self):
         self.put("# mine\r\n\r\nquvctl configuration 1\r\n  [@HUM]  \r\n\t# slow\r\n"

@@ -169,6 +169,9 @@ private:
             return;
         if (m_rows.empty())
             refuse(QStringLiteral("a field stands below the heading of its structure, such as [@HUM]"));
+        static const QRegularExpression machine(QStringLiteral(R"(^machine\s*=)"));
+        if (machine.match(line).hasMatch())
+            refuse(QStringLiteral("the machine stands above all rows"));
         const int equals = line.indexOf(QLatin1Char('='));
         if (equals < 0)
             refuse(QStringLiteral("this is no line \"label = value\""));
