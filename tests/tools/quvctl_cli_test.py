@@ -302,6 +302,14 @@ class Encode(CliTest):
                  '"2" needs a name, as it stands behind an argument with one')]:
             self.assertEqual(self.wrong("encode", *words), f"quvctl: {text} (see quvctl help)\n")
 
+    def test_which_words_are_strings(self):
+        help_text = " ".join(self.done("help", "call").split())
+        self.assertIn('such as 5, true or "5", which is a string; so is a word that is none, such as 05 or KX.', help_text)
+        for word, text in [('"5"', "5"), ("05", "05"), ("KX", "KX"), ('"true"', "true")]:
+            self.assertEqual(self.request("GET_CMD_STATUS", word), ["GET_CMD_STATUS", text])
+        for word in ["5", "true"]:
+            self.assertRegex(self.refused("encode", "GET_CMD_STATUS", word), "^DE0")
+
     def test_arguments_that_are_no_json(self):
         self.assertTrue(self.wrong("encode", "GET_STATUS", "[1").startswith("quvctl: argument [1: no JSON: "))
         self.wrong("encode", "GET_STATUS", '{"a"}')

@@ -117,11 +117,12 @@ const Subcommand callSubcommand = {
     "sends a command to a driver",
     "Sends a command to a driver, waits until it has been carried out, and shows the answer. What takes\n"
     "long gets a ticket, and how far it is is shown meanwhile; Ctrl-C ends the waiting only. An argument\n"
-    "is a JSON value; a word that is none is a string. quvctl show NAME tells the arguments' names, by\n"
-    "which they can be given as well: position=3. With --async it shows a ticket and does not wait:\n"
-    "quvctl ticket asks for the answer. The driver has the machine; a few commands read their formula\n"
-    "by one here too, and --machine tells them which. Nothing is sent when a whole argument would\n"
-    "be lost on the way.",
+    "is a JSON value, such as 5, true or \"5\", which is a string; so is a word that is none, such as 05 or\n"
+    "KX. What begins with a bracket, a brace or a quotation mark is to be JSON. quvctl show NAME tells the\n"
+    "arguments' names, by which they can be given as well: position=3. With --async it shows a ticket and\n"
+    "does not wait: quvctl ticket asks for the answer. The driver has the machine; a few commands read\n"
+    "their formula by one here too, and --machine tells them which. Nothing is sent when a whole argument\n"
+    "would be lost on the way.",
     1,
     -1,
     withDriverOptions({machineOption,

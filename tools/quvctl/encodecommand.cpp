@@ -66,7 +66,7 @@ const Subcommand encodeSubcommand = {
     "NAME [ARGUMENT...]",
     "a command as it travels",
     "Makes a command and shows its XML-RPC request and, when the firmware carries it out, its code and\n"
-    "integers. An argument is a JSON value; a word that is none is a string; one that would not travel is\n"
+    "integers. An argument is a JSON value, or a string as in quvctl call; one that would not travel is\n"
     "refused. quvctl show NAME tells the arguments' names, by which they can be given as well: position=3.",
     1,
     -1,
