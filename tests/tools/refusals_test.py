@@ -487,7 +487,9 @@ class Described(Collected):
                                 .as(cutToInt()).otherType({"DE00003", "bad"}).meaning("s"),
                             quv::Member<Answer>("ids", &Answer::m_ids, {"DE00004", "no"})
                                 .meaning("circuits").element({"DE00005", "bad"}),
-                            {"rest", &Answer::m_rest, {"DE00006", "no"}, {"DE00007", "no"}}};
+                            {"rest", &Answer::m_rest, {"DE00006", "no"}, {"DE00007", "no"}},
+                            quv::Member<Answer>::writtenWhenFilled("masks", &Answer::m_masks, {"DE00008", "no"},
+                                                                   {"DE00009", "no"}).meaning("of each")};
                 }
             };
             ''', record=REFUSAL + '''
@@ -496,6 +498,9 @@ class Described(Collected):
             public:
                 template <class C, class V>
                 Member(const char *key, V C::*field, const Refusal &refusal = {}, const Refusal &inList = {}) { go(); }
+                template <class C, class V>
+                static Member writtenWhenFilled(const char *key, V C::*field, const Refusal &refusal = {},
+                                                const Refusal &inList = {}) { go(); }
                 Member &otherType(const Refusal &refusal) { return *this; }
                 Member &element(const Refusal &refusal) { return *this; }
             private:
@@ -508,7 +513,28 @@ class Described(Collected):
              ("DE00004", "XML-RPC value", "ids", "missing or another type", made),
              ("DE00005", "XML-RPC value", "ids", "an element of another type", made),
              ("DE00006", "XML-RPC value", "rest", "missing or another type", made),
-             ("DE00007", "list", "rest", "missing or another type", made)])
+             ("DE00007", "list", "rest", "missing or another type", made),
+             ("DE00008", "XML-RPC value", "masks", "another type", made),
+             ("DE00009", "list", "masks", "missing or another type", made)])
+
+    def test_answer_that_a_class_makes_in_part_by_itself(self):
+        self.assertEqual(self.places('''
+            struct FooCmd::Description : quv::Description
+            {
+                static constexpr AnsweredBy<FooAnswer> answer = {{"DE00001", "failed"}, {"DE00002", "failed"},
+                                                                 {"DE00003", "failed"}, {"DE00004", "failed"}};
+            };
+            bool FooCmd::buildProtoAnswer(QStringList tokens, FW_DriverError *error)
+            {
+                const quv::Refusal &failed = Description::answer.tokens;
+                return replaceProtoAnswer(failed.code, failed.text, error, [&] { return new FooAnswer(tokens, m_process); });
+            }
+            ''', base=REFUSAL + '''
+            template <class Answer> struct AnsweredBy { Refusal tokens; Refusal value; Refusal list; Refusal envelope; };
+            '''), [("DE00001", "answer, tokens", "the answer", "", ("FooCmd::buildProtoAnswer",)),
+                   ("DE00002", "answer, XML-RPC value", "the answer", "", ("FooCmd::buildProtoAnswer",)),
+                   ("DE00003", "answer, list", "the answer", "", ("FooCmd::buildProtoAnswer",)),
+                   ("DE00004", "answer, envelope", "the answer", "", ("FooCmd::setAnswer",))])
 
     def test_flags_that_are_required(self):
         found = self.refusals('''

@@ -16,6 +16,7 @@ ARGUMENT_WORDS = {("required", "absent"): "missing", ("required", "otherType"): 
                   ("refuseUnless", "refusal"): "out of range"}
 NAMING = {"required", "optional", "convertible", "object", "unread"}  # operations that begin with an argument's name
 MEMBER = "Member"
+MAY_BE_MISSING = "writtenWhenFilled"  # what makes a member that nothing refuses when it is missing
 MEMBER_WORDS = {"otherType": "another type", "element": "an element of another type"}  # operations on a member
 THE_ANSWER = "the answer"
 
@@ -73,11 +74,14 @@ class Descriptions:
         if parameter == "missing":  # what refuses each flag of a table
             return self.raised_by_constructors(group, VALUE, "", "")
         if parameter not in ("refusal", "inList") or \
-                not any(one.name == MEMBER for one in handed_to(self.sources, group)):
+                not any(one.owners[-1:] == (MEMBER,) for one in handed_to(self.sources, group)):
             return None
-        has_other = parameter == "refusal" and "otherType" in operations_on(group)
-        return self.raised_by_constructors(group, LIST if parameter == "inList" else VALUE, self.name_in(group),
-                                           "missing" if has_other else "missing or another type")
+        when = "missing or another type"
+        if parameter == "refusal" and operation == MAY_BE_MISSING:
+            when = "another type"
+        elif parameter == "refusal" and "otherType" in operations_on(group):
+            when = "missing"
+        return self.raised_by_constructors(group, LIST if parameter == "inList" else VALUE, self.name_in(group), when)
 
     def parameter_of(self, group, index, name):
         """The name of what stands in a place of a list, in the description's function of that name; None anywhere else."""

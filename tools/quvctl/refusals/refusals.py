@@ -305,15 +305,16 @@ class Collector:
         if function:
             return self.users_of_function(function.outermost, raised, seen)
         name = declared_name(node)
+        variable = declared_with(self.sources, name)
+        if variable and is_described(variable.owners) and ANSWER in raised.steps():
+            # the layer reads it, whoever else does
+            return [(variable.owners[0], answering_function(variable.owners, raised.form), "")]
         uses = [use for use in uses_of(self.sources, name) if id(use) not in seen]
         fitting = [use for use in uses if self.leads_to(use, raised)]
         found = unique(user for use in fitting or uses for user in self.users(use, raised, seen | {id(use)}))
-        variable = declared_with(self.sources, name)
         path = node.root().path
         owner = variable.owners[0] if variable and variable.owners else self.class_of_file(path) or stem(path)
         place = "::".join([*variable.owners, variable.name]) if variable else ""
-        if variable and is_described(variable.owners) and ANSWER in raised.steps():
-            place = answering_function(variable.owners, raised.form)
         return in_one_form(found, raised.form) or [(owner, place, "")]
 
     def users_of_function(self, function, raised, seen):
