@@ -43,6 +43,8 @@ using PlainlyAnswered = AnsweredBy<void>;
 struct Description
 {
     static constexpr PlainlyAnswered answer{};
+    // True for an answer that needs more than the tokens: the class then builds it in an operation of its own.
+    static constexpr bool buildsAnswerOfTokens = false;
     static constexpr const char *commandText = nullptr;
     // Marked with QT_TRANSLATE_NOOP. Without a detailed one the other is told in both cases.
     static constexpr const char *actionText = nullptr;
@@ -115,15 +117,25 @@ private:
     const void *const *m_next = nullptr;
 };
 
+/** The class that has the operation of its own, by a pointer to it. */
+template <class Class>
+Class *ownerOf(bool (Class::*buildOfTokens)(QStringList, FW_DriverError *));
+
 template <class Leaf, class Base>
 bool TokenAnswered<Leaf, Base, true>::buildProtoAnswer(QStringList tokens, FW_DriverError *error)
 {
-    // an answer that needs more than the tokens is made by the class itself
-    if constexpr (isGiven(answerOf<Leaf>.tokens) && std::is_constructible_v<AnswerOf<Leaf>, QStringList>)
+    if constexpr (Leaf::Description::buildsAnswerOfTokens) {
+        static_assert(std::is_same_v<decltype(ownerOf(&Leaf::buildProtoAnswer)), Leaf *>,
+                      "the class has to override it");
+        return Base::buildProtoAnswer(std::move(tokens), error);
+    } else if constexpr (isGiven(answerOf<Leaf>.tokens)) {
+        static_assert(std::is_constructible_v<AnswerOf<Leaf>, QStringList>,
+                      "tokens alone make no such answer: set buildsAnswerOfTokens");
         return this->replaceProtoAnswer(answerOf<Leaf>.tokens.code, answerOf<Leaf>.tokens.text, error,
                                         [&] { return new AnswerOf<Leaf>(std::move(tokens)); });
-    else
+    } else {
         return Base::buildProtoAnswer(std::move(tokens), error);
+    }
 }
 
 template <class Leaf, class Base>

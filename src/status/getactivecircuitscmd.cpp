@@ -28,6 +28,7 @@ struct GetActiveCircuitsCmd::Description : quv::Description
                                                                         {"DE02454", answerFailed},
                                                                         {"DE02455", answerFailed},
                                                                         {"DE02457", answerFailed}};
+    static constexpr bool buildsAnswerOfTokens = true; // they do not tell what a circuit's second value is
 
     template <class Self, class Archive>
     static void arguments(Self &self, Archive &archive)
@@ -68,7 +69,6 @@ QList<int> GetActiveCircuitsCmd::serialParameters(int) const
 
 bool GetActiveCircuitsCmd::buildProtoAnswer(QStringList tokens, FW_DriverError *error)
 {
-    // what a circuit's second value is, the tokens do not tell
     const quv::Refusal &failed = Description::answer.tokens;
     return replaceProtoAnswer(failed.code, failed.text, error, [&] {
         return new GetActiveCircuitsAnswer(std::move(tokens), circuitProcess());
