@@ -47,6 +47,11 @@ SensorDataCmd *SensorDataCmd::clone() const
     return new SensorDataCmd(*this);
 }
 
+void SensorDataCmd::setDefaults()
+{
+    m_sensorData.setDefaults();
+}
+
 QList<int> SensorDataCmd::serialParameters(int) const
 {
     return {m_sensorData.sensorType, m_sensorData.measureType};

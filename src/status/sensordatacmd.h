@@ -19,7 +19,7 @@ public:
     explicit SensorDataCmd(QList<QVariant> list);
 
     SensorDataCmd *clone() const override;
-    using DescribedCommand::setDefaults;
+    void setDefaults(); ///< of all the data, the value too
 
     const SensorData &sensorData() const { return m_sensorData; }
 

@@ -82,6 +82,9 @@ TEST(SensorDataCmd, keepsTheDataThatItIsMadeOf)
     EXPECT_EQ(SensorDataCmd(SensorData(7, 2, 3.5)).sensorData(), SensorData(7, 2, 3.5));
     EXPECT_EQ(SensorDataCmd(sensor(7), measure(2)).sensorData(), SensorData(7, 2, 0));
     EXPECT_EQ(SensorDataCmd(List{7, 2}).sensorData(), SensorData(7, 2, 0));
+    SensorDataCmd command(SensorData(7, 2, 3.5));
+    command.setDefaults();
+    EXPECT_EQ(command.sensorData(), SensorData(-1, 0, 0));
 }
 
 TEST(SensorDataCmd, isExplainedWithASensorThatMustBeGiven)
