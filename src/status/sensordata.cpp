@@ -4,6 +4,7 @@
 #include "base/record_p.h"
 #include "base/tokens_p.h"
 #include "base/wire_p.h"
+#include "status/sensordata_p.h"
 
 #include <QuvFramework/fw_serial.h>
 
@@ -12,13 +13,9 @@ namespace {
 const quv::Record<SensorData> &record()
 {
     static const quv::Record<SensorData> record({
-        {SensorData::sensorType_TAG,
-         &SensorData::sensorType,
-         {"DE00791", "SensorData: expected sensor type value"}},
-        {SensorData::measureType_TAG,
-         &SensorData::measureType,
-         {"DE00792", "SensorData: expected measure type value"}},
-        {SensorData::value_TAG, &SensorData::value, {"DE00793", "SensorData: expected value"}},
+        {SensorData::sensorType_TAG, &SensorData::sensorType, quv::noSensorType},
+        {SensorData::measureType_TAG, &SensorData::measureType, quv::noMeasureType},
+        {SensorData::value_TAG, &SensorData::value, quv::noMeasuredValue},
     });
     return record;
 }

@@ -3,6 +3,7 @@
 
 #include "base/describedanswer_p.h"
 #include "base/objectfield_p.h"
+#include "status/sensordata_p.h"
 
 #include <utility>
 

@@ -2,7 +2,6 @@
 #include "status/sensordataanswer.h"
 
 #include "base/basetesting.h"
-#include "base/outofmemory.h"
 
 #include <memory>
 
@@ -96,6 +95,9 @@ TEST(SensorDataAnswer, passesOnWhatItsDataRefuse)
         const Answer answer(structOf({{"sensor_data", measured(good, good, Value("1"))}}));
     });
 }
+
+// DE00794 and DE00797 are the contract: a sensor's data are three numbers, and only the list of the digits' tokens takes memory, without
+// operator new.
 
 TEST(SensorDataAnswer, isRefusedWithoutItsData)
 {
