@@ -42,14 +42,12 @@ DispenserStatusAnswer tinting()
 
 AnswerFacts answers()
 {
-    const CircuitsStatusAnswer answer(QList<QPair<int, DispenserStatusAnswer>>{{3, tinting()}});
-    const std::string written = dumped(answer.toXmlRpcValue());
     Value status = idleStruct();
     status["tinting"] = true;
-    const Value element = structOf({{"position_id", Value(3)}, {"status_answer", status}});
+    const Value element = structOf({{"position_id", Value(3)}, {"status_answer", asWritten(status)}});
+    const Value answer = structOf({{"circuits_status_answers", arrayOf(element)}});
     AnswerFacts answers = serialAnswers(); // the firmware answers the single commands
-    answers.value = AnswerOfValue("CircuitsStatusAnswer",
-                                  structOf({{"circuits_status_answers", arrayOf(element)}}), written)
+    answers.value = AnswerOfValue("CircuitsStatusAnswer", answer, dumped(answer))
                         .failsWith("DE00771", notCreated)
                         .refuses(Value(0), "DE01173",
                                  "CircuitsStatusAnswer: invalid DispenserStatusAnswersList parameter",
@@ -117,6 +115,9 @@ TEST(CircuitsStatusCmd, asksForAllEnabledCircuitsWithoutAPosition)
     EXPECT_EQ(CircuitsStatusCmd(arrayOf(), noDispenser).positions(), Positions());
     EXPECT_EQ(CircuitsStatusCmd().positions(), Positions());
 }
+
+// DE01175, of a dispenser that cannot list its positions, is the contract in all three forms: only Qt's lists could fail, and they
+// take their memory without operator new.
 
 TEST(CircuitsStatusCmd, takesASinglePositionOrAStruct)
 {

@@ -131,6 +131,13 @@ Value idleStruct()
     return value;
 }
 
+Value asWritten(Value status)
+{
+    for (const char *unused : {"WM_set", "disp_info_writing", "disp_info_erasing"})
+        status[unused] = false;
+    return status;
+}
+
 Value without(const Value &value, const std::string &key)
 {
     Value rest;

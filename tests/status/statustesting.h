@@ -39,6 +39,8 @@ bool &machineFlagNamed(MachineStatusAnswer &answer, const std::string &name);
 
 /** A struct with a member for each field: status 1, all flags but normal_wm false, positions 0. */
 Value idleStruct();
+/** A status as it is written: with the three members that nothing sets. */
+Value asWritten(Value status);
 /** The struct without one member. */
 Value without(const Value &value, const std::string &key);
 
