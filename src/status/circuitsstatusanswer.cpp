@@ -3,14 +3,12 @@
 
 #include "base/describedanswer_p.h"
 #include "base/objectfield_p.h"
+#include "status/dispenserstatusanswerslist_p.h"
 #include "status/dispenserstatuscmd.h"
 
 #include <utility>
 
 namespace quv {
-
-template <>
-inline constexpr const char *nameOf<DispenserStatusAnswersList> = "array of structs";
 
 template <>
 const FieldType &fieldType<DispenserStatusAnswersList>()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "status/dispenserstatusanswerslist.h"
 
-#include "base/decoding_p.h"
+#include "status/dispenserstatusanswerslist_p.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,24 +13,19 @@ DispenserStatusAnswersList::DispenserStatusAnswersList(QList<QPair<int, Dispense
 DispenserStatusAnswersList::DispenserStatusAnswersList(const XmlRpc::XmlRpcValue &value)
 {
     if (value.getType() != XmlRpc::XmlRpcValue::TypeArray)
-        throw FW_Exception("DE01165", "DispenserStatusAnswersList: expected xml-rpc array type", Q_FUNC_INFO);
+        quv::throwRefusal(quv::noStatusArray, Q_FUNC_INFO);
     if (value.size() == 0)
-        throw FW_Exception("DE01169", "DispenserStatusAnswersList: no data found", Q_FUNC_INFO);
+        quv::throwRefusal(quv::noStatuses, Q_FUNC_INFO);
     for (int i = 0; i < value.size(); ++i) {
         const XmlRpc::XmlRpcValue &element = value[i];
         int positionID = 0;
         if (!DecodeXmlRpcValue(element, positionID_TAG, positionID))
-            throw FW_Exception("DE01166", "DispenserStatusAnswersList: expected position ID value",
-                               Q_FUNC_INFO);
+            quv::throwRefusal(quv::noStatusPosition, Q_FUNC_INFO);
         const XmlRpc::XmlRpcValue *status = FindXmlRpcMember(element, statusAnswer_TAG);
-        if (!status) // users know it by the position's text
-            throw FW_Exception("DE01167", "DispenserStatusAnswersList: expected position ID value",
-                               Q_FUNC_INFO);
-        appendDispenserStatusAnswer(
-            positionID,
-            quv::decodedValue<DispenserStatusAnswer>(
-                status, {"DE01168", "DispenserStatusAnswersList: invalid DispenserStatusAnswer parameter"},
-                Q_FUNC_INFO));
+        if (!status)
+            quv::throwRefusal(quv::noStatusOfPosition, Q_FUNC_INFO);
+        quv::madeOrRefused(quv::statusNotMade, Q_FUNC_INFO,
+                           [&] { appendDispenserStatusAnswer(positionID, DispenserStatusAnswer(*status)); });
     }
 }
 

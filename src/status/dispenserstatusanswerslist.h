@@ -21,7 +21,7 @@ public:
     explicit DispenserStatusAnswersList(QList<QPair<int, DispenserStatusAnswer>> answers);
     /**
      * Throws DE01165 (no array), DE01169 (an empty one), DE01166 (an element without a position), DE01167 (without a status), what
-     * DispenserStatusAnswer throws of the status, and DE01168 for any other failure to read it.
+     * DispenserStatusAnswer throws of the status, and DE01168 for any other failure to read or to append it.
      */
     explicit DispenserStatusAnswersList(const XmlRpc::XmlRpcValue &value);
 

@@ -102,8 +102,7 @@ TEST(CircuitsStatusAnswer, isAStructOfOneArray)
     ASSERT_EQ(value.size(), 1);
     ASSERT_EQ(value["circuits_status_answers"].size(), 2);
     EXPECT_EQ(dumped(value["circuits_status_answers"][0]["position_id"]), "3");
-    EXPECT_EQ(dumped(value["circuits_status_answers"][0]["status_answer"]),
-              dumped(tinting().toXmlRpcValue()));
+    EXPECT_EQ(dumped(value["circuits_status_answers"][0]["status_answer"]), dumped(asWritten(status)));
     EXPECT_EQ(Answer(value), answer);
     EXPECT_EQ(dumped(Answer().toXmlRpcValue()), R"({"circuits_status_answers": []})");
 }
@@ -130,12 +129,13 @@ TEST(CircuitsStatusAnswer, passesOnWhatItsListRefuses)
                   [] { const Answer answer(structWith(arrayOf(Value(3)))); });
 }
 
-TEST(CircuitsStatusAnswer, isRefusedInItsOwnWordsWhenThereIsNoMemory)
+TEST(CircuitsStatusAnswer, isRefusedInItsListsWordsWhenThereIsNoMemory)
 {
+    // DE01172 stands for what its list has no words for: the contract, since the list has some for all of its allocations
     const Value value = Answer(entries()).toXmlRpcValue();
     EXPECT_EQ(Answer(value), Answer(entries()));
-    expectRefusal("DE01172", "CircuitsStatusAnswer: invalid DispenserStatusAnswersList parameter", ofValue,
-                  [&] { outOfMemoryOnce([&] { return Answer(value); }); });
+    expectRefusal("DE01168", "DispenserStatusAnswersList: invalid DispenserStatusAnswer parameter",
+                  ofListValue, [&] { outOfMemoryOnce([&] { return Answer(value); }); });
 }
 
 TEST(CircuitsStatusAnswer, comparesItsStatuses)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "status/dispenserstatusanswerslist.h"
 
+#include "base/outofmemory.h"
 #include "status/statustesting.h"
 
 namespace {
@@ -117,7 +118,7 @@ TEST(DispenserStatusAnswersListXmlRpc, isAnArrayOfStructs)
     ASSERT_EQ(value.size(), 2);
     ASSERT_EQ(value[0].size(), 2);
     EXPECT_EQ(dumped(value[0]["position_id"]), "17");
-    EXPECT_EQ(dumped(value[0]["status_answer"]), dumped(statusWith({"tinting"}).toXmlRpcValue()));
+    EXPECT_EQ(dumped(value[0]["status_answer"]), dumped(asWritten(status)));
     EXPECT_EQ(dumped(value[1]["position_id"]), "-2");
     EXPECT_EQ(Answers(value), list);
     EXPECT_EQ(Answers(working().toXmlRpcValue()), working());
@@ -159,6 +160,14 @@ TEST(DispenserStatusAnswersListXmlRpc, passesOnWhatAStatusRefuses)
     expectRefusal("DE00026", "DispenserStatusAnswer: expected punching value",
                   "DispenserStatusAnswer::DispenserStatusAnswer(const XmlRpc::XmlRpcValue&)",
                   [] { const Answers list(arrayOf(element(Value(1), without(idleStruct(), "punching")))); });
+}
+
+TEST(DispenserStatusAnswersListXmlRpc, isRefusedInItsOwnWordsWhenThereIsNoMemoryForAStatus)
+{
+    const Value value = arrayOf(element(Value(3), idleStruct()), element(Value(1), idleStruct()));
+    EXPECT_EQ(Answers(value).answers().size(), 2);
+    expectRefusal("DE01168", "DispenserStatusAnswersList: invalid DispenserStatusAnswer parameter", ofValue,
+                  [&] { outOfMemoryOnce([&] { return Answers(value); }); });
 }
 
 } // namespace
