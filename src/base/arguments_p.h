@@ -22,6 +22,8 @@ namespace quv {
 // for the documents. An archive has
 //
 //     required(name, field, absent, otherType)       must be given
+//     requiredIf(condition, name, field, absent, otherType)
+//                                                    must be given when the condition holds
 //     optional(name, field, otherType)               leaves its field alone when it is not given
 //     convertible(name, field, refusal)              an int; in a list whatever converts to one
 //     object(name, field, refusal, unreadable)       a struct; in a list the object itself or the map that stands for it
@@ -68,7 +70,14 @@ public:
     void required(const ArgumentName &name, T &field, const ArgumentRefusal &absent,
                   const ArgumentRefusal &otherType)
     {
-        if (m_index >= m_source.size())
+        requiredIf(true, name, field, absent, otherType);
+    }
+
+    template <class T>
+    void requiredIf(bool condition, const ArgumentName &name, T &field, const ArgumentRefusal &absent,
+                    const ArgumentRefusal &otherType)
+    {
+        if (condition && m_index >= m_source.size())
             refuse(absent);
         optional(name, field, otherType);
     }
@@ -203,6 +212,12 @@ class ArgumentVisitor
 public:
     template <class T>
     void required(const ArgumentName &, T &field, const ArgumentRefusal &, const ArgumentRefusal &)
+    {
+        visitor().visit(field);
+    }
+
+    template <class T>
+    void requiredIf(bool, const ArgumentName &, T &field, const ArgumentRefusal &, const ArgumentRefusal &)
     {
         visitor().visit(field);
     }

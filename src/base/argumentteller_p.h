@@ -30,8 +30,16 @@ public:
                   const ArgumentRefusal &otherType)
     {
         tell(name, fieldType<T>().name);
-        if (!isCountedByBase())
-            refuse("missing", absent);
+        refuseMissing(absent);
+        refuse("another type", otherType);
+    }
+
+    template <class T>
+    void requiredIf(bool, const ArgumentName &name, const T &field, const ArgumentRefusal &absent,
+                    const ArgumentRefusal &otherType)
+    {
+        unread(name, field);
+        refuseMissing(absent);
         refuse("another type", otherType);
     }
 
@@ -91,6 +99,11 @@ private:
 
     void tell(const ArgumentName &name, const char *type);
     void require(); ///< that the argument that was told last cannot be left out
+    void refuseMissing(const ArgumentRefusal &absent)
+    {
+        if (!isCountedByBase())
+            refuse("missing", absent);
+    }
     void refuse(const char *form, const char *when, const Refusal &refusal);
 
     CommandFacts &m_facts;

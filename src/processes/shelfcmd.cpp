@@ -44,8 +44,10 @@ struct ShelfCmd::Description : quv::Description
         archive.required({"command_type", "0 to the can position, 1 to the low position"}, self.m_commandType,
                          {"DE00810", "DE00814", tooFew}, {"DE00811", "DE00815", noType});
         // a list is told of the command type: users know the text
-        archive.optional({"height", "millimetres; only a command type above 1 may do without"}, self.m_height,
-                         {{"DE00812", "Shelf height: expected INT parameter"}, {"DE00816", noType}});
+        archive.requiredIf(needsHeight(self.m_commandType),
+                           {"height", "millimetres; only a command type above 1 may do without"},
+                           self.m_height, {"DE00813", "DE00817", noHeight},
+                           {{"DE00812", "Shelf height: expected INT parameter"}, {"DE00816", noType}});
     }
 };
 
@@ -59,15 +61,11 @@ ShelfCmd::ShelfCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value)
     if (value.getType() != XmlRpc::XmlRpcValue::TypeArray)
         throw FW_Exception("DE00809", "ShelfCmd: invalid xml-rpc type (not array)", Q_FUNC_INFO);
     read(value, Q_FUNC_INFO);
-    if (value.size() < 2 && needsHeight(m_commandType))
-        throw FW_Exception("DE00813", noHeight, Q_FUNC_INFO);
 }
 
 ShelfCmd::ShelfCmd(QList<QVariant> list) : DescribedCommand(list)
 {
     read(list, Q_FUNC_INFO);
-    if (list.size() < 2 && needsHeight(m_commandType))
-        throw FW_Exception("DE00817", noHeight, Q_FUNC_INFO);
 }
 
 ShelfCmd *ShelfCmd::clone() const

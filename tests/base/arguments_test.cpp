@@ -5,6 +5,7 @@
 #include "base/basetesting.h"
 
 #include <climits>
+#include <vector>
 
 using namespace testing_base;
 
@@ -298,6 +299,88 @@ TEST(Arguments, AreToldWithTheRefusalsThatHaveACode)
     EXPECT_TRUE(facts.arguments.at(1).refusals.isEmpty());
     EXPECT_EQ(facts.arguments.at(2).name, "turns");
     EXPECT_TRUE(facts.arguments.at(2).refusals.isEmpty());
+}
+
+namespace {
+
+/** A height that only kinds below 2 need. */
+struct Lift
+{
+    int kind = -1;
+    int height = 40;
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.required("kind", self.kind, {"V1", "L1", "Kind missing"}, {"V2", "L2", "Kind: int expected"});
+        archive.requiredIf(self.kind < 2, {"height", "millimetres"}, self.height,
+                           {"V3", "L3", "Height missing"}, {"V4", "L4", "Height: int expected"});
+    }
+};
+
+Lift liftOf(const Value &value)
+{
+    Lift lift;
+    quv::ValueReader reader(value, signature);
+    Lift::arguments(lift, reader);
+    return lift;
+}
+
+Lift liftOf(const List &list)
+{
+    Lift lift;
+    quv::ListReader reader(list, signature);
+    Lift::arguments(lift, reader);
+    return lift;
+}
+
+} // namespace
+
+TEST(Arguments, areRequiredOnlyWhenTheirConditionHolds)
+{
+    expectRefusal("V3", "Height missing", signature, [] { liftOf(arrayOf(1)); });
+    expectRefusal("L3", "Height missing", signature, [] { liftOf(List{1}); });
+    for (const Lift &lift : {liftOf(arrayOf(2)), liftOf(List{2})}) {
+        EXPECT_EQ(lift.kind, 2);
+        EXPECT_EQ(lift.height, 40);
+    }
+    for (int kind : {1, 2}) {
+        EXPECT_EQ(liftOf(arrayOf(kind, 7)).height, 7);
+        EXPECT_EQ(liftOf(List{kind, 7}).height, 7);
+        expectRefusal("V4", "Height: int expected", signature, [kind] { liftOf(arrayOf(kind, "7")); });
+        expectRefusal("L4", "Height: int expected", signature, [kind] { liftOf(List{kind, "7"}); });
+    }
+    expectRefusal("V2", "Kind: int expected", signature, [] { liftOf(arrayOf("1")); });
+    expectRefusal("L1", "Kind missing", signature, [] { liftOf(List()); });
+
+    for (const Lift &lift : {liftOf(arrayOf(1, 7)), liftOf(arrayOf(2, 7))}) {
+        quv::ListWriter writer;
+        Lift::arguments(lift, writer);
+        EXPECT_EQ(writer.result(), (List{lift.kind, 7}));
+    }
+    const Lift lowest = liftOf(arrayOf(2));
+    EXPECT_EQ(dumped(quv::writtenArguments([&](auto &archive) { Lift::arguments(lowest, archive); })),
+              "[2, 40]");
+}
+
+TEST(Arguments, ThatMayBeRequiredAreToldAsOptionalWithBothRefusals)
+{
+    quv::CommandFacts facts;
+    quv::ArgumentTeller teller(facts);
+    const Lift fresh;
+    Lift::arguments(fresh, teller);
+    ASSERT_EQ(facts.arguments.size(), 2);
+    const quv::ArgumentFacts &height = facts.arguments.at(1);
+    EXPECT_EQ(height.name, "height");
+    EXPECT_EQ(height.type, "int");
+    EXPECT_EQ(height.meaning, "millimetres");
+    EXPECT_TRUE(height.optional);
+    EXPECT_EQ(dumped(height.defaultValue), "40");
+    std::vector<QString> refusals;
+    for (const quv::RefusalFacts &refusal : height.refusals)
+        refusals.push_back(refusal.form + ", " + refusal.when + ": " + refusal.code);
+    EXPECT_EQ(refusals, (std::vector<QString>{"XML-RPC, missing: V3", "list, missing: L3",
+                                              "XML-RPC, another type: V4", "list, another type: L4"}));
 }
 
 TEST(Arguments, convertsWhatAnIntCanHold)

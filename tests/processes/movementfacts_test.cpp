@@ -13,6 +13,7 @@ TEST(MovementFacts, tellTheShelf)
               (Lines{"command_type (int): 0 to the can position, 1 to the low position",
                      "  XML-RPC, another type: DE00811", "  list, another type: DE00815",
                      "height (int) = 0: millimetres; only a command type above 1 may do without",
+                     "  XML-RPC, missing: DE00813", "  list, missing: DE00817",
                      "  XML-RPC, another type: DE00812", "  list, another type: DE00816"}));
     EXPECT_EQ(argumentsOf("GET_SHELF_POS"),
               (Lines{"position_type (int) = 3: 3 is the only one", "  XML-RPC, another type: DE01439",

@@ -436,6 +436,9 @@ class Described(Collected):
                     archive.object("other", self.m_other, {{"DE00009", "no"}, badFormula}, badFormula);
                     archive.unread("rest", self.m_rest);
                     archive.optional("last", self.m_last, {{}, {"DE00011", "no"}});
+                    archive.requiredIf(isBent(self.m_id, 2), {"angle", "degrees"}, self.m_angle,
+                                       {"DE00015", "DE00016", "no angle"}, {"DE00017", "DE00018", "bad angle"});
+                    archive.refuseUnless(self.m_angle < 9, {"DE00019", "DE00020", "too far"});
                 }
             };
             ''', base=REFUSAL + '''
@@ -452,6 +455,9 @@ class Described(Collected):
             {
                 template <class T>
                 void required(const Name &, T &, const ArgumentRefusal &absent, const ArgumentRefusal &otherType) { go(); }
+                template <class T>
+                void requiredIf(bool condition, const Name &, T &, const ArgumentRefusal &absent,
+                                const ArgumentRefusal &otherType) { go(); }
                 template <class T> void optional(const Name &, T &field, const ArgumentRefusal &otherType) { go(); }
                 void convertible(const Name &, int &field, const ArgumentRefusal &refusal) { go(); }
                 template <class T>
@@ -473,7 +479,13 @@ class Described(Collected):
                    ("DE00010", "list", "other", "unreadable", made),
                    ("DE00011", "list", "last", "another type", made),
                    ("DE00013", "answer, tokens", "the answer", "", ("FooCmd::buildProtoAnswer",)),
-                   ("DE00014", "answer, envelope", "the answer", "", ("FooCmd::setAnswer",))])
+                   ("DE00014", "answer, envelope", "the answer", "", ("FooCmd::setAnswer",)),
+                   ("DE00015", "XML-RPC value", "angle", "missing", made),
+                   ("DE00016", "list", "angle", "missing", made),
+                   ("DE00017", "XML-RPC value", "angle", "another type", made),
+                   ("DE00018", "list", "angle", "another type", made),
+                   ("DE00019", "XML-RPC value", "angle", "out of range", made),
+                   ("DE00020", "list", "angle", "out of range", made)])
 
     def test_place_of_each_member(self):
         made = ("FooAnswer::FooAnswer",)

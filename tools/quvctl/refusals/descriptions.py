@@ -2,6 +2,7 @@
 """Where the description of a command or an answer refuses: which argument or member, in which form, and when."""
 
 from dataclasses import dataclass
+from itertools import islice
 
 from cpptokens import elements, is_group, is_name, is_sign
 from forms import ENVELOPE, LIST, VALUE
@@ -11,10 +12,12 @@ from texts import DEEPEST, Scope
 
 # When an argument is refused, by the archive's operation and its parameter; the library's own teller says the same.
 ARGUMENT_WORDS = {("required", "absent"): "missing", ("required", "otherType"): "another type",
+                  ("requiredIf", "absent"): "missing", ("requiredIf", "otherType"): "another type",
                   ("optional", "otherType"): "another type", ("convertible", "refusal"): "missing or another type",
                   ("object", "refusal"): "missing or another type", ("object", "unreadable"): "unreadable",
                   ("refuseUnless", "refusal"): "out of range"}
-NAMING = {"required", "optional", "convertible", "object", "unread"}  # operations that begin with an argument's name
+# Operations that name an argument, and where in them the name stands.
+NAMING = {"required": 0, "requiredIf": 1, "optional": 0, "convertible": 0, "object": 0, "unread": 0}
 MEMBER = "Member"
 MAY_BE_MISSING = "writtenWhenFilled"  # what makes a member that nothing refuses when it is missing
 MEMBER_WORDS = {"otherType": "another type", "element": "an element of another type"}  # operations on a member
@@ -62,8 +65,8 @@ class Descriptions:
             return None
         named = group if operation in NAMING else self.operation_before(group)
         is_list = parameter == "unreadable" or indexes[:1] == (1,)
-        return self.raised_by_constructors(group, LIST if is_list else VALUE, named and self.name_in(named),
-                                           ARGUMENT_WORDS[operation, parameter])
+        name = self.name_in(named, NAMING[callee_of(named)]) if named else None
+        return self.raised_by_constructors(group, LIST if is_list else VALUE, name, ARGUMENT_WORDS[operation, parameter])
 
     def member(self, group, index):
         """Of a member of an answer, or of an operation on it; None when the group is none."""
@@ -96,11 +99,11 @@ class Descriptions:
         return next((node for node in reversed(group.parent.nodes[:group.index])
                      if is_group(node, "(") and callee_of(node) in NAMING), None)
 
-    def name_in(self, group):
-        """The name with which a list begins, alone or with its meaning."""
-        first = next(iter(elements(group)), [])
-        is_list = len(first) == 1 and is_group(first[0], "{")
-        texts = self.texts.of_first(first[0], Scope()) if is_list else self.texts.of(first, Scope())
+    def name_in(self, group, index=0):
+        """The name that stands at this place of a list, alone or with its meaning."""
+        named = next(islice(elements(group), index, None), [])
+        is_list = len(named) == 1 and is_group(named[0], "{")
+        texts = self.texts.of_first(named[0], Scope()) if is_list else self.texts.of(named, Scope())
         return texts[0] if texts else ""
 
     def raised_by_constructors(self, group, form, subject, when):
