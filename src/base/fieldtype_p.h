@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/refusal_p.h"
+
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <QtCore/QList>
@@ -9,6 +11,9 @@
 #include <QtCore/QVariant>
 
 #include <xmlrpcpp/XmlRpcValue.h>
+
+#include <cstddef>
+#include <utility>
 
 namespace quv {
 
@@ -30,6 +35,9 @@ struct FieldType
     void (*write)(const void *field, XmlRpc::XmlRpcValue &value) = nullptr;
     bool (*equal)(const void *left, const void *right) = nullptr;
     void (*reset)(void *field) = nullptr; ///< to the empty value: false, 0 or nothing
+    /** Of a list of objects: when one of them is refused by its own class, and with what. */
+    const std::pair<const char *, Refusal> *elementRefusals = nullptr;
+    std::size_t elementRefusalCount = 0;
 };
 
 /** The type of a field; families specialise it for what only they know. */

@@ -3,6 +3,8 @@
 
 #include "base/argumentteller_p.h"
 
+#include <QtCore/QByteArray>
+
 namespace quv {
 
 namespace {
@@ -10,6 +12,17 @@ namespace {
 bool isSame(const Refusal &a, const Refusal &b)
 {
     return qstrcmp(a.code, b.code) == 0 && qstrcmp(a.text, b.text) == 0;
+}
+
+/** What the elements of a list of objects are refused with by their own class. */
+void appendElementRefusals(QList<RefusalFacts> &refusals, const FieldType &type)
+{
+    for (std::size_t i = 0; i < type.elementRefusalCount; ++i) {
+        const auto &[when, refusal] = type.elementRefusals[i];
+        const bool isOfOtherType = qstrcmp(when, "another type") == 0;
+        const QByteArray ofElement = QByteArray(isOfOtherType ? "an element of " : "an element ") + when;
+        appendRefusal(refusals, "XML-RPC", ofElement, refusal);
+    }
 }
 
 MemberFacts factsOf(const MemberRow &row)
@@ -28,8 +41,10 @@ MemberFacts factsOf(const MemberRow &row)
         appendRefusal(member.refusals, "XML-RPC", "missing", row.missing);
         appendRefusal(member.refusals, "XML-RPC", "another type", row.otherType);
     }
+    if (row.type)
+        appendElementRefusals(member.refusals, *row.type);
     if (!isSame(row.element, row.otherType))
-        appendRefusal(member.refusals, "XML-RPC", "an element of another type", row.element);
+        appendRefusal(member.refusals, "XML-RPC", row.elementWhen, row.element);
     appendRefusal(member.refusals, "list", "missing or another type", row.inList);
     for (RefusalFacts &refusal : member.refusals)
         refusal.text.replace(QLatin1String("%1"), member.key);

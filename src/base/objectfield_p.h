@@ -96,8 +96,9 @@ void writeObjects(const void *field, XmlRpc::XmlRpcValue &value)
 template <class T>
 constexpr FieldType objectListType()
 {
-    return {"array of structs", FieldType::Other,      readObjects<T>,      readObjectsVariant<T>,
-            writeObjects<T>,    equalFields<QList<T>>, resetField<QList<T>>};
+    return {"array of structs",    FieldType::Other,      readObjects<T>,
+            readObjectsVariant<T>, writeObjects<T>,       equalFields<QList<T>>,
+            resetField<QList<T>>,  ownRefusals<T>.data(), ownRefusals<T>.size()};
 }
 
 } // namespace quv

@@ -31,6 +31,7 @@ struct MemberRow
     const char *meaning = "";
     bool (*isFilled)(const void *field) =
         nullptr; ///< given where the member is written only when its field is filled
+    const char *elementWhen = "an element of another type"; ///< when element refuses, in words
 };
 
 /** Where a field lies in its object: what a pointer to a data member holds, with the compilers for Linux. */
@@ -93,6 +94,12 @@ public:
     {
         m_row.element = refusal;
         return *this;
+    }
+    /** Of a list of objects that have refusals of their own: for one that fails without any, as from want of memory. */
+    Member &unmadeElement(const Refusal &refusal)
+    {
+        m_row.elementWhen = "an element that cannot be made";
+        return element(refusal);
     }
     Member &as(const FieldType &type)
     {

@@ -4,13 +4,13 @@
 #include "base/describedanswer_p.h"
 #include "base/objectfield_p.h"
 #include "base/tokens_p.h"
+#include "processes/ttcircuitdata_p.h"
+
+#include <QuvFramework/fw_utils.h>
 
 #include <utility>
 
 namespace quv {
-
-template <>
-inline constexpr const char *markOf<TTCircuitData> = TTCircuitData::positionID_TAG;
 
 template <>
 const FieldType &fieldType<QList<TTCircuitData>>()
@@ -46,7 +46,8 @@ struct GetTurntablePositionsAnswer::Description
                     {"DE01757", "GetTurntablePositionsAnswer: Errors during TTCircuitData list creation"},
                     {"DE01758", "GetTurntablePositionsAnswer decoding failed: invalid QVariant value "
                                 "(expected TTCircuitData)"})
-                    .element({"DE01756", "GetTurntablePositionsAnswer: errors during TTCircuitData creation"})
+                    .unmadeElement(
+                        {"DE01756", "GetTurntablePositionsAnswer: errors during TTCircuitData creation"})
                     .meaning("of each circuit position_id, steps_pos and fin_size, in steps")};
     }
 };

@@ -2,6 +2,7 @@
 #include "processes/ttcircuitdata.h"
 
 #include "base/record_p.h"
+#include "processes/ttcircuitdata_p.h"
 
 #include <QuvFramework/fw_metatype.h>
 
@@ -13,9 +14,9 @@ const quv::Record<TTCircuitData> &record()
 {
     using Data = TTCircuitData;
     static const quv::Record<Data> record({
-        {Data::positionID_TAG, &Data::positionID, {"DE01746", "TTCircuitData: expected position id value"}},
-        {Data::stepsPos_TAG, &Data::stepsPos, {"DE01747", "TTCircuitData: expected steps position value"}},
-        {Data::finSize_TAG, &Data::finSize, {"DE01748", "TTCircuitData: expected fin size value"}},
+        {Data::positionID_TAG, &Data::positionID, quv::noPositionID},
+        {Data::stepsPos_TAG, &Data::stepsPos, quv::noStepsPos},
+        {Data::finSize_TAG, &Data::finSize, quv::noFinSize},
     });
     return record;
 }

@@ -2,6 +2,8 @@
 #include "base/fieldtype_p.h"
 
 #include "base/basetesting.h"
+#include "base/factlines.h"
+#include "base/memberfacts_p.h"
 #include "base/objectfield_p.h"
 
 #include <new>
@@ -43,6 +45,16 @@ template <>
 inline constexpr const char *markOf<Nozzle> = "turns";
 template <>
 inline constexpr const char *nameOf<Nozzle> = "nozzle";
+template <>
+inline constexpr std::array<std::pair<const char *, Refusal>, 2> ownRefusals<Nozzle> = {
+    {{"another type", {"DE0", "No nozzle"}}, {"turned back", {"DE1", "Turned back"}}}};
+
+template <>
+const FieldType &fieldType<QList<Nozzle>>()
+{
+    static constexpr FieldType type = objectListType<Nozzle>();
+    return type;
+}
 
 } // namespace quv
 
@@ -148,6 +160,40 @@ TEST(FieldType, ofObjectsIsAnArrayOfTheirStructs)
     type.write(&field, value);
     EXPECT_EQ(dumped(value), "[]");
     EXPECT_STREQ(type.name, "array of structs");
+}
+
+TEST(FieldType, ofObjectsKnowsTheirOwnRefusals)
+{
+    constexpr quv::FieldType type = quv::objectListType<Nozzle>();
+    ASSERT_EQ(type.elementRefusalCount, 2u);
+    EXPECT_STREQ(type.elementRefusals[0].first, "another type");
+    EXPECT_STREQ(type.elementRefusals[0].second.code, "DE0");
+    EXPECT_STREQ(type.elementRefusals[1].first, "turned back");
+    EXPECT_STREQ(type.elementRefusals[1].second.code, "DE1");
+    EXPECT_EQ(doubles().elementRefusalCount, 0u);
+}
+
+TEST(FieldType, ofObjectsIsToldWithTheirOwnRefusals)
+{
+    struct Rail
+    {
+        QList<Nozzle> nozzles;
+    };
+    const quv::Record<Rail> record({quv::Member<Rail>("nozzles", &Rail::nozzles, {"DE2", "No nozzles"})
+                                        .unmadeElement({"DE3", "Nozzle unmade"}),
+                                    quv::Member<Rail>("spares", &Rail::nozzles, {"DE2", "No nozzles"})});
+    const QList<quv::MemberFacts> members = quv::factsOf(record.rows());
+    Lines nozzles;
+    appendRefusals(nozzles, members.at(0).refusals);
+    EXPECT_EQ(
+        nozzles,
+        (Lines{"  XML-RPC, missing or another type: DE2", "  XML-RPC, an element of another type: DE0",
+               "  XML-RPC, an element turned back: DE1", "  XML-RPC, an element that cannot be made: DE3"}));
+    Lines spares;
+    appendRefusals(spares, members.at(1).refusals);
+    EXPECT_EQ(spares,
+              (Lines{"  XML-RPC, missing or another type: DE2", "  XML-RPC, an element of another type: DE0",
+                     "  XML-RPC, an element turned back: DE1"}));
 }
 
 TEST(FieldType, ofObjectsInAListIsAListOfThem)

@@ -71,7 +71,10 @@ TEST(MovementFacts, tellTheTurntable)
                      "turntable_circuits (array of structs): of each circuit position_id, steps_pos and "
                      "fin_size, in steps",
                      "  XML-RPC, missing or another type: DE01757",
-                     "  XML-RPC, an element of another type: DE01756",
+                     "  XML-RPC, an element without a good position_id: DE01746",
+                     "  XML-RPC, an element without a good steps_pos: DE01747",
+                     "  XML-RPC, an element without a good fin_size: DE01748",
+                     "  XML-RPC, an element that cannot be made: DE01756",
                      "  list, missing or another type: DE01758"}));
 }
 

@@ -64,12 +64,14 @@ TEST(RefusalLines, sayWhenAnArgumentIsRefused)
                               {"list", "unreadable", "DE5", "bad"},
                               {"list", "out of range", "DE6", "too fast"},
                               {"list", "an unreadable speed", "DE7", "bad"},
-                              {"list", "too late", "DE8", "bad"}})),
+                              {"list", "too late", "DE8", "bad"},
+                              {"XML-RPC", "an element without a name", "DE9", "bad"}})),
         ElementsAre("DE1 (XML-RPC) speed is missing: no speed", "DE2 (XML-RPC) speed is of another type: bad",
                     "DE3 (XML-RPC) speed is missing or of another type: bad",
                     "DE4 (XML-RPC) speed has an element of another type: bad",
                     "DE5 (list) speed cannot be read: bad", "DE6 (list) speed is out of range: too fast",
-                    "DE7 (list) speed is an unreadable speed: bad", "DE8 (list) speed: too late: bad"));
+                    "DE7 (list) speed is an unreadable speed: bad", "DE8 (list) speed: too late: bad",
+                    "DE9 (XML-RPC) speed has an element without a name: bad"));
 }
 
 TEST(RefusalLines, tellFormsThatAreAlikeOnce)

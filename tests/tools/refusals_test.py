@@ -502,6 +502,7 @@ class Described(Collected):
                             {"rest", &Answer::m_rest, {"DE00006", "no"}, {"DE00007", "no"}},
                             quv::Member<Answer>::writtenWhenFilled("masks", &Answer::m_masks, {"DE00008", "no"},
                                                                    {"DE00009", "no"}).meaning("of each")};
+                            quv::Member<Answer>("pins", &Answer::m_pins).unmadeElement({"DE00008", "bad"}),
                 }
             };
             ''', record=REFUSAL + '''
@@ -515,6 +516,7 @@ class Described(Collected):
                                                 const Refusal &inList = {}) { go(); }
                 Member &otherType(const Refusal &refusal) { return *this; }
                 Member &element(const Refusal &refusal) { return *this; }
+                Member &unmadeElement(const Refusal &refusal) { return *this; }
             private:
                 MemberRow m_row;
             };
@@ -547,6 +549,7 @@ class Described(Collected):
                    ("DE00002", "answer, XML-RPC value", "the answer", "", ("FooCmd::buildProtoAnswer",)),
                    ("DE00003", "answer, list", "the answer", "", ("FooCmd::buildProtoAnswer",)),
                    ("DE00004", "answer, envelope", "the answer", "", ("FooCmd::setAnswer",))])
+             ("DE00008", "XML-RPC value", "pins", "an element that cannot be made", made)])
 
     def test_flags_that_are_required(self):
         found = self.refusals('''

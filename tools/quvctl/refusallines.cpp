@@ -21,7 +21,6 @@ constexpr Phrase phrases[] = {
     {"missing", "%1 is missing"},
     {"another type", "%1 is of another type"},
     {"missing or another type", "%1 is missing or of another type"},
-    {"an element of another type", "%1 has an element of another type"},
     {"unreadable", "%1 cannot be read"},
     {"out of range", "%1 is out of range"},
     {"", "%1 cannot be made"}, // as an answer
@@ -93,6 +92,8 @@ QString inWords(const QString &when, const QString &of)
     for (const Phrase &phrase : phrases)
         if (when == QLatin1String(phrase.when))
             return QString::fromLatin1(phrase.words).arg(of);
+    if (when.startsWith(QLatin1String("an element ")))
+        return QStringLiteral("%1 has %2").arg(of, when);
     return (when.startsWith(QLatin1String("an ")) ? QStringLiteral("%1 is %2") : QStringLiteral("%1: %2"))
         .arg(of, when);
 }

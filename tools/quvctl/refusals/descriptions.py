@@ -20,7 +20,8 @@ ARGUMENT_WORDS = {("required", "absent"): "missing", ("required", "otherType"): 
 NAMING = {"required": 0, "requiredIf": 1, "optional": 0, "convertible": 0, "object": 0, "unread": 0}
 MEMBER = "Member"
 MAY_BE_MISSING = "writtenWhenFilled"  # what makes a member that nothing refuses when it is missing
-MEMBER_WORDS = {"otherType": "another type", "element": "an element of another type"}  # operations on a member
+MEMBER_WORDS = {"otherType": "another type", "element": "an element of another type",
+                "unmadeElement": "an element that cannot be made"}  # operations on a member
 THE_ANSWER = "the answer"
 
 
