@@ -30,7 +30,10 @@ struct ZDRActuatorMovingCmd::Description : quv::Description
 
 template class quv::DescribedCommand<ZDRActuatorMovingCmd, SerialProtoCommand>;
 
-ZDRActuatorMovingCmd::ZDRActuatorMovingCmd(ActuatorOperation operation) : m_operation(operation) {}
+ZDRActuatorMovingCmd::ZDRActuatorMovingCmd(ActuatorOperation operation, int parameter1, int parameter2,
+                                           int parameter3, int value)
+    : ZDRActuatorMovingCmd(DefaultActuator, operation, parameter1, parameter2, parameter3, value)
+{}
 
 ZDRActuatorMovingCmd::ZDRActuatorMovingCmd(ActuatorType actuatorType, int operation, int parameter1,
                                            int parameter2, int parameter3, int value)

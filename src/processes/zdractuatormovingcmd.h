@@ -17,9 +17,13 @@ public:
     enum ActuatorOperation : int { NoOperation = 245 }; ///< not set
 
     ZDRActuatorMovingCmd() = default;
-    explicit ZDRActuatorMovingCmd(ActuatorOperation operation); ///< all other numbers are the defaults
-    ZDRActuatorMovingCmd(ActuatorType actuatorType, int operation, int parameter1, int parameter2,
-                         int parameter3, int value);
+    /** Of the default actuator. */
+    explicit ZDRActuatorMovingCmd(ActuatorOperation operation, int parameter1 = 0,
+                                  int parameter2 = defaultParameter2, int parameter3 = defaultParameter3,
+                                  int value = 0);
+    explicit ZDRActuatorMovingCmd(ActuatorType actuatorType, int operation = NoOperation, int parameter1 = 0,
+                                  int parameter2 = defaultParameter2, int parameter3 = defaultParameter3,
+                                  int value = 0);
     /**
      * Actuator type, operation, three parameters and a value (ints), none required. Throws DE02882 to DE02887 for the first
      * of another type.
@@ -47,10 +51,13 @@ public:
     int value() const { return m_value; }
 
 private:
+    static constexpr int defaultParameter2 = 64;
+    static constexpr int defaultParameter3 = 245;
+
     int m_actuatorType = DefaultActuator;
     int m_operation = NoOperation;
     int m_parameter1 = 0;
-    int m_parameter2 = 64;
-    int m_parameter3 = 245;
+    int m_parameter2 = defaultParameter2;
+    int m_parameter3 = defaultParameter3;
     int m_value = 0;
 };

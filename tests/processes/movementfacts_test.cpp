@@ -86,6 +86,15 @@ TEST(MovementFacts, tellTheCappingStation)
                "parameter_1 (int) = 0", "  XML-RPC, another type: DE02880", "  list, another type: DE02880",
                "parameter_2 (int) = 0", "  XML-RPC, another type: DE02881",
                "  list, another type: DE02881"}));
+    EXPECT_EQ(
+        argumentsOf("ZDR_ACTUATOR_MOVE"),
+        (Lines{"actuator_type (int) = 1", "  XML-RPC, another type: DE02882", "  list, another type: DE02882",
+               "operation (int) = 245: 245 for none", "  XML-RPC, another type: DE02883",
+               "  list, another type: DE02883", "parameter_1 (int) = 0", "  XML-RPC, another type: DE02884",
+               "  list, another type: DE02884", "parameter_2 (int) = 64", "  XML-RPC, another type: DE02885",
+               "  list, another type: DE02885", "parameter_3 (int) = 245", "  XML-RPC, another type: DE02886",
+               "  list, another type: DE02886", "value (int) = 0: not sent when 0 or below",
+               "  XML-RPC, another type: DE02887", "  list, another type: DE02887"}));
     EXPECT_EQ(argumentsOf("ZDR_SLAVE_PROCEDURE"),
               (Lines{"procedure (int): 100 calibration of the gearmotor", "  XML-RPC, another type: DE02889",
                      "  list, another type: DE02889", "parameters (array of ints) = []: of the procedure",

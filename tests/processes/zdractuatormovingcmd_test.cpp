@@ -21,7 +21,7 @@ std::vector<Request> requests()
             .written("[9, 2, 3, 4, 5, 300]")
             .sends({9, 2, 3, 4, 5, 2, 54, 1}),
         Request({1, 2, 3, 4, 5, 6})
-            .typed<ZDRActuatorMovingCmd>(Type(1), 2, 3, 4, 5, 6)
+            .typed<ZDRActuatorMovingCmd>(Operation(2), 3, 4, 5, 6)
             .written("[1, 2, 3, 4, 5, 6]")
             .sends({1, 2, 3, 4, 5, 1, 6}),
         Request({-9, 1000, -3, 4, 5, -300})
@@ -30,14 +30,17 @@ std::vector<Request> requests()
             .sends({-9, 1000, -3, 4, 5}),
         Request({9, 2, 3, 4, 5})
             .parameters({9, 2, 3, 4, 5, 0})
+            .typed<ZDRActuatorMovingCmd>(Type(9), 2, 3, 4, 5)
             .written("[9, 2, 3, 4, 5, 0]")
             .sends({9, 2, 3, 4, 5}),
         Request({9, 2, 3, 4})
             .parameters({9, 2, 3, 4, 245, 0})
+            .typed<ZDRActuatorMovingCmd>(Type(9), 2, 3, 4)
             .written("[9, 2, 3, 4, 245, 0]")
             .sends({9, 2, 3, 4, 245}),
         Request({9, 2, 3})
             .parameters({9, 2, 3, 64, 245, 0})
+            .typed<ZDRActuatorMovingCmd>(Type(9), 2, 3)
             .written("[9, 2, 3, 64, 245, 0]")
             .sends({9, 2, 3, 64, 245}),
         Request({1, 2})
@@ -45,8 +48,29 @@ std::vector<Request> requests()
             .typed<ZDRActuatorMovingCmd>(Operation(2))
             .written("[1, 2, 0, 64, 245, 0]")
             .sends({1, 2, 0, 64, 245}),
+        Request({9, 2})
+            .parameters({9, 2, 0, 64, 245, 0})
+            .typed<ZDRActuatorMovingCmd>(Type(9), 2)
+            .written("[9, 2, 0, 64, 245, 0]")
+            .sends({9, 2, 0, 64, 245}),
+        Request({1, 2, 3})
+            .parameters({1, 2, 3, 64, 245, 0})
+            .typed<ZDRActuatorMovingCmd>(Operation(2), 3)
+            .written("[1, 2, 3, 64, 245, 0]")
+            .sends({1, 2, 3, 64, 245}),
+        Request({1, 2, 3, 4})
+            .parameters({1, 2, 3, 4, 245, 0})
+            .typed<ZDRActuatorMovingCmd>(Operation(2), 3, 4)
+            .written("[1, 2, 3, 4, 245, 0]")
+            .sends({1, 2, 3, 4, 245}),
+        Request({1, 2, 3, 4, 5})
+            .parameters({1, 2, 3, 4, 5, 0})
+            .typed<ZDRActuatorMovingCmd>(Operation(2), 3, 4, 5)
+            .written("[1, 2, 3, 4, 5, 0]")
+            .sends({1, 2, 3, 4, 5}),
         Request({9})
             .parameters({9, 245, 0, 64, 245, 0})
+            .typed<ZDRActuatorMovingCmd>(Type(9))
             .written("[9, 245, 0, 64, 245, 0]")
             .sends({9, 245, 0, 64, 245}),
         Request(List())
@@ -93,6 +117,8 @@ TEST(ZDRActuatorMovingCmd, knowsItsFirmware)
 
 TEST(ZDRActuatorMovingCmd, takesNoPlainNumberForAnActuator)
 {
+    static_assert(!std::is_convertible_v<Type, ZDRActuatorMovingCmd>);
+    static_assert(!std::is_convertible_v<Operation, ZDRActuatorMovingCmd>);
     static_assert(!std::is_constructible_v<ZDRActuatorMovingCmd, int>);
     static_assert(!std::is_constructible_v<ZDRActuatorMovingCmd, bool>);
     static_assert(!std::is_constructible_v<ZDRActuatorMovingCmd, double>);
