@@ -36,12 +36,6 @@ void checkHeight(const GetShelfPosAnswer &answer)
 
 void checkPositions(const GetTurntablePositionsAnswer &answer)
 {
-    // a struct carries numbers beyond an int as doubles, which are exact up to 2^53
-    const auto isExact = [](long long number) { return number <= 1LL << 53; };
-    for (const TTCircuitData &circuit : answer.turntableCircuits()) {
-        if (!isExact(circuit.stepsPos) || !isExact(circuit.finSize))
-            return;
-    }
     quv::require(GetTurntablePositionsAnswer(answer.toXmlRpcValue()) == answer,
                  "circuits read back from their struct");
 }

@@ -7,6 +7,9 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+/** Up to which a double holds every whole number: 2^53. */
+constexpr long long MaxWholeNumber = 1LL << 53;
+
 /** The numbers in decimal, joined by \a separator. */
 QUVFRAMEWORK_EXPORT QString createListStr(const QList<int> &numbers, QChar separator);
 

@@ -3,6 +3,7 @@
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_metatype.h>
+#include <QuvFramework/fw_utils.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <algorithm>
@@ -137,7 +138,7 @@ double decodedQuantity(const XmlRpcValue &value)
 /** False for a number that a formula cannot hold to its last digit, and for what is not finite. */
 bool isHeld(const QVariant &number)
 {
-    constexpr auto max = static_cast<long long>(quv::MaxWholeNumber);
+    constexpr long long max = MaxWholeNumber;
     switch (number.userType()) {
     case QMetaType::Double:
     case QMetaType::Float:

@@ -3,6 +3,7 @@
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_error.h>
+#include <QuvFramework/fw_utils.h>
 
 #include <QtCore/QVarLengthArray>
 
@@ -12,7 +13,6 @@
 
 namespace {
 
-using quv::MaxWholeNumber;
 using quv::Source;
 using quv::Sources;
 
@@ -25,7 +25,7 @@ bool canPour(const Source &source)
 template <class Number>
 CircuitFormulaItem::Result<Number> wholeNumber(double value)
 {
-    const double limit = std::min(double(std::numeric_limits<Number>::max()), MaxWholeNumber);
+    const double limit = double(std::min<long long>(std::numeric_limits<Number>::max(), MaxWholeNumber));
     if (!(std::abs(value) <= limit))
         return {};
     return {static_cast<Number>(std::llround(value)), true};

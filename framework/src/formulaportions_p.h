@@ -15,9 +15,6 @@ class FW_DriverError;
 
 namespace quv {
 
-/** Up to which a double holds every whole number: 2^53. */
-constexpr double MaxWholeNumber = 9007199254740992.0;
-
 /** A pour of one circuit, all items that name it added up. */
 struct Portion
 {

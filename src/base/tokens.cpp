@@ -6,8 +6,6 @@
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_serial.h>
 
-#include <limits>
-
 namespace quv {
 
 bool parseAnyHex(const QString &token, unsigned &number)
@@ -33,12 +31,12 @@ unsigned TokenReader::nextUnsigned(const Refusal &refusal)
     return number;
 }
 
-long long TokenReader::nextNumber(int digits, const Refusal &refusal)
+long long TokenReader::nextNumber(int digits, const Refusal &refusal, long long greatest)
 {
     require(digits, refusal);
     bool ok = false;
     const long long number = joinValues(m_tokens.mid(m_index, digits), serialBase, true, &ok);
-    if (!ok)
+    if (!ok || number > greatest)
         refuse(refusal);
     m_index += digits;
     return number;

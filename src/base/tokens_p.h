@@ -5,6 +5,8 @@
 
 #include <QtCore/QStringList>
 
+#include <limits>
+
 namespace quv {
 
 /** Reads a hexadecimal number of 32 bits with all that QString::toUInt allows: blanks, a sign, a prefix, leading zeros. */
@@ -65,8 +67,9 @@ public:
 
     int next(const Refusal &refusal);
     unsigned nextUnsigned(const Refusal &refusal);
-    /** A number of \a digits base-246 digits, low digit first. */
-    long long nextNumber(int digits, const Refusal &refusal);
+    /** A number of \a digits base-246 digits, low digit first; one above \a greatest is refused as well. */
+    long long nextNumber(int digits, const Refusal &refusal,
+                         long long greatest = std::numeric_limits<long long>::max());
     /** Refuses when fewer than \a count tokens remain. */
     void require(int count, const Refusal &refusal) const;
 

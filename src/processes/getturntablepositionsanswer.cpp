@@ -30,7 +30,8 @@ constexpr quv::Refusal badAnswer(const char *code)
 
 long long nextSteps(quv::TokenReader &reader, const char *countCode, const char *digitsCode)
 {
-    return reader.nextNumber(reader.next(badAnswer(countCode)), badAnswer(digitsCode));
+    // to clients a greater one would travel as a double that cannot hold it
+    return reader.nextNumber(reader.next(badAnswer(countCode)), badAnswer(digitsCode), MaxWholeNumber);
 }
 
 } // namespace

@@ -20,8 +20,8 @@ public:
     explicit GetTurntablePositionsAnswer(const QList<TTCircuitData> &circuits);
     /**
      * Tokens: the number of circuits, then for each its position, its place in steps and the size of its fin, both as a
-     * number of digits and base-246 digits. Throws DE01749 to DE01755 for tokens that are not that, and what
-     * SerialProtoAnswer throws.
+     * number of digits and base-246 digits. Throws DE01749 to DE01755 for tokens that are not that, DE01753
+     * and DE01755 also for a number above 2^53, and what SerialProtoAnswer throws.
      */
     explicit GetTurntablePositionsAnswer(QStringList tokens);
     /** Throws DE01757 without the array, DE01756 when an element cannot be read, or what TTCircuitData throws. */

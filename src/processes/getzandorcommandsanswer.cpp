@@ -28,14 +28,11 @@ namespace {
 constexpr quv::Refusal badLength = {"DE02891", "Invalid answer length"};
 constexpr quv::Refusal badCode = {"DE02893", "Invalid command code type found in answer"};
 
-int nextCode(quv::TokenReader &reader, const char *function)
+int nextCode(quv::TokenReader &reader)
 {
     constexpr int digits = 2;
     reader.require(digits, badLength);
-    const long long code = reader.nextNumber(digits, badCode);
-    if (code > std::numeric_limits<int>::max())
-        quv::throwRefusal(badCode, function);
-    return static_cast<int>(code);
+    return static_cast<int>(reader.nextNumber(digits, badCode, std::numeric_limits<int>::max()));
 }
 
 QList<int> nextFields(quv::TokenReader &reader)
@@ -71,12 +68,11 @@ GetZandorCommandsAnswer::GetZandorCommandsAnswer(const QList<ZandorCommand> &com
 
 GetZandorCommandsAnswer::GetZandorCommandsAnswer(QStringList tokens) : DescribedAnswer(std::move(tokens))
 {
-    const char *function = Q_FUNC_INFO;
-    quv::TokenReader reader(m_parameters, 0, function);
+    quv::TokenReader reader(m_parameters, 0, Q_FUNC_INFO);
     reader.require(1, badLength);
     const int count = reader.next({"DE02892", "Invalid command count type found in answer"});
     for (int i = 0; i < count; ++i) {
-        const int code = nextCode(reader, function);
+        const int code = nextCode(reader);
         m_commands.append(ZandorCommand(code, nextFields(reader)));
     }
 }

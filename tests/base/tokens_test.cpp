@@ -158,6 +158,15 @@ TEST(TokenReader, refusesDigitsThatAreMissingOrBad)
     expectRefusal("DE7", "Bad token", signature, [&] { great.nextNumber(9, refusal); });
 }
 
+TEST(TokenReader, refusesNumbersAboveTheGreatestThatIsAsked)
+{
+    const QStringList tokens = {"36", "1"}; // 300
+    quv::TokenReader reader(tokens, 0, signature);
+    expectRefusal("DE7", "Bad token", signature, [&] { reader.nextNumber(2, refusal, 299); });
+    EXPECT_EQ(reader.remaining(), 2);
+    EXPECT_EQ(reader.nextNumber(2, refusal, 300), 300);
+}
+
 TEST(TokenReader, requiresWhatMustFollow)
 {
     const QStringList tokens = {"1", "2"};

@@ -86,13 +86,21 @@ TEST(GetTurntablePositionsAnswer, readsNumbersOfNoDigitsAsZero)
 
 TEST(GetTurntablePositionsAnswer, readsTheGreatestNumber)
 {
-    const QStringList digits = {"8", "7", "D2", "DF", "26", "F2", "C3", "2B", "A9"};
-    EXPECT_EQ(Answer(answerWith(QStringList{"1", "5"} + digits + QStringList{"0"})).turntableCircuits(),
-              Circuits{TTCircuitData(5, 9223372036854775807LL, 0)});
-    QStringList more = digits;
-    more[1] = "8";
-    expectTokensRefused("DE01753", QStringList{"1", "5"} + more + QStringList{"0"});
-    expectTokensRefused("DE01755", QStringList{"1", "5", "0"} + more);
+    const QStringList greatest = {"7", "4A", "8B", "97", "3B", "6", "9E", "28"}; // 2^53
+    const Answer answer(answerWith(QStringList{"1", "5"} + greatest + greatest));
+    EXPECT_EQ(answer.turntableCircuits(), Circuits{TTCircuitData(5, 9007199254740992LL, 9007199254740992LL)});
+    EXPECT_EQ(Answer(answer.toXmlRpcValue()), answer);
+}
+
+TEST(GetTurntablePositionsAnswer, refusesNumbersThatADoubleDoesNotHold)
+{
+    for (const QStringList &digits :
+         {QStringList{"7", "4B", "8B", "97", "3B", "6", "9E", "28"},          // 2^53 + 1
+          QStringList{"8", "7", "D2", "DF", "26", "F2", "C3", "2B", "A9"},    // 2^63 - 1
+          QStringList{"8", "8", "D2", "DF", "26", "F2", "C3", "2B", "A9"}}) { // 2^63
+        expectTokensRefused("DE01753", QStringList{"1", "5"} + digits + QStringList{"0"});
+        expectTokensRefused("DE01755", QStringList{"1", "5", "0"} + digits);
+    }
 }
 
 TEST(GetTurntablePositionsAnswer, leavesWhatFollowsUnread)
@@ -133,6 +141,7 @@ TEST(GetTurntablePositionsAnswer, asksForNoMemoryThatTheTokensDoNotFill)
     expectTokensRefused("DE01750", {"7FFFFFFF"});
     expectTokensRefused("DE01750", {"7FFFFFFF", "1", "0", "0"});
     expectTokensRefused("DE01749", {"80000000", "1", "0", "0"});
+    expectTokensRefused("DE01749", {"-1", "1", "0", "0"});
     expectTokensRefused("DE01753", {"1", "1", "7FFFFFFF", "1"});
     expectTokensRefused("DE01752", {"1", "1", "FFFFFFFF", "1"});
     expectTokensRefused("DE01755", {"1", "1", "0", "7FFFFFFF", "1"});
