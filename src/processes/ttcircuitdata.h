@@ -39,7 +39,7 @@ struct QUVPROTOCOL_EXPORT TTCircuitData
 
     int positionID = 0;
     long long stepsPos = 0; ///< steps from the reference position
-    long long finSize = 0;  ///< steps that the circuit's pin is wide
+    long long finSize = 0;  ///< steps that the circuit's fin is wide
 };
 
 Q_DECLARE_METATYPE(TTCircuitData)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "processes/turntablemovement.h"
 
-#include "base/translation_p.h"
 #include "base/wire_p.h"
 
 TurntableMovement::TurntableMovement(int direction, int speed) : m_direction(direction), m_speed(speed) {}
@@ -10,11 +9,11 @@ QString TurntableMovement::directionString() const
 {
     switch (m_direction) {
     case Clockwise:
-        return QString::fromLatin1(QT_TRANSLATE_NOOP("QuvProtocol", "clockwise"));
+        return QStringLiteral("clockwise");
     case CounterClockwise:
-        return QString::fromLatin1(QT_TRANSLATE_NOOP("QuvProtocol", "counter-clockwise"));
+        return QStringLiteral("counter-clockwise");
     case Shortest:
-        return QString::fromLatin1(QT_TRANSLATE_NOOP("QuvProtocol", "shortest"));
+        return QStringLiteral("shortest");
     default:
         return {};
     }
