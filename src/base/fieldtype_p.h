@@ -35,9 +35,10 @@ struct FieldType
     void (*write)(const void *field, XmlRpc::XmlRpcValue &value) = nullptr;
     bool (*equal)(const void *left, const void *right) = nullptr;
     void (*reset)(void *field) = nullptr; ///< to the empty value: false, 0 or nothing
-    /** Of a list of objects: when one of them is refused by its own class, and with what. */
-    const std::pair<const char *, Refusal> *elementRefusals = nullptr;
-    std::size_t elementRefusalCount = 0;
+    /** Of an object, or of the elements of a list of objects: when its own class refuses it, and with what. */
+    const std::pair<const char *, Refusal> *ownRefusals = nullptr;
+    std::size_t ownRefusalCount = 0;
+    bool isList = false; ///< of objects
 };
 
 /** The type of a field; families specialise it for what only they know. */

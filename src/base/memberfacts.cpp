@@ -14,15 +14,21 @@ bool isSame(const Refusal &a, const Refusal &b)
     return qstrcmp(a.code, b.code) == 0 && qstrcmp(a.text, b.text) == 0;
 }
 
-/** What the elements of a list of objects are refused with by their own class. */
-void appendElementRefusals(QList<RefusalFacts> &refusals, const FieldType &type)
+/** What an object, or the elements of a list of objects, are refused with by their own class. */
+void appendOwnRefusals(QList<RefusalFacts> &refusals, const FieldType &type)
 {
-    for (std::size_t i = 0; i < type.elementRefusalCount; ++i) {
-        const auto &[when, refusal] = type.elementRefusals[i];
+    for (std::size_t i = 0; i < type.ownRefusalCount; ++i) {
+        const auto &[when, refusal] = type.ownRefusals[i];
         const bool isOfOtherType = qstrcmp(when, "another type") == 0;
-        const QByteArray ofElement = QByteArray(isOfOtherType ? "an element of " : "an element ") + when;
-        appendRefusal(refusals, "XML-RPC", ofElement, refusal);
+        const char *before = !type.isList ? "" : isOfOtherType ? "an element of " : "an element ";
+        appendRefusal(refusals, "XML-RPC", QByteArray(before) + when, refusal);
     }
+}
+
+/** Whether its own class tells what is wrong with an object, so that the member's refusal is left for want of memory. */
+bool tellsWhatIsWrong(const MemberRow &row)
+{
+    return row.type && !row.type->isList && row.type->ownRefusalCount > 0;
 }
 
 MemberFacts factsOf(const MemberRow &row)
@@ -36,13 +42,16 @@ MemberFacts factsOf(const MemberRow &row)
             QLatin1String(member.meaning.isEmpty() ? "only when not empty" : "; only when not empty");
     member.required = isGiven(row.missing);
     if (isSame(row.missing, row.otherType)) {
-        appendRefusal(member.refusals, "XML-RPC", "missing or another type", row.missing);
+        appendRefusal(member.refusals, "XML-RPC",
+                      tellsWhatIsWrong(row) ? "missing or cannot be made" : "missing or another type",
+                      row.missing);
     } else {
         appendRefusal(member.refusals, "XML-RPC", "missing", row.missing);
-        appendRefusal(member.refusals, "XML-RPC", "another type", row.otherType);
+        appendRefusal(member.refusals, "XML-RPC", tellsWhatIsWrong(row) ? "cannot be made" : "another type",
+                      row.otherType);
     }
     if (row.type)
-        appendElementRefusals(member.refusals, *row.type);
+        appendOwnRefusals(member.refusals, *row.type);
     if (!isSame(row.element, row.otherType))
         appendRefusal(member.refusals, "XML-RPC", row.elementWhen, row.element);
     appendRefusal(member.refusals, "list", "missing or another type", row.inList);

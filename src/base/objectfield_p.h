@@ -42,8 +42,8 @@ void writeObject(const void *field, XmlRpc::XmlRpcValue &value)
 template <class T>
 constexpr FieldType objectType()
 {
-    return {nameOf<T>,      FieldType::Other, readObject<T>, readObjectVariant<T>,
-            writeObject<T>, equalFields<T>,   resetField<T>};
+    return {nameOf<T>,      FieldType::Other, readObject<T>,         readObjectVariant<T>, writeObject<T>,
+            equalFields<T>, resetField<T>,    ownRefusals<T>.data(), ownRefusals<T>.size()};
 }
 
 template <class T>
@@ -96,9 +96,11 @@ void writeObjects(const void *field, XmlRpc::XmlRpcValue &value)
 template <class T>
 constexpr FieldType objectListType()
 {
-    return {"array of structs",    FieldType::Other,      readObjects<T>,
-            readObjectsVariant<T>, writeObjects<T>,       equalFields<QList<T>>,
-            resetField<QList<T>>,  ownRefusals<T>.data(), ownRefusals<T>.size()};
+    return {"array of structs",    FieldType::Other,
+            readObjects<T>,        readObjectsVariant<T>,
+            writeObjects<T>,       equalFields<QList<T>>,
+            resetField<QList<T>>,  ownRefusals<T>.data(),
+            ownRefusals<T>.size(), true};
 }
 
 } // namespace quv

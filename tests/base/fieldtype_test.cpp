@@ -50,6 +50,13 @@ inline constexpr std::array<std::pair<const char *, Refusal>, 2> ownRefusals<Noz
     {{"another type", {"DE0", "No nozzle"}}, {"turned back", {"DE1", "Turned back"}}}};
 
 template <>
+const FieldType &fieldType<Nozzle>()
+{
+    static constexpr FieldType type = objectType<Nozzle>();
+    return type;
+}
+
+template <>
 const FieldType &fieldType<QList<Nozzle>>()
 {
     static constexpr FieldType type = objectListType<Nozzle>();
@@ -165,12 +172,12 @@ TEST(FieldType, ofObjectsIsAnArrayOfTheirStructs)
 TEST(FieldType, ofObjectsKnowsTheirOwnRefusals)
 {
     constexpr quv::FieldType type = quv::objectListType<Nozzle>();
-    ASSERT_EQ(type.elementRefusalCount, 2u);
-    EXPECT_STREQ(type.elementRefusals[0].first, "another type");
-    EXPECT_STREQ(type.elementRefusals[0].second.code, "DE0");
-    EXPECT_STREQ(type.elementRefusals[1].first, "turned back");
-    EXPECT_STREQ(type.elementRefusals[1].second.code, "DE1");
-    EXPECT_EQ(doubles().elementRefusalCount, 0u);
+    ASSERT_EQ(type.ownRefusalCount, 2u);
+    EXPECT_STREQ(type.ownRefusals[0].first, "another type");
+    EXPECT_STREQ(type.ownRefusals[0].second.code, "DE0");
+    EXPECT_STREQ(type.ownRefusals[1].first, "turned back");
+    EXPECT_STREQ(type.ownRefusals[1].second.code, "DE1");
+    EXPECT_EQ(doubles().ownRefusalCount, 0u);
 }
 
 TEST(FieldType, ofObjectsIsToldWithTheirOwnRefusals)
@@ -194,6 +201,27 @@ TEST(FieldType, ofObjectsIsToldWithTheirOwnRefusals)
     EXPECT_EQ(spares,
               (Lines{"  XML-RPC, missing or another type: DE2", "  XML-RPC, an element of another type: DE0",
                      "  XML-RPC, an element turned back: DE1"}));
+}
+
+TEST(FieldType, ofAnObjectIsToldWithItsOwnRefusals)
+{
+    struct Rail
+    {
+        Nozzle nozzle;
+        Nozzle spare;
+    };
+    const quv::Record<Rail> record(
+        {quv::Member<Rail>("nozzle", &Rail::nozzle, {"DE2", "No nozzle"}),
+         quv::Member<Rail>("spare", &Rail::spare, {"DE3", "No spare"}).otherType({"DE4", "Spare unmade"})});
+    const QList<quv::MemberFacts> members = quv::factsOf(record.rows());
+    Lines nozzle;
+    appendRefusals(nozzle, members.at(0).refusals);
+    EXPECT_EQ(nozzle, (Lines{"  XML-RPC, missing or cannot be made: DE2", "  XML-RPC, another type: DE0",
+                             "  XML-RPC, turned back: DE1"}));
+    Lines spare;
+    appendRefusals(spare, members.at(1).refusals);
+    EXPECT_EQ(spare, (Lines{"  XML-RPC, missing: DE3", "  XML-RPC, cannot be made: DE4",
+                            "  XML-RPC, another type: DE0", "  XML-RPC, turned back: DE1"}));
 }
 
 TEST(FieldType, ofObjectsInAListIsAListOfThem)

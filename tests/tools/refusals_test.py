@@ -501,8 +501,8 @@ class Described(Collected):
                                 .meaning("circuits").element({"DE00005", "bad"}),
                             {"rest", &Answer::m_rest, {"DE00006", "no"}, {"DE00007", "no"}},
                             quv::Member<Answer>::writtenWhenFilled("masks", &Answer::m_masks, {"DE00008", "no"},
-                                                                   {"DE00009", "no"}).meaning("of each")};
-                            quv::Member<Answer>("pins", &Answer::m_pins).unmadeElement({"DE00008", "bad"}),
+                                                                   {"DE00009", "no"}).meaning("of each"),
+                            quv::Member<Answer>("pins", &Answer::m_pins).unmadeElement({"DE00010", "bad"})};
                 }
             };
             ''', record=REFUSAL + '''
@@ -529,7 +529,8 @@ class Described(Collected):
              ("DE00006", "XML-RPC value", "rest", "missing or another type", made),
              ("DE00007", "list", "rest", "missing or another type", made),
              ("DE00008", "XML-RPC value", "masks", "another type", made),
-             ("DE00009", "list", "masks", "missing or another type", made)])
+             ("DE00009", "list", "masks", "missing or another type", made),
+             ("DE00010", "XML-RPC value", "pins", "an element that cannot be made", made)])
 
     def test_answer_that_a_class_makes_in_part_by_itself(self):
         self.assertEqual(self.places('''
@@ -549,7 +550,6 @@ class Described(Collected):
                    ("DE00002", "answer, XML-RPC value", "the answer", "", ("FooCmd::buildProtoAnswer",)),
                    ("DE00003", "answer, list", "the answer", "", ("FooCmd::buildProtoAnswer",)),
                    ("DE00004", "answer, envelope", "the answer", "", ("FooCmd::setAnswer",))])
-             ("DE00008", "XML-RPC value", "pins", "an element that cannot be made", made)])
 
     def test_flags_that_are_required(self):
         found = self.refusals('''
