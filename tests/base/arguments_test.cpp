@@ -39,20 +39,22 @@ struct Wash
 
 constexpr char signature[] = "Wash::Wash(const Arguments&)";
 
-Wash readValue(const Value &value)
+template <class Arguments = Wash>
+Arguments readValue(const Value &value)
 {
-    Wash wash;
+    Arguments arguments;
     quv::ValueReader reader(value, signature);
-    Wash::arguments(wash, reader);
-    return wash;
+    Arguments::arguments(arguments, reader);
+    return arguments;
 }
 
-Wash readList(const List &list)
+template <class Arguments = Wash>
+Arguments readList(const List &list)
 {
-    Wash wash;
+    Arguments arguments;
     quv::ListReader reader(list, signature);
-    Wash::arguments(wash, reader);
-    return wash;
+    Arguments::arguments(arguments, reader);
+    return arguments;
 }
 
 Value written(const Wash &wash)
@@ -260,12 +262,8 @@ TEST(Arguments, ThatAreOnlySentAreNotRead)
 {
     const Value value = arrayOf(5, false, 7);
     const List list = {5, false, 7};
-    Rinse fromValue;
-    quv::ValueReader valueReader(value, signature);
-    Rinse::arguments(fromValue, valueReader);
-    Rinse fromList;
-    quv::ListReader listReader(list, signature);
-    Rinse::arguments(fromList, listReader);
+    Rinse fromValue = readValue<Rinse>(value);
+    const Rinse fromList = readList<Rinse>(list);
     for (const Rinse &rinse : {fromValue, fromList}) {
         EXPECT_EQ(rinse.circuit, 5);
         EXPECT_TRUE(rinse.announced);
@@ -318,47 +316,32 @@ struct Lift
     }
 };
 
-Lift liftOf(const Value &value)
-{
-    Lift lift;
-    quv::ValueReader reader(value, signature);
-    Lift::arguments(lift, reader);
-    return lift;
-}
-
-Lift liftOf(const List &list)
-{
-    Lift lift;
-    quv::ListReader reader(list, signature);
-    Lift::arguments(lift, reader);
-    return lift;
-}
-
 } // namespace
 
 TEST(Arguments, areRequiredOnlyWhenTheirConditionHolds)
 {
-    expectRefusal("V3", "Height missing", signature, [] { liftOf(arrayOf(1)); });
-    expectRefusal("L3", "Height missing", signature, [] { liftOf(List{1}); });
-    for (const Lift &lift : {liftOf(arrayOf(2)), liftOf(List{2})}) {
+    expectRefusal("V3", "Height missing", signature, [] { readValue<Lift>(arrayOf(1)); });
+    expectRefusal("L3", "Height missing", signature, [] { readList<Lift>(List{1}); });
+    for (const Lift &lift : {readValue<Lift>(arrayOf(2)), readList<Lift>(List{2})}) {
         EXPECT_EQ(lift.kind, 2);
         EXPECT_EQ(lift.height, 40);
     }
     for (int kind : {1, 2}) {
-        EXPECT_EQ(liftOf(arrayOf(kind, 7)).height, 7);
-        EXPECT_EQ(liftOf(List{kind, 7}).height, 7);
-        expectRefusal("V4", "Height: int expected", signature, [kind] { liftOf(arrayOf(kind, "7")); });
-        expectRefusal("L4", "Height: int expected", signature, [kind] { liftOf(List{kind, "7"}); });
+        EXPECT_EQ(readValue<Lift>(arrayOf(kind, 7)).height, 7);
+        EXPECT_EQ(readList<Lift>(List{kind, 7}).height, 7);
+        expectRefusal("V4", "Height: int expected", signature,
+                      [kind] { readValue<Lift>(arrayOf(kind, "7")); });
+        expectRefusal("L4", "Height: int expected", signature, [kind] { readList<Lift>(List{kind, "7"}); });
     }
-    expectRefusal("V2", "Kind: int expected", signature, [] { liftOf(arrayOf("1")); });
-    expectRefusal("L1", "Kind missing", signature, [] { liftOf(List()); });
+    expectRefusal("V2", "Kind: int expected", signature, [] { readValue<Lift>(arrayOf("1")); });
+    expectRefusal("L1", "Kind missing", signature, [] { readList<Lift>(List()); });
 
-    for (const Lift &lift : {liftOf(arrayOf(1, 7)), liftOf(arrayOf(2, 7))}) {
+    for (const Lift &lift : {readValue<Lift>(arrayOf(1, 7)), readValue<Lift>(arrayOf(2, 7))}) {
         quv::ListWriter writer;
         Lift::arguments(lift, writer);
         EXPECT_EQ(writer.result(), (List{lift.kind, 7}));
     }
-    const Lift lowest = liftOf(arrayOf(2));
+    const Lift lowest = readValue<Lift>(arrayOf(2));
     EXPECT_EQ(dumped(quv::writtenArguments([&](auto &archive) { Lift::arguments(lowest, archive); })),
               "[2, 40]");
 }
