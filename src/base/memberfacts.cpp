@@ -25,12 +25,6 @@ void appendOwnRefusals(QList<RefusalFacts> &refusals, const FieldType &type)
     }
 }
 
-/** Whether its own class tells what is wrong with an object, so that the member's refusal is left for want of memory. */
-bool tellsWhatIsWrong(const MemberRow &row)
-{
-    return row.type && !row.type->isList && row.type->ownRefusalCount > 0;
-}
-
 MemberFacts factsOf(const MemberRow &row)
 {
     MemberFacts member;
@@ -42,13 +36,10 @@ MemberFacts factsOf(const MemberRow &row)
             QLatin1String(member.meaning.isEmpty() ? "only when not empty" : "; only when not empty");
     member.required = isGiven(row.missing);
     if (isSame(row.missing, row.otherType)) {
-        appendRefusal(member.refusals, "XML-RPC",
-                      tellsWhatIsWrong(row) ? "missing or cannot be made" : "missing or another type",
-                      row.missing);
+        appendRefusal(member.refusals, "XML-RPC", "missing or another type", row.missing);
     } else {
         appendRefusal(member.refusals, "XML-RPC", "missing", row.missing);
-        appendRefusal(member.refusals, "XML-RPC", tellsWhatIsWrong(row) ? "cannot be made" : "another type",
-                      row.otherType);
+        appendRefusal(member.refusals, "XML-RPC", row.otherWhen, row.otherType);
     }
     if (row.type)
         appendOwnRefusals(member.refusals, *row.type);

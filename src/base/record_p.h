@@ -31,6 +31,7 @@ struct MemberRow
     const char *meaning = "";
     bool (*isFilled)(const void *field) =
         nullptr; ///< given where the member is written only when its field is filled
+    const char *otherWhen = "another type";                 ///< when otherType refuses, in words
     const char *elementWhen = "an element of another type"; ///< when element refuses, in words
 };
 
@@ -94,6 +95,12 @@ public:
     {
         m_row.element = refusal;
         return *this;
+    }
+    /** Of an object that has refusals of its own: when it fails without any, as from want of memory. */
+    Member &unmade(const Refusal &refusal)
+    {
+        m_row.otherWhen = "cannot be made";
+        return otherType(refusal);
     }
     /** Of a list of objects that have refusals of their own: for one that fails without any, as from want of memory. */
     Member &unmadeElement(const Refusal &refusal)

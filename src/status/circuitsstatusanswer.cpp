@@ -28,7 +28,7 @@ struct CircuitsStatusAnswer::Description
         static constexpr char invalid[] =
             "CircuitsStatusAnswer: invalid DispenserStatusAnswersList parameter";
         return {quv::Member<Answer>(circuitsStatusAnswer_TAG, &Answer::m_answers, {"DE01173", invalid})
-                    .otherType({"DE01172", invalid})
+                    .unmade({"DE01172", invalid})
                     .meaning("of each circuit its position and its status")};
     }
 };

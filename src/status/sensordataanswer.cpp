@@ -26,7 +26,7 @@ struct SensorDataAnswer::Description
     {
         return {quv::Member<Answer>(sensorData_TAG, &Answer::m_sensorData,
                                     {"DE00798", "SensorDataAnswer: Errors during SensorData list creation"})
-                    .otherType({"DE00797", "SensorDataAnswer failed: expected SensorData type parameter"})
+                    .unmade({"DE00797", "SensorDataAnswer failed: expected SensorData type parameter"})
                     .meaning("the numbers of sensor and measure, and the value")};
     }
 };

@@ -212,11 +212,11 @@ TEST(FieldType, ofAnObjectIsToldWithItsOwnRefusals)
     };
     const quv::Record<Rail> record(
         {quv::Member<Rail>("nozzle", &Rail::nozzle, {"DE2", "No nozzle"}),
-         quv::Member<Rail>("spare", &Rail::spare, {"DE3", "No spare"}).otherType({"DE4", "Spare unmade"})});
+         quv::Member<Rail>("spare", &Rail::spare, {"DE3", "No spare"}).unmade({"DE4", "Spare unmade"})});
     const QList<quv::MemberFacts> members = quv::factsOf(record.rows());
     Lines nozzle;
     appendRefusals(nozzle, members.at(0).refusals);
-    EXPECT_EQ(nozzle, (Lines{"  XML-RPC, missing or cannot be made: DE2", "  XML-RPC, another type: DE0",
+    EXPECT_EQ(nozzle, (Lines{"  XML-RPC, missing or another type: DE2", "  XML-RPC, another type: DE0",
                              "  XML-RPC, turned back: DE1"}));
     Lines spare;
     appendRefusals(spare, members.at(1).refusals);

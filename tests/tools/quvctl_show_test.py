@@ -217,7 +217,7 @@ class Recorder:
 
 def value(word):
     """What a word of an example stands for."""
-    text = re.sub(r"^[a-z_]+=", "", word)
+    text = re.sub(r"^[a-z_0-9]+=", "", word)
     try:
         return json.loads(text)
     except ValueError:

@@ -22,7 +22,6 @@ constexpr Phrase phrases[] = {
     {"another type", "%1 is of another type"},
     {"missing or another type", "%1 is missing or of another type"},
     {"cannot be made", "%1 cannot be made"},
-    {"missing or cannot be made", "%1 is missing or cannot be made"},
     {"empty", "%1 is empty"},
     {"unreadable", "%1 cannot be read"},
     {"out of range", "%1 is out of range"},

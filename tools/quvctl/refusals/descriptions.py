@@ -20,7 +20,7 @@ ARGUMENT_WORDS = {("required", "absent"): "missing", ("required", "otherType"): 
 NAMING = {"required": 0, "requiredIf": 1, "optional": 0, "convertible": 0, "object": 0, "unread": 0}
 MEMBER = "Member"
 MAY_BE_MISSING = "writtenWhenFilled"  # what makes a member that nothing refuses when it is missing
-MEMBER_WORDS = {"otherType": "another type", "element": "an element of another type",
+MEMBER_WORDS = {"otherType": "another type", "unmade": "cannot be made", "element": "an element of another type",
                 "unmadeElement": "an element that cannot be made"}  # operations on a member
 THE_ANSWER = "the answer"
 
@@ -83,7 +83,7 @@ class Descriptions:
         when = "missing or another type"
         if parameter == "refusal" and operation == MAY_BE_MISSING:
             when = "another type"
-        elif parameter == "refusal" and "otherType" in operations_on(group):
+        elif parameter == "refusal" and {"otherType", "unmade"} & set(operations_on(group)):
             when = "missing"
         return self.raised_by_constructors(group, LIST if parameter == "inList" else VALUE, self.name_in(group), when)
 
