@@ -21,7 +21,7 @@ namespace quv {
 // that is run with a reader in its two decoding constructors, with a writer in its two writing operations, and with a teller
 // for the documents. An archive has
 //
-//     required(name, field, absent, otherType)       must be given
+//     required(name, field, absent, otherType)       must be given; not in a form in which its absence has no code
 //     requiredIf(condition, name, field, absent, otherType)
 //                                                    must be given when the condition holds
 //     optional(name, field, otherType)               leaves its field alone when it is not given
@@ -77,8 +77,7 @@ public:
     void requiredIf(bool condition, const ArgumentName &name, T &field, const ArgumentRefusal &absent,
                     const ArgumentRefusal &otherType)
     {
-        if (condition && m_index >= m_source.size())
-            refuse(absent);
+        refuseUnless(!condition || m_index < m_source.size(), absent);
         optional(name, field, otherType);
     }
 
@@ -315,6 +314,7 @@ private:
 
     void visit(bool field) { next() = field; }
     void visit(int field) { next() = field; }
+    void visit(unsigned int field) { visit(static_cast<int>(field)); } // which has no other type there
     void visit(double field) { next() = field; }
     template <class T>
     void visit(const T &field)

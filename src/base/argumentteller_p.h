@@ -26,10 +26,13 @@ public:
     void argument(const ArgumentName &name, const char *type, const XmlRpc::XmlRpcValue &otherwise);
 
     template <class T>
-    void required(const ArgumentName &name, const T &, const ArgumentRefusal &absent,
+    void required(const ArgumentName &name, const T &field, const ArgumentRefusal &absent,
                   const ArgumentRefusal &otherType)
     {
-        tell(name, fieldType<T>().name);
+        if (isGiven(absent.list) && !isGiven(absent.value))
+            unread(name, field); // XML-RPC, in which it may be left out
+        else
+            tell(name, fieldType<T>().name);
         refuseMissing(absent);
         refuse("another type", otherType);
     }

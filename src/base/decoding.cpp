@@ -26,6 +26,15 @@ bool decodeVariant(const QVariant &variant, int &out)
     return decodeByFramework(variant, out);
 }
 
+bool decodeVariant(const QVariant &variant, unsigned int &out)
+{
+    long long number = 0;
+    if (!decodeVariant(variant, number) || number < 0 || number > std::numeric_limits<unsigned int>::max())
+        return false;
+    out = static_cast<unsigned int>(number);
+    return true;
+}
+
 bool decodeVariant(const QVariant &variant, long long &out)
 {
     return decodeByFramework(variant, out);

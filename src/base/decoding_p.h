@@ -25,6 +25,7 @@ namespace quv {
 // An argument in a variant list: the stored type decides, nothing is converted but whole numbers in range.
 bool decodeVariant(const QVariant &variant, bool &out);
 bool decodeVariant(const QVariant &variant, int &out);
+bool decodeVariant(const QVariant &variant, unsigned int &out);
 bool decodeVariant(const QVariant &variant, long long &out);
 bool decodeVariant(const QVariant &variant, double &out); ///< takes whole numbers as well
 bool decodeVariant(const QVariant &variant, QString &out);

@@ -67,9 +67,10 @@ void writeDoubles(const void *field, XmlRpcValue &value)
         value[i] = numbers.at(i);
 }
 
+template <class V>
 void writeCutToInt(const void *field, XmlRpcValue &value)
 {
-    value = static_cast<int>(*static_cast<const long long *>(field));
+    value = static_cast<int>(*static_cast<const V *>(field));
 }
 
 void writeLatin1(const void *field, XmlRpcValue &value)
@@ -108,6 +109,14 @@ template <>
 const FieldType &fieldType<int>()
 {
     static constexpr FieldType type = describe<int>("int", read<int>, writePlain<int>, FieldType::Int);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<unsigned int>()
+{
+    static constexpr FieldType type =
+        describe<unsigned int>("int", read<unsigned int>, writeCutToInt<unsigned int>);
     return type;
 }
 
@@ -172,7 +181,7 @@ const FieldType &latin1Text()
 
 const FieldType &cutToInt()
 {
-    static constexpr FieldType type = describe<long long>("int", read<long long>, writeCutToInt);
+    static constexpr FieldType type = describe<long long>("int", read<long long>, writeCutToInt<long long>);
     return type;
 }
 

@@ -50,6 +50,8 @@ const FieldType &fieldType<bool>();
 template <>
 const FieldType &fieldType<int>();
 template <>
+const FieldType &fieldType<unsigned int>(); ///< whose upper half is negative when it is written
+template <>
 const FieldType &fieldType<long long>();
 template <>
 const FieldType &fieldType<double>();

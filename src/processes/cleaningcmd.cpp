@@ -21,7 +21,14 @@ struct CleaningCmd::Description : quv::Description
     static constexpr auto commandText = "Cleaning";
     static constexpr auto actionText = QT_TRANSLATE_NOOP("QuvProtocol", "Cleaning");
 
-    // what a list must hold beside the type is counted by its constructor
+    // the default of a request, which a command of one's own does not begin with
+    static void tellArguments(quv::ArgumentTeller &teller)
+    {
+        CleaningCmd read;
+        read.m_speed = configSpeed();
+        arguments(read, teller);
+    }
+
     template <class Self, class Archive>
     static void arguments(Self &self, Archive &archive)
     {
@@ -34,12 +41,14 @@ struct CleaningCmd::Description : quv::Description
                           {"DE01739", "Recirculation speed: expected INT parameter"}});
         archive.refuseUnless(checkSpeed(self.m_speed),
                              {{"DE01732", "Turntable cleaning speed: invalid parameter"}, {}});
-        archive.optional({"duration", "seconds, 1 to 60514; 60515 is without end"}, self.m_duration,
+        archive.required({"duration", "seconds, 1 to 60514; 60515 is without end; needed in a list"},
+                         self.m_duration, {{}, {"DE01741", "Expected recirculation duration parameter"}},
                          {{"DE01735", "Turntable cleaning duration: expected INT parameter"},
                           {"DE01740", "Recirculation duration: expected INT or LONG parameter"}});
         archive.refuseUnless(checkDuration(self.m_duration),
                              {{"DE01734", "Turntable cleaning duration: invalid parameter"}, {}});
-        archive.optional({"position", "a circuit's position; 0 is all circuits"}, self.m_moduleID,
+        archive.required({"position", "a circuit's position; 0 is all circuits; needed in a list"},
+                         self.m_moduleID, {{}, {"DE01743", "Expected Position ID parameter"}},
                          {"DE01736", "DE01742", "Position ID: expected INT parameter"});
         archive.optional({"busy", "whether the command lasts as long as the cleaning"}, self.m_busyExecution,
                          {"DE02418", "DE02419", "Busy execution: expected BOOL parameter"});
@@ -47,11 +56,6 @@ struct CleaningCmd::Description : quv::Description
 };
 
 template class quv::DescribedCommand<CleaningCmd, SerialProtoCommand>;
-
-CleaningCmd::CleaningCmd()
-{
-    m_speed = configSpeed();
-}
 
 CleaningCmd::CleaningCmd(int type, int speed, qlonglong duration, int position, bool busyExecution)
     : FWProcess(speed, duration, Seconds, false),
@@ -76,11 +80,6 @@ CleaningCmd::CleaningCmd(QList<QVariant> list) : DescribedCommand(list)
 {
     m_speed = configSpeed();
     read(list, Q_FUNC_INFO);
-    constexpr int withDuration = 3;
-    if (list.size() < withDuration)
-        throw FW_Exception("DE01741", "Expected recirculation duration parameter", Q_FUNC_INFO);
-    if (list.size() == withDuration)
-        throw FW_Exception("DE01743", "Expected Position ID parameter", Q_FUNC_INFO);
 }
 
 CleaningCmd *CleaningCmd::clone() const

@@ -14,16 +14,16 @@ class QUVPROTOCOL_EXPORT CleaningCmd : public quv::DescribedCommand<CleaningCmd,
 public:
     struct Description;
 
-    CleaningCmd(); ///< of type 1 at the configured speed
+    CleaningCmd() = default; ///< of type 1
     /**
      * A position below 1 is all circuits; a duration of 0 is the time that a brush cleans itself. Throws DE01729 for a type
      * that there is not, and as FWProcess does.
      */
     CleaningCmd(int type, int speed, qlonglong duration, int position, bool busyExecution);
     /**
-     * The type, then speed, duration, position (int) and busy execution (bool), which may be left out. Throws DE01731,
-     * DE01733, DE01735, DE01736 or DE02418 for another type of argument, DE01730, DE01732 or DE01734 for a type, speed or
-     * duration that there is not.
+     * The type, then speed, duration, position (int) and busy execution (bool), which may be left out: the speed is then the
+     * configured one. Throws DE01731, DE01733, DE01735, DE01736 or DE02418 for another type of argument, DE01730, DE01732 or
+     * DE01734 for a type, speed or duration that there is not.
      */
     explicit CleaningCmd(const XmlRpc::XmlRpcValue &value);
     /**

@@ -2,11 +2,11 @@
 #include "processes/fwprocess.h"
 
 #include "base/digits_p.h"
+#include "processes/milliseconds_p.h"
 
 #include <QuvFramework/fw_exception.h>
 
 #include <algorithm>
-#include <limits>
 
 FWProcess::FWProcess(int speed, qlonglong duration, DurationType type, bool busyExecution)
     : m_durationType(type),
@@ -62,7 +62,5 @@ void FWProcess::appendDuration(QList<int> &parameters) const
 
 long long FWProcess::durationInMilliseconds() const
 {
-    constexpr long long second = 1000;
-    constexpr long long most = std::numeric_limits<long long>::max() / second;
-    return m_duration > 0 && m_duration <= most ? m_duration * second : 0;
+    return quv::millisecondsOf(m_duration);
 }

@@ -3,6 +3,7 @@
 
 #include "base/describedcommand_p.h"
 #include "base/gate_p.h"
+#include "processes/milliseconds_p.h"
 #include "processes/ultrasoundcleaningcmd.h"
 
 #include <QuvFramework/fw_autocap.h>
@@ -93,7 +94,7 @@ QList<int> NozzleCleanCmd::serialParameters(int) const
 
 long long NozzleCleanCmd::getCmdEstimatedExecutionTime(const FW_Machine *machine) const
 {
-    constexpr long long perCircuit = 4000; // beside the cleaning itself
+    constexpr int perCircuit = 4; // seconds beside the cleaning itself
     const auto *dispenser = dynamic_cast<const FW_Dispenser *>(machine);
     if (!dispenser)
         return 0;
@@ -101,13 +102,16 @@ long long NozzleCleanCmd::getCmdEstimatedExecutionTime(const FW_Machine *machine
         return UltrasoundCleaningCmd().getCmdEstimatedExecutionTime(machine);
     if (!dispenser->hasDevice(FW_Device::Brush))
         return 0;
-    long long time = 0;
+    int motors = 0;
+    long long configured = 0;
     for (const FW_Circuit *circuit : addressedCircuits(*dispenser, m_moduleID)) {
-        if (const FW_CleaningMotor *motor = circuit->firstCleaningMotor())
-            time += perCircuit + (m_duration == infiniteDuration() ? motor->duration() * 1000LL
-                                                                   : durationInMilliseconds());
+        if (const FW_CleaningMotor *motor = circuit->firstCleaningMotor()) {
+            ++motors;
+            configured += quv::millisecondsOf(motor->duration(), 1, perCircuit);
+        }
     }
-    return time;
+    return m_duration == infiniteDuration() ? configured
+                                            : quv::millisecondsOf(m_duration, motors, perCircuit);
 }
 
 bool NozzleCleanCmd::isSupportedCommand(const FW_Version &version) const

@@ -7,6 +7,9 @@
 
 #include <QuvFramework/fw_dispenser.h>
 
+#include <algorithm>
+#include <limits>
+
 namespace {
 
 constexpr quv::FamilyGate recirculatesAll[] = {{63, 37}, {68, 3}, {70, 1}, {72}};
@@ -96,7 +99,8 @@ QList<int> RecirculationCmd::serialParameters(int) const
 {
     QList<int> parameters = {m_speed};
     if (m_durationType == Strokes) {
-        parameters << 0 << 0 << static_cast<int>(m_duration);
+        const auto strokes = std::clamp<long long>(m_duration, 0, std::numeric_limits<int>::max());
+        parameters << 0 << 0 << static_cast<int>(strokes);
     } else {
         appendDuration(parameters);
         parameters << 0;

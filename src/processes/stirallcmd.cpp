@@ -50,11 +50,14 @@ std::optional<QList<int>> stirredPositions(const FW_Dispenser &dispenser, int ty
     }
 }
 
+/** A duration beyond an int stays one that there is not. */
 QList<int> sameFor(const QList<int> &positions, long long duration)
 {
+    using Int = std::numeric_limits<int>;
+    const auto each = static_cast<int>(std::clamp<long long>(duration, Int::min(), Int::max()));
     QList<int> durations;
     for (int i = 0; i < positions.size(); ++i)
-        durations.append(static_cast<int>(duration));
+        durations.append(each);
     return durations;
 }
 
@@ -83,9 +86,8 @@ struct StirAllCmd::Description : quv::Description
         archive.refuseUnless(checkStirringItemType(self.m_itemType), {"DE01921", "DE01885", badType});
         archive.optional({"sequential", "one circuit after the other"}, self.m_sequential,
                          {"DE01878", "DE01886", noFlag});
-        archive.optional({"interval", "milliseconds after each run"}, self.m_interval,
+        archive.optional({"interval", "milliseconds after each run, 0 and above"}, self.m_interval,
                          {"DE01879", "DE01887", noInterval});
-        archive.refuseUnless(self.m_interval >= 0, {"DE01879", "DE01887", noInterval});
     }
 };
 
@@ -93,9 +95,9 @@ template class quv::DescribedCommand<StirAllCmd, SerialProtoCommand>;
 
 StirAllCmd::StirAllCmd(qlonglong duration, bool sequential, uint interval, const FW_Dispenser *dispenser)
     : DescribedCommand(dispenser),
-      m_sequential(sequential)
+      m_sequential(sequential),
+      m_interval(interval)
 {
-    setInterval(interval);
     if (duration >= 0)
         m_items = {StirItem(duration)};
     requireItems(dispenser, "DE01920", Q_FUNC_INFO);
@@ -105,9 +107,9 @@ StirAllCmd::StirAllCmd(const QList<QVariant> &items, int type, qlonglong duratio
                        uint interval, const FW_Dispenser *dispenser)
     : DescribedCommand(dispenser),
       m_itemType(type),
-      m_sequential(sequential)
+      m_sequential(sequential),
+      m_interval(interval)
 {
-    setInterval(interval);
     for (const QVariant &item : items)
         m_items.append(StirItem(item, duration));
     requireItems(dispenser, "DE01918", Q_FUNC_INFO);
@@ -118,9 +120,9 @@ StirAllCmd::StirAllCmd(const QList<StirItem> &items, int type, bool sequential, 
     : DescribedCommand(dispenser),
       m_items(items),
       m_itemType(type),
-      m_sequential(sequential)
+      m_sequential(sequential),
+      m_interval(interval)
 {
-    setInterval(interval);
     requireItems(dispenser, "DE01917", Q_FUNC_INFO);
 }
 
@@ -193,11 +195,6 @@ StirAllCmd *StirAllCmd::clone() const
 const FW_Dispenser *StirAllCmd::dispenser() const
 {
     return dynamic_cast<const FW_Dispenser *>(machine());
-}
-
-void StirAllCmd::setInterval(uint milliseconds)
-{
-    m_interval = static_cast<int>(std::min<uint>(milliseconds, std::numeric_limits<int>::max()));
 }
 
 bool StirAllCmd::setStirringItemType(int type)

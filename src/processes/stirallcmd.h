@@ -32,13 +32,13 @@ public:
                const FW_Dispenser *dispenser);
     /**
      * An array of StirItem, or a duration for all circuits (int; below 0 for their own activities); then the type of the
-     * items (int), sequential (bool) and the interval (int). All may be left out. DE01922; also throws DE01874 for a bad
-     * item, DE01875 for no items, DE01921 for no type, DE01878 and DE01879 for what has another type.
+     * items (int), sequential (bool) and the interval (int, not below 0). All may be left out. DE01922; also throws DE01874
+     * for a bad item, DE01875 for no items, DE01921 for no type, DE01878 and DE01879 for what has another type.
      */
     StirAllCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser);
     /**
-     * The same as a list, but a duration below 0 is none. DE01924; also throws DE01890 for bad items, DE01885 for no type,
-     * DE01886, DE01887 and DE01889 for what has another type.
+     * The same as a list, but a duration below 0 is none, and the interval may be any UInt. DE01924; also throws DE01890 for
+     * bad items, DE01885 for no type, DE01886, DE01887 and DE01889 for what has another type.
      */
     StirAllCmd(QList<QVariant> list, const FW_Dispenser *dispenser);
 
@@ -52,15 +52,19 @@ public:
     bool setStirringItemType(int type);                ///< false, and it stays, for a type that there is not
     static bool checkStirringItemType(int type);       ///< 0 to 4
     bool isSequential() const { return m_sequential; } ///< one after the other, whatever could run at once
-    uint interval() const { return static_cast<uint>(m_interval); } ///< milliseconds after each run
+    uint interval() const { return m_interval; }       ///< milliseconds after each run
 
     /**
      * Takes items for all that the dispenser has of what the type names: for the duration, or -1 for the activities of the
      * circuits. They are circuit positions, whatever the type. False, and the items as they were, without a dispenser, for a
-     * type that there is not, and when a circuit without a motor is to stir for its activity.
+     * type that there is not, and when a circuit without a motor is to stir for its activity. Throws DE01877 for a duration
+     * that there is not.
      */
     bool buildStirItems(long long duration);
-    /** Circuit positions, each with its duration. False, and the items as they were, for lists of different lengths. */
+    /**
+     * Circuit positions, each with its duration. False, and the items as they were, for lists of different lengths. Throws
+     * DE01877 for a duration that there is not.
+     */
     bool setStirItems(const QList<int> &positions, const QList<int> &durations);
     long long getFirstValidDurationInItems() const; ///< the first that is not negative; -1 for none
     bool hasValidDurationsInItems() const;          ///< whether there is one
@@ -76,7 +80,6 @@ public:
 private:
     bool isNullItemAlone() const { return m_items.size() == 1 && m_items.constFirst().isNullItem(); }
     const FW_Dispenser *dispenser() const;
-    void setInterval(uint milliseconds);
     bool collectPositions(const FW_Dispenser &dispenser, QList<int> &positions, QList<int> &durations) const;
     void requireItems(const FW_Dispenser *dispenser, const char *code, const char *function) const;
     void readItems(const XmlRpc::XmlRpcValue &value, const char *function);
@@ -85,5 +88,5 @@ private:
     QList<StirItem> m_items;
     int m_itemType = StirItem::CircuitPosition;
     bool m_sequential = true;
-    int m_interval = 500; // as it travels
+    uint m_interval = 500;
 };

@@ -3,6 +3,7 @@
 
 #include "base/describedcommand_p.h"
 #include "base/wordstable_p.h"
+#include "processes/milliseconds_p.h"
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_ultrasoundcleaning.h>
@@ -31,7 +32,6 @@ struct UltrasoundCleaningCmd::Description : quv::Description
     static constexpr auto command = ProtoCommandList::ULTRASOUND_CLEAN;
     static constexpr auto commandText = "Ultrasound cleaning";
 
-    // that a list must hold the duration is counted by its constructor
     template <class Self, class Archive>
     static void arguments(Self &self, Archive &archive)
     {
@@ -40,7 +40,8 @@ struct UltrasoundCleaningCmd::Description : quv::Description
                          {"DE02193", "DE02196", noType});
         archive.refuseUnless(checkCleaningType(self.m_type),
                              {{"DE02192", "Cleaning type: invalid parameter"}, {}});
-        archive.optional({"duration", "1 to 60514; 245 as configured"}, self.m_duration,
+        archive.required({"duration", "1 to 60515; 245 as configured; needed in a list"}, self.m_duration,
+                         {{}, {"DE02199", "Expected recirculation duration parameter"}},
                          {{"DE02195", "Turntable cleaning duration: expected INT parameter"},
                           {"DE02198", "Recirculation duration: expected INT or LONG parameter"}});
         archive.refuseUnless(checkDuration(self.m_duration),
@@ -63,8 +64,6 @@ UltrasoundCleaningCmd::UltrasoundCleaningCmd(const XmlRpc::XmlRpcValue &value) :
 UltrasoundCleaningCmd::UltrasoundCleaningCmd(QList<QVariant> list) : DescribedCommand(list)
 {
     read(list, Q_FUNC_INFO);
-    if (list.size() < 2)
-        throw FW_Exception("DE02199", "Expected recirculation duration parameter", Q_FUNC_INFO);
 }
 
 UltrasoundCleaningCmd *UltrasoundCleaningCmd::clone() const
@@ -93,11 +92,10 @@ QList<int> UltrasoundCleaningCmd::serialParameters(int) const
 
 long long UltrasoundCleaningCmd::getCmdEstimatedExecutionTime(const FW_Machine *machine) const
 {
-    constexpr long long second = 1000;
     if (m_type != FullCleaning && m_duration != configuredDuration) {
         // of emptying and filling in tenths of a second
         if (m_type == Emptying || m_type == Filling)
-            return m_duration / 10 * second;
+            return quv::millisecondsOf(m_duration / 10);
         return durationInMilliseconds();
     }
     const auto *dispenser = dynamic_cast<const FW_Dispenser *>(machine);
@@ -107,11 +105,11 @@ long long UltrasoundCleaningCmd::getCmdEstimatedExecutionTime(const FW_Machine *
             : nullptr;
     if (!station)
         return 0;
-    constexpr long long preparation = 10;
+    constexpr int preparation = 10;
     const double cleaning = station->ultrasoundDuration();
     const double whole =
         m_type == FullCleaning ? cleaning + station->emptyingTime() + station->fillingTime() : cleaning;
-    return (static_cast<long long>(whole) + preparation) * second;
+    return quv::millisecondsOf(static_cast<long long>(whole), 1, preparation);
 }
 
 TString UltrasoundCleaningCmd::actionString(bool detailed) const

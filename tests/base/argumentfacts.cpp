@@ -29,6 +29,9 @@ std::vector<Value> otherValues(ArgumentType type)
     case ConvertedInteger:
         add({Value(true), Value(7.0), Value(7.5), Value("7"), Value(""), arrayOf(7)});
         break;
+    case Unsigned:
+        add({Value(true), Value(7.0), Value(7.5), Value("7"), Value(""), arrayOf(7), Value(-1)});
+        break;
     case Whole:
         add({Value(true), Value(7.5), Value("7"), Value(""), arrayOf(7)});
         break;
@@ -64,6 +67,8 @@ List otherVariants(ArgumentType type)
                                18446744073709551615ULL};
     case ConvertedInteger:
         return variants + List{"here", QString(), 1e10, List{7}, 4294967296LL};
+    case Unsigned:
+        return variants + List{true, 7.0, "7", List{7}, QByteArray("7"), -1, -1LL, 4294967296LL};
     case Whole:
         return variants + List{true, 7.5, "7", List{7}, QByteArray("7"), 18446744073709551615ULL};
     case Number:
@@ -83,6 +88,7 @@ List sameVariants(ArgumentType type, const QVariant &literal)
     case Text:
         break;
     case Integer:
+    case Unsigned:
     case Whole:
         same = {number};
         if (number >= 0)

@@ -25,6 +25,7 @@ enum ArgumentType {
     Flag,
     Integer,          ///< an int; in a list a whole number of any width that an int holds
     ConvertedInteger, ///< an int; in a list whatever converts to one
+    Unsigned,         ///< an int not below 0; in a list a whole number that 32 bits without a sign hold
     Whole,            ///< a whole number of 64 bits
     Number,           ///< a double, or a whole number
     Text,

@@ -195,6 +195,68 @@ TEST(Arguments, areWrittenInOrder)
     expectFull(readList(list));
 }
 
+namespace {
+
+/** What a list must hold, and XML-RPC may leave out. */
+struct Soak
+{
+    unsigned int pause = 500;
+
+    template <class Self, class Archive>
+    static void arguments(Self &self, Archive &archive)
+    {
+        archive.required("pause", self.pause, {{}, {"L1", "Pause missing"}},
+                         {"V2", "L2", "Pause: int expected"});
+    }
+};
+
+template <class Reader, class Source>
+unsigned int pauseOf(const Source &source)
+{
+    Soak soak;
+    Reader reader(source, signature);
+    Soak::arguments(soak, reader);
+    return soak.pause;
+}
+
+} // namespace
+
+TEST(Arguments, areRequiredInAFormInWhichTheirAbsenceHasACode)
+{
+    EXPECT_EQ(pauseOf<quv::ValueReader>(arrayOf()), 500U);
+    expectRefusal("L1", "Pause missing", signature, [] { pauseOf<quv::ListReader>(List()); });
+
+    quv::CommandFacts facts;
+    quv::ArgumentTeller teller(facts);
+    const Soak fresh;
+    Soak::arguments(fresh, teller);
+    ASSERT_EQ(facts.arguments.size(), 1);
+    EXPECT_TRUE(facts.arguments.at(0).optional);
+    EXPECT_EQ(facts.arguments.at(0).type, "int");
+    EXPECT_EQ(dumped(facts.arguments.at(0).defaultValue), "500");
+    EXPECT_EQ(facts.arguments.at(0).refusals.at(0).form, "list");
+    EXPECT_EQ(facts.arguments.at(0).refusals.at(0).code, "L1");
+}
+
+TEST(Arguments, withoutASignAreCutOnlyOverXmlRpc)
+{
+    EXPECT_EQ(pauseOf<quv::ValueReader>(arrayOf(0)), 0U);
+    EXPECT_EQ(pauseOf<quv::ValueReader>(arrayOf(2147483647)), 2147483647U);
+    expectRefusal("V2", "Pause: int expected", signature, [] { pauseOf<quv::ValueReader>(arrayOf(-1)); });
+    EXPECT_EQ(pauseOf<quv::ListReader>(List{4294967295U}), 4294967295U);
+    EXPECT_EQ(pauseOf<quv::ListReader>(List{4294967295LL}), 4294967295U);
+    for (const QVariant &other : {QVariant(-1), QVariant(4294967296LL), QVariant(7.0), QVariant("7")})
+        expectRefusal("L2", "Pause: int expected", signature, [&] { pauseOf<quv::ListReader>(List{other}); });
+
+    Soak soak;
+    soak.pause = 3000000000U;
+    quv::ListWriter writer;
+    Soak::arguments(soak, writer);
+    EXPECT_EQ(writer.result().at(0), QVariant(3000000000U));
+    EXPECT_EQ(dumped(quv::writtenArguments([&](auto &archive) { Soak::arguments(soak, archive); })),
+              "[-1294967296]");
+}
+
 TEST(Arguments, areAnEmptyArrayWhenThereAreNone)
 {
     EXPECT_EQ(dumped(quv::writtenArguments([](auto &) {})), "[]");

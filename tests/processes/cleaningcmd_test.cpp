@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "processes/cleaningcmd.h"
 
+#include "base/factlines.h"
 #include "processes/processtesting.h"
 
 namespace {
@@ -46,10 +47,10 @@ CommandFacts facts()
                      getter(&CleaningCmd::duration), getter(&CleaningCmd::moduleID),
                      getter(&CleaningCmd::isBusyExecution)};
     facts.defaults = Request()
-                         .parameters({1, 245, 30LL, 0, false})
-                         .written("[1, 245, 30, 0, false]")
-                         .sends({245, 30, 0, 1, 0})
-                         .says(cleaning("Cleaning circuit position 0 for 30 seconds at speed 245"));
+                         .parameters({1, 50, 30LL, 0, false})
+                         .written("[1, 50, 30, 0, false]")
+                         .sends({50, 30, 0, 1, 0})
+                         .says(cleaning("Cleaning circuit position 0 for 30 seconds at speed 50"));
     facts.requests = {
         Request({0, 60, 300, 3, true})
             .parameters({0, 60, 300LL, 3, true})
@@ -135,6 +136,32 @@ TEST(CleaningCmd, needsDurationAndPositionInAList)
     expectRefusal("DE01740", "Recirculation duration: expected INT or LONG parameter", ofList, [] {
         CleaningCmd(List{1, 50, "x"});
     });
+}
+
+TEST(CleaningCmd, tellsWhatAListNeeds)
+{
+    const Lines lines = argumentsOf("CLEANING");
+    EXPECT_EQ(lines,
+              (Lines{"type (int): 0 or 1",
+                     "  XML-RPC, another type: DE01731",
+                     "  list, another type: DE01737",
+                     "  XML-RPC, out of range: DE01730",
+                     "speed (int) = 245: 1 to 100; 245 as configured",
+                     "  XML-RPC, another type: DE01733",
+                     "  list, another type: DE01739",
+                     "  XML-RPC, out of range: DE01732",
+                     "duration (int) = 30: seconds, 1 to 60514; 60515 is without end; needed in a list",
+                     "  list, missing: DE01741",
+                     "  XML-RPC, another type: DE01735",
+                     "  list, another type: DE01740",
+                     "  XML-RPC, out of range: DE01734",
+                     "position (int) = 0: a circuit's position; 0 is all circuits; needed in a list",
+                     "  list, missing: DE01743",
+                     "  XML-RPC, another type: DE01736",
+                     "  list, another type: DE01742",
+                     "busy (bool) = false: whether the command lasts as long as the cleaning",
+                     "  XML-RPC, another type: DE02418",
+                     "  list, another type: DE02419"}));
 }
 
 TEST(CleaningCmd, stopsOnlyWhenToldByAList)

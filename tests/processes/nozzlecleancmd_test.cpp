@@ -127,6 +127,24 @@ TEST(NozzleCleanCmd, takesTimeForEachCircuitWithAMotor)
     EXPECT_EQ(time(0, 60515), 9000 + 13000);
 }
 
+TEST(NozzleCleanCmd, tellsNoTimeThatCannotBe)
+{
+    FW_Dispenser machine = cleanedMachine();
+    const auto time = [&](qlonglong duration) {
+        return NozzleCleanCmd(List{0, duration}).getCmdEstimatedExecutionTime(&machine);
+    };
+    for (const qlonglong duration : {-5LL, -9223372036854775807LL, 0LL})
+        EXPECT_EQ(time(duration), 3 * 4000) << duration;
+    EXPECT_EQ(time(3074457345618254LL), 9223372036854774000LL); // thrice, and 12 seconds
+    for (const qlonglong duration : {3074457345618255LL, 9223372036854775LL, 9223372036854775807LL})
+        EXPECT_EQ(time(duration), 0) << duration;
+
+    FW_CleaningMotor motor;
+    motor.setDuration(-5);
+    machine.getCircuitByPosition(1)->setCleaningMotor(motor);
+    EXPECT_EQ(time(60515), 4000 + 11000 + 13000);
+}
+
 TEST(NozzleCleanCmd, takesNoTimeWithoutABrush)
 {
     FW_Dispenser machine = dispenserWith({1});

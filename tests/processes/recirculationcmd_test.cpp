@@ -159,12 +159,25 @@ TEST(RecirculationCmd, checksRangesInTheTypedFormOnly)
     EXPECT_EQ(RecirculationCmd(List{1, 0}, nullptr).duration(), 0);
 }
 
-TEST(RecirculationCmd, alwaysSendsFiveIntegers)
+TEST(RecirculationCmd, sendsTheDigitsOfItsSeconds)
 {
     EXPECT_EQ(RecirculationCmd(List{1, -5, 50}, nullptr).serialParameters(1), (QList<int>{50, 0, 0, 0, 0}));
     EXPECT_EQ(RecirculationCmd(List{1, 245, 50}, nullptr).serialParameters(1),
               (QList<int>{50, 245, 0, 0, 0}));
     EXPECT_EQ(RecirculationCmd(List{1, 246, 50}, nullptr).serialParameters(1), (QList<int>{50, 0, 1, 0, 0}));
+    EXPECT_EQ(RecirculationCmd(List{1, 60516, 50}, nullptr).serialParameters(1),
+              (QList<int>{50, 0, 0, 1, 0, 0}));
+}
+
+TEST(RecirculationCmd, sendsStrokesThatAnIntHolds)
+{
+    const auto sent = [](qlonglong strokes) {
+        return RecirculationCmd(List{1, strokes, 50, 1}, nullptr).serialParameters(1);
+    };
+    EXPECT_EQ(sent(-5), (QList<int>{50, 0, 0, 0, 0}));
+    EXPECT_EQ(sent(2147483647), (QList<int>{50, 0, 0, 2147483647, 0}));
+    EXPECT_EQ(sent(2147483648), (QList<int>{50, 0, 0, 2147483647, 0}));
+    EXPECT_EQ(sent(4611686018427387904), (QList<int>{50, 0, 0, 2147483647, 0}));
 }
 
 TEST(RecirculationCmd, losesTheUpperHalfOfADurationOverXmlRpc)

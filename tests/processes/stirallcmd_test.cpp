@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "processes/stirallcmd.h"
 
+#include "base/factlines.h"
 #include "processes/stirredmachine.h"
 
 #include <QuvFramework/fw_mixer.h>
@@ -37,7 +38,7 @@ Value itemStruct(const Value &item, int duration)
 }
 
 /** What the command is told, in all forms, and holds. */
-Request request(const Items &items, int type, bool sequential, int interval, const FW_Dispenser *machine)
+Request request(const Items &items, int type, bool sequential, uint interval, const FW_Dispenser *machine)
 {
     Value array = arrayOf();
     for (const StirItem &item : items)
@@ -46,9 +47,9 @@ Request request(const Items &items, int type, bool sequential, int interval, con
                                              : Value(item.item().toInt()),
                                          static_cast<int>(item.duration()));
     return Request({variantOf(items), type, sequential, interval})
-        .value(arrayOf(array, type, sequential, interval))
-        .typed<StirAllCmd>(items, type, sequential, static_cast<uint>(interval), machine)
-        .holds({variantOf(items), type, sequential, static_cast<uint>(interval)});
+        .value(arrayOf(array, type, sequential, static_cast<int>(interval)))
+        .typed<StirAllCmd>(items, type, sequential, interval, machine)
+        .holds({variantOf(items), type, sequential, interval});
 }
 
 /** The same told by the first arguments alone. */
@@ -89,15 +90,14 @@ CommandFacts facts(const FW_Dispenser *machine)
         optional(Integer, {"DE01878", "DE01889", "Stirring sequential: expected BOOL parameter", badType})
             .outOfRange({-1, 5, 100}, {"DE01921", "DE01885", badType}),
         optional(Flag, {"DE01878", "DE01886", "Stirring sequential: expected BOOL parameter"}),
-        optional(Integer, {"DE01879", "DE01887", "Stirring interval: expected INT parameter"})
-            .outOfRange({-1}, {"DE01879", "DE01887", "Stirring interval: expected INT parameter"})
+        optional(Unsigned, {"DE01879", "DE01887", "Stirring interval: expected INT parameter"})
             .takes({0, 1, 2147483647}),
     };
     facts.getters = {getter(&StirAllCmd::items), getter(&StirAllCmd::stirringItemType),
                      getter(&StirAllCmd::isSequential), getter(&StirAllCmd::interval)};
     facts.words = {"Stir all", "Stirring all circuits"};
     facts.defaults = request({}, 0, true, 500, nullptr)
-                         .parameters({variantOf({}), 0, true, 500})
+                         .parameters({variantOf({}), 0, true, 500U})
                          .written("[[], 0, true, 500]");
     facts.requests = {
         request({StirItem(5, 40), StirItem(3, -1)}, 0, false, 700, machine)
@@ -176,10 +176,16 @@ TEST(StirAllCmd, passesOnWhatAnItemRefuses)
     expectRefusal("DE01877", badDuration, ofItem, [] { StirAllCmd(List{60516}, nullptr); });
 }
 
-TEST(StirAllCmd, cutsAnIntervalToWhatTravels)
+TEST(StirAllCmd, takesAnIntervalThatNoIntHolds)
 {
-    EXPECT_EQ(StirAllCmd(40, true, 4294967295U, nullptr).interval(), 2147483647U);
-    EXPECT_EQ(StirAllCmd(List{40, 0, true, 2147483647U}, nullptr).interval(), 2147483647U);
+    EXPECT_EQ(StirAllCmd(40, true, 4294967295U, nullptr).interval(), 4294967295U);
+    const StirAllCmd command(List{40, 0, true, 3000000000U}, nullptr);
+    EXPECT_EQ(command.interval(), 3000000000U);
+    EXPECT_EQ(command.parameters().at(3), QVariant(3000000000U));
+    EXPECT_EQ(command.parameters().at(3).userType(), QMetaType::UInt);
+    EXPECT_EQ(dumped(command.xmlrpc_parameters()),
+              R"([[{"duration": 40, "item": 0}], 0, true, -1294967296])");
+    EXPECT_EQ(StirAllCmd(command.parameters(), nullptr).interval(), 3000000000U);
 }
 
 TEST(StirAllCmd, changesItsType)
@@ -196,6 +202,15 @@ TEST(StirAllCmd, changesItsType)
         EXPECT_FALSE(command.setStirringItemType(type));
         EXPECT_EQ(command.stirringItemType(), 2);
     }
+}
+
+TEST(StirAllCmd, tellsItsIntervalAsAnInt)
+{
+    const Lines lines = argumentsOf("STIR_ALL");
+    ASSERT_GE(lines.size(), 3U);
+    EXPECT_EQ(Lines(lines.end() - 3, lines.end()),
+              (Lines{"interval (int) = 500: milliseconds after each run, 0 and above",
+                     "  XML-RPC, another type: DE01879", "  list, another type: DE01887"}));
 }
 
 // ---------------------------------------------------------------- the check
@@ -268,6 +283,11 @@ TEST(StirAllCmd, buildsItemsForADuration)
     StirAllCmd canisters(Items(), 2, true, 500, &machine);
     EXPECT_TRUE(canisters.buildStirItems(0));
     EXPECT_EQ(contentOf(canisters), (List{5, 0, 1, 0, 2, 0, 3, 0, 6, 0}));
+    for (const qlonglong duration : {4294967326LL, -4294967266LL, -2LL, 60516LL}) { // two are 30 in 32 bits
+        expectRefusal("DE01877", "Stirring duration: invalid parameter",
+                      "StirItem::StirItem(QVariant, qlonglong)", [&] { canisters.buildStirItems(duration); });
+        EXPECT_EQ(contentOf(canisters), (List{5, 0, 1, 0, 2, 0, 3, 0, 6, 0}));
+    }
     for (const int type : {3, 4}) {
         StirAllCmd command(Items(), type, true, 500, &machine);
         EXPECT_TRUE(command.buildStirItems(9));
@@ -440,6 +460,7 @@ TEST(StirAllCmd, takesTheTimeOfItsRuns)
     EXPECT_EQ(time(StirAllCmd(40, true, 500, &machine)), 4 * 40500);
     EXPECT_EQ(time(StirAllCmd(-1, false, 100, &machine)), 30100 + 40100);
     EXPECT_EQ(time(StirAllCmd(-1, true, 0, &machine)), 120000);
+    EXPECT_EQ(time(StirAllCmd(40, true, 3000000000U, &machine)), 12000160000LL);
 
     machine.setStirringParallelism(3); // the last run is shorter
     EXPECT_EQ(time(StirAllCmd(-1, false, 100, &machine)), 40100 + 20100);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "processes/ultrasoundcleaningcmd.h"
 
+#include "base/factlines.h"
 #include "processes/processtesting.h"
 
 #include <QuvFramework/fw_mixer.h>
@@ -119,6 +120,17 @@ TEST(UltrasoundCleaningCmd, needsADurationInAList)
                   [] { UltrasoundCleaningCmd(List{"x"}); });
 }
 
+TEST(UltrasoundCleaningCmd, tellsWhatAListNeeds)
+{
+    EXPECT_EQ(argumentsOf("ULTRASOUND_CLEAN"),
+              (Lines{"type (int): 1 full cleaning, 2 emptying, 3 filling, 4 cleaning alone",
+                     "  XML-RPC, another type: DE02193", "  list, another type: DE02196",
+                     "  XML-RPC, out of range: DE02192",
+                     "duration (int) = 30: 1 to 60515; 245 as configured; needed in a list",
+                     "  list, missing: DE02199", "  XML-RPC, another type: DE02195",
+                     "  list, another type: DE02198", "  XML-RPC, out of range: DE02194"}));
+}
+
 TEST(UltrasoundCleaningCmd, checksNoRangesInAList)
 {
     const UltrasoundCleaningCmd command(List{7, 4294967299LL});
@@ -129,6 +141,18 @@ TEST(UltrasoundCleaningCmd, checksNoRangesInAList)
         EXPECT_EQ(command.actionString(detailed).m_text, "In progress");
     EXPECT_EQ(UltrasoundCleaningCmd(List{4, 0}).serialParameters(1), (QList<int>{4, 0, 0}));
     EXPECT_EQ(UltrasoundCleaningCmd(List{4, -5}).serialParameters(1), (QList<int>{4, 0, 0}));
+}
+
+TEST(UltrasoundCleaningCmd, tellsNoTimeThatCannotBe)
+{
+    for (const int type : {2, 3, 4, 7}) {
+        for (const qlonglong duration :
+             {-5LL, -50LL, -9223372036854775807LL, 0LL, 922337203685477580LL, 9223372036854775807LL})
+            EXPECT_EQ(UltrasoundCleaningCmd(List{type, duration}).getCmdEstimatedExecutionTime(nullptr), 0)
+                << type << ' ' << duration;
+    }
+    EXPECT_EQ(UltrasoundCleaningCmd(List{2, 92233720368547759LL}).getCmdEstimatedExecutionTime(nullptr),
+              9223372036854775000LL);
 }
 
 TEST(UltrasoundCleaningCmd, knowsTypes)

@@ -95,6 +95,20 @@ class Constants(Collected):
             '''), [("DE00001", "expected a formula", "FooCmd", "list", ""),
                    ("DE00002", "FooCmd failed", "FooCmd", "typed", "")])
 
+    def test_of_variants_with_more_behind_them(self):
+        self.assertEqual(self.raised('''
+            FooCmd::FooCmd(QVariant item, qlonglong duration) { throw FW_Exception("DE00001", "a", Q_FUNC_INFO); }
+            FooCmd::FooCmd(const QList<QVariant> &items, int type, const FW_Dispenser *dispenser)
+            {
+                throw FW_Exception("DE00002", "b", Q_FUNC_INFO);
+            }
+            FooCmd::FooCmd(int type, QList<QVariant> list, const FW_Machine *machine)
+            {
+                throw FW_Exception("DE00003", "c", Q_FUNC_INFO);
+            }
+            '''), [("DE00001", "a", "FooCmd", "typed", ""), ("DE00002", "b", "FooCmd", "typed", ""),
+                   ("DE00003", "c", "FooCmd", "list", "")])
+
     def test_of_a_header(self):
         self.assertEqual(self.raised('''
             FooCmd::FooCmd(QStringList tokens)

@@ -2,6 +2,7 @@
 """In which form comes what is refused."""
 
 import re
+from itertools import dropwhile
 
 VALUE, LIST, TYPED, TOKENS, ROW, MACHINE, ENVELOPE = \
     "XML-RPC value", "list", "typed", "tokens", "text", "machine", "envelope"
@@ -10,6 +11,9 @@ VALUE, LIST, TYPED, TOKENS, ROW, MACHINE, ENVELOPE = \
 FORM_NAMES = {"value": VALUE, "xmlRpc": VALUE, "struct": VALUE, "list": LIST, "typed": TYPED, "tokens": TOKENS,
               "envelope": ENVELOPE}
 
+# What stands behind variants only in a constructor that a program calls with what it has: a request is read from them alone.
+PLAIN = {"bool", "int", "uint", "qlonglong"}
+
 MACHINES = {"FW_Machine", "FW_Dispenser", "FW_Mixer"}
 
 
@@ -17,11 +21,20 @@ def in_words(name):
     return re.sub(r"(?<=[a-z0-9])(?=[A-Z])", " ", name).lower()
 
 
+def has_plain_behind(parameters):
+    """Whether a plain parameter follows one of variants."""
+    behind = dropwhile(lambda parameter: "QVariant" not in parameter.type, parameters)
+    return any(PLAIN & set(parameter.type) for parameter in behind)
+
+
 def form_of(function):
     """The form of what a function reads or checks; empty when its signature does not tell."""
     types = {name for parameter in function.parameters for name in parameter.type}
     form = VALUE if "XmlRpcValue" in types else LIST if "QVariant" in types else TOKENS if "QStringList" in types else ""
-    if not form and function.owners and function.owners[-1] == function.name:
+    is_constructor = function.owners[-1:] == (function.name,)
+    if is_constructor and form == LIST and has_plain_behind(function.parameters):
+        return TYPED
+    if not form and is_constructor:
         if types and types <= MACHINES | {"const", "int", "char"} and types & MACHINES:
             return MACHINE
         is_row = any(parameter.name == "row" and parameter.type == ["QString"] for parameter in function.parameters)
