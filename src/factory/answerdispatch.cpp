@@ -8,8 +8,8 @@
 #include "processes/getshelfparamsanswer.h"
 #include "processes/getturntablepositionsanswer.h"
 #include "processes/getzandorcommandsanswer.h"
-#include "status/sensorsstatusanswer.h"
 #include "status/geterrorsanswer.h"
+#include "status/sensorsstatusanswer.h"
 
 namespace quv {
 
