@@ -15,7 +15,7 @@ function(quv_compile_options target)
 endfunction()
 
 # Lets the compiler parse headers once a target that nearly all of its sources include. A source includes what it needs all the
-# same: the static build of tests/packages_test.py, without this, finds what was forgotten.
+# same: clang-tidy in .ci/run, without this, finds what was forgotten.
 function(quv_precompile_headers target)
     if(QUVPROTOCOL_PRECOMPILE_HEADERS)
         if(ARGV1 STREQUAL REUSE_FROM)
