@@ -29,7 +29,8 @@ class QUVPROTOCOL_EXPORT TokenAnswered<Leaf, Base, true> : public Base
 {
 public:
     using Base::buildProtoAnswer;
-    bool buildProtoAnswer(QStringList tokens, FW_DriverError *error) override;
+    // marked by itself too: clang does not hand the mark of a partial specialization down
+    QUVPROTOCOL_EXPORT bool buildProtoAnswer(QStringList tokens, FW_DriverError *error) override;
 
 protected:
     using Base::Base;
