@@ -11,7 +11,6 @@ using namespace testing_base;
 
 using Answer = SensorDataAnswer;
 
-constexpr char ofTokens[] = "SensorDataAnswer::SensorDataAnswer(QStringList)";
 constexpr char ofValue[] = "SensorDataAnswer::SensorDataAnswer(const XmlRpc::XmlRpcValue&)";
 constexpr char ofDataTokens[] = "SensorData::SensorData(QStringList)";
 constexpr char ofDataValue[] = "SensorData::SensorData(const XmlRpc::XmlRpcValue&)";
