@@ -112,8 +112,8 @@ CommandFacts facts(const FW_Dispenser *machine)
     };
     const Request all = facts.requests.back();
     facts.requests.push_back(all.alsoFromList({40}));
-    facts.requests.push_back(all.alsoFromList({List{QVariantMap{{"item", 0}, {"duration", 40}}}}));
-    facts.requests.push_back(all.alsoFromList({List{QVariant::fromValue(StirItem(40))}}));
+    facts.requests.push_back(all.alsoFromList({QVariant(List{QVariantMap{{"item", 0}, {"duration", 40}}})}));
+    facts.requests.push_back(all.alsoFromList({QVariant(List{QVariant::fromValue(StirItem(40))})}));
     facts.requests.push_back(all.alsoFromValue(arrayOf(40, 0, true, 500)));
     const Request none = toldBy(0, request({}, 0, true, 500, machine)).written("[[], 0, true, 500]");
     facts.requests.push_back(none);

@@ -616,13 +616,16 @@ class Simulated(unittest.TestCase):
         self.assertEqual(report["ids"], [])
 
     def test_another_pour_meanwhile(self):
-        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "10000") as driver:
+        with quvdriver_process.Driver("--machine", "dispenser", "--speed", "5") as driver:  # a second for B
             port = ["--port", str(driver.port)]
-            with start("tint", "B=10", "--interval", "2", *port) as process:
+            with start("tint", "B=10", "--interval", "3", *port) as process:
                 process.stdout.readline()
                 process.stdout.readline()  # it waits for its next question
-                time.sleep(0.5)
+                time.sleep(0.2)
+                process.send_signal(signal.SIGSTOP)  # however long the other pour may take
+                time.sleep(2)
                 self.assertEqual(self.tint(driver, "C=5")[0], 0)
+                process.send_signal(signal.SIGCONT)
                 out, err = process.communicate(timeout=30)
         self.assertEqual((process.returncode, err), (
             0, "warning: the machine has poured something else since; its report of this pour is gone\n"))
