@@ -186,7 +186,7 @@ class Whole(PackagesTest):
     def test_static(self):
         build, prefix = self.folder / "static", self.folder / "prefix"
         self.configure(SOURCE, build, "-DBUILD_SHARED_LIBS=OFF", "-DQUVPROTOCOL_BUILD_TOOLS=OFF",
-                       "-DQUVPROTOCOL_BUILD_TESTS=OFF", "-DCMAKE_BUILD_TYPE=Release", "-DQUVPROTOCOL_WERROR=ON")
+                       "-DQUVPROTOCOL_BUILD_TESTS=OFF", *self.UNOPTIMISED)
         self.run_tool("cmake", "--build", build)
         self.run_tool("cmake", "--install", build, "--prefix", prefix)
         self.assertEqual(list(prefix.glob("**/*.so*")), [])
