@@ -43,7 +43,7 @@ CALLING = re.compile(r"\bquvctl (call|tint|watch|config|ticket)\b(?![^|;&]* --po
 RUN_ELSEWHERE = {
     "./scripts/demo": (".ci/run", "\nscripts/demo\n"),
     "./scripts/test": (".ci/run", "\nscripts/test\n"),
-    "cmake --preset release && cmake --build --preset release": (".ci/run", "\nbuild release\n"),
+    "cmake --preset release && cmake --build --preset release": ("tests/packages_test.py", '"--preset", "release"'),
     "cmake --install build/release --prefix /usr/local": ("tests/packages_test.py", '"cmake", "--install", BUILD'),
 }
 
