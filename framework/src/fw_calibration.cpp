@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include <QuvFramework/fw_calibration.h>
+#include <QuvFramework/fw_utils.h>
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace {
-
-// beyond it a double has no digit for the single step
-constexpr double MaxSteps = 9007199254740992.0; // 2^53
 
 using Points = QVector<FW_CalibrationPoint>;
 
@@ -75,7 +73,9 @@ long long FW_Calibration::steps(double quantity, bool *ok) const
         return result(0LL, false, ok);
     const double steps =
         std::copysign(interpolated(m_points, std::abs(quantity), quantityOf, stepsOf), quantity);
-    const bool good = std::abs(steps) <= MaxSteps; // false for what is no number, too
+    // beyond it a double has no digit for the single step
+    const bool good =
+        std::abs(steps) <= static_cast<double>(MaxWholeNumber); // false for what is no number, too
     return result(good ? std::llround(steps) : 0LL, good, ok);
 }
 

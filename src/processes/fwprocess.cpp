@@ -2,6 +2,7 @@
 #include "processes/fwprocess.h"
 
 #include "base/digits_p.h"
+#include "base/wire_p.h"
 #include "processes/milliseconds_p.h"
 
 #include <QuvFramework/fw_exception.h>
@@ -31,7 +32,7 @@ void FWProcess::setProcDefaults()
 
 long long FWProcess::infiniteDuration()
 {
-    return 60515;
+    return quv::unsetTwoDigits;
 }
 
 long long FWProcess::maxDuration()
@@ -46,7 +47,7 @@ bool FWProcess::checkDuration(long long duration)
 
 int FWProcess::configSpeed()
 {
-    return 245;
+    return quv::unsetDigit;
 }
 
 bool FWProcess::checkSpeed(int speed)

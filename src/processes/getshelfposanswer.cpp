@@ -2,21 +2,17 @@
 #include "processes/getshelfposanswer.h"
 
 #include "base/describedanswer_p.h"
-#include "base/tokens_p.h"
+#include "base/digitnumber_p.h"
 #include "base/wire_p.h"
 
-#include <limits>
 #include <utility>
 
 namespace {
 
-constexpr quv::Refusal badHighDigit = {"DE01449", "Error during command answer decoding: height high value"};
-
 void writeHeight(const void *field, XmlRpc::XmlRpcValue &value)
 {
-    constexpr int unknown = quv::serialBase * quv::serialBase - 1; // the greatest of two digits
     const int height = *static_cast<const int *>(field);
-    value = height == unknown ? -1 : height;
+    value = height == quv::unsetTwoDigits ? -1 : height;
 }
 
 /** An int, but for the height that a firmware does not know. */
@@ -55,11 +51,10 @@ GetShelfPosAnswer::GetShelfPosAnswer(QStringList tokens) : DescribedAnswer(std::
 {
     quv::TokenReader reader(m_parameters, 0, Q_FUNC_INFO);
     reader.require(2, {"DE01447", "Error during command answer decoding: bad length"});
-    const long long low = reader.next({"DE01448", "Error during command answer decoding: height low value"});
-    const long long height = low + reader.next(badHighDigit) * static_cast<long long>(quv::serialBase);
-    if (height > std::numeric_limits<int>::max())
-        quv::throwRefusal(badHighDigit, Q_FUNC_INFO);
-    m_height = static_cast<int>(height);
+    m_height = quv::nextOfDigits(reader,
+                                 {{"DE01448", "Error during command answer decoding: height low value"},
+                                  {"DE01449", "Error during command answer decoding: height high value"}},
+                                 Q_FUNC_INFO);
 }
 
 GetShelfPosAnswer::GetShelfPosAnswer(const XmlRpc::XmlRpcValue &value)

@@ -4,12 +4,12 @@
 #include "base/describedcommand_p.h"
 #include "base/digits_p.h"
 #include "base/objectfield_p.h"
+#include "base/wire_p.h"
 #include "processes/mixercycle_p.h"
 
 namespace {
 
 constexpr int valuesPerCycle = 5;
-constexpr int chosenByFirmware = 245;
 
 constexpr char badValues[] = "MixCmd: bad xml-rpc values";
 constexpr quv::Refusal noStruct = {"DE02338", badValues};
@@ -102,10 +102,10 @@ QList<int> MixCmd::serialParameters(int) const
     QList<int> parameters = {0, m_cycles.size(), valuesPerCycle};
     for (const MixerCycle &cycle : m_cycles) {
         parameters << cycle.cycleType
-                   << (cycle.mixingSpeed == MixerCycle::ofFirmware ? chosenByFirmware : cycle.mixingSpeed)
+                   << (cycle.mixingSpeed == MixerCycle::ofFirmware ? quv::unsetDigit : cycle.mixingSpeed)
                    << cycle.clampingForce;
         if (cycle.duration == MixerCycle::ofFirmware)
-            parameters << chosenByFirmware << chosenByFirmware;
+            parameters << quv::unsetDigit << quv::unsetDigit;
         else
             quv::appendTwoDigits(parameters, cycle.duration);
     }

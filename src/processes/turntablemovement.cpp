@@ -31,5 +31,5 @@ bool TurntableMovement::checkSpeed(int speed)
 
 int TurntableMovement::configurationSpeed()
 {
-    return quv::serialBase - 1;
+    return quv::unsetDigit;
 }

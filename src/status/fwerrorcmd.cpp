@@ -48,11 +48,7 @@ QList<QVariant> FwErrorCmd::parameters() const
 
 XmlRpc::XmlRpcValue FwErrorCmd::xmlrpc_parameters(bool *ok) const
 {
-    if (ok)
-        *ok = true;
-    XmlRpc::XmlRpcValue none;
-    none.setSize(0);
-    return none;
+    return SerialProtoCommand::xmlrpc_parameters(ok);
 }
 
 QList<int> FwErrorCmd::serialParameters(int) const

@@ -21,6 +21,7 @@
 #include <QuvFramework/fw_timespan.h>
 #include <QuvFramework/fw_turntable.h>
 #include <QuvFramework/fw_ultrasoundcleaning.h>
+#include <QuvFramework/fw_utils.h>
 #include <QuvFramework/fw_version.h>
 
 #include <algorithm>
@@ -51,8 +52,7 @@ constexpr int MaxPosition = 245; // addresses beyond it are not one parameter on
 constexpr int MaxLayoutPosition = 244;
 constexpr int MaxModule = 31; // of as many bits as a mask has
 constexpr int MaxQuantity = 1000000000;
-constexpr int AbsoluteZero = -273;        // degrees Celsius
-constexpr long long MaxSteps = 1LL << 53; // beyond it a double has no digit for the single step
+constexpr int AbsoluteZero = -273; // degrees Celsius
 
 /// A time in the unit in which a file tells it, the greatest that leaves nothing over.
 struct MachineTime
@@ -115,7 +115,7 @@ template <template <class> class Archive>
 void describe(Archive<FW_CalibrationPoint> &point)
 {
     using Point = FW_CalibrationPoint;
-    point.required("steps", &Point::steps, settingOf(&Point::steps), {0, MaxSteps});
+    point.required("steps", &Point::steps, settingOf(&Point::steps), {0, MaxWholeNumber});
     point.required("quantity", &Point::quantity, settingOf(&Point::quantity));
     point.required("speed", &Point::speed, settingOf(&Point::speed));
     describeField(point, "nozzle_valve", &Point::nozzleValveID);
