@@ -19,7 +19,7 @@
 // Reading and writing XML-RPC values.
 //
 // Reading is strict about types: an int is no bool, a text is no number. An int is taken where a double is asked for, a
-// double where a long long is and no int holds the number, and an unsigned type takes no negative int. Every reader gives
+// double where a number of 64 bits is and no int holds the number, and an unsigned type takes no negative number. Every reader gives
 // false and leaves its target alone when the value, the member or the element is missing or of another type, and none of
 // them throws or changes the value.
 
@@ -84,9 +84,10 @@ QUVFRAMEWORK_EXPORT bool DecodeXmlRpcMember(const XmlRpc::XmlRpcValue &value, co
                                             XmlRpc::XmlRpcValue &out);
 
 /**
- * The member as date and time: an XML-RPC dateTime, or a text in ISO 8601. \a utc tells how a time without an offset of
+ * The value, or the member, as date and time: an XML-RPC dateTime, or a text in ISO 8601. \a utc tells how a time without an offset of
  * its own is meant: in UTC, or in local time.
  */
+QUVFRAMEWORK_EXPORT bool DecodeXmlRpcTimestamp(const XmlRpc::XmlRpcValue &value, QDateTime &out, bool utc);
 QUVFRAMEWORK_EXPORT bool DecodeXmlRpcTimestamp(const XmlRpc::XmlRpcValue &value, const QString &key,
                                                QDateTime &out, bool utc);
 

@@ -152,15 +152,18 @@ void setMember(XmlRpcValue &value, const QString &key, const XmlRpcValue &member
 }
 
 /** Takes a whole number that no int holds, and which is therefore written as a double. */
-bool storeWideNumber(const XmlRpcValue &value, long long &out)
+template <class T>
+bool storeWideNumber(const XmlRpcValue &value, T &out)
 {
     using Int = std::numeric_limits<int>;
-    constexpr double limit = 9223372036854775808.0; // 2^63
+    constexpr double limit =
+        std::is_unsigned_v<T> ? 18446744073709551616.0 : 9223372036854775808.0; // 2^64, 2^63
+    constexpr double least = std::is_unsigned_v<T> ? 0 : -limit;
     const double *number = scalar<double>(value, XmlRpcValue::TypeDouble);
-    if (!number || std::trunc(*number) != *number || *number < -limit || *number >= limit ||
+    if (!number || std::trunc(*number) != *number || *number < least || *number >= limit ||
         (*number >= Int::min() && *number <= Int::max()))
         return false;
-    out = static_cast<long long>(*number);
+    out = static_cast<T>(*number);
     return true;
 }
 
@@ -230,7 +233,7 @@ bool DecodeXmlRpcValue(const XmlRpcValue &value, long long &out)
 
 bool DecodeXmlRpcValue(const XmlRpcValue &value, unsigned long long &out)
 {
-    return storeInt(value, out);
+    return storeInt(value, out) || storeWideNumber(value, out);
 }
 
 bool DecodeXmlRpcValue(const XmlRpcValue &value, double &out)
@@ -325,16 +328,13 @@ bool DecodeXmlRpcMember(const XmlRpcValue &value, const QString &key, XmlRpcValu
     return DecodeXmlRpcValue(value, key, out);
 }
 
-bool DecodeXmlRpcTimestamp(const XmlRpcValue &value, const QString &key, QDateTime &out, bool utc)
+bool DecodeXmlRpcTimestamp(const XmlRpcValue &value, QDateTime &out, bool utc)
 {
-    const XmlRpcValue *member = FindXmlRpcMember(value, EncodeXmlRpcText(key));
-    if (!member)
-        return false;
     const Qt::TimeSpec spec = utc ? Qt::UTC : Qt::LocalTime;
     QDateTime dateTime;
-    if (const auto *time = scalar<std::tm>(*member, XmlRpcValue::TypeDateTime)) {
+    if (const auto *time = scalar<std::tm>(value, XmlRpcValue::TypeDateTime)) {
         dateTime = fromBrokenDownTime(*time, spec);
-    } else if (const auto *text = scalar<std::string>(*member, XmlRpcValue::TypeString)) {
+    } else if (const auto *text = scalar<std::string>(value, XmlRpcValue::TypeString)) {
         dateTime = QDateTime::fromString(DecodeXmlRpcText(*text), Qt::ISODateWithMs);
         if (dateTime.timeSpec() == Qt::LocalTime)
             dateTime.setTimeSpec(spec);
@@ -343,6 +343,12 @@ bool DecodeXmlRpcTimestamp(const XmlRpcValue &value, const QString &key, QDateTi
         return false;
     out = dateTime;
     return true;
+}
+
+bool DecodeXmlRpcTimestamp(const XmlRpcValue &value, const QString &key, QDateTime &out, bool utc)
+{
+    const XmlRpcValue *member = FindXmlRpcMember(value, EncodeXmlRpcText(key));
+    return member && DecodeXmlRpcTimestamp(*member, out, utc);
 }
 
 QVariant DecodeXmlRpcVariant(const XmlRpcValue &value)

@@ -14,6 +14,11 @@ bool decodeByFramework(const QVariant &variant, T &out)
     return DecodeVariantList({variant}, 0, out);
 }
 
+bool isKeyed(const QVariant &variant)
+{
+    return variant.userType() == QMetaType::QVariantHash || variant.userType() == QMetaType::QVariantMap;
+}
+
 } // namespace
 
 bool decodeVariant(const QVariant &variant, bool &out)
@@ -86,6 +91,85 @@ bool decodeVariant(const QVariant &variant, QList<double> &out)
         numbers.append(number);
     }
     out = numbers;
+    return true;
+}
+
+bool decodeVariant(const QVariant &variant, unsigned long long &out)
+{
+    if (variant.userType() == QMetaType::ULongLong) {
+        out = variant.toULongLong();
+        return true;
+    }
+    long long number = 0;
+    if (!decodeVariant(variant, number))
+        return variant.userType() == QMetaType::Double &&
+               DecodeXmlRpcValue(EncodeXmlRpcVariant(variant), out);
+    if (number < 0)
+        return false;
+    out = static_cast<unsigned long long>(number);
+    return true;
+}
+
+bool decodeVariant(const QVariant &variant, QByteArray &out)
+{
+    if (variant.userType() != QMetaType::QByteArray)
+        return false;
+    out = variant.toByteArray();
+    return true;
+}
+
+bool decodeVariant(const QVariant &variant, QDateTime &out)
+{
+    if (variant.userType() == QMetaType::QDateTime) {
+        out = variant.toDateTime();
+        return true;
+    }
+    QString text;
+    return decodeVariant(variant, text) && dateTimeOf(text, out);
+}
+
+bool decodeVariant(const QVariant &variant, QVersionNumber &out)
+{
+    if (variant.userType() == qMetaTypeId<QVersionNumber>()) {
+        out = variant.value<QVersionNumber>();
+        return true;
+    }
+    QString text;
+    return decodeVariant(variant, text) && versionOf(text, out);
+}
+
+bool decodeVariant(const QVariant &variant, QHash<QString, QVariant> &out)
+{
+    if (!isKeyed(variant))
+        return false;
+    out = variant.toHash();
+    return true;
+}
+
+bool decodeVariant(const QVariant &variant, QMap<QString, QVariant> &out)
+{
+    if (!isKeyed(variant))
+        return false;
+    out = variant.toMap();
+    return true;
+}
+
+bool dateTimeOf(const QString &text, QDateTime &out)
+{
+    if (text.isEmpty()) {
+        out = QDateTime();
+        return true;
+    }
+    return DecodeXmlRpcTimestamp(XmlRpc::XmlRpcValue(EncodeXmlRpcText(text)), out, true);
+}
+
+bool versionOf(const QString &text, QVersionNumber &out)
+{
+    int end = 0;
+    const QVersionNumber version = QVersionNumber::fromString(text, &end);
+    if (end != text.size())
+        return false;
+    out = version;
     return true;
 }
 

@@ -7,10 +7,14 @@
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
+#include <QtCore/QByteArray>
+#include <QtCore/QDateTime>
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QMap>
 #include <QtCore/QMetaType>
 #include <QtCore/QVariant>
+#include <QtCore/QVersionNumber>
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
@@ -32,6 +36,18 @@ bool decodeVariant(const QVariant &variant, QString &out);
 bool decodeVariant(const QVariant &variant, QStringList &out);
 bool decodeVariant(const QVariant &variant, QList<int> &out);
 bool decodeVariant(const QVariant &variant, QList<double> &out); ///< takes a list of such variants as well
+bool decodeVariant(const QVariant &variant,
+                   unsigned long long &out); ///< takes whole doubles beyond an int as well
+bool decodeVariant(const QVariant &variant, QByteArray &out);
+bool decodeVariant(const QVariant &variant, QDateTime &out);      ///< takes its text in ISO 8601 as well
+bool decodeVariant(const QVariant &variant, QVersionNumber &out); ///< takes its text as well
+bool decodeVariant(const QVariant &variant, QHash<QString, QVariant> &out); ///< takes a map as well
+bool decodeVariant(const QVariant &variant, QMap<QString, QVariant> &out);  ///< takes a hash as well
+
+/** A date and time in ISO 8601, in UTC when it has no offset of its own. No text is no time. */
+bool dateTimeOf(const QString &text, QDateTime &out);
+/** A version of numbers and points alone. No text is no version. */
+bool versionOf(const QString &text, QVersionNumber &out);
 
 /** Whatever converts to an int that holds it: also a fraction, which is rounded, a bool, and the digits of a text. */
 bool convertVariant(const QVariant &variant, int &out);

@@ -78,6 +78,33 @@ void writeLatin1(const void *field, XmlRpcValue &value)
     value = latin1(*static_cast<const QString *>(field));
 }
 
+Decoded readDateTime(const XmlRpcValue &value, void *field)
+{
+    auto &time = *static_cast<QDateTime *>(field);
+    QString text;
+    const bool isTime =
+        DecodeXmlRpcValue(value, text) ? dateTimeOf(text, time) : DecodeXmlRpcTimestamp(value, time, true);
+    return isTime ? Decoded::Good : Decoded::OtherType;
+}
+
+void writeDateTime(const void *field, XmlRpcValue &value)
+{
+    value = EncodeXmlRpcText(static_cast<const QDateTime *>(field)->toUTC().toString(Qt::ISODateWithMs));
+}
+
+Decoded readVersion(const XmlRpcValue &value, void *field)
+{
+    QString text;
+    return DecodeXmlRpcValue(value, text) && versionOf(text, *static_cast<QVersionNumber *>(field))
+               ? Decoded::Good
+               : Decoded::OtherType;
+}
+
+void writeVersion(const void *field, XmlRpcValue &value)
+{
+    value = EncodeXmlRpcText(static_cast<const QVersionNumber *>(field)->toString());
+}
+
 bool readValueVariant(const QVariant &variant, void *field)
 {
     *static_cast<XmlRpcValue *>(field) = EncodeXmlRpcVariant(variant);
@@ -161,6 +188,52 @@ template <>
 const FieldType &fieldType<QList<double>>()
 {
     static constexpr FieldType type = describe<QList<double>>("array of doubles", readDoubles, writeDoubles);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<unsigned long long>()
+{
+    static constexpr FieldType type =
+        describe<unsigned long long>("int", read<unsigned long long>, writeVariant<unsigned long long>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QByteArray>()
+{
+    static constexpr FieldType type =
+        describe<QByteArray>("base64", read<QByteArray>, writeVariant<QByteArray>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QDateTime>()
+{
+    static constexpr FieldType type = describe<QDateTime>("date and time", readDateTime, writeDateTime);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QVersionNumber>()
+{
+    static constexpr FieldType type = describe<QVersionNumber>("version", readVersion, writeVersion);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QHash<QString, QVariant>>()
+{
+    static constexpr FieldType type = describe<QHash<QString, QVariant>>(
+        "struct", read<QHash<QString, QVariant>>, writeVariant<QHash<QString, QVariant>>);
+    return type;
+}
+
+template <>
+const FieldType &fieldType<QMap<QString, QVariant>>()
+{
+    static constexpr FieldType type = describe<QMap<QString, QVariant>>(
+        "struct", read<QMap<QString, QVariant>>, writeVariant<QMap<QString, QVariant>>);
     return type;
 }
 

@@ -5,10 +5,15 @@
 
 #include <QuvFramework/fw_xmlrpc.h>
 
+#include <QtCore/QByteArray>
+#include <QtCore/QDateTime>
+#include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
+#include <QtCore/QVersionNumber>
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
@@ -65,6 +70,19 @@ template <>
 const FieldType &fieldType<XmlRpc::XmlRpcValue>();
 template <>
 const FieldType &fieldType<QList<double>>();
+template <>
+const FieldType &fieldType<unsigned long long>(); ///< beyond an int it travels as a double
+template <>
+const FieldType &fieldType<QByteArray>();
+template <>
+const FieldType &
+fieldType<QDateTime>(); ///< travels as text, in UTC and with milliseconds; an XML-RPC time is taken too
+template <>
+const FieldType &fieldType<QVersionNumber>(); ///< travels as text
+template <>
+const FieldType &fieldType<QHash<QString, QVariant>>();
+template <>
+const FieldType &fieldType<QMap<QString, QVariant>>();
 
 /** A long long that is cut to 32 bits when it is written. */
 const FieldType &cutToInt();

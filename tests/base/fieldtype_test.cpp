@@ -6,6 +6,7 @@
 #include "base/memberfacts_p.h"
 #include "base/objectfield_p.h"
 
+#include <ctime>
 #include <new>
 #include <stdexcept>
 
@@ -116,6 +117,128 @@ TEST(FieldType, writesAndEmptiesDoubles)
     doubles().write(&field, value);
     EXPECT_EQ(dumped(value), "[]");
     EXPECT_STREQ(doubles().name, "array of doubles");
+}
+
+TEST(FieldType, ofATimeIsATextInUniversalTime)
+{
+    const quv::FieldType &type = quv::fieldType<QDateTime>();
+    QDateTime field(QDate(2026, 3, 4), QTime(5, 6, 7, 8), Qt::OffsetFromUTC, 3600);
+    Value value;
+    type.write(&field, value);
+    EXPECT_EQ(dumped(value), R"("2026-03-04T04:06:07.008Z")");
+    QDateTime read;
+    EXPECT_EQ(type.read(value, &read), quv::Decoded::Good);
+    EXPECT_TRUE(type.equal(&read, &field));
+    EXPECT_EQ(type.read(Value("2026-03-04T04:06:07.008"), &read), quv::Decoded::Good);
+    EXPECT_EQ(read, field);
+    for (const Value &bad : {Value(), Value(1), Value("yesterday"), arrayOf()})
+        EXPECT_EQ(type.read(bad, &read), quv::Decoded::OtherType);
+    EXPECT_EQ(read, field);
+    std::tm time{};
+    time.tm_year = 126;
+    time.tm_mon = 2;
+    time.tm_mday = 4;
+    time.tm_hour = 4;
+    EXPECT_EQ(type.read(Value(&time), &read), quv::Decoded::Good);
+    EXPECT_EQ(read.toUTC().toString(Qt::ISODate), "2026-03-04T04:00:00Z");
+
+    EXPECT_TRUE(type.readVariant(QVariant(field), &read));
+    EXPECT_EQ(read, field);
+    EXPECT_TRUE(type.readVariant(QVariant("2026-03-04T04:06:08Z"), &read));
+    EXPECT_EQ(read, field.addMSecs(992));
+    for (const QVariant &bad : {QVariant(), QVariant(1), QVariant("yesterday")})
+        EXPECT_FALSE(type.readVariant(bad, &read));
+
+    // a time that nobody has set comes back as none
+    type.reset(&field);
+    type.write(&field, value);
+    EXPECT_EQ(dumped(value), R"("")");
+    EXPECT_EQ(type.read(value, &read), quv::Decoded::Good);
+    EXPECT_TRUE(read.isNull());
+}
+
+TEST(FieldType, ofAVersionIsItsText)
+{
+    const quv::FieldType &type = quv::fieldType<QVersionNumber>();
+    QVersionNumber field{3, 14, 0, 2};
+    Value value;
+    type.write(&field, value);
+    EXPECT_EQ(dumped(value), R"("3.14.0.2")");
+    QVersionNumber read;
+    EXPECT_EQ(type.read(value, &read), quv::Decoded::Good);
+    EXPECT_TRUE(type.equal(&read, &field));
+    for (const Value &bad : {Value(), Value(1), Value("1.2-beta"), Value("v1"), Value("1.")})
+        EXPECT_EQ(type.read(bad, &read), quv::Decoded::OtherType) << dumped(bad);
+    EXPECT_EQ(read, field);
+    EXPECT_TRUE(type.readVariant(QVariant("1.2"), &read));
+    EXPECT_EQ(read, QVersionNumber(1, 2));
+    EXPECT_TRUE(type.readVariant(QVariant::fromValue(field), &read));
+    EXPECT_EQ(read, field);
+    EXPECT_FALSE(type.readVariant(QVariant(1.2), &read));
+    type.reset(&field);
+    type.write(&field, value);
+    EXPECT_EQ(dumped(value), R"("")");
+    EXPECT_EQ(type.read(value, &read), quv::Decoded::Good);
+    EXPECT_TRUE(read.isNull());
+}
+
+TEST(FieldType, ofSixtyFourBitsWithoutSign)
+{
+    const quv::FieldType &type = quv::fieldType<unsigned long long>();
+    const unsigned long long great = 5000000000ULL;
+    Value value;
+    type.write(&great, value);
+    EXPECT_EQ(value.getType(), Value::TypeDouble);
+    unsigned long long read = 7;
+    EXPECT_EQ(type.read(value, &read), quv::Decoded::Good);
+    EXPECT_EQ(read, great);
+    for (const Value &bad : {Value(-1), Value("1"), Value(5000000000.5), Value(true)})
+        EXPECT_EQ(type.read(bad, &read), quv::Decoded::OtherType);
+    for (const QVariant &good : {QVariant(5), QVariant(5LL), QVariant(5U), QVariant(5ULL)}) {
+        EXPECT_TRUE(type.readVariant(good, &read));
+        EXPECT_EQ(read, 5ULL);
+    }
+    EXPECT_TRUE(type.readVariant(QVariant(5000000000.0), &read));
+    EXPECT_EQ(read, great);
+    for (const QVariant &bad : {QVariant(), QVariant(-5), QVariant(5.0), QVariant("5"), QVariant(true)})
+        EXPECT_FALSE(type.readVariant(bad, &read));
+    EXPECT_EQ(read, great);
+}
+
+TEST(FieldType, ofBytesAndOfNamedVariants)
+{
+    const quv::FieldType &bytes = quv::fieldType<QByteArray>();
+    const QByteArray field("\0\xA5", 2);
+    Value value;
+    bytes.write(&field, value);
+    QByteArray read;
+    EXPECT_EQ(bytes.read(value, &read), quv::Decoded::Good);
+    EXPECT_EQ(read, field);
+    EXPECT_EQ(bytes.read(Value("text"), &read), quv::Decoded::OtherType);
+    EXPECT_TRUE(bytes.readVariant(QVariant(QByteArray("x")), &read));
+    EXPECT_EQ(read, "x");
+    EXPECT_FALSE(bytes.readVariant(QVariant("x"), &read));
+
+    const quv::FieldType &hash = quv::fieldType<QHash<QString, QVariant>>();
+    const quv::FieldType &map = quv::fieldType<QMap<QString, QVariant>>();
+    QVariantHash ofHash;
+    QVariantMap ofMap;
+    EXPECT_EQ(hash.read(structOf({{"a", 1}}), &ofHash), quv::Decoded::Good);
+    EXPECT_EQ(map.read(structOf({{"a", 1}}), &ofMap), quv::Decoded::Good);
+    EXPECT_EQ(ofHash, (QVariantHash{{"a", 1}}));
+    EXPECT_EQ(ofMap, (QVariantMap{{"a", 1}}));
+    hash.write(&ofHash, value);
+    EXPECT_EQ(dumped(value), R"({"a": 1})");
+    map.write(&ofMap, value);
+    EXPECT_EQ(dumped(value), R"({"a": 1})");
+    for (const QVariant &good : {QVariant(QVariantHash{{"b", "c"}}), QVariant(QVariantMap{{"b", "c"}})}) {
+        EXPECT_TRUE(hash.readVariant(good, &ofHash));
+        EXPECT_TRUE(map.readVariant(good, &ofMap));
+        EXPECT_EQ(ofHash, (QVariantHash{{"b", "c"}}));
+        EXPECT_EQ(ofMap, (QVariantMap{{"b", "c"}}));
+    }
+    EXPECT_FALSE(hash.readVariant(QVariant(List{1}), &ofHash));
+    EXPECT_FALSE(map.readVariant(QVariant("a"), &ofMap));
 }
 
 TEST(FieldType, ofAnObjectIsItsOwnStruct)

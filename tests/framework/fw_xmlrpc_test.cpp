@@ -194,6 +194,10 @@ TEST(DecodeXmlRpcValue, readsUnsignedLongLong)
     expectReads(XmlRpcValue(0), 5ULL, 0ULL);
     expectReads(XmlRpcValue(greatestInt), 5ULL, 2147483647ULL);
     expectRefusedInEveryPlace(XmlRpcValue(-1), 5ULL);
+    for (unsigned long long number : {2147483648ULL, 9007199254740992ULL, 18446744073709549568ULL})
+        expectReads(EncodeXmlRpcVariant(number), 5ULL, number);
+    for (double number : {0.0, 7.0, 2147483648.5, -2147483649.0, 18446744073709551616.0})
+        expectRefusedInEveryPlace(XmlRpcValue(number), 5ULL);
 }
 
 TEST(DecodeXmlRpcValue, readsDoubleAndAcceptsAnInt)
