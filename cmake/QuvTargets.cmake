@@ -46,13 +46,16 @@ endfunction()
 # Installs a library with its CMake package, which looks for further packages first, and its pkg-config file; headers are
 # installed where they are listed.
 function(quv_install_library target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "QT;PACKAGES")
     install(TARGETS ${target} EXPORT ${target}Targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
     set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
     install(EXPORT ${target}Targets NAMESPACE ${target}:: DESTINATION ${package_dir})
-    set(further_packages ${ARGN})
+    list(JOIN arg_QT " " qt_components)
+    string(PREPEND qt_components "Core ")
+    set(further_packages ${arg_PACKAGES})
     configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/LibraryConfig.cmake.in
         ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake INSTALL_DESTINATION ${package_dir})
     write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
