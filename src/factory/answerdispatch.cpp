@@ -8,7 +8,9 @@
 #include "processes/getshelfparamsanswer.h"
 #include "processes/getturntablepositionsanswer.h"
 #include "processes/getzandorcommandsanswer.h"
+#include "status/getactivedispanswer.h"
 #include "status/geterrorsanswer.h"
+#include "status/mixerdriverstatusanswer.h"
 #include "status/sensorsstatusanswer.h"
 
 namespace quv {
@@ -31,6 +33,8 @@ const std::vector<AnswerRow> &serialRows()
 const std::vector<AnswerRow> &configurationRows()
 {
     static const std::vector<AnswerRow> rows = {
+        answerRow<GetActiveDispAnswer>(Cmd::GET_ACTIVE_DISP),
+        answerRow<MixerDriverStatusAnswer>(Cmd::GET_MIXER_STATUS),
         answerRow<GetDeviceParamsAnswer>(Cmd::GET_DEVICE_PARAMS),
         answerRow<GetShelfParamsAnswer>(Cmd::GET_SHELF_PARAMS),
     };

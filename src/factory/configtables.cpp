@@ -12,6 +12,7 @@
 #include "sessions/getkeycmd.h"
 #include "sessions/logincmd.h"
 #include "sessions/logoutcmd.h"
+#include "status/dispenserdriverstatuscmd.h"
 
 namespace quv {
 
@@ -28,6 +29,7 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::GET_KEY, fromArguments<GetKeyCmd>()},
         {Cmd::CERTIFY_SESSION, fromArguments<CertifySessionCmd>()},
         {Cmd::STOP, fromArguments<StopConfCmd>()},
+        {Cmd::GET_DISP_STATUS, fromArguments<DispenserDriverStatusCmd>()},
         {Cmd::SET_LEVELS, fromArguments<SetLevelsCmd, ListForm>()},
         {Cmd::CHECK_FORMULA_LEVELS, fromArguments<CheckFormulaLevelsCmd, ListForm>()},
         {Cmd::GET_FORMULA_CIRCUITS, fromArguments<GetFormulaCircuitsCmd, ListForm>()},

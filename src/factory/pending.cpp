@@ -65,7 +65,6 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Config, BothForms, ProtoCommandList::DELETE_DISPENSER, "DeleteDispenserCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::CLONE_DISPENSER, "CloneDispenserCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SAVE_DISP_CONFIG, "SaveDispenserConfigCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_DISP_STATUS, "DispenserDriverStatusCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_ACTIVE_DISP, "SetActiveDispCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_DRIVER_SETTINGS, "SetDriverSettingsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_DISP_LIST, "GetDataListCmd"},
@@ -123,7 +122,6 @@ const std::vector<PendingAnswer> &pendingAnswers()
     static const std::vector<PendingAnswer> answers = {
         {SerialType, ProtoCommandList::GET_KEY_CODE, "GetKeyCodeAnswer"},
         {ConfigurationType, ProtoCommandList::GET_CALIB_PROFILES, "GetCalibrationProfilesAnswer"},
-        {ConfigurationType, ProtoCommandList::GET_ACTIVE_DISP, "GetActiveDispAnswer"},
         {ConfigurationType, ProtoCommandList::GET_DRIVER_SETTINGS, "GetDriverSettingsAnswer"},
         {ConfigurationType, ProtoCommandList::GET_DRIVER_INFO, "GetDriverInfoAnswer"},
         {ConfigurationType, ProtoCommandList::GET_CONN_STATUS, "GetConnectionStatusAnswer"},
@@ -132,7 +130,6 @@ const std::vector<PendingAnswer> &pendingAnswers()
         {ConfigurationType, ProtoCommandList::GET_SCALE_CONFIG, "GetScaleConfigAnswer"},
         {ConfigurationType, ProtoCommandList::GET_SCALE_STATUS, "ScaleStatusAnswer"},
         {ConfigurationType, ProtoCommandList::GET_USS_W_STATUS, "GetUssWaterStatusAnswer"},
-        {ConfigurationType, ProtoCommandList::GET_MIXER_STATUS, "MixerDriverStatusAnswer"},
     };
     return answers;
 }

@@ -9,6 +9,7 @@
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_exception.h>
+#include <QuvFramework/fw_metatype.h>
 
 #include <array>
 #include <utility>
@@ -16,6 +17,8 @@
 namespace {
 
 using Status = DispenserStatusAnswer;
+
+const bool isRegistered = RegisterTravellingType<Status>("DispenserStatusAnswer");
 
 // Words are numbered as the firmware numbers them: 6 and 7 are the position and its zone.
 

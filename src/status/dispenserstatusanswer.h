@@ -4,6 +4,8 @@
 #include "../base/serialprotoanswer.h"
 #include "machinestatusanswer.h"
 
+#include <QtCore/QMetaType>
+
 struct FW_Version;
 
 namespace quv {
@@ -104,3 +106,5 @@ private:
     /** Reads the words from \a first on; null, or why not. */
     const quv::Refusal *decodeWords(const QStringList &tokens, int first);
 };
+
+Q_DECLARE_METATYPE(DispenserStatusAnswer)

@@ -8,6 +8,7 @@
 #include "status/machinestatusanswer_p.h"
 
 #include <QuvFramework/fw_exception.h>
+#include <QuvFramework/fw_metatype.h>
 
 #include <array>
 #include <limits>
@@ -16,6 +17,8 @@
 namespace {
 
 using Status = MixerStatusAnswer;
+
+const bool isRegistered = RegisterTravellingType<Status>("MixerStatusAnswer");
 
 /** The flags that all machines have, where a mixer's firmware tells them: not all in the places of a dispenser's. */
 constexpr quv::MaskBit<Status> machineBits[] = {

@@ -4,6 +4,8 @@
 #include "../base/serialprotoanswer.h"
 #include "machinestatusanswer.h"
 
+#include <QtCore/QMetaType>
+
 namespace quv {
 struct MemberFacts;
 struct Refusal;
@@ -83,3 +85,5 @@ private:
     /** Reads the words from \a first on; null, or why not. */
     const quv::Refusal *decodeWords(const QStringList &tokens, int first);
 };
+
+Q_DECLARE_METATYPE(MixerStatusAnswer)

@@ -70,7 +70,7 @@ TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
 {
     const AnswerRow rows[] = {
         {"GET_CALIB_PROFILES", "GetCalibrationProfilesAnswer"},
-        {"GET_ACTIVE_DISP", "GetActiveDispAnswer"},
+        {"GET_ACTIVE_DISP", "GetActiveDispAnswer", structOf({{"disp_list", arrayOf()}})},
         {"GET_DRIVER_SETTINGS", "GetDriverSettingsAnswer"},
         {"GET_DRIVER_INFO", "GetDriverInfoAnswer"},
         {"GET_CONN_STATUS", "GetConnectionStatusAnswer"},
@@ -79,7 +79,10 @@ TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
         {"GET_SCALE_CONFIG", "GetScaleConfigAnswer"},
         {"GET_SCALE_STATUS", "ScaleStatusAnswer"},
         {"GET_USS_W_STATUS", "GetUssWaterStatusAnswer"},
-        {"GET_MIXER_STATUS", "MixerDriverStatusAnswer"},
+        {"GET_MIXER_STATUS",
+         "MixerDriverStatusAnswer",
+         structOf({{"driver_status", 0}, {"disp_status", 0}}),
+         {0, 0}},
         {"GET_DEVICE_PARAMS", "GetDeviceParamsAnswer"},
         {"GET_SHELF_PARAMS",
          "GetShelfParamsAnswer",
