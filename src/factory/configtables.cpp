@@ -12,6 +12,7 @@
 #include "sessions/getkeycmd.h"
 #include "sessions/logincmd.h"
 #include "sessions/logoutcmd.h"
+#include "settings/getconnectionscmd.h"
 #include "status/dispenserdriverstatuscmd.h"
 
 namespace quv {
@@ -30,6 +31,7 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::CERTIFY_SESSION, fromArguments<CertifySessionCmd>()},
         {Cmd::STOP, fromArguments<StopConfCmd>()},
         {Cmd::GET_DISP_STATUS, fromArguments<DispenserDriverStatusCmd>()},
+        {Cmd::GET_CONNECTIONS, fromArguments<GetConnectionsCmd>()},
         {Cmd::SET_LEVELS, fromArguments<SetLevelsCmd, ListForm>()},
         {Cmd::CHECK_FORMULA_LEVELS, fromArguments<CheckFormulaLevelsCmd, ListForm>()},
         {Cmd::GET_FORMULA_CIRCUITS, fromArguments<GetFormulaCircuitsCmd, ListForm>()},

@@ -79,7 +79,6 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Config, BothForms, ProtoCommandList::SET_SERIAL_NUMBER, "SetSerialNumberCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_CALIB_TEST_POINTS, "SetCalibTestPointsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_DISP_ID, "SetDispIDCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_CONNECTIONS, "GetConnectionsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_QRCODE_CALIB, "SetQRCodeCalibrationCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_COLORANT_LIST, "SetColorantListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CURRENT_WEIGHT, "GetCurrentWeightCmd"},
