@@ -15,10 +15,10 @@ inline constexpr const char *markOf<DispenserStatusAnswer> = "disp_status";
 namespace {
 
 constexpr char answerNotMade[] = "DispenserDriverStatusAnswer: Errors during DispenserStatusAnswer creation";
-constexpr quv::DriverStatusRefusals refusals = {
-    {"DE00735", "DispenserDriverStatusAnswer: Errors during DispenserStatus creation"},
-    {"DE00736", answerNotMade},
-    {"DE00737", answerNotMade}};
+constexpr quv::Refusal noStatus = {"DE00735",
+                                   "DispenserDriverStatusAnswer: Errors during DispenserStatus creation"};
+constexpr quv::Refusal noAnswer = {"DE00736", answerNotMade};
+constexpr quv::Refusal noAnswerInList = {"DE00737", answerNotMade};
 
 } // namespace
 
@@ -29,12 +29,14 @@ DispenserDriverStatusAnswer::DispenserDriverStatusAnswer(const DispenserStatus *
 
 DispenserDriverStatusAnswer::DispenserDriverStatusAnswer(const XmlRpc::XmlRpcValue &value)
 {
-    quv::readDriverStatus<DispenserStatus, DispenserStatusAnswer>(value, refusals, Q_FUNC_INFO, *this);
+    quv::readDriverStatus<DispenserStatus, DispenserStatusAnswer>(value, noStatus, noAnswer, Q_FUNC_INFO,
+                                                                  *this);
 }
 
 DispenserDriverStatusAnswer::DispenserDriverStatusAnswer(QList<QVariant> &list) : ConfProtoAnswer(list)
 {
-    quv::readDriverStatus<DispenserStatus, DispenserStatusAnswer>(list, refusals, Q_FUNC_INFO, *this);
+    quv::readDriverStatus<DispenserStatus, DispenserStatusAnswer>(list, noStatus, noAnswerInList, Q_FUNC_INFO,
+                                                                  *this);
 }
 
 DispenserDriverStatusAnswer *DispenserDriverStatusAnswer::clone() const
@@ -54,5 +56,5 @@ XmlRpc::XmlRpcValue DispenserDriverStatusAnswer::toXmlRpcValue() const
 
 QList<quv::MemberFacts> DispenserDriverStatusAnswer::memberFacts()
 {
-    return quv::driverStatusFacts<DispenserStatus, DispenserStatusAnswer>(refusals);
+    return quv::driverStatusFacts<DispenserStatus, DispenserStatusAnswer>(noStatus, noAnswer, noAnswerInList);
 }

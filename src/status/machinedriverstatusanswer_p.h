@@ -11,37 +11,29 @@
 
 namespace quv {
 
-struct DriverStatusRefusals
-{
-    Refusal status;
-    Refusal answer;
-    Refusal answerInList;
-};
-
 template <class Status, class Answer>
-void readDriverStatus(const XmlRpc::XmlRpcValue &value, const DriverStatusRefusals &refusals,
+void readDriverStatus(const XmlRpc::XmlRpcValue &value, const Refusal &noStatus, const Refusal &noAnswer,
                       const char *function, MachineDriverStatusAnswer &target)
 {
     const XmlRpc::XmlRpcValue *status = FindXmlRpcMember(value, MachineDriverStatusAnswer::driverStatus_TAG);
-    madeOrRefused(refusals.status, function, [&] {
-        target.setMachineStatus(pointerTo(optionalObject<Status>(status, refusals.status, function)));
+    madeOrRefused(noStatus, function, [&] {
+        target.setMachineStatus(pointerTo(optionalObject<Status>(status, noStatus, function)));
     });
     const XmlRpc::XmlRpcValue *answer = FindXmlRpcMember(value, MachineDriverStatusAnswer::dispStatus_TAG);
-    madeOrRefused(refusals.answer, function, [&] {
-        target.setMachineStatusAnswer(pointerTo(optionalObject<Answer>(answer, refusals.answer, function)));
+    madeOrRefused(noAnswer, function, [&] {
+        target.setMachineStatusAnswer(pointerTo(optionalObject<Answer>(answer, noAnswer, function)));
     });
 }
 
 template <class Status, class Answer>
-void readDriverStatus(const QList<QVariant> &list, const DriverStatusRefusals &refusals, const char *function,
-                      MachineDriverStatusAnswer &target)
+void readDriverStatus(const QList<QVariant> &list, const Refusal &noStatus, const Refusal &noAnswer,
+                      const char *function, MachineDriverStatusAnswer &target)
 {
-    madeOrRefused(refusals.status, function, [&] {
-        target.setMachineStatus(pointerTo(optionalObject<Status>(list, 0, refusals.status, function)));
+    madeOrRefused(noStatus, function, [&] {
+        target.setMachineStatus(pointerTo(optionalObject<Status>(list, 0, noStatus, function)));
     });
-    madeOrRefused(refusals.answerInList, function, [&] {
-        target.setMachineStatusAnswer(
-            pointerTo(optionalObject<Answer>(list, 1, refusals.answerInList, function)));
+    madeOrRefused(noAnswer, function, [&] {
+        target.setMachineStatusAnswer(pointerTo(optionalObject<Answer>(list, 1, noAnswer, function)));
     });
 }
 
@@ -61,7 +53,8 @@ XmlRpc::XmlRpcValue writtenDriverStatus(const MachineDriverStatusAnswer &source)
 }
 
 template <class Status, class Answer>
-QList<MemberFacts> driverStatusFacts(const DriverStatusRefusals &refusals)
+QList<MemberFacts> driverStatusFacts(const Refusal &noStatus, const Refusal &noAnswer,
+                                     const Refusal &noAnswerInList)
 {
     using Answers = MachineDriverStatusAnswer;
     static constexpr FieldType statusType = objectType<Status>();
@@ -69,12 +62,12 @@ QList<MemberFacts> driverStatusFacts(const DriverStatusRefusals &refusals)
     std::vector<MemberRow> rows(4);
     rows[0].key = Answers::driverStatus_TAG;
     rows[0].type = &statusType;
-    rows[0].missing = rows[0].inList = refusals.status;
+    rows[0].missing = rows[0].inList = noStatus;
     rows[0].meaning = "what the driver has under way on the machine; the int 0 when it does not know it";
     rows[1].key = Answers::dispStatus_TAG;
     rows[1].type = &answerType;
-    rows[1].missing = refusals.answer;
-    rows[1].inList = refusals.answerInList;
+    rows[1].missing = noAnswer;
+    rows[1].inList = noAnswerInList;
     rows[1].meaning = "the last status that the machine told; the int 0 when there is none";
     rows[2].key = Answers::posAvailable_TAG;
     rows[2].type = rows[3].type = &fieldType<bool>();

@@ -15,10 +15,9 @@ inline constexpr const char *markOf<MixerStatusAnswer> = "disp_status";
 namespace {
 
 constexpr char answerNotMade[] = "MixerDriverStatusAnswer: Errors during MixerStatusAnswer creation";
-constexpr quv::DriverStatusRefusals refusals = {
-    {"DE03206", "MixerDriverStatusAnswer: Errors during MixerStatus creation"},
-    {"DE03207", answerNotMade},
-    {"DE03208", answerNotMade}};
+constexpr quv::Refusal noStatus = {"DE03206", "MixerDriverStatusAnswer: Errors during MixerStatus creation"};
+constexpr quv::Refusal noAnswer = {"DE03207", answerNotMade};
+constexpr quv::Refusal noAnswerInList = {"DE03208", answerNotMade};
 
 } // namespace
 
@@ -28,12 +27,12 @@ MixerDriverStatusAnswer::MixerDriverStatusAnswer(const MixerStatus *status, cons
 
 MixerDriverStatusAnswer::MixerDriverStatusAnswer(const XmlRpc::XmlRpcValue &value)
 {
-    quv::readDriverStatus<MixerStatus, MixerStatusAnswer>(value, refusals, Q_FUNC_INFO, *this);
+    quv::readDriverStatus<MixerStatus, MixerStatusAnswer>(value, noStatus, noAnswer, Q_FUNC_INFO, *this);
 }
 
 MixerDriverStatusAnswer::MixerDriverStatusAnswer(QList<QVariant> &list) : ConfProtoAnswer(list)
 {
-    quv::readDriverStatus<MixerStatus, MixerStatusAnswer>(list, refusals, Q_FUNC_INFO, *this);
+    quv::readDriverStatus<MixerStatus, MixerStatusAnswer>(list, noStatus, noAnswerInList, Q_FUNC_INFO, *this);
 }
 
 MixerDriverStatusAnswer *MixerDriverStatusAnswer::clone() const
@@ -53,5 +52,5 @@ XmlRpc::XmlRpcValue MixerDriverStatusAnswer::toXmlRpcValue() const
 
 QList<quv::MemberFacts> MixerDriverStatusAnswer::memberFacts()
 {
-    return quv::driverStatusFacts<MixerStatus, MixerStatusAnswer>(refusals);
+    return quv::driverStatusFacts<MixerStatus, MixerStatusAnswer>(noStatus, noAnswer, noAnswerInList);
 }
