@@ -15,7 +15,7 @@ public:
 
     DispenserInfo() = default;
     DispenserInfo(const MachineInfo &machine, int dispenserID, int parallelism, bool isRotating);
-    DispenserInfo(const FW_Dispenser *dispenser, QString connection); ///< of null nothing
+    DispenserInfo(const FW_Dispenser *dispenser, QString connection); ///< as a MachineInfo is made
     /** Throws what MachineInfo throws, then DE00744 without disp_id, DE00769 without tinting_parallelism. */
     explicit DispenserInfo(const XmlRpc::XmlRpcValue &value);
     explicit DispenserInfo(bool) = delete; // would be an XML-RPC value, as would the next three

@@ -39,7 +39,10 @@ public:
     MachineInfo(int systemID, bool isEnabled, QString serialName, const BluetoothDeviceInfo &bluetooth,
                 QString connection, QString number, QString describedAs, QString modelName, QString product,
                 QString key, SerialDeviceType device);
-    /** Of an enabled machine that is reached by such a connection; of null nothing. Its SID is -1 when it is no number. */
+    /**
+     * An enabled machine; the \a connection is of this type, by the name that FW_SerialPort::macroConnToString has for it. The SID
+     * is -1 when that of the machine is no number. Of null nothing.
+     */
     MachineInfo(const FW_Machine *machine, QString connection);
     /**
      * Throws DE00766 (enabled), DE00746 (sid), DE00747 (serial_number), DE00762 (description), DE00767 (model) or DE00768

@@ -13,7 +13,7 @@ public:
 
     MixerInfo(); ///< its device type is that of a mixer
     MixerInfo(const MachineInfo &machine, int mixerID);
-    MixerInfo(const FW_Mixer *mixer, QString connection); ///< of null nothing
+    MixerInfo(const FW_Mixer *mixer, QString connection); ///< as a MachineInfo is made
     /** Throws what MachineInfo throws, then DE03200 without mixer_id. */
     explicit MixerInfo(const XmlRpc::XmlRpcValue &value);
     explicit MixerInfo(bool) = delete; // would be an XML-RPC value, as would the next three

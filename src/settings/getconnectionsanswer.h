@@ -11,8 +11,9 @@
 #include <QtCore/QSharedPointer>
 
 /**
- * The answer to GET_CONNECTIONS: what the driver knows of the machine behind each connection. Each is an info by the kind of device: of a
- * dispenser or a mixer that is known as a DispenserInfo or a MixerInfo, of any other as a MachineInfo. Copies share the infos.
+ * The answer to GET_CONNECTIONS: what the driver knows of the machine behind each connection. Each is an info by the kind of
+ * device: of a dispenser or a mixer that is known as a DispenserInfo or a MixerInfo, of any other as a MachineInfo. Copies share
+ * the infos.
  */
 class QUVPROTOCOL_EXPORT GetConnectionsAnswer
     : public quv::DescribedAnswer<GetConnectionsAnswer, ConfProtoAnswer>
@@ -26,13 +27,13 @@ public:
     explicit GetConnectionsAnswer(
         const QList<QSharedPointer<MachineInfo>> &connections); ///< null ones are left out
     /**
-     * Throws DE03225 without the array, DE01884 when an info cannot be made, and what the info throws of an element: of device type 1
-     * with a "disp_id" a DispenserInfo, of type 4 with a "mixer_id" a MixerInfo, else a MachineInfo.
+     * Throws DE03225 without the array, DE01884 when an info cannot be made, and what the info throws of an element: of device
+     * type 1 with a "disp_id" a DispenserInfo, of type 4 with a "mixer_id" a MixerInfo, else a MachineInfo.
      */
     explicit GetConnectionsAnswer(const XmlRpc::XmlRpcValue &value);
     /**
-     * Each element a shared pointer, an info of one of the three classes or its map. Throws DE00937 for another type and DE01884 when the
-     * info cannot be made, and what the info throws of a bad map.
+     * Each element a shared pointer, an info of one of the three classes or its map. Throws DE00937 for another type and DE01884
+     * when the info cannot be made, and what the info throws of a bad map.
      */
     explicit GetConnectionsAnswer(QList<QVariant> &list);
 

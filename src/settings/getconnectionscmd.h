@@ -21,8 +21,8 @@ public:
     GetConnectionsCmd() = default; ///< connections of any type, by discovery
     GetConnectionsCmd(int connectionType, BTConnectionFilter filter);
     /**
-     * One optional struct, of which each member may be missing. Throws DE03220 for what is no struct, DE03221 (conn_type) and DE03222
-     * (bt_conn_filter) for a member that is no int.
+     * One optional struct, of which each member may be missing. Throws DE03220 for what is no struct, DE03221 (conn_type) and
+     * DE03222 (bt_conn_filter) for a member that is no int.
      */
     explicit GetConnectionsCmd(const XmlRpc::XmlRpcValue &value);
     /** Two optional ints, connection type and filter. Throws DE03221 and DE03222 likewise. */

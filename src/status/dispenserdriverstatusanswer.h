@@ -12,9 +12,9 @@ struct MemberFacts;
 } // namespace quv
 
 /**
- * The answer to GET_DISP_STATUS: what the driver has under way on a dispenser, "driver_status", and the last status of its firmware,
- * "disp_status", each the int 0 when it is absent; with "pos_available" and "pos_ready", which tell acceptPOScommands() and
- * readyForPOScommands().
+ * The answer to GET_DISP_STATUS: what the driver has under way on a dispenser, "driver_status", and the last status of its
+ * firmware, "disp_status", each the int 0 when it is absent; with "pos_available" and "pos_ready", which tell acceptPOScommands()
+ * and readyForPOScommands().
  */
 class QUVPROTOCOL_EXPORT DispenserDriverStatusAnswer : public MachineDriverStatusAnswer,
                                                        public ConfProtoAnswer

@@ -9,8 +9,8 @@
 class FW_Dispenser;
 
 /**
- * What the driver has under way on a dispenser. Travels in a QVariant under its name, also as the map that its struct is: a bool of
- * each name, and under "dispenser_info" the info.
+ * What the driver has under way on a dispenser. Travels in a QVariant under its name, also as the map that its struct is: a bool
+ * of each name, and under "dispenser_info" the info.
  */
 class QUVPROTOCOL_EXPORT DispenserStatus : public MachineStatus
 {
@@ -24,6 +24,7 @@ public:
     explicit DispenserStatus(const DispenserInfo &info);
     DispenserStatus(const DispenserInfo &info, bool isActive, bool managesConfiguration, bool updatesFirmware,
                     bool managesStatistics, bool scansSlaves, bool dosesBySoftware, bool managesScale);
+    /** Of this machine, with the type of its connection as in its info. */
     DispenserStatus(const FW_Dispenser &dispenser, QString connection, bool isEnabled, bool isActive);
     /**
      * The info, and the bools in their order, of which the first three must be there. Throws DE00760 (fewer than four elements),
@@ -48,8 +49,8 @@ public:
     void clear(bool all); ///< the dispenser's own fields; the machine's as well with \a all
 
     /**
-     * With \a strict as ==. Without it a dispenser counts as the same by its info without the way to it, active, conf_mng, fw_update
-     * and slave_scan, a scale by scale_mngm alone, and any other device always.
+     * With \a strict as ==. Without it a dispenser counts as the same by its info without the way to it, active, conf_mng,
+     * fw_update and slave_scan, a scale by scale_mngm alone, and any other device always.
      */
     bool equalTo(const DispenserStatus &other, bool strict, SerialDeviceType type) const;
     /** True when the lists differ in length, or in one place when compared without \a strict. */

@@ -9,7 +9,10 @@
 
 #include <QtCore/QList>
 
-/** The answer to GET_ACTIVE_DISP, GET_DISP_LIST and GET_MIXER_LIST: the dispensers and the mixers, with what the driver has under way on each. */
+/**
+ * The answer to GET_ACTIVE_DISP, GET_DISP_LIST and GET_MIXER_LIST: the dispensers and the mixers, with what the driver has under
+ * way on each.
+ */
 class QUVPROTOCOL_EXPORT GetActiveDispAnswer
     : public quv::DescribedAnswer<GetActiveDispAnswer, ConfProtoAnswer>
 {

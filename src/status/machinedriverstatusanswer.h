@@ -7,8 +7,8 @@
 #include <memory>
 
 /**
- * What the driver has under way on a machine, and the last status that the machine's firmware told. Each may be absent, and each is held
- * as a clone.
+ * What the driver has under way on a machine, and the last status that the machine's firmware told. Each may be absent, and each
+ * is held as a clone.
  */
 class QUVPROTOCOL_EXPORT MachineDriverStatusAnswer
 {

@@ -6,8 +6,8 @@
 #include "status/machinedriverstatusanswer.h"
 #include "status/machinestatus_p.h"
 
-// How the driver's status of a dispenser or a mixer travels: a struct of the two statuses, and of whether the machine takes orders. In a
-// list the two statuses.
+// How the driver's status of a dispenser or a mixer travels: a struct of the two statuses, and of whether the machine takes
+// orders. In a list the two statuses.
 
 namespace quv {
 

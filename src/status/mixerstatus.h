@@ -9,8 +9,8 @@
 class FW_Mixer;
 
 /**
- * What the driver has under way on a can mixer. Travels in a QVariant under its name, also as the map that its struct is: a bool of
- * each name, and under "mixer_info" the info.
+ * What the driver has under way on a can mixer. Travels in a QVariant under its name, also as the map that its struct is: a bool
+ * of each name, and under "mixer_info" the info.
  */
 class QUVPROTOCOL_EXPORT MixerStatus : public MachineStatus
 {
@@ -21,6 +21,7 @@ public:
     explicit MixerStatus(const MixerInfo &info);
     MixerStatus(const MixerInfo &info, bool isActive, bool managesConfiguration, bool updatesFirmware,
                 bool managesStatistics);
+    /** Of this machine, with the type of its connection as in its info. */
     MixerStatus(const FW_Mixer &mixer, QString connection, bool isEnabled, bool isActive);
     /**
      * The info, and the bools in their order, of which the first three must be there. Throws DE03205 (fewer than four elements),
@@ -43,8 +44,8 @@ public:
     const MixerInfo *mixerInfo() const; ///< owned by the status; null when it has none of a mixer
 
     /**
-     * With \a strict as ==. Without it a mixer counts as the same by its info without the way to it, active, conf_mng and fw_update,
-     * and any other device always.
+     * With \a strict as ==. Without it a mixer counts as the same by its info without the way to it, active, conf_mng and
+     * fw_update, and any other device always.
      */
     bool equalTo(const MixerStatus &other, bool strict, SerialDeviceType type) const;
     /** True when the lists differ in length, or in one place when compared without \a strict. */
