@@ -111,7 +111,7 @@ struct GetActiveDispAnswer::Description
 
     static std::vector<quv::Member<Answer>> members()
     {
-        return {quv::Member<Answer>(dispList_TAG, &Answer::m_dispensers, noDispensers)
+        return {quv::Member<Answer>(dispList_TAG, &Answer::m_dispensers, noDispensers, otherElement)
                     .meaning("of each dispenser what the driver has under way, and which it is"),
                 quv::Member<Answer>(mixerList_TAG, &Answer::m_mixers)
                     .otherType(noMixers)
