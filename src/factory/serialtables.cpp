@@ -12,6 +12,10 @@
 #include "dispensing/purgeformulacmd.h"
 #include "dispensing/tintcmd.h"
 #include "factory/commandtables_p.h"
+#include "firmware/firmwareresetcmd.h"
+#include "firmware/firmwareupdatecmd.h"
+#include "firmware/firmwareversioncmd.h"
+#include "firmware/slavejumpcmd.h"
 #include "processes/autocapcmd.h"
 #include "processes/cleaningcmd.h"
 #include "processes/getshelfposcmd.h"
@@ -57,6 +61,10 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::GET_SENSORS_STATUS, fromName<SerialProtoCommand>()},
         {Cmd::GET_SENSOR_DATA, fromArguments<SensorDataCmd>()},
         {Cmd::CLOSE_SERIAL, fromName<SerialProtoCommand>()},
+        {Cmd::READ_FW_VERSION, fromArguments<FirmwareVersionCmd>()},
+        {Cmd::RESET_FW, fromArguments<FirmwareResetCmd>()},
+        {Cmd::UPDATE_FW, fromArguments<FirmwareUpdateCmd>()},
+        {Cmd::SLAVE_JUMP, fromArguments<SlaveJumpCmd>()},
         {Cmd::MIXER_PLATES, fromArguments<MixerPlatesCmd>()},
         {Cmd::STOP, fromArguments<StopSerialCmd>()},
     }};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/basetesting.h"
 
+#include <QuvFramework/fw_xmlrpc.h>
+
 #include <QtCore/QDebug>
 
 #include <cxxabi.h>
@@ -97,8 +99,12 @@ std::string dumped(const Value &value)
         }
         out << '}';
         break;
+    case Value::TypeBase64: {
+        QByteArray bytes;
+        DecodeXmlRpcValue(value, bytes);
+        return '<' + bytes.toHex().toStdString() + '>';
+    }
     case Value::TypeDateTime:
-    case Value::TypeBase64:
         return "unexpected type";
     }
     return out.str();

@@ -43,7 +43,7 @@ Value structOf(std::initializer_list<std::pair<const char *, Value>> members);
 Value valueOf(const QVariant &variant);
 Value arrayOfList(const List &list);
 
-/** A value as text: 7, 7.5, true, "text", [1, 2], {"a": 1}, and nothing for an empty value. */
+/** A value as text: 7, 7.5, true, "text", <00ff> of bytes, [1, 2], {"a": 1}, and nothing for an empty value. */
 std::string dumped(const Value &value);
 
 /** A list as text, with the types of its elements. */

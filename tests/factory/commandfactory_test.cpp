@@ -16,6 +16,7 @@
 #include "processes/stiritem.h"
 
 #include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_firmwarefile.h>
 #include <QuvFramework/fw_mixer.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
@@ -96,10 +97,13 @@ List argumentsFor(const CommandRow &row, Form form)
         {"PRIMING2", {circuits}},
         {"PURGE", {formula}},
         {"READ_CONFIG_ROW", {5, 3}},
+        {"READ_FW_VERSION", {17}},
         {"RECIRCULATION", {2, 300, 40, 1, true}},
         {"RESET", {2}},
+        {"RESET_FW", {2, QVariant(List{3, 4})}},
         {"SET_LEVELS", {false, formula, true}},
         {"SHELF_MOVE", {1, 300}},
+        {"SLAVE_JUMP", {17, 3}},
         {"STIRRING", {2, 300, true}},
         {"STIR_ALL", {QVariant::fromValue(QList<StirItem>{StirItem(12, 40)}), 1, false, 700}},
         {"STOP", {3, 2}},
@@ -111,6 +115,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"ZDR_CYCLE_OPERATION", {3, 17, 245}},
         {"ZDR_SLAVE_PROCEDURE", {200, QVariant(List{300})}},
         {"ULTRASOUND_CLEAN", {4, 300}},
+        {"UPDATE_FW", {QVariant::fromValue(FirmwareFiles{FirmwareFile("abc", {3, 4}, 2)})}},
     };
     // commands whose arguments travel in another shape over XML-RPC
     static const std::map<std::string, List> values = {
@@ -122,7 +127,13 @@ List argumentsFor(const CommandRow &row, Form form)
               List{QVariantMap{
                   {"cycle_type", 2}, {"mixing_speed", 40}, {"clamping_force", 7}, {"duration", 300}}}}}}},
         {"MIXER_PLATES", {2, 300, 40, 7}},
+        {"RESET_FW", {2, QVariantMap{{"board_addresses", List{3, 4}}}}},
         {"STIR_ALL", {QVariant(List{QVariantMap{{"item", 12}, {"duration", 40}}}), 1, false, 700}},
+        {"UPDATE_FW",
+         {QVariant(List{QVariantMap{{"image", QByteArray("abc")},
+                                    {"board_addresses", List{3, 4}},
+                                    {"board_type", 2},
+                                    {"parallel_send", false}}})}},
         {"WRITE_CONFIG_ROW", {QVariantMap{{"cmd_value", 7}, {"cmd_parameters", "1,100,2,3"}}}},
     };
     const auto value = values.find(row.name);
@@ -135,6 +146,12 @@ List argumentsFor(const CommandRow &row, Form form)
     for (int i = 0; i < row.minParams; ++i)
         ones.append(1);
     return ones;
+}
+
+/** The address of a slave that is to jump is read, but never written. */
+bool writesLess(const CommandRow &row)
+{
+    return row.name == std::string("SLAVE_JUMP");
 }
 
 Value valueOf(const List &list)
@@ -328,7 +345,7 @@ TEST(CommandFactory, makesTheClassOfEachRowAndPlainCommandsOtherwise)
                     expected.pending || (expected.takes != Takes::Name && expected.takes != Takes::Nothing);
                 if (!kept) {
                     EXPECT_EQ(command->parameters(), List()) << "arguments are dropped";
-                } else if (form == ListForm) {
+                } else if (form == ListForm && !writesLess(row)) {
                     EXPECT_EQ(command->parameters().mid(0, arguments.size()), arguments);
                 }
                 EXPECT_FALSE(command->getProtoAnswer());
@@ -1001,6 +1018,11 @@ TEST(EveryCommand, canBeMadeWrittenAndReadBack)
                 EXPECT_EQ(request.size(), 1) << "a plain command has no arguments to write";
                 continue;
             }
+            const CommandPtr copy(command->clone());
+            EXPECT_EQ(className(copy), className(command));
+            EXPECT_EQ(dumped(copy->toXmlRpcValue(QString())), dumped(request));
+            if (writesLess(row))
+                continue;
             const List written = argumentsOf(request);
             const List sent = argumentsFor(row, ValueForm);
             for (int i = 0; i < sent.size(); ++i)
@@ -1017,9 +1039,6 @@ TEST(EveryCommand, canBeMadeWrittenAndReadBack)
                 EXPECT_EQ(dumped(again->toXmlRpcValue(QString())), dumped(request));
                 EXPECT_EQ(again->parameters(), command->parameters());
             }
-            const CommandPtr copy(command->clone());
-            EXPECT_EQ(className(copy), className(command));
-            EXPECT_EQ(dumped(copy->toXmlRpcValue(QString())), dumped(request));
         }
     }
 }
