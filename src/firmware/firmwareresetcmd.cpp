@@ -44,7 +44,7 @@ struct FirmwareResetCmd::Description : quv::Description
             {"board_addresses", "member \"board_addresses\": an array of ints (in a list the list itself)"},
             "struct", none);
         teller.refuse("without an address", {noValueAddresses, noListAddresses});
-        teller.refuse("an address of another type", {noValueAddresses, otherAddress});
+        teller.refuse("with an address of another type", {noValueAddresses, otherAddress});
     }
 };
 

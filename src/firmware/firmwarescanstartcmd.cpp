@@ -22,7 +22,8 @@ FirmwareScanStartCmd *FirmwareScanStartCmd::clone() const
     return new FirmwareScanStartCmd(*this);
 }
 
-// The firmware tells that it has begun, and no more: what it has found is asked for by FW_SCAN_READ.
+// The firmware tells that it has begun, and no more: what it has found is asked for by FW_SCAN_READ. So all answers are plain.
+// NOLINTBEGIN(bugprone-parent-virtual-call): those of the class between are the very ones that are not wanted
 
 bool FirmwareScanStartCmd::buildProtoAnswer(QStringList tokens, FW_DriverError *error)
 {
@@ -38,6 +39,8 @@ bool FirmwareScanStartCmd::buildProtoAnswer(QList<QVariant> &list, FW_DriverErro
 {
     return SerialProtoCommand::buildProtoAnswer(list, error);
 }
+
+// NOLINTEND(bugprone-parent-virtual-call)
 
 QList<int> FirmwareScanStartCmd::serialParameters(int) const
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/firmwareupdateanswer.h"
 
+#include "base/argumentteller_p.h"
 #include "base/describedanswer_p.h"
 #include "base/objectfield_p.h"
 #include "firmware/fwupdateresultlist_p.h"
@@ -9,6 +10,8 @@
 
 namespace {
 
+constexpr quv::Refusal emptyList = {"DE00964",
+                                    "FirmwareUpdateAnswer decoding failed: invalid QVariant value"};
 constexpr char invalidResults[] = "FirmwareUpdateAnswer: invalid FwUpdateResultList parameter";
 
 quv::Decoded readResults(const XmlRpc::XmlRpcValue &value, void *field)
@@ -73,8 +76,7 @@ FirmwareUpdateAnswer::FirmwareUpdateAnswer(QList<FwUpdateResult> results) : m_re
 FirmwareUpdateAnswer::FirmwareUpdateAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
     if (list.isEmpty())
-        throw FW_Exception("DE00964", "FirmwareUpdateAnswer decoding failed: invalid QVariant value",
-                           Q_FUNC_INFO);
+        quv::throwRefusal(emptyList, Q_FUNC_INFO);
     read(list, Q_FUNC_INFO);
 }
 
@@ -86,4 +88,13 @@ FirmwareUpdateAnswer::FirmwareUpdateAnswer(const XmlRpc::XmlRpcValue &value)
 FirmwareUpdateAnswer *FirmwareUpdateAnswer::clone() const
 {
     return new FirmwareUpdateAnswer(*this);
+}
+
+QList<quv::MemberFacts> FirmwareUpdateAnswer::memberFacts()
+{
+    QList<quv::MemberFacts> members = DescribedAnswer::memberFacts();
+    QList<quv::RefusalFacts> &refusals = members.first().refusals;
+    refusals.last().when = QStringLiteral("another type");
+    quv::appendRefusal(refusals, "list", "missing", emptyList);
+    return members;
 }

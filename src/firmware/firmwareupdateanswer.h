@@ -27,6 +27,8 @@ public:
 
     const FwUpdateResultList &results() const { return m_results; }
 
+    static QList<quv::MemberFacts> memberFacts(); ///< and that an empty list is refused in words of its own
+
 private:
     FwUpdateResultList m_results;
 };

@@ -126,8 +126,8 @@ TEST(FirmwareResetCmd, tellsItsArguments)
             "board_addresses (struct) = {\"board_addresses\": []}: member \"board_addresses\": an array of "
             "ints (in a list the list itself)",
             "  XML-RPC, without an address: DE00827", "  list, without an address: DE01488",
-            "  XML-RPC, an address of another type: DE00827",
-            "  list, an address of another type: DE00830"}));
+            "  XML-RPC, with an address of another type: DE00827",
+            "  list, with an address of another type: DE00830"}));
 }
 
 TEST(FirmwareResetCmd, readsBackTheTypeAloneToo)

@@ -2,6 +2,7 @@
 #include "firmware/firmwareupdateanswer.h"
 
 #include "base/basetesting.h"
+#include "base/factlines.h"
 #include "base/outofmemory.h"
 
 #include <memory>
@@ -128,6 +129,17 @@ TEST(FirmwareUpdateAnswer, comparesTheResultsInTheirOrder)
     EXPECT_FALSE(answer.equalTo(nullptr));
     const std::unique_ptr<ProtoAnswer> copy(static_cast<const ProtoAnswer &>(answer).clone());
     EXPECT_TRUE(answer.equalTo(copy.get()));
+}
+
+TEST(FirmwareUpdateAnswer, tellsWhatRefusesIt)
+{
+    const Lines lines = membersOf("UPDATE_FW");
+    ASSERT_EQ(lines.size(), 13U);
+    EXPECT_EQ(lines.front(), "FirmwareUpdateAnswer");
+    EXPECT_EQ(lines.at(2), "  XML-RPC, missing: DE00972");
+    EXPECT_EQ(lines.at(3), "  XML-RPC, another type: DE00971");
+    EXPECT_EQ(lines.at(8), "  list, another type: DE00967");
+    EXPECT_EQ(lines.at(9), "  list, missing: DE00964");
 }
 
 } // namespace
