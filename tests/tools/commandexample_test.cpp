@@ -61,6 +61,17 @@ TEST(CommandExample, hasAFormula)
                             "\"ids\": [\"B\", \"KX\"], \"quantities\": [12.5, 0.3]})");
 }
 
+TEST(CommandExample, tellsBytes)
+{
+    const quv::CommandFacts update = command("UPDATE_FW", {{"files", "array of structs"}});
+    EXPECT_EQ(shell(update),
+              "quvctl call UPDATE_FW "
+              "'files=[{\"board_type\":2,\"board_addresses\":[3,4],\"image\":{\"$base64\":\"AP8=\"}}]'");
+    EXPECT_EQ(python(update),
+              "driver.EXEC_B(\"UPDATE_FW\", [{\"board_type\": 2, \"board_addresses\": [3, 4], "
+              "\"image\": xmlrpc.client.Binary(bytes.fromhex(\"00ff\"))}])");
+}
+
 TEST(CommandExample, isCompleteWithoutArguments)
 {
     EXPECT_EQ(shell(command("GET_ERRORS")), "quvctl call GET_ERRORS");

@@ -741,6 +741,21 @@ class Classes(BatchTest):
         reply = self.ask({"op": "encode", "name": "ERRORS_NUM"})
         self.assertEqual((reply["class"], reply["serial"]), ("SerialProtoCommand", []))
 
+    def test_scans_for_firmware(self):
+        versions = {"slave_versions": [{"board_address": 17, "app_version": [63, 0, 0, 0, 0, 38], "boot_version": []}]}
+        tokens = ["4", "1", "11", "3F", "26"]
+        for class_name, name, serial, answer in [
+                ("FirmwareScanCmd", "FW_SCAN", [], "FirmwareScanAnswer"),
+                ("FirmwareScanReadCmd", "FW_SCAN_READ", [2], "FirmwareScanAnswer"),
+                ("FirmwareScanStartCmd", "FW_SCAN_START", [1], "SerialProtoAnswer")]:
+            for form in ["value", "list"]:
+                reply = self.ask({"op": "encode", "class": class_name, "form": form})
+                self.assertEqual((reply["class"], reply["request"], reply["serial"]), (class_name, [name], serial))
+            self.expect({"op": "decode", "class": class_name, "tokens": tokens},
+                        {"ok": True, "class": answer, "value": 0 if serial == [1] else versions})
+            # by its name it is a plain command
+            self.assertEqual(self.ask({"op": "encode", "name": name})["class"], "SerialProtoCommand")
+
     def test_purges(self):
         purge = {"purge_quantity": 2.5, "quantity_unit": 3, "only_filled": True, "head": 0}
         for form, given in [("value", purge), ("value", [purge]), ("list", [2.5, 3, True, 0])]:

@@ -8,6 +8,8 @@
 #include "dispensing/purgequantitycmd.h"
 #include "dispensing/turntablepurgeformulacmd.h"
 #include "dispensing/turntabletintcmd.h"
+#include "firmware/firmwarescanreadcmd.h"
+#include "firmware/firmwarescanstartcmd.h"
 #include "status/errornumcmd.h"
 
 #include <QuvFramework/fw_dispenser.h>
@@ -34,6 +36,18 @@ template <class Class>
 Made fromArguments(const Request &request, const FW_Machine *)
 {
     return withArguments(request, [](auto &arguments) -> Made { return std::make_unique<Class>(arguments); });
+}
+
+/// Of a class without a list form, in which it is made of nothing: its arguments are not read anyhow.
+template <class Class>
+Made fromValue(const Request &request, const FW_Machine *)
+{
+    return withArguments(request, [](auto &arguments) -> Made {
+        if constexpr (std::is_same_v<decltype(arguments), XmlRpc::XmlRpcValue &>)
+            return std::make_unique<Class>(arguments);
+        else
+            return std::make_unique<Class>();
+    });
 }
 
 template <class Class>
@@ -66,6 +80,9 @@ struct CommandClass
 
 constexpr CommandClass commandClasses[] = {
     {"ErrorNumCmd", fromNothing<ErrorNumCmd>},
+    {"FirmwareScanCmd", fromArguments<FirmwareScanCmd>},
+    {"FirmwareScanReadCmd", fromValue<FirmwareScanReadCmd>},
+    {"FirmwareScanStartCmd", fromValue<FirmwareScanStartCmd>},
     {"GetDispensedFormulaCmd", fromArguments<GetDispensedFormulaCmd>},
     {"PurgeCmd", fromArgumentsAndDispenser<PurgeCmd>},
     {"PurgeQuantityCmd", fromArguments<PurgeQuantityCmd>},

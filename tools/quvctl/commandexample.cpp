@@ -49,6 +49,8 @@ constexpr Sample samplesOfCommands[] = {
     {"GET_CMD_STATUS", R"(["08c07d1b-0c86-482f-89f7-e64569cd7441"])"},
     {"GET_CMD_EST_EXEC_TIME", R"([{"command":["RESET"]}])"},
     {"READ_CONFIG_ROW", "[7,1]"},
+    {"RESET_FW", R"([2,{"board_addresses":[3,4]}])"},
+    {"UPDATE_FW", R"([[{"board_type":2,"board_addresses":[3,4],"image":{"$base64":"AP8="}}]])"},
     {"WRITE_CONFIG_ROW", R"([{"cmd_value":7,"cmd_parameters":"1,60,10,40"}])"},
     {"PRIMING", R"([{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[3,3]}])"},
     {"PACK", R"([0,{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[1,1]}])"},
@@ -151,6 +153,11 @@ QString pythonOf(const OrderedJson &value)
         for (const OrderedJson &element : value)
             parts.append(pythonOf(element));
         return QLatin1Char('[') + parts.join(QStringLiteral(", ")) + QLatin1Char(']');
+    }
+    if (value.is_object() && value.contains("$base64")) {
+        const auto base64 = QByteArray::fromStdString(value["$base64"].get<std::string>());
+        return QStringLiteral("xmlrpc.client.Binary(bytes.fromhex(\"%1\"))")
+            .arg(QString::fromLatin1(QByteArray::fromBase64(base64).toHex()));
     }
     if (value.is_object()) {
         for (const auto &[key, member] : value.items())
