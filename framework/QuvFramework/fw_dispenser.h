@@ -131,6 +131,8 @@ public:
     FW_Circuit *addNewCircuit(const FW_Canister &canister, int position, int circuitID);
     /** Positions in ascending order, of all circuits or of the enabled ones only. */
     QList<int> getPositionsIDList(bool onlyEnabled) const;
+    /** The addresses of the circuits' boards that are reached by wire: a board has its circuit's position, enabled or not. */
+    QList<int> getWireBoardsID() const { return getPositionsIDList(false); }
     bool hasCircuitPosition(int position, bool onlyEnabled) const;
     bool hasCircuitPositions(const QList<int> &positions, bool onlyEnabled) const; ///< true for all of them
 

@@ -95,7 +95,7 @@ int targetsOf(const FirmwareFile &file, const FW_Dispenser *dispenser)
 {
     if (file.boardType() != circuitBoard || !dispenser)
         return file.addresses().size();
-    const QList<int> wired = dispenser->getPositionsIDList(false);
+    const QList<int> wired = dispenser->getWireBoardsID();
     return static_cast<int>(std::count_if(file.addresses().begin(), file.addresses().end(),
                                           [&](int address) { return wired.contains(address); }));
 }
