@@ -41,7 +41,7 @@ struct FirmwareResetCmd::Description : quv::Description
         XmlRpcValue none;
         none[BOARD_ADDRESSES_TAG].setSize(0);
         teller.argument(
-            {"board_addresses", "member \"board_addresses\": an array of ints (in a list the list itself)"},
+            {"board_addresses", "member \"board_addresses\": an array of one int at least (in a list the list itself)"},
             "struct", none);
         teller.refuse("without an address", {noValueAddresses, noListAddresses});
         teller.refuse("with an address of another type", {noValueAddresses, otherAddress});
