@@ -40,10 +40,8 @@ public:
 
     int boardAddress() const { return m_boardAddress; }
     const FW_Version &applicationVersion() const { return m_application; }
-    const FW_Version &bootLoaderVersion() const
-    {
-        return m_bootLoader;
-    } ///< not valid when the board does not tell it
+    /** Not valid when the board does not tell it. */
+    const FW_Version &bootLoaderVersion() const { return m_bootLoader; }
 
     XmlRpc::XmlRpcValue toXmlRpcValue() const;
 

@@ -54,11 +54,9 @@ FW_Version requiredVersion(const XmlRpcValue &value, const char *key)
         refuse("a version of the program is missing or no array of integers");
     if (numbers.isEmpty())
         return {};
-    if (numbers.size() != wholeVersion)
-        refuse("a version has another number of integers");
-    const FW_Version version = versionOf(numbers);
+    const FW_Version version = numbers.size() == wholeVersion ? versionOf(numbers) : FW_Version();
     if (!version.isValid())
-        refuse("a version has a negative integer");
+        refuse("a version of the program is not six integers from 0 up");
     return version;
 }
 
