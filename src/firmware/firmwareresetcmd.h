@@ -14,22 +14,23 @@ public:
     static constexpr char BOARD_ADDRESSES_TAG[] = "board_addresses";
 
     FirmwareResetCmd() = default; ///< type -1, no addresses
-    explicit FirmwareResetCmd(
-        int boardType); ///< all boards of the type; throws DE00821 for a type that there is not
-    FirmwareResetCmd(int boardType,
-                     int boardAddress); ///< throws DE00821, and DE00823 for an address that there is not
+    /** All boards of the type. Throws DE00821 for a type that there is not. */
+    explicit FirmwareResetCmd(int boardType);
+    /** Throws DE00821 for a type and DE00823 for an address that there is not. */
+    FirmwareResetCmd(int boardType, int boardAddress);
     FirmwareResetCmd(int boardType, QList<int> boardAddresses); ///< throws DE01486 and DE01487 likewise
-    explicit FirmwareResetCmd(
-        const FirmwareFile &file); ///< the boards of the file; throws DE01489 and DE01490 likewise
+    /** The boards of the file. Throws DE01489 and DE01490 likewise. */
+    explicit FirmwareResetCmd(const FirmwareFile &file);
     // The two that decode check no range: which boards there are is for the firmware to say.
     /**
-     * The type (int), and a struct with the array of the addresses (ints), which may be left out for none. Throws DE00826 for another type of the
-     * first and DE00827 for a second that gives no address; without any argument the base refuses (DE00312).
+     * The type (int), and a struct with the array of the addresses (ints), which may be left out for none. Throws DE00826 for
+     * another type of the first, DE00827 for a second that gives no address; without any argument the base refuses (DE00312).
      */
     explicit FirmwareResetCmd(const XmlRpc::XmlRpcValue &value);
     /**
-     * The type, and the list of the addresses, which may be left out for none. Throws DE00829 for another type of the first, DE00830 for an address
-     * that is no int, DE01488 for a second that gives no address; without any argument the base refuses (DE00313).
+     * The type, and the list of the addresses, which may be left out for none. Throws DE00829 for another type of the first,
+     * DE00830 for an address that is no int, DE01488 for a second that gives no address; without any argument the base refuses
+     * (DE00313).
      */
     explicit FirmwareResetCmd(QList<QVariant> list);
     explicit FirmwareResetCmd(bool) = delete; // would read as a type, as would the next two
@@ -39,8 +40,8 @@ public:
     FirmwareResetCmd *clone() const override;
     void setDefaults();
 
-    QList<QVariant>
-    parameters() const override; ///< always both, so that without addresses it is not read back
+    /** Always both arguments, so that a command without addresses is not read back. */
+    QList<QVariant> parameters() const override;
     /** The type, and with addresses the struct of them. */
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
     QList<int> serialParameters(int family) const override; ///< the type, then the addresses

@@ -25,7 +25,7 @@ struct QUVPROTOCOL_EXPORT FwUpdateResult
         Accepted = 3,        ///< taken for updated when nobody is strict
         AcceptedFailure = 4, ///< likewise, and a failure all the same
         FailedNeedsReboot = 5,
-        FailedNeedsRebootToo = 6 ///< as 5; the firmware tells them apart
+        FailedNeedsRebootToo = 6
     };
 
     FwUpdateResult() = default; ///< both -1

@@ -57,8 +57,7 @@ public:
     bool hasBeenInterrupted() const; ///< a result is 1
     /** A result is 2 or above, but not 3. So a 4 is a failure here, and good enough for successfullyUpdate(false). */
     bool failed() const;
-    /** True while no board has a result from 0 to 6: nothing but software can have gone wrong. */
-    bool hasSoftErrors() const;
+    bool hasSoftErrors() const; ///< no result is one of 0 to 6
     /** For the status of the ticket: 0 updated, -3 interrupted, -1 failed, 1 anything else. */
     int getCommandStatusResult() const;
 
