@@ -119,15 +119,15 @@ TEST(FirmwareResetCmd, keepsTheCommandContract)
 
 TEST(FirmwareResetCmd, tellsItsArguments)
 {
+    constexpr char addresses[] =
+        "board_addresses (struct) = {\"board_addresses\": []}: member \"board_addresses\": "
+        "an array of one int at least (in a list the list itself)";
     EXPECT_EQ(
         argumentsOf("RESET_FW"),
-        (Lines{
-            "board_type (int): 1 to 15", "  XML-RPC, another type: DE00826", "  list, another type: DE00829",
-            "board_addresses (struct) = {\"board_addresses\": []}: member \"board_addresses\": an array of one int "
-            "at least (in a list the list itself)",
-            "  XML-RPC, without an address: DE00827", "  list, without an address: DE01488",
-            "  XML-RPC, with an address of another type: DE00827",
-            "  list, with an address of another type: DE00830"}));
+        (Lines{"board_type (int): 1 to 15", "  XML-RPC, another type: DE00826",
+               "  list, another type: DE00829", addresses, "  XML-RPC, without an address: DE00827",
+               "  list, without an address: DE01488", "  XML-RPC, with an address of another type: DE00827",
+               "  list, with an address of another type: DE00830"}));
 }
 
 TEST(FirmwareResetCmd, readsBackTheTypeAloneToo)

@@ -103,14 +103,13 @@ TEST(FirmwareUpdateCmd, keepsTheCommandContract)
 
 TEST(FirmwareUpdateCmd, tellsItsArgument)
 {
-    EXPECT_EQ(
-        argumentsOf("UPDATE_FW"),
-        (Lines{"files (array of structs): of each file \"image\" (binary), \"board_addresses\" (array of "
-               "ints), \"board_type\" (int) and, where the boards take it all at once, \"parallel_send\" "
-               "(bool)",
-               "  XML-RPC, another type: DE00846", "  list, another type: DE00851",
-               "  XML-RPC, empty: DE00849", "  XML-RPC, with a bad file: DE00848",
-               "  list, with a bad file: DE00851"}));
+    constexpr char files[] =
+        "files (array of structs): of each file \"image\" (binary), \"board_addresses\" (array of ints), "
+        "\"board_type\" (int) and, where the boards take it all at once, \"parallel_send\" (bool)";
+    EXPECT_EQ(argumentsOf("UPDATE_FW"),
+              (Lines{files, "  XML-RPC, another type: DE00846", "  list, another type: DE00851",
+                     "  XML-RPC, empty: DE00849", "  XML-RPC, with a bad file: DE00848",
+                     "  list, with a bad file: DE00851"}));
 }
 
 TEST(FirmwareUpdateCmd, needsAnArrayOfFiles)
@@ -271,8 +270,8 @@ TEST(FirmwareUpdateCmd, knowsWhichFirmwareTakesFilesHow)
     struct Row
     {
         FW_Version version;
-        bool multiple;
-        bool bluetooth;
+        bool multiple = false;
+        bool bluetooth = false;
     };
     const Row rows[] = {
         {FW_Version(), false, false},       {FW_Version(70, -1), false, false},
