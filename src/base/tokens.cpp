@@ -23,6 +23,15 @@ int TokenReader::next(const Refusal &refusal)
     return static_cast<int>(number);
 }
 
+int TokenReader::nextSigned(const Refusal &refusal)
+{
+    bool ok = false;
+    const int number = atEnd() ? 0 : m_tokens.at(m_index++).toInt(&ok, 16);
+    if (!ok)
+        refuse(refusal);
+    return number;
+}
+
 unsigned TokenReader::nextUnsigned(const Refusal &refusal)
 {
     unsigned number = 0;

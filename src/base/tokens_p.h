@@ -66,6 +66,7 @@ public:
     }
 
     int next(const Refusal &refusal);
+    int nextSigned(const Refusal &refusal); ///< takes a negative number, too
     unsigned nextUnsigned(const Refusal &refusal);
     /** A number of \a digits base-246 digits, low digit first; one above \a greatest is refused as well. */
     long long nextNumber(int digits, const Refusal &refusal,

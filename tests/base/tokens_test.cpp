@@ -133,6 +133,18 @@ TEST(TokenReader, refusesBadTokens)
     EXPECT_EQ(quv::TokenReader(greatest, 0, signature).next(refusal), 2147483647);
 }
 
+TEST(TokenReader, takesANegativeNumberWhereOneIsAskedFor)
+{
+    const QStringList tokens = {"-1", "-80000000", "7FFFFFFF", "0", "80000000", "zz", ""};
+    quv::TokenReader reader(tokens, 0, signature);
+    EXPECT_EQ(reader.nextSigned(refusal), -1);
+    EXPECT_EQ(reader.nextSigned(refusal), -2147483647 - 1);
+    EXPECT_EQ(reader.nextSigned(refusal), 2147483647);
+    EXPECT_EQ(reader.nextSigned(refusal), 0);
+    for (int i = 0; i < 4; ++i) // the last at the end
+        expectRefusal("DE7", "Bad token", signature, [&] { reader.nextSigned(refusal); });
+}
+
 TEST(TokenReader, joinsDigitsLowDigitFirst)
 {
     const QStringList tokens = {"36", "1", "0", "0", "1", "5"};
