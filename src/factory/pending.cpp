@@ -45,7 +45,6 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Serial, BothForms, ProtoCommandList::CLEAR_BOARD_STATS, "ClearBoardStatsCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::DEEP_SERVICE, "NewTransparentCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::SW_PROCESS_TOGGLE, "SwProcessToggleCmd"},
-        {Dispatch::Serial, BothForms, ProtoCommandList::RES_FILE_MNGM, "ResourceFileManagementCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::RES_FILE_WRITE, "ResourceFileWriteCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::RES_FILE_READ, "ResourceFileReadCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::RES_FILE_LIST, "ResourceFileListCmd"},

@@ -15,6 +15,7 @@
 #include "firmware/firmwareresetcmd.h"
 #include "firmware/firmwareupdatecmd.h"
 #include "firmware/firmwareversioncmd.h"
+#include "firmware/resourcefilemanagementcmd.h"
 #include "firmware/slavejumpcmd.h"
 #include "processes/autocapcmd.h"
 #include "processes/cleaningcmd.h"
@@ -65,6 +66,7 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::RESET_FW, fromArguments<FirmwareResetCmd>()},
         {Cmd::UPDATE_FW, fromArguments<FirmwareUpdateCmd>()},
         {Cmd::SLAVE_JUMP, fromArguments<SlaveJumpCmd>()},
+        {Cmd::RES_FILE_MNGM, fromArguments<ResourceFileManagementCmd>()},
         {Cmd::MIXER_PLATES, fromArguments<MixerPlatesCmd>()},
         {Cmd::STOP, fromArguments<StopSerialCmd>()},
     }};

@@ -61,6 +61,7 @@ constexpr Sample samplesOfCommands[] = {
     {"CERTIFY_SESSION", R"(["08c07d1b","28"])"},
     {"GET_DISP_STATUS", "[]"},
     {"GET_CONNECTIONS", R"([{"conn_type":1,"bt_conn_filter":0}])"},
+    {"RES_FILE_MNGM", R"([{"res_data":{"subcmd":1,"res_index":243,"block_address":0,"data":""}}])"},
     {"STIRRING", "[3,60]"},
     {"RECIRCULATION", "[3,60,50]"},
     {"STIR_ALL", R"([[{"item":3,"duration":60},{"item":4,"duration":60}],0,false,500])"},
