@@ -15,7 +15,11 @@
 #include "firmware/firmwareresetcmd.h"
 #include "firmware/firmwareupdatecmd.h"
 #include "firmware/firmwareversioncmd.h"
+#include "firmware/resourcefiledeletecmd.h"
+#include "firmware/resourcefilelistcmd.h"
 #include "firmware/resourcefilemanagementcmd.h"
+#include "firmware/resourcefilereadcmd.h"
+#include "firmware/resourcefilewritecmd.h"
 #include "firmware/slavejumpcmd.h"
 #include "processes/autocapcmd.h"
 #include "processes/cleaningcmd.h"
@@ -67,6 +71,10 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::UPDATE_FW, fromArguments<FirmwareUpdateCmd>()},
         {Cmd::SLAVE_JUMP, fromArguments<SlaveJumpCmd>()},
         {Cmd::RES_FILE_MNGM, fromArguments<ResourceFileManagementCmd>()},
+        {Cmd::RES_FILE_WRITE, fromArguments<ResourceFileWriteCmd>()},
+        {Cmd::RES_FILE_READ, fromArguments<ResourceFileReadCmd>()},
+        {Cmd::RES_FILE_LIST, fromArguments<ResourceFileListCmd>()},
+        {Cmd::RES_FILE_DELETE, fromArguments<ResourceFileDeleteCmd>()},
         {Cmd::MIXER_PLATES, fromArguments<MixerPlatesCmd>()},
         {Cmd::STOP, fromArguments<StopSerialCmd>()},
     }};

@@ -12,6 +12,7 @@
 #include "factory/factoryrows.h"
 #include "factory/pending_p.h"
 #include "firmware/fwresourcedata.h"
+#include "firmware/fwresourcefile.h"
 #include "processes/mixcmd.h"
 #include "processes/mixerplatescmd.h"
 #include "processes/stiritem.h"
@@ -103,6 +104,9 @@ List argumentsFor(const CommandRow &row, Form form)
         {"RESET", {2}},
         {"RESET_FW", {2, QVariant(List{3, 4})}},
         {"RES_FILE_MNGM", {QVariant::fromValue(FwResourceData(RFM_Subcommand{2}, 243, 300, "12"))}},
+        {"RES_FILE_WRITE",
+         {QVariant::fromValue(
+             QList<FwResourceFile>{FwResourceFile("12", "P17.dmp", FwResourceFile::DumpFile, 4)})}},
         {"SET_LEVELS", {false, formula, true}},
         {"SHELF_MOVE", {1, 300}},
         {"SLAVE_JUMP", {17, 3}},
@@ -135,6 +139,11 @@ List argumentsFor(const CommandRow &row, Form form)
                                                {"res_index", 243},
                                                {"block_address", 300},
                                                {"data", QByteArray("12")}}}}}},
+        {"RES_FILE_WRITE",
+         {QVariant(List{QVariantMap{{"res_data_stream", QByteArray("12")},
+                                    {"res_name", "P17.dmp"},
+                                    {"res_type", 3},
+                                    {"res_index", 4}}})}},
         {"STIR_ALL", {QVariant(List{QVariantMap{{"item", 12}, {"duration", 40}}}), 1, false, 700}},
         {"UPDATE_FW",
          {QVariant(List{QVariantMap{{"image", QByteArray("abc")},

@@ -62,6 +62,8 @@ constexpr Sample samplesOfCommands[] = {
     {"GET_DISP_STATUS", "[]"},
     {"GET_CONNECTIONS", R"([{"conn_type":1,"bt_conn_filter":0}])"},
     {"RES_FILE_MNGM", R"([{"res_data":{"subcmd":1,"res_index":243,"block_address":0,"data":""}}])"},
+    {"RES_FILE_WRITE",
+     R"([[{"res_data_stream":"1,60,10","res_name":"P1234.cmp","res_type":1,"res_index":0}]])"},
     {"STIRRING", "[3,60]"},
     {"RECIRCULATION", "[3,60,50]"},
     {"STIR_ALL", R"([[{"item":3,"duration":60},{"item":4,"duration":60}],0,false,500])"},

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "firmware/resourcefilelistanswer.h"
+
+#include "base/describedanswer_p.h"
+#include "firmware/fwresourcefile_p.h"
+
+struct ResourceFileListAnswer::Description
+{
+    using Answer = ResourceFileListAnswer;
+
+    static std::vector<quv::Member<Answer>> members()
+    {
+        return {
+            quv::Member<Answer>(resourceFiles_TAG, &Answer::m_files,
+                                {"DE03260", "ResourceFileListAnswer: expected res_file_list value"},
+                                {"DE02757", "ResourceFileWriteCmd: expected FwResourceFile type parameter"})
+                .unmadeElement({"DE02758", "ResourceFileListAnswer: invalid FwResourceFile parameter"})
+                .meaning("of each file res_data_stream (base64), res_name, res_type and res_index")};
+    }
+};
+
+template class quv::DescribedAnswer<ResourceFileListAnswer, SerialProtoAnswer>;
+
+ResourceFileListAnswer::ResourceFileListAnswer(const QList<FwResourceFile> &files) : m_files(files) {}
+
+ResourceFileListAnswer::ResourceFileListAnswer(const XmlRpc::XmlRpcValue &value) : DescribedAnswer(value)
+{
+    read(value, Q_FUNC_INFO);
+    if (m_files.isEmpty())
+        throw FW_Exception("DE02759", "ResourceFileListAnswer: no FwResourceFile found", Q_FUNC_INFO);
+}
+
+ResourceFileListAnswer::ResourceFileListAnswer(QList<QVariant> &list) : DescribedAnswer(list)
+{
+    if (list.isEmpty())
+        throw FW_Exception("DE02756", "Too few parameters received", Q_FUNC_INFO);
+    read(list, Q_FUNC_INFO);
+}
+
+ResourceFileListAnswer *ResourceFileListAnswer::clone() const
+{
+    return new ResourceFileListAnswer(*this);
+}
