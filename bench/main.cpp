@@ -8,6 +8,7 @@ int main(int argc, char **argv)
     quv::addConfigurationRatios();
     quv::addDispensingRatios();
     quv::addErrorRatios();
+    quv::addResourceRatios();
     quv::addStatusRatios();
     return quv::runRatios(argc, argv);
 }

@@ -7,6 +7,7 @@ void addCatalogueRatios();
 void addConfigurationRatios();
 void addDispensingRatios();
 void addErrorRatios();
+void addResourceRatios();
 void addStatusRatios();
 
 } // namespace quv
