@@ -56,6 +56,7 @@ public:
     // How the machine as a whole is set up.
     int initialWorkingMode() const { return m_initialWorkingMode; }
     void setInitialWorkingMode(int mode) { m_initialWorkingMode = mode; }
+    static bool checkWorkingMode(int mode); ///< 0 to 8
     int powerSupply() const { return m_powerSupply; }
     void setPowerSupply(int supply) { m_powerSupply = supply; }
     /** A mask of the ways in which the machine is reached. */

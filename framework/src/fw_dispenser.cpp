@@ -116,6 +116,11 @@ bool FW_Dispenser::hasGravimetricSwDosingMotors() const
            }) != nullptr;
 }
 
+bool FW_Dispenser::checkWorkingMode(int mode)
+{
+    return mode >= 0 && mode <= 8;
+}
+
 int FW_Dispenser::getFirmwareConfModulesID() const
 {
     unsigned int mask = 0;

@@ -40,6 +40,14 @@ FW_Dispenser sharingDispenser()
     return machine;
 }
 
+TEST(FW_DispenserConfiguration, hasWorkingModesFrom0To8)
+{
+    for (int mode = 0; mode <= 8; ++mode)
+        EXPECT_TRUE(FW_Dispenser::checkWorkingMode(mode)) << mode;
+    for (const int mode : {-1, 9, 245})
+        EXPECT_FALSE(FW_Dispenser::checkWorkingMode(mode)) << mode;
+}
+
 TEST(FW_DispenserConfiguration, fields)
 {
     expectField<FW_Dispenser>("recirculatingParallelism", &FW_Dispenser::recirculatingParallelism,
