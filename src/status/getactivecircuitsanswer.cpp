@@ -2,6 +2,7 @@
 #include "status/getactivecircuitsanswer.h"
 
 #include "base/describedanswer_p.h"
+#include "base/numberpairs_p.h"
 
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_serial.h>
@@ -15,34 +16,6 @@ namespace {
 constexpr int nozzleValveProcess = 11;
 constexpr int stallProcess = 13;
 constexpr char decodingFailed[] = "Error during command answer decoding";
-
-using Pairs = QList<QPair<int, int>>;
-
-quv::Decoded readPairs(const XmlRpc::XmlRpcValue &value, void *field)
-{
-    if (value.getType() != XmlRpc::XmlRpcValue::TypeArray)
-        return quv::Decoded::OtherType;
-    Pairs pairs;
-    for (int i = 0; i < value.size(); ++i) {
-        QList<int> pair;
-        if (!DecodeXmlRpcValue(value[i], pair) || pair.size() != 2)
-            return quv::Decoded::BadElement;
-        pairs.append({pair.first(), pair.last()});
-    }
-    *static_cast<Pairs *>(field) = pairs;
-    return quv::Decoded::Good;
-}
-
-void writePairs(const void *field, XmlRpc::XmlRpcValue &value)
-{
-    const auto &pairs = *static_cast<const Pairs *>(field);
-    value.clear();
-    value.setSize(pairs.size());
-    for (int i = 0; i < pairs.size(); ++i) {
-        value[i][0] = pairs.at(i).first;
-        value[i][1] = pairs.at(i).second;
-    }
-}
 
 void writeFirst(const void *field, XmlRpc::XmlRpcValue &value)
 {
@@ -69,24 +42,6 @@ int taken(const QStringList &parameters, unsigned &index, const char *code, cons
 }
 
 } // namespace
-
-namespace quv {
-
-/** Positions with a value each: an array of arrays of two ints. */
-template <>
-const FieldType &fieldType<Pairs>()
-{
-    static constexpr FieldType type = {"array of arrays of two ints",
-                                       FieldType::Other,
-                                       readPairs,
-                                       readNoVariant,
-                                       writePairs,
-                                       equalFields<Pairs>,
-                                       resetField<Pairs>};
-    return type;
-}
-
-} // namespace quv
 
 struct GetActiveCircuitsAnswer::Description
 {
