@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "fuzzinput.h"
+#include "processes/getlevelsensorsanswer.h"
 #include "processes/getshelfposanswer.h"
 #include "processes/getturntablepositionsanswer.h"
 #include "processes/getzandorcommandsanswer.h"
+#include "processes/newtransparentcmdanswer.h"
+#include "processes/workingmodeanswer.h"
 
 #include <QuvFramework/fw_exception.h>
 
@@ -34,27 +37,24 @@ void checkHeight(const GetShelfPosAnswer &answer)
                  "a height reads back from its struct, but for the unknown one");
 }
 
-void checkPositions(const GetTurntablePositionsAnswer &answer)
+template <class Answer>
+void checkStruct(const Answer &answer)
 {
-    quv::require(GetTurntablePositionsAnswer(answer.toXmlRpcValue()) == answer,
-                 "circuits read back from their struct");
-}
-
-void checkCommands(const GetZandorCommandsAnswer &answer)
-{
-    quv::require(GetZandorCommandsAnswer(answer.toXmlRpcValue()) == answer,
-                 "commands read back from their struct");
+    quv::require(Answer(answer.toXmlRpcValue()) == answer, "an answer reads back from its struct");
 }
 
 } // namespace
 
-/** Blank-separated tokens as the answers about the shelf, the turntable and the capping station. */
+/** Blank-separated tokens as the answers about the shelf, the turntable, the capping station and the boards. */
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size));
     const QStringList tokens = text.split(QLatin1Char(' '));
     decode<GetShelfPosAnswer>(tokens, checkHeight);
-    decode<GetTurntablePositionsAnswer>(tokens, checkPositions);
-    decode<GetZandorCommandsAnswer>(tokens, checkCommands);
+    decode<GetTurntablePositionsAnswer>(tokens, checkStruct<GetTurntablePositionsAnswer>);
+    decode<GetZandorCommandsAnswer>(tokens, checkStruct<GetZandorCommandsAnswer>);
+    decode<GetLevelSensorsAnswer>(tokens, checkStruct<GetLevelSensorsAnswer>);
+    decode<NewTransparentCmdAnswer>(tokens, checkStruct<NewTransparentCmdAnswer>);
+    decode<WorkingModeAnswer>(tokens, checkStruct<WorkingModeAnswer>);
     return 0;
 }

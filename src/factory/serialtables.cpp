@@ -23,21 +23,30 @@
 #include "firmware/slavejumpcmd.h"
 #include "processes/autocapcmd.h"
 #include "processes/cleaningcmd.h"
+#include "processes/getlevelsensorscmd.h"
 #include "processes/getshelfposcmd.h"
 #include "processes/mixcmd.h"
 #include "processes/mixerplatescmd.h"
+#include "processes/motorrunningcmd.h"
+#include "processes/newtransparentcmd.h"
 #include "processes/nozzlecleancmd.h"
 #include "processes/pausecmd.h"
 #include "processes/recirculationcmd.h"
 #include "processes/resetcmd.h"
+#include "processes/setboardpowercmd.h"
+#include "processes/setdispoutputcmd.h"
+#include "processes/setledstatuscmd.h"
 #include "processes/shelfcmd.h"
 #include "processes/stirallcmd.h"
 #include "processes/stirringcmd.h"
 #include "processes/stopserialcmd.h"
+#include "processes/swprocesstogglecmd.h"
+#include "processes/toggletemporizedcmd.h"
 #include "processes/turntablemovecmd.h"
 #include "processes/turntablemovestepscmd.h"
 #include "processes/turntablemovetorefillcmd.h"
 #include "processes/ultrasoundcleaningcmd.h"
+#include "processes/workingmodecmd.h"
 #include "processes/zdractuatormovingcmd.h"
 #include "processes/zdrcycleoperationcmd.h"
 #include "processes/zdrslaveprocedurecmd.h"
@@ -77,6 +86,11 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::RES_FILE_DELETE, fromArguments<ResourceFileDeleteCmd>()},
         {Cmd::MIXER_PLATES, fromArguments<MixerPlatesCmd>()},
         {Cmd::STOP, fromArguments<StopSerialCmd>()},
+        {Cmd::WORKING_MODE, fromArguments<WorkingModeCmd>()},
+        {Cmd::SET_DISP_OUTPUT, fromArguments<SetDispOutputCmd>()},
+        {Cmd::SET_BOARD_POWER, fromArguments<SetBoardPowerCmd>()},
+        {Cmd::SW_PROCESS_TOGGLE, fromArguments<SwProcessToggleCmd>()},
+        {Cmd::DEEP_SERVICE, fromArguments<NewTransparentCmd>()},
     }};
 
 constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
@@ -95,6 +109,10 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::ULTRASOUND_CLEAN, fromArguments<UltrasoundCleaningCmd>()},
         {Cmd::NOZZLE_CLEAN, fromArguments<NozzleCleanCmd>()},
         {Cmd::PAUSE, fromArguments<PauseCmd>()},
+        {Cmd::TOGGLE_TEMPORIZED, fromArguments<ToggleTemporizedCmd>()},
+        {Cmd::MOTOR_RUNNING, fromArguments<MotorRunningCmd>()},
+        {Cmd::SET_LED_STATUS, fromArguments<SetLedStatusCmd>()},
+        {Cmd::GET_LEVEL_SENSORS, fromArguments<GetLevelSensorsCmd>()},
         {Cmd::TINT, fromArgumentsAndDispenser<TintCmd>()},
         {Cmd::PRIMING, fromArgumentsAndDispenser<PrimingCmd>()},
         {Cmd::PACK, fromArgumentsAndDispenser<PackCmd>()},
