@@ -17,7 +17,8 @@ constexpr char badAddresses[] = "FirmwareResetCmd: invalid board addresses param
 constexpr char noType[] = "FirmwareResetCmd: board type: expected INT parameter";
 constexpr char noAddresses[] = "FirmwareResetCmd: error in board addresses decoding";
 
-constexpr quv::ArgumentRefusal otherType = {"DE00826", "DE00829", noType};
+constexpr quv::Refusal noValueType = {"DE00826", noType};
+constexpr quv::Refusal noListType = {"DE00829", noType};
 constexpr quv::Refusal noValueAddresses = {"DE00827", noAddresses};
 constexpr quv::Refusal noListAddresses = {"DE01488", noAddresses};
 constexpr quv::Refusal otherAddress = {"DE00830", "FirmwareResetCmd: board address: expected INT parameter"};
@@ -37,11 +38,12 @@ struct FirmwareResetCmd::Description : quv::Description
     static void tellArguments(quv::ArgumentTeller &teller)
     {
         teller.argument({"board_type", "1 to 15"}, "int");
-        teller.refuse("another type", otherType);
+        teller.refuse("another type", {noValueType, noListType});
         XmlRpcValue none;
         none[BOARD_ADDRESSES_TAG].setSize(0);
         teller.argument(
-            {"board_addresses", "member \"board_addresses\": an array of one int at least (in a list the list itself)"},
+            {"board_addresses",
+             "member \"board_addresses\": an array of one int at least (in a list the list itself)"},
             "struct", none);
         teller.refuse("without an address", {noValueAddresses, noListAddresses});
         teller.refuse("with an address of another type", {noValueAddresses, otherAddress});
@@ -86,7 +88,7 @@ FirmwareResetCmd::FirmwareResetCmd(const XmlRpcValue &value) : DescribedCommand(
     require(value.getType() == XmlRpcValue::TypeArray,
             {"DE00824", "FirmwareResetCmd: invalid xml-rpc type (not array)"}, Q_FUNC_INFO);
     require(value.size() > 0, {"DE00825", "FirmwareResetCmd: too few parameters received"}, Q_FUNC_INFO);
-    require(DecodeXmlRpcValue(value, 0, m_boardType), otherType.value, Q_FUNC_INFO);
+    require(DecodeXmlRpcValue(value, 0, m_boardType), noValueType, Q_FUNC_INFO);
     if (const XmlRpcValue *addresses = FindXmlRpcElement(value, 1)) {
         DecodeXmlRpcValue(*addresses, BOARD_ADDRESSES_TAG, m_boardAddresses);
         require(!m_boardAddresses.isEmpty(), noValueAddresses, Q_FUNC_INFO);
@@ -96,7 +98,7 @@ FirmwareResetCmd::FirmwareResetCmd(const XmlRpcValue &value) : DescribedCommand(
 FirmwareResetCmd::FirmwareResetCmd(QList<QVariant> list) : DescribedCommand(list)
 {
     require(!list.isEmpty(), {"DE00828", "Too few parameters received"}, Q_FUNC_INFO); // as above
-    require(quv::decodeVariant(list.constFirst(), m_boardType), otherType.list, Q_FUNC_INFO);
+    require(quv::decodeVariant(list.constFirst(), m_boardType), noListType, Q_FUNC_INFO);
     if (list.size() > 1) {
         const QVariant &addresses = list.at(1);
         const bool isList = addresses.userType() == QMetaType::QVariantList ||

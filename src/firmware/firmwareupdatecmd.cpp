@@ -122,9 +122,9 @@ struct FirmwareUpdateCmd::Description : quv::Description
 {
     static constexpr auto command = ProtoCommandList::UPDATE_FW;
 
-    static constexpr quv::Refusal answerFailed = {"DE00181", "Failed to create FirmwareUpdateAnswer"};
+    static constexpr char answerFailed[] = "Failed to create FirmwareUpdateAnswer";
     static constexpr quv::AnsweredBy<FirmwareUpdateAnswer> answer = {
-        {}, answerFailed, {"DE00528", answerFailed.text}, answerFailed};
+        {}, {"DE00181", answerFailed}, {"DE00528", answerFailed}, {"DE00181", answerFailed}};
 
     static constexpr auto commandText = "Firmware update";
     static constexpr auto actionText = QT_TRANSLATE_NOOP("QuvProtocol", "Updating firmware");
