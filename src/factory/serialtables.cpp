@@ -12,14 +12,18 @@
 #include "dispensing/purgeformulacmd.h"
 #include "dispensing/tintcmd.h"
 #include "factory/commandtables_p.h"
+#include "firmware/clearboardstatscmd.h"
 #include "firmware/firmwareresetcmd.h"
 #include "firmware/firmwareupdatecmd.h"
 #include "firmware/firmwareversioncmd.h"
+#include "firmware/getlastboardstatscmd.h"
+#include "firmware/getrealboardstatscmd.h"
 #include "firmware/resourcefiledeletecmd.h"
 #include "firmware/resourcefilelistcmd.h"
 #include "firmware/resourcefilemanagementcmd.h"
 #include "firmware/resourcefilereadcmd.h"
 #include "firmware/resourcefilewritecmd.h"
+#include "firmware/setboardstatscmd.h"
 #include "firmware/slavejumpcmd.h"
 #include "processes/autocapcmd.h"
 #include "processes/cleaningcmd.h"
@@ -84,6 +88,10 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::RES_FILE_READ, fromArguments<ResourceFileReadCmd>()},
         {Cmd::RES_FILE_LIST, fromArguments<ResourceFileListCmd>()},
         {Cmd::RES_FILE_DELETE, fromArguments<ResourceFileDeleteCmd>()},
+        {Cmd::GET_LAST_BOARD_STATS, fromArguments<GetLastBoardStatsCmd>()},
+        {Cmd::GET_REAL_BOARD_STATS, fromArguments<GetRealBoardStatsCmd>()},
+        {Cmd::SET_BOARD_STATS, fromArguments<SetBoardStatsCmd>()},
+        {Cmd::CLEAR_BOARD_STATS, fromArguments<ClearBoardStatsCmd>()},
         {Cmd::MIXER_PLATES, fromArguments<MixerPlatesCmd>()},
         {Cmd::STOP, fromArguments<StopSerialCmd>()},
         {Cmd::WORKING_MODE, fromArguments<WorkingModeCmd>()},
