@@ -12,6 +12,7 @@
 #include "dispensing/purgeformulacmd.h"
 #include "dispensing/tintcmd.h"
 #include "factory/commandtables_p.h"
+#include "firmware/boardmemorycmd.h"
 #include "firmware/clearboardstatscmd.h"
 #include "firmware/firmwareresetcmd.h"
 #include "firmware/firmwareupdatecmd.h"
@@ -88,6 +89,7 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::RES_FILE_READ, fromArguments<ResourceFileReadCmd>()},
         {Cmd::RES_FILE_LIST, fromArguments<ResourceFileListCmd>()},
         {Cmd::RES_FILE_DELETE, fromArguments<ResourceFileDeleteCmd>()},
+        {Cmd::BOARD_MEMORY, fromArguments<BoardMemoryCmd>()},
         {Cmd::GET_LAST_BOARD_STATS, fromArguments<GetLastBoardStatsCmd>()},
         {Cmd::GET_REAL_BOARD_STATS, fromArguments<GetRealBoardStatsCmd>()},
         {Cmd::SET_BOARD_STATS, fromArguments<SetBoardStatsCmd>()},

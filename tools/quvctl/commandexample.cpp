@@ -87,6 +87,7 @@ constexpr Sample samplesOfCommands[] = {
     {"TURNTABLE_MOVE", "[4,1,2,0,0,50]"},
     {"TURNTABLE_MOVE_STEPS", "[2,50,300]"},
     {"TURNTABLE_MOVE_TO_REFILL", "[4]"},
+    {"BOARD_MEMORY", R"(["R","B",1,0,16,4])"},
     {"CLEAR_BOARD_STATS", "[2,[3]]"},
     {"GET_LAST_BOARD_STATS", "[2,[3]]"},
     {"GET_REAL_BOARD_STATS", "[2,[3]]"},
