@@ -41,7 +41,7 @@ void typeArgument(Archive &archive, Number &type)
 
 } // namespace
 
-void quv::BoardStatsDescription::tellArguments(ArgumentTeller &teller)
+void BoardStatsCmd::Description::tellArguments(quv::ArgumentTeller &teller)
 {
     const int type = BoardStat::AnyType;
     typeArgument(teller, type);

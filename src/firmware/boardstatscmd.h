@@ -11,6 +11,8 @@
 class QUVPROTOCOL_EXPORT BoardStatsCmd : public SerialProtoCommand
 {
 public:
+    struct Description;
+
     enum Action : int { Clear = 1, Set = 2, GetReal = 3, GetLast = 4 };
 
     QList<QVariant> parameters() const override; ///< boardStatsParameters()

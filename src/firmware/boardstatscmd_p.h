@@ -7,19 +7,19 @@
 
 namespace quv {
 
-/** What the descriptions of the commands about statistics of boards have in common. */
-struct BoardStatsDescription : Description
-{
-    static constexpr char answerFailed[] = "Failed to create BoardStatsAnswer";
-    static constexpr AnsweredBy<BoardStatsAnswer> answer = {
-        {"DE01565", answerFailed}, {"DE01558", answerFailed}, {"DE01559", answerFailed}, {}};
-
-    static void tellArguments(ArgumentTeller &teller); ///< type and positions
-};
-
 /** What the types of statistics are, for those who are told of an argument. */
 constexpr char boardStatsTypes[] =
     "0 all, 1 operating time, 2 pump strokes, 3 valve openings, 4 stirring time, 5 recirculation "
     "time, 6 cap movements, 7 shelf movements, 8 nozzle cleanings";
 
 } // namespace quv
+
+/** What the descriptions of the commands have in common. */
+struct BoardStatsCmd::Description : quv::Description
+{
+    static constexpr char answerFailed[] = "Failed to create BoardStatsAnswer";
+    static constexpr quv::AnsweredBy<BoardStatsAnswer> answer = {
+        {"DE01565", answerFailed}, {"DE01558", answerFailed}, {"DE01559", answerFailed}, {}};
+
+    static void tellArguments(quv::ArgumentTeller &teller); ///< type and positions
+};

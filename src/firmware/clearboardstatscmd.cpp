@@ -3,7 +3,7 @@
 
 #include "firmware/boardstatscmd_p.h"
 
-struct ClearBoardStatsCmd::Description : quv::BoardStatsDescription
+struct ClearBoardStatsCmd::Description : BoardStatsCmd::Description
 {
     static constexpr auto command = ProtoCommandList::CLEAR_BOARD_STATS;
 };

@@ -3,7 +3,7 @@
 
 #include "firmware/boardstatscmd_p.h"
 
-struct GetLastBoardStatsCmd::Description : quv::BoardStatsDescription
+struct GetLastBoardStatsCmd::Description : BoardStatsCmd::Description
 {
     static constexpr auto command = ProtoCommandList::GET_LAST_BOARD_STATS;
 };

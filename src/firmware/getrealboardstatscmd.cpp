@@ -10,7 +10,7 @@ constexpr quv::FamilyGate countsCleanings[] = {{63, 38}, {70, 1}};
 
 } // namespace
 
-struct GetRealBoardStatsCmd::Description : quv::BoardStatsDescription
+struct GetRealBoardStatsCmd::Description : BoardStatsCmd::Description
 {
     static constexpr auto command = ProtoCommandList::GET_REAL_BOARD_STATS;
 };

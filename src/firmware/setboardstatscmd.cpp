@@ -11,7 +11,7 @@ constexpr quv::Refusal noneInList = {"DE01567", noBoardStat};
 
 } // namespace
 
-struct SetBoardStatsCmd::Description : quv::BoardStatsDescription
+struct SetBoardStatsCmd::Description : BoardStatsCmd::Description
 {
     static constexpr auto command = ProtoCommandList::SET_BOARD_STATS;
 
