@@ -21,6 +21,12 @@ public:
 
     CircuitFormulaItem() = default;
     explicit CircuitFormulaItem(const FW_Circuit &circuit) : FW_Circuit(circuit) {}
+    /** So many strokes at a speed. */
+    CircuitFormulaItem(const FW_Circuit &circuit, int strokes, int speed)
+        : FW_Circuit(circuit),
+          m_strokes{strokes, true},
+          m_speed{speed, true}
+    {}
 
     // \a ok, when given, tells whether the number could be calculated.
     long long steps(bool *ok = nullptr) const { return told(m_steps, ok); }

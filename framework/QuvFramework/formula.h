@@ -22,6 +22,7 @@ struct QUVFRAMEWORK_EXPORT FormulaItem
     double quantity = 0;   ///< by the formula's unit: steps, strokes, grams or millilitres
     int queueID = 0;       ///< 0: the circuit's own queue
     int nozzleValveID = 0; ///< 0: by the circuit's calibration
+    int speed = 0;         ///< 0: by the circuit's calibration, or as great as its motor may
 
     bool operator==(const FormulaItem &other) const;
     bool operator!=(const FormulaItem &other) const { return !(*this == other); }
@@ -36,7 +37,7 @@ struct QUVFRAMEWORK_EXPORT FormulaItem
  * | "quantity_unit" | int | QuantityUnit |
  * | "ids" | array of string (or int) | the items |
  * | "quantities" | array of double (or int) | finite numbers |
- * | "queue_ids", "nozzle_valves" | array of int | left out when all are 0 |
+ * | "queue_ids", "nozzle_valves", "speeds" | array of int | left out when all are 0 |
  * | "exec_criterion", "levels_policy", "decimals" | int | 0, 0 and 3 when left out |
  */
 class QUVFRAMEWORK_EXPORT Formula
@@ -62,6 +63,7 @@ public:
     static constexpr char QUANTITIES[] = "quantities";
     static constexpr char QUEUE_IDS[] = "queue_ids";
     static constexpr char NOZZLE_VALVES[] = "nozzle_valves";
+    static constexpr char SPEEDS[] = "speeds";
     static constexpr char EXEC_CRITERION[] = "exec_criterion";
     static constexpr char LEVELS_POLICY[] = "levels_policy";
     static constexpr char DECIMALS[] = "decimals";
@@ -103,6 +105,8 @@ public:
     const QVector<FormulaItem> &items() const { return m_items; }
     void setItems(const QVector<FormulaItem> &items) { m_items = items; }
     void addItem(const FormulaItem &item) { m_items.append(item); }
+    /** Of a formula by circuit positions: the circuit's strokes, or of one in steps its steps, at the item's speed. */
+    void addCircuit(const CircuitFormulaItem &item);
     bool isEmpty() const { return m_items.isEmpty(); }
 
     static bool checkFormulaType(int type);             ///< 1 to 4

@@ -41,6 +41,10 @@ public:
     int speed(double quantity, bool *ok = nullptr) const;         ///< above 0
     int nozzleValveID(double quantity, bool *ok = nullptr) const; ///< 0 for none
 
+    // The least and the greatest of the points' speeds, usable or not; 0 without points.
+    int minSpeed() const;
+    int maxSpeed() const;
+
     bool operator==(const FW_Calibration &other) const { return m_points == other.m_points; }
     bool operator!=(const FW_Calibration &other) const { return !(*this == other); }
 

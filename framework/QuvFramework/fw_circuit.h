@@ -53,6 +53,8 @@ public:
     void setNozzleValvesID(const QList<int> &valves) { m_nozzleValvesID = valves; }
     const FW_Calibration &calibration() const { return m_calibration; }
     void setCalibration(const FW_Calibration &calibration) { m_calibration = calibration; }
+    /** What the calibration tells of a quantity. False, and both as they were, when it tells nothing. */
+    bool getStepsAndSpeed(double quantity, long long &steps, int &speed) const;
 
     // A circuit has one motor of each kind at most, but for cleaning motors, of which a second can be added.
     const QList<FW_StirringMotor> &stirringMotors() const { return m_stirringMotors; }

@@ -134,6 +134,13 @@ public:
     QList<int> getPositionsIDList(bool onlyEnabled) const;
     /** The addresses of the circuits' boards that are reached by wire: a board has its circuit's position, enabled or not. */
     QList<int> getWireBoardsID() const { return getPositionsIDList(false); }
+    /** The same, but canister by canister in the order of their IDs. */
+    QList<int> getPositionsIDSortedByCanister(bool onlyEnabled) const;
+    /**
+     * The IDs of so many circuits by chance, each once, in an order by chance too; of those that are enabled, as their canister is, and
+     * have a dosing motor and a usable calibration. All of these when \a count is greater.
+     */
+    QList<int> getRandomCircuitsID(int count) const;
     bool hasCircuitPosition(int position, bool onlyEnabled) const;
     bool hasCircuitPositions(const QList<int> &positions, bool onlyEnabled) const; ///< true for all of them
 
@@ -203,6 +210,7 @@ public:
     static bool isLUMINAdispenser(const QString &modelName);
     static bool isSOLA100dispenser(const QString &modelName);
     static bool isLIRADORdispenser(const QString &modelName);
+    static bool isROTANV1dispenser(const QString &modelName);
     static bool isRotatingDispenserModel(MachineModel model); ///< of the two that turn a table
 
 private:

@@ -39,6 +39,7 @@ struct Members
     const XmlRpcValue *quantities = nullptr;
     const XmlRpcValue *queues = nullptr;
     const XmlRpcValue *valves = nullptr;
+    const XmlRpcValue *speeds = nullptr;
     const XmlRpcValue *criterion = nullptr;
     const XmlRpcValue *levelsPolicy = nullptr;
     const XmlRpcValue *decimals = nullptr;
@@ -56,7 +57,7 @@ constexpr Key keys[] = {
     {Formula::FORMULA_TYPE, &Members::type},          {Formula::IDS, &Members::ids},
     {Formula::LEVELS_POLICY, &Members::levelsPolicy}, {Formula::NOZZLE_VALVES, &Members::valves},
     {Formula::QUANTITIES, &Members::quantities},      {Formula::QUANTITY_UNIT, &Members::unit},
-    {Formula::QUEUE_IDS, &Members::queues},
+    {Formula::QUEUE_IDS, &Members::queues},           {Formula::SPEEDS, &Members::speeds},
 };
 
 constexpr bool isSorted()
@@ -168,7 +169,7 @@ double quantityOf(const QVariant &variant)
 bool FormulaItem::operator==(const FormulaItem &other) const
 {
     return id == other.id && quantity == other.quantity && queueID == other.queueID &&
-           nozzleValveID == other.nozzleValveID;
+           nozzleValveID == other.nozzleValveID && speed == other.speed;
 }
 
 Formula::Formula(QList<QString> &ids, QList<QVariant> &quantities, QList<int> &queueIDs, int formulaType,
@@ -187,7 +188,8 @@ Formula::Formula(QList<QString> &ids, QList<QVariant> &quantities, QList<int> &q
         refuse("the lists of the formula are of different lengths");
     m_items.reserve(count);
     for (int i = 0; i < count; ++i)
-        m_items.append({ids.at(i), quantityOf(quantities.at(i)), queueIDs.value(i), nozzleValves.value(i)});
+        m_items.append(
+            {ids.at(i), quantityOf(quantities.at(i)), queueIDs.value(i), nozzleValves.value(i), 0});
 }
 
 Formula::Formula(const XmlRpcValue &value)
@@ -206,6 +208,7 @@ Formula::Formula(const XmlRpcValue &value)
         refuse("the formula has not as many quantities as items");
     const XmlRpcValue *queues = optionalArray(members.queues, count);
     const XmlRpcValue *valves = optionalArray(members.valves, count);
+    const XmlRpcValue *speeds = optionalArray(members.speeds, count);
     m_items.resize(count);
     int index = 0;
     for (FormulaItem &item : m_items) {
@@ -215,8 +218,17 @@ Formula::Formula(const XmlRpcValue &value)
             item.queueID = decodedInt(FindXmlRpcElement(*queues, index));
         if (valves)
             item.nozzleValveID = decodedInt(FindXmlRpcElement(*valves, index));
+        if (speeds)
+            item.speed = decodedInt(FindXmlRpcElement(*speeds, index));
         ++index;
     }
+}
+
+void Formula::addCircuit(const CircuitFormulaItem &item)
+{
+    const double quantity =
+        m_quantityUnit == Steps ? static_cast<double>(item.steps()) : static_cast<double>(item.strokes());
+    addItem({quv::nameOf(item.positionId()), quantity, item.queueID(), item.nozzleValveID(), item.speed()});
 }
 
 void Formula::checkMembers() const
@@ -289,6 +301,7 @@ XmlRpcValue Formula::toXmlRpcValue(bool *ok) const
     };
     writeNumbers(QUEUE_IDS, &FormulaItem::queueID);
     writeNumbers(NOZZLE_VALVES, &FormulaItem::nozzleValveID);
+    writeNumbers(SPEEDS, &FormulaItem::speed);
     return value;
 }
 

@@ -17,6 +17,8 @@ using quv::Source;
 CircuitFormulaItem::Result<int> speedOf(const Portion &portion, int unit)
 {
     const FW_Circuit &circuit = *portion.source.circuit;
+    if (portion.speed != 0)
+        return {portion.speed, portion.speed > 0};
     if (!quv::isByCalibration(unit))
         return {circuit.maxSpeed(), circuit.maxSpeed() > 0};
     bool ok = false;
@@ -111,7 +113,7 @@ bool Formula::convertToCircuitPositions(Formula &converted, const FW_Dispenser *
     formula.m_items.clear();
     for (const Portion &portion : portions)
         formula.addItem({quv::nameOf(portion.source.circuit->positionId()), portion.quantity, portion.queueID,
-                         portion.nozzleValveID});
+                         portion.nozzleValveID, portion.speed});
     converted = formula;
     return true;
 }

@@ -141,6 +141,7 @@ bool portionsOf(const Formula &formula, const FW_Dispenser *dispenser, std::vect
         portion.quantity = item.quantity;
         portion.queueID = item.queueID;
         portion.nozzleValveID = item.nozzleValveID;
+        portion.speed = item.speed;
     }
     return true;
 }

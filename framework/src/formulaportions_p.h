@@ -22,6 +22,7 @@ struct Portion
     double quantity = 0;
     int queueID = 0;
     int nozzleValveID = 0;
+    int speed = 0;
 };
 
 /** False and \a error filled when the formula does not fit the dispenser. */

@@ -40,6 +40,11 @@ double interpolated(const Points &points, double x, From from, To to)
 constexpr auto stepsOf = [](const FW_CalibrationPoint &point) { return double(point.steps); };
 constexpr auto quantityOf = [](const FW_CalibrationPoint &point) { return point.quantity; };
 
+bool isSlower(const FW_CalibrationPoint &left, const FW_CalibrationPoint &right)
+{
+    return left.speed < right.speed;
+}
+
 template <class T>
 T result(T value, bool good, bool *ok)
 {
@@ -98,6 +103,16 @@ int FW_Calibration::speed(double quantity, bool *ok) const
 int FW_Calibration::nozzleValveID(double quantity, bool *ok) const
 {
     return m_usable ? result(pointReaching(quantity).nozzleValveID, true, ok) : result(0, false, ok);
+}
+
+int FW_Calibration::minSpeed() const
+{
+    return m_points.isEmpty() ? 0 : std::min_element(m_points.cbegin(), m_points.cend(), isSlower)->speed;
+}
+
+int FW_Calibration::maxSpeed() const
+{
+    return m_points.isEmpty() ? 0 : std::max_element(m_points.cbegin(), m_points.cend(), isSlower)->speed;
 }
 
 const FW_CalibrationPoint &FW_Calibration::pointReaching(double quantity) const

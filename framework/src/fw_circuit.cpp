@@ -42,6 +42,19 @@ void FW_Circuit::addValve(const FW_Valve &valve)
         *former = valve;
 }
 
+bool FW_Circuit::getStepsAndSpeed(double quantity, long long &steps, int &speed) const
+{
+    bool hasSteps = false;
+    bool hasSpeed = false;
+    const long long toldSteps = m_calibration.steps(quantity, &hasSteps);
+    const int toldSpeed = m_calibration.speed(quantity, &hasSpeed);
+    if (!hasSteps || !hasSpeed)
+        return false;
+    steps = toldSteps;
+    speed = toldSpeed;
+    return true;
+}
+
 bool FW_Circuit::operator==(const FW_Circuit &other) const
 {
     return m_id == other.m_id && m_positionId == other.m_positionId && m_enabled == other.m_enabled &&

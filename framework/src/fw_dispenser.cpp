@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_utils.h>
 
 #include <algorithm>
 #include <iterator>
@@ -294,6 +295,35 @@ QList<int> FW_Dispenser::getPositionsIDList(bool onlyEnabled) const
     return positions;
 }
 
+QList<int> FW_Dispenser::getPositionsIDSortedByCanister(bool onlyEnabled) const
+{
+    std::map<int, QList<int>> positionsOfCanisters;
+    for (const FW_Canister &canister : m_canisters)
+        positionsOfCanisters[canister.id()] += canister.getCircuitPositions(onlyEnabled);
+    QList<int> sorted;
+    for (auto &[id, positions] : positionsOfCanisters) {
+        std::sort(positions.begin(), positions.end());
+        sorted += positions;
+    }
+    return sorted;
+}
+
+QList<int> FW_Dispenser::getRandomCircuitsID(int count) const
+{
+    QList<int> able;
+    for (const FW_Canister &canister : m_canisters) {
+        for (const FW_Circuit &circuit : canister.circuits()) {
+            if (canister.isEnabled() && circuit.isEnabled() && circuit.hasDosingMotor() &&
+                circuit.calibration().isUsable())
+                able.append(circuit.id());
+        }
+    }
+    QList<int> chosen;
+    while (!able.isEmpty() && chosen.size() < count)
+        chosen.append(able.takeAt(getRandomNumber(0, able.size() - 1)));
+    return chosen;
+}
+
 bool FW_Dispenser::hasCircuitPosition(int position, bool onlyEnabled) const
 {
     const FW_Circuit *circuit = getCircuitByPosition(position);
@@ -564,6 +594,11 @@ bool FW_Dispenser::isSOLA100dispenser(const QString &modelName)
 bool FW_Dispenser::isLIRADORdispenser(const QString &modelName)
 {
     return isOfLine(modelName, QLatin1String("LIRADOR"));
+}
+
+bool FW_Dispenser::isROTANV1dispenser(const QString &modelName)
+{
+    return isOfLine(modelName, QLatin1String("ROTAN V1"));
 }
 
 bool FW_Dispenser::isRotatingDispenserModel(MachineModel model)

@@ -67,6 +67,20 @@ TEST(CircuitFormulaItem, isTheCircuit)
     EXPECT_EQ(item.FW_Circuit::queueID(), 3);
 }
 
+TEST(CircuitFormulaItem, isBuiltOfStrokesAndSpeed)
+{
+    const CircuitFormulaItem item(pouring::circuit(5, 9, 3), 3, 40);
+    bool ok = false;
+    EXPECT_EQ(item.strokes(&ok), 3);
+    EXPECT_TRUE(ok);
+    ok = false;
+    EXPECT_EQ(item.speed(&ok), 40);
+    EXPECT_TRUE(ok);
+    item.steps(&ok);
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(item.positionId(), 9);
+}
+
 TEST(CircuitFormulaItem, nothingIsCalculatedAtFirst)
 {
     const CircuitFormulaItem item;

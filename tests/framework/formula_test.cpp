@@ -3,6 +3,7 @@
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_error.h>
+#include <QuvFramework/fw_positioningredient.h>
 #include <QuvFramework/fw_turntable.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
@@ -175,6 +176,9 @@ TEST(Formula, anyChangeMakesItAnother)
             f.setItems({{"1", 2, 3, 9}});
         },
         [](Formula &f) {
+            f.setItems({{"1", 2, 3, 4, 9}});
+        },
+        [](Formula &f) {
             f.addItem({"1", 2, 3, 4});
         },
     };
@@ -329,6 +333,14 @@ TEST(Formula, isAStructOverXmlRpc)
     EXPECT_TRUE(Formula(Formula().toXmlRpcValue()) == Formula());
 }
 
+TEST(Formula, sendsSpeedsWhenAnItemHasOne)
+{
+    const Formula formula = positions({{"1", 2, 0, 0, 40}, {"2", 3}});
+    const XmlRpcValue value = formula.toXmlRpcValue();
+    EXPECT_TRUE(SameXmlRpcValue(value["speeds"], arrayOf({40, 0})));
+    EXPECT_TRUE(Formula(value) == formula);
+}
+
 TEST(Formula, readsAStruct)
 {
     const Formula formula(
@@ -420,6 +432,9 @@ TEST(Formula, valuesThatAreNone)
         {"nozzle_valves", "x"},
         {"nozzle_valves", arrayOf({1, 2, 3})},
         {"nozzle_valves", arrayOf({1, 2.0})},
+        {"speeds", 40},
+        {"speeds", arrayOf({40})},
+        {"speeds", arrayOf({40, "50"})},
         {"exec_criterion", 3},
         {"exec_criterion", "2"},
         {"levels_policy", 2.0},
@@ -591,6 +606,42 @@ TEST(Formula, queuesAndNozzleValvesOfTheItemsGoFirst)
     EXPECT_FALSE(valve(onlyItem(positions({{"1", 5.5, 0, 3}}))).second);    // not one of the circuit's
     EXPECT_EQ(valve(onlyItem(formulaOf(Formula::CircuitPositions, Formula::Steps, {{"1", 5, 0, 2}}))),
               Told<int>(2, true));
+}
+
+TEST(Formula, theSpeedOfAnItemGoesFirst)
+{
+    EXPECT_EQ(speed(onlyItem(positions({{"2", 1, 0, 0, 33}}))), Told<int>(33, true));
+    EXPECT_EQ(speed(onlyItem(formulaOf(Formula::CircuitPositions, Formula::Steps, {{"2", 5, 0, 0, 33}}))),
+              Told<int>(33, true));
+    EXPECT_EQ(speed(onlyItem(formulaOf(Formula::CircuitPositions, Formula::Strokes, {{"8", 5, 0, 0, 33}}))),
+              Told<int>(33, true)); // which needs no calibration then
+    EXPECT_FALSE(speed(onlyItem(positions({{"2", 1, 0, 0, -1}}))).second);
+}
+
+TEST(Formula, takesCircuitsWithTheirNumbers)
+{
+    CircuitFormulaItem circuit(pouring::circuit(11, 1, 1), 3, 40);
+    circuit.setSteps({500, true});
+    circuit.setQueueID(2);
+    circuit.setNozzleValveID({7, true});
+    Formula strokes = formulaOf(Formula::CircuitPositions, Formula::Strokes, {});
+    strokes.addCircuit(circuit);
+    EXPECT_TRUE((strokes.items() == QVector<FormulaItem>{{"1", 3, 2, 7, 40}}));
+    Formula steps = formulaOf(Formula::CircuitPositions, Formula::Steps, {});
+    steps.addCircuit(circuit);
+    EXPECT_TRUE((steps.items() == QVector<FormulaItem>{{"1", 500, 2, 7, 40}}));
+}
+
+TEST(FW_PositionIngredient, isALineOfAFormula)
+{
+    EXPECT_TRUE((FW_PositionIngredient(12, 500, 40).formulaItem() == FormulaItem{"12", 500, 0, 0, 40}));
+    EXPECT_TRUE((FW_PositionIngredient(12, 500, 40, 7).formulaItem() == FormulaItem{"12", 500, 0, 7, 40}));
+    EXPECT_TRUE((FW_PositionIngredient().formulaItem() == FormulaItem{"0", 0, 0, 0, 0}));
+    const FW_PositionIngredient ingredient(12, 500, 40, 7);
+    EXPECT_EQ(ingredient.positionID(), 12);
+    EXPECT_EQ(ingredient.steps(), 500);
+    EXPECT_EQ(ingredient.speed(), 40);
+    EXPECT_EQ(ingredient.nozzleValveID(), 7);
 }
 
 TEST(Formula, theListKnowsTheMachinesParallelism)
@@ -788,12 +839,12 @@ TEST(Formula, theWorstOfAllCanisters)
 TEST(Formula, byCircuitPositions)
 {
     const FW_Dispenser machine = dispenser();
-    Formula formula = colorants({{"KX", 2.5, 4, 0}, {"B", 1, 0, 2}, {"KX", 1}});
+    Formula formula = colorants({{"KX", 2.5, 4, 0, 33}, {"B", 1, 0, 2}, {"KX", 1}});
     formula.setExecutionCriterion(8);
     Formula converted;
     FW_DriverError error;
     ASSERT_TRUE(formula.convertToCircuitPositions(converted, &machine, &error));
-    Formula expected = positions({{"5", 3.5, 4, 0}, {"1", 1, 0, 2}});
+    Formula expected = positions({{"5", 3.5, 4, 0, 33}, {"1", 1, 0, 2}});
     expected.setExecutionCriterion(8);
     EXPECT_TRUE(converted == expected);
 }

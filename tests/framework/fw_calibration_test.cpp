@@ -106,6 +106,18 @@ TEST(FW_Calibration, aPointWithoutSpeedTellsNone)
     EXPECT_TRUE(ok);
 }
 
+TEST(FW_Calibration, knowsItsSlowestAndItsFastestPoint)
+{
+    EXPECT_EQ(calibration().minSpeed(), 20);
+    EXPECT_EQ(calibration().maxSpeed(), 60);
+    const FW_Calibration falling({{100, 1, 60, 0}, {900, 10, 20, 0}, {800, 100, 40, 0}});
+    EXPECT_FALSE(falling.isUsable());
+    EXPECT_EQ(falling.minSpeed(), 20);
+    EXPECT_EQ(falling.maxSpeed(), 60);
+    EXPECT_EQ(FW_Calibration().minSpeed(), 0);
+    EXPECT_EQ(FW_Calibration().maxSpeed(), 0);
+}
+
 TEST(FW_Calibration, whatCannotBeCountedIsNotOk)
 {
     for (const double quantity :

@@ -17,6 +17,22 @@ TEST(FW_Circuit, beginsEnabledOnTheFirstHeadWithoutQueue)
     EXPECT_EQ(circuit.maxSpeed(), 50);
 }
 
+TEST(FW_Circuit, tellsStepsAndSpeedOfAQuantity)
+{
+    const FW_Circuit circuit = pouring::circuit(1, 2, 3);
+    long long steps = 7;
+    int speed = 7;
+    EXPECT_TRUE(circuit.getStepsAndSpeed(5.5, steps, speed));
+    EXPECT_EQ(steps, 500);
+    EXPECT_EQ(speed, 40);
+    EXPECT_FALSE(FW_Circuit().getStepsAndSpeed(5.5, steps, speed));
+    FW_Circuit still = circuit;
+    still.setCalibration(FW_Calibration({{100, 1, 0, 0}}));
+    EXPECT_FALSE(still.getStepsAndSpeed(1, steps, speed));
+    EXPECT_EQ(steps, 500);
+    EXPECT_EQ(speed, 40);
+}
+
 TEST(FW_Circuit, anyChangeMakesItAnother)
 {
     const FW_Circuit original = pouring::circuit(1, 2, 3);

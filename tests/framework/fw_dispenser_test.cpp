@@ -4,6 +4,8 @@
 #include <QuvFramework/fw_autocap.h>
 #include <QuvFramework/fw_turntable.h>
 
+#include <QtCore/QSet>
+
 #include <gmock/gmock.h>
 
 #include <memory>
@@ -61,6 +63,41 @@ TEST(FW_Dispenser, positionsAscend)
     EXPECT_THAT(machine.getPositionsIDList(true), ElementsAre(4, 12));
     EXPECT_THAT(machine.getWireBoardsID(), ElementsAre(4, 9, 12)) << "a board is there whether enabled or not";
     EXPECT_THAT(FW_Dispenser().getPositionsIDList(false), IsEmpty());
+}
+
+TEST(FW_Dispenser, tellsPositionsCanisterByCanister)
+{
+    FW_Dispenser machine;
+    FW_Circuit disabled = pouring::circuit(1, 3, 0);
+    disabled.setEnabled(false);
+    machine.addCanister(pouring::canister(7, "", 0, {pouring::circuit(3, 1, 0)}));
+    machine.addCanister(
+        pouring::canister(2, "", 0, {pouring::circuit(4, 12, 0), disabled, pouring::circuit(5, 9, 0)}));
+    EXPECT_THAT(machine.getPositionsIDSortedByCanister(false), ElementsAre(3, 9, 12, 1));
+    EXPECT_THAT(machine.getPositionsIDSortedByCanister(true), ElementsAre(9, 12, 1));
+    EXPECT_THAT(FW_Dispenser().getPositionsIDSortedByCanister(false), IsEmpty());
+}
+
+TEST(FW_Dispenser, choosesCircuitsByChance)
+{
+    FW_Dispenser machine = dispenser(); // of which 11, 12, 21, 32 and 51 can pour
+    for (int count = -1; count <= 0; ++count)
+        EXPECT_THAT(machine.getRandomCircuitsID(count), IsEmpty());
+    for (int count = 1; count <= 4; ++count) {
+        const QList<int> chosen = machine.getRandomCircuitsID(count);
+        EXPECT_EQ(chosen.size(), count);
+        EXPECT_EQ(QSet<int>(chosen.begin(), chosen.end()).size(), count) << "each once";
+        EXPECT_THAT(chosen, testing::Each(testing::AnyOf(11, 12, 21, 32, 51)));
+    }
+    for (const int count : {5, 6, 2147483647})
+        EXPECT_THAT(machine.getRandomCircuitsID(count), testing::UnorderedElementsAre(11, 12, 21, 32, 51));
+    QSet<int> first;
+    for (int i = 0; i < 500; ++i)
+        first.insert(machine.getRandomCircuitsID(1).constFirst());
+    EXPECT_EQ(first.size(), 5) << "each may come first";
+
+    machine.getCircuitById(21)->removeDosingMotor();
+    EXPECT_THAT(machine.getRandomCircuitsID(9), testing::UnorderedElementsAre(11, 12, 32, 51));
 }
 
 TEST(FW_Dispenser, asksForPositions)

@@ -199,8 +199,11 @@ TEST(FW_Dispenser, modelTestsAskForTheLineAtTheBeginning)
     EXPECT_FALSE(FW_Dispenser::isSOLA100dispenser("SOLA10"));
     EXPECT_TRUE(FW_Dispenser::isLIRADORdispenser("LIRADOR TR"));
     EXPECT_FALSE(FW_Dispenser::isLIRADORdispenser("LUMINA"));
-    for (auto isOfLine : {FW_Dispenser::isZANDORDispenser, FW_Dispenser::isLUMINAdispenser,
-                          FW_Dispenser::isSOLA100dispenser, FW_Dispenser::isLIRADORdispenser}) {
+    EXPECT_TRUE(FW_Dispenser::isROTANV1dispenser("Rotan V1 plus"));
+    EXPECT_FALSE(FW_Dispenser::isROTANV1dispenser("ROTAN V2"));
+    for (auto isOfLine :
+         {FW_Dispenser::isZANDORDispenser, FW_Dispenser::isLUMINAdispenser, FW_Dispenser::isSOLA100dispenser,
+          FW_Dispenser::isLIRADORdispenser, FW_Dispenser::isROTANV1dispenser}) {
         EXPECT_FALSE(isOfLine(QString()));
         EXPECT_FALSE(isOfLine("ROTAN"));
     }

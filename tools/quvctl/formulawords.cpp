@@ -53,9 +53,9 @@ void setLevelsCheck(Formula &formula, bool check)
 void refuseMisspeltMembers(const nlohmann::json &formula)
 {
     static const QStringList members = {
-        Formula::FORMULA_TYPE,   Formula::QUANTITY_UNIT, Formula::IDS,
-        Formula::QUANTITIES,     Formula::QUEUE_IDS,     Formula::NOZZLE_VALVES,
-        Formula::EXEC_CRITERION, Formula::LEVELS_POLICY, Formula::DECIMALS};
+        Formula::FORMULA_TYPE,  Formula::QUANTITY_UNIT, Formula::IDS,    Formula::QUANTITIES,
+        Formula::QUEUE_IDS,     Formula::NOZZLE_VALVES, Formula::SPEEDS, Formula::EXEC_CRITERION,
+        Formula::LEVELS_POLICY, Formula::DECIMALS};
     for (const auto &[name, value] : formula.items()) {
         const QString member = QString::fromStdString(name);
         const QString meant = members.contains(member) ? QString() : nameMeant(member, members);
