@@ -18,11 +18,13 @@ struct SetBoardStatsCmd::Description : BoardStatsCmd::Description
     static void tellArguments(quv::ArgumentTeller &teller)
     {
         teller.argument({BoardStat::STATS_TYPE, quv::boardStatsTypes}, "int");
-        teller.refuse("another type or out of range", {noneInValue, noneInList});
+        for (const char *when : {"another type", "out of range"})
+            teller.refuse(when, {noneInValue, noneInList});
         teller.argument(
             {BoardStat::COUNTS, "of each board \"position_id\", 0 for the master board, and \"count\""},
             "array of structs");
-        teller.refuse("another type or out of range", {noneInValue, noneInList});
+        for (const char *when : {"another type", "out of range"})
+            teller.refuse(when, {noneInValue, noneInList});
     }
 };
 

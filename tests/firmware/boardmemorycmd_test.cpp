@@ -2,6 +2,7 @@
 #include "firmware/boardmemorycmd.h"
 
 #include "base/commandcontract.h"
+#include "base/factlines.h"
 
 #include <type_traits>
 
@@ -134,6 +135,38 @@ TEST(BoardMemoryCmd, sendsOnlyCodesOfOneByte)
     const Cmd read(arrayOf("\xE2\x82\xAC", "\xC3\xA9", 1, 2, 3, 4)); // a euro sign, and an e with an acute
     EXPECT_EQ(read.serialParameters(1), (Numbers{0, 233, 1, 2, 3, 4}));
     EXPECT_EQ(dumped(read.xmlrpc_parameters()), "[\"\xE2\x82\xAC\", \"\xC3\xA9\", 1, 2, 3, 4]");
+}
+
+TEST(BoardMemoryCmd, tellsItsArgumentsAndItsAnswer)
+{
+    EXPECT_EQ(argumentsOf("BOARD_MEMORY"),
+              (Lines{"operation (string): one character, R to read",
+                     "  XML-RPC, another type: DE00402",
+                     "  XML-RPC, out of range: DE00402",
+                     "subject (string): one character",
+                     "  XML-RPC, another type: DE00407",
+                     "  XML-RPC, out of range: DE00407",
+                     "address_1 (int): of the board's own meaning, as all numbers here",
+                     "  XML-RPC, another type: DE00342",
+                     "address_2 (int)",
+                     "  XML-RPC, another type: DE00558",
+                     "address_3 (int)",
+                     "  XML-RPC, another type: DE00431",
+                     "address_4 (int)",
+                     "  XML-RPC, another type: DE00695",
+                     "data_1 (int) = 0",
+                     "  XML-RPC, another type: DE00695",
+                     "data_2 (int) = 0",
+                     "  XML-RPC, another type: DE00695",
+                     "data_3 (int) = 0",
+                     "  XML-RPC, another type: DE00695",
+                     "data_4 (int) = 0",
+                     "  XML-RPC, another type: DE00695"}));
+    EXPECT_EQ(
+        membersOf("BOARD_MEMORY"),
+        (Lines{"BoardMemoryAnswer", "board_answer (string): a number in decimal digits; empty for none",
+               "  XML-RPC, missing or another type: DE03300", "  list, missing or another type: DE03301",
+               "  tokens, : DE00557", "  XML-RPC, : DE00696", "  list, : DE01179", "  envelope, : DE00556"}));
 }
 
 TEST(BoardMemoryCmd, doesNotMistakeOtherArguments)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/boardstatscmd.h"
 
+#include "base/factlines.h"
 #include "firmware/boardstatstesting.h"
 #include "firmware/clearboardstatscmd.h"
 #include "firmware/getlastboardstatscmd.h"
@@ -40,6 +41,48 @@ TEST(BoardStatsCmd, goesBackToItsDefaults)
     EXPECT_EQ(command.positionsID(), QList<int>());
     EXPECT_EQ(command.boardStatsParameters(), List{0});
     EXPECT_EQ(command.serialBoardStatsParameters(1), (QList<int>{0, 0, 1, 63, 0}));
+}
+
+constexpr char types[] = "stats_type (int): 0 all, 1 operating time, 2 pump strokes, 3 valve openings, 4 "
+                         "stirring time, 5 recirculation "
+                         "time, 6 cap movements, 7 shelf movements, 8 nozzle cleanings";
+
+TEST(BoardStatsCmd, tellsItsArguments)
+{
+    for (const char *name : {"CLEAR_BOARD_STATS", "GET_LAST_BOARD_STATS", "GET_REAL_BOARD_STATS"}) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(argumentsOf(name),
+                  (Lines{types, "  XML-RPC, another type: DE01550", "  list, another type: DE01553",
+                         "  XML-RPC, out of range: DE01549",
+                         "positions (array of ints) = []: circuits' positions; without any, all boards",
+                         "  XML-RPC, another type: DE01551", "  list, another type: DE01556",
+                         "  XML-RPC, an element of another type: DE01551",
+                         "  list, an element of another type: DE01554"}));
+    }
+    EXPECT_EQ(
+        argumentsOf("SET_BOARD_STATS"),
+        (Lines{
+            types, "  XML-RPC, another type: DE01566", "  list, another type: DE01567",
+            "  XML-RPC, out of range: DE01566", "  list, out of range: DE01567",
+            "counts (array of structs): of each board \"position_id\", 0 for the master board, and \"count\"",
+            "  XML-RPC, another type: DE01566", "  list, another type: DE01567",
+            "  XML-RPC, out of range: DE01566", "  list, out of range: DE01567"}));
+}
+
+TEST(BoardStatsCmd, tellsTheAnswer)
+{
+    const Lines refusals = {"  tokens, unreadable: DE01589", "  XML-RPC, missing or another type: DE01590",
+                            "  list, missing or another type: DE01591"};
+    Lines expected = {"BoardStatsAnswer", "stats_type (int): what was counted"};
+    expected.insert(expected.end(), refusals.begin(), refusals.end());
+    expected.push_back(
+        "counts (array of structs): of each board \"position_id\", 0 for the master board, and \"count\"");
+    expected.insert(expected.end(), refusals.begin(), refusals.end());
+    for (const char *line : {"  tokens, : DE01565", "  XML-RPC, : DE01558", "  list, : DE01559"})
+        expected.push_back(line);
+    for (const char *name :
+         {"CLEAR_BOARD_STATS", "GET_LAST_BOARD_STATS", "GET_REAL_BOARD_STATS", "SET_BOARD_STATS"})
+        EXPECT_EQ(membersOf(name), expected) << name;
 }
 
 template <class Command>
