@@ -35,7 +35,6 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Serial, BothForms, ProtoCommandList::SET_DISP_INFO, "SetDispInfoCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::CLEAR_DISP_INFO, "ClearDispInfoCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::GET_FW_COMMANDS, "FirmwareCommandsCmd"},
-        {Dispatch::DispenserSerial, BothForms, ProtoCommandList::AUTOTEST, "AutotestCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CONFIG, "GetConfigCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SAVE_CONFIG, "SaveConfigCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_CALIB_PROFILES, "SetCalibrationProfilesCmd"},

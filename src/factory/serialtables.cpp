@@ -26,6 +26,7 @@
 #include "firmware/resourcefilewritecmd.h"
 #include "firmware/setboardstatscmd.h"
 #include "firmware/slavejumpcmd.h"
+#include "machine/autotestcmd.h"
 #include "processes/autocapcmd.h"
 #include "processes/cleaningcmd.h"
 #include "processes/getlevelsensorscmd.h"
@@ -112,6 +113,7 @@ constexpr CommandTable<SerialProtoCommand> dispenserSerialTable{
         {Cmd::SHELF_MOVE, fromArguments<ShelfCmd>()},
         {Cmd::GET_SHELF_POS, fromArguments<GetShelfPosCmd>()},
         {Cmd::RESET, fromArguments<ResetCmd>()},
+        {Cmd::AUTOTEST, fromArguments<AutotestCmd>()},
         {Cmd::STIRRING, fromArguments<StirringCmd>()},
         {Cmd::RECIRCULATION, fromArgumentsAndDispenser<RecirculationCmd>()},
         {Cmd::STIR_ALL, fromArgumentsAndDispenser<StirAllCmd>()},

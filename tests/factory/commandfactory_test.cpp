@@ -70,6 +70,7 @@ List argumentsFor(const CommandRow &row, Form form)
     static const std::map<std::string, List> arguments = {
         {"AIRPURGE", {circuits}},
         {"AUTOCAP_MOVE", {1}},
+        {"AUTOTEST", {7}},
         {"BOARD_MEMORY", {"W", "E", 1, 2, 3, 4, 5, 6, 7, 8}},
         {"CERTIFY_SESSION", {"S-7", "28"}},
         {"CHANNEL_TINT", {2, formula}},

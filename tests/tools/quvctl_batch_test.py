@@ -625,6 +625,33 @@ class Supports(BatchTest):
 SERIAL_TOKENS = "SerialProtoAnswer::SerialProtoAnswer(QStringList)"
 
 
+class Series(BatchTest):
+    """The commands by which a driver carries out another."""
+
+    def series(self, reply, **request):
+        self.expect({"op": "series", **request}, reply)
+
+    def test_autotest(self):
+        reply = self.ask({"op": "series", "name": "AUTOTEST", "args": [2], "machine": "dispenser"})
+        requests = [command["request"] for command in reply["commands"]]
+        # of each of 16 circuits both ways of its valve, two recirculations and two pours
+        self.assertEqual(len(requests), 2 * (16 * 8 + 2 + 6 + 1 + 1) + 1)
+        self.assertEqual(requests[:4], [["SET_DISP_OUTPUT", 1, 1, 2, 0], ["PAUSE", 500],
+                                        ["SET_DISP_OUTPUT", 1, 1, 1, 0], ["PAUSE", 500]])
+        self.assertEqual(reply["commands"][-1], {"request": ["RESET", 0], "code": "0001", "module": 0, "serial": []})
+
+    def test_stirring(self):
+        self.series({"ok": True, "commands": []}, name="STIR_ALL", args=[30], machine="dispenser")
+
+    def test_refusals(self):
+        self.series(refused("DE01865", "AutotestCmd: invalid autotest cycles value",
+                            "AutotestCmd::AutotestCmd(const XmlRpc::XmlRpcValue&)"),
+                    name="AUTOTEST", args=[501], machine="dispenser")
+        self.series(bad('"machine" must be a dispenser'), name="AUTOTEST")
+        self.series(bad('"machine" must be a dispenser'), name="AUTOTEST", machine="mixer")
+        self.series(bad('"name": RESET is no series of commands'), name="RESET", machine="dispenser")
+
+
 class Refusals(BatchTest):
     """What a firmware answers to a command that it refuses."""
 

@@ -7,6 +7,7 @@
 #include "refusaloperation.h"
 #include "replies.h"
 #include "rowoperations.h"
+#include "seriesoperation.h"
 
 #include "base/cmdstatus.h"
 #include "base/protoanswer.h"
@@ -161,10 +162,11 @@ struct Operation
 };
 
 constexpr Operation operations[] = {
-    {"catalogue", catalogue}, {"query", query},          {"encode", encode},
-    {"decode", decode},       {"answer", answer},        {"setanswer", setAnswer},
-    {"envelope", envelope},   {"supports", supports},    {"status", status},
-    {"row", rowOperation},    {"apply", applyOperation}, {"refusal", refusalOperation},
+    {"catalogue", catalogue},    {"query", query},          {"encode", encode},
+    {"decode", decode},          {"answer", answer},        {"setanswer", setAnswer},
+    {"envelope", envelope},      {"supports", supports},    {"status", status},
+    {"row", rowOperation},       {"apply", applyOperation}, {"refusal", refusalOperation},
+    {"series", seriesOperation},
 };
 
 } // namespace
