@@ -64,13 +64,22 @@ const XmlRpcValue &memberOf(const XmlRpcValue &value, const char *key, int index
     return *member;
 }
 
-template <class T>
-T decoded(const QVariant &variant)
+int decodedNumber(const QVariant &variant)
 {
-    T number = 0;
+    int number = 0;
     if (!DecodeVariantList({variant}, 0, number))
         refuse("a number of the statistics is of another type");
     return number;
+}
+
+/** What came over XML-RPC has a number beyond 32 bits as a double. */
+long long decodedCount(const QVariant &variant)
+{
+    long long count = 0;
+    if (variant.userType() == QMetaType::Double ? !DecodeXmlRpcValue(XmlRpcValue(variant.toDouble()), count)
+                                                : !DecodeVariantList({variant}, 0, count))
+        refuse("a count of the statistics is of another type");
+    return count;
 }
 
 } // namespace
@@ -107,14 +116,14 @@ BoardStat::BoardStat(const QList<QVariant> &parameters)
     const QVariant counts = parameters.value(1);
     if (counts.userType() != QMetaType::QVariantList)
         refuse("the counts of the statistics are missing");
-    m_type = decoded<int>(parameters.constFirst());
+    m_type = decodedNumber(parameters.constFirst());
     checkType();
     for (const QVariant &board : counts.toList()) {
         if (board.userType() != QMetaType::QVariantMap)
             refuse("a count of the statistics is of another type");
         const QVariantMap members = board.toMap();
-        addCount(decoded<int>(members.value(QLatin1String(POSITION_ID))),
-                 decoded<long long>(members.value(QLatin1String(COUNT))));
+        addCount(decodedNumber(members.value(QLatin1String(POSITION_ID))),
+                 decodedCount(members.value(QLatin1String(COUNT))));
     }
 }
 

@@ -181,6 +181,8 @@ TEST(BoardStat, isReadOfItsParameters)
 {
     EXPECT_EQ(strokes().parameters(), strokesList());
     EXPECT_TRUE(BoardStat(strokesList()) == strokes());
+    EXPECT_TRUE(BoardStat(QVariantList{
+                    2, QVariantList{countMap(3, 300U), countMap(250, 9007199254740992.0)}}) == strokes());
     const QVariantList none;
     const QVariantList rows[] = {none,
                                  {2},
