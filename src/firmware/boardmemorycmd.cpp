@@ -6,14 +6,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <utility>
 
 namespace {
 
 constexpr char badParameter[] = "BoardMemoryCmd: error in parameter decoding";
 
-constexpr int characters = 2;
+constexpr int characterCount = 2;
 constexpr int addressNumbers = 4;
 constexpr int allNumbers = 8;
 
@@ -24,26 +22,6 @@ struct Elements
     QString subject;
     std::array<int, allNumbers> numbers{};
 };
-
-/** No list is read, so that no refusal has a code for one. */
-template <class Archive>
-void readElements(Archive &archive, Elements &elements)
-{
-    archive.required({"operation", "one character, R to read"}, elements.operation, {},
-                     {{"DE00402", badParameter}, {}});
-    archive.refuseUnless(elements.operation.size() == 1, {{"DE00402", badParameter}, {}});
-    archive.required({"subject", "one character"}, elements.subject, {}, {{"DE00407", badParameter}, {}});
-    archive.refuseUnless(elements.subject.size() == 1, {{"DE00407", badParameter}, {}});
-    auto &numbers = elements.numbers;
-    archive.required({"address_1", "of the board's own meaning, as all numbers here"}, numbers[0], {},
-                     {{"DE00342", badParameter}, {}});
-    archive.required("address_2", numbers[1], {}, {{"DE00558", badParameter}, {}});
-    archive.required("address_3", numbers[2], {}, {{"DE00431", badParameter}, {}});
-    archive.required("address_4", numbers[3], {}, {{"DE00695", badParameter}, {}});
-    for (const auto &[index, name] :
-         {std::pair(4, "data_1"), std::pair(5, "data_2"), std::pair(6, "data_3"), std::pair(7, "data_4")})
-        archive.optional(name, numbers[static_cast<std::size_t>(index)], {{"DE00695", badParameter}, {}});
-}
 
 int codeOf(QChar character)
 {
@@ -63,10 +41,30 @@ struct BoardMemoryCmd::Description : quv::Description
                                                                   {"DE01179", answerFailed},
                                                                   {"DE00556", answerFailed}};
 
+    /** No list is read, so that no refusal has a code for one. */
+    template <class Archive>
+    static void arguments(Elements &elements, Archive &archive)
+    {
+        auto &numbers = elements.numbers;
+        archive.required({"operation", "one character, R to read"}, elements.operation, {},
+                         {{"DE00402", badParameter}, {}});
+        archive.refuseUnless(elements.operation.size() == 1, {{"DE00402", badParameter}, {}});
+        archive.required({"subject", "one character"}, elements.subject, {}, {{"DE00407", badParameter}, {}});
+        archive.refuseUnless(elements.subject.size() == 1, {{"DE00407", badParameter}, {}});
+        archive.required({"address_1", "of the board's own meaning, as all numbers here"}, numbers[0], {},
+                         {{"DE00342", badParameter}, {}});
+        archive.required("address_2", numbers[1], {}, {{"DE00558", badParameter}, {}});
+        archive.required("address_3", numbers[2], {}, {{"DE00431", badParameter}, {}});
+        archive.required("address_4", numbers[3], {}, {{"DE00695", badParameter}, {}});
+        archive.optional("data_1", numbers[4], {{"DE00695", badParameter}, {}});
+        archive.optional("data_2", numbers[5], {{"DE00695", badParameter}, {}});
+        archive.optional("data_3", numbers[6], {{"DE00695", badParameter}, {}});
+        archive.optional("data_4", numbers[7], {{"DE00695", badParameter}, {}});
+    }
     static void tellArguments(quv::ArgumentTeller &teller)
     {
         Elements none;
-        readElements(teller, none);
+        arguments(none, teller);
     }
 };
 
@@ -84,11 +82,11 @@ BoardMemoryCmd::BoardMemoryCmd(const XmlRpc::XmlRpcValue &value) : DescribedComm
 {
     Elements elements;
     quv::ValueReader reader(value, Q_FUNC_INFO);
-    readElements(reader, elements);
+    Description::arguments(elements, reader);
     m_operation = elements.operation.at(0);
     m_subject = elements.subject.at(0);
     const auto behindAddress = elements.numbers.cbegin() + addressNumbers;
-    const int dataNumbers = std::min(value.size() - characters, allNumbers) - addressNumbers;
+    const int dataNumbers = std::min(value.size() - characterCount, allNumbers) - addressNumbers;
     m_address = QList<int>(elements.numbers.cbegin(), behindAddress);
     m_data = QList<int>(behindAddress, behindAddress + dataNumbers);
 }

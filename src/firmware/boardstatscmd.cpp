@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/boardstatscmd_p.h"
 
-#include <QuvFramework/fw_boardstat.h>
-
 namespace {
 
 /** The address by which the firmware means all of its boards. */
@@ -29,22 +27,12 @@ int actionOf(const QString &command)
     return 0;
 }
 
-template <class Archive, class Number>
-void typeArgument(Archive &archive, Number &type)
-{
-    archive.required({"stats_type", quv::boardStatsTypes}, type,
-                     {"DE01548", "DE01552", "Too few parameters received"},
-                     {"DE01550", "DE01553", "Board stats type: expected INT parameter"});
-    archive.refuseUnless(BoardStat::checkBoardStatsType(type),
-                         {{"DE01549", "Board stats type: invalid parameter"}, {}});
-}
-
 } // namespace
 
 void BoardStatsCmd::Description::tellArguments(quv::ArgumentTeller &teller)
 {
-    const int type = BoardStat::AnyType;
-    typeArgument(teller, type);
+    int type = BoardStat::AnyType;
+    arguments(type, teller);
     teller.unread({"positions", "circuits' positions; without any, all boards"}, QList<int>());
     teller.refuse("another type", {noPositionsInValue, noPositionsInList});
     teller.refuse("an element of another type", {noPositionsInValue, badPositionInList});
@@ -75,7 +63,7 @@ void BoardStatsCmd::setBoardStats(int type, const QList<int> &positions)
 void BoardStatsCmd::readBoardStats(const XmlRpc::XmlRpcValue &value, const char *function)
 {
     quv::ValueReader reader(value, function);
-    typeArgument(reader, m_statsType);
+    Description::arguments(m_statsType, reader);
     const XmlRpc::XmlRpcValue *positions = FindXmlRpcElement(value, 1);
     if (positions && !DecodeXmlRpcValue(*positions, m_positionsID))
         quv::throwRefusal(noPositionsInValue, function);
@@ -84,7 +72,7 @@ void BoardStatsCmd::readBoardStats(const XmlRpc::XmlRpcValue &value, const char 
 void BoardStatsCmd::readBoardStats(const QList<QVariant> &list, const char *function)
 {
     quv::ListReader reader(list, function);
-    typeArgument(reader, m_statsType);
+    Description::arguments(m_statsType, reader);
     if (list.size() < 2 || quv::decodeVariant(list.at(1), m_positionsID))
         return;
     quv::throwRefusal(

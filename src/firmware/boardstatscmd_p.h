@@ -21,5 +21,15 @@ struct BoardStatsCmd::Description : quv::Description
     static constexpr quv::AnsweredBy<BoardStatsAnswer> answer = {
         {"DE01565", answerFailed}, {"DE01558", answerFailed}, {"DE01559", answerFailed}, {}};
 
+    /** The type; positions are read by hand, as a refusal of theirs depends on the form. */
+    template <class Archive>
+    static void arguments(int &type, Archive &archive)
+    {
+        archive.required({"stats_type", quv::boardStatsTypes}, type,
+                         {"DE01548", "DE01552", "Too few parameters received"},
+                         {"DE01550", "DE01553", "Board stats type: expected INT parameter"});
+        archive.refuseUnless(BoardStat::checkBoardStatsType(type),
+                             {{"DE01549", "Board stats type: invalid parameter"}, {}});
+    }
     static void tellArguments(quv::ArgumentTeller &teller); ///< type and positions
 };
