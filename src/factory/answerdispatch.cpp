@@ -3,6 +3,7 @@
 
 #include "base/confprotoanswer.h"
 #include "base/serialprotoanswer.h"
+#include "configuration/getkeycodeanswer.h"
 #include "factory/answertables_p.h"
 #include "masterdata/getdeviceparamsanswer.h"
 #include "processes/getshelfparamsanswer.h"
@@ -23,6 +24,7 @@ const std::vector<AnswerRow> &serialRows()
 {
     static const std::vector<AnswerRow> rows = {
         answerRow<GetErrorsAnswer>(Cmd::GET_ERRORS),
+        answerRow<GetKeyCodeAnswer>(Cmd::GET_KEY_CODE), // tokens give none: a key code is asked of the driver
         answerRow<GetTurntablePositionsAnswer>(Cmd::GET_TURNTABLE_POSITIONS),
         answerRow<SensorsStatusAnswer>(Cmd::GET_SENSORS_STATUS),
         answerRow<GetZandorCommandsAnswer>(Cmd::ZDR_GET_COMMANDS),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/getcmdestimatedexectimecmd.h"
 #include "base/getcommandstatuscmd.h"
+#include "configuration/setconfserialcmd.h"
 #include "dispensing/checkformulalevelscmd.h"
 #include "dispensing/genericformulacmd.h"
 #include "dispensing/getdispensedformulaconfcmd.h"
@@ -38,6 +39,7 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::GET_LOW_LEVEL_FORMULA, fromNameAndArguments<GenericFormulaCmd, ListForm>()},
         {Cmd::GET_FORMULA_EXECUTION, fromNameAndArguments<GenericFormulaCmd, ListForm>()},
         {Cmd::GET_DISPENSED_FORMULA, fromArguments<GetDispensedFormulaConfCmd>()},
+        {Cmd::SET_SERIAL, fromArgumentsAndMachine<SetConfSerialCmd, ListForm>()},
     }};
 
 constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{
@@ -50,6 +52,7 @@ constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{
         {Cmd::GET_LOW_LEVEL_FORMULA, fromNameArgumentsAndMachine<GenericFormulaCmd, ValueForm>()},
         {Cmd::GET_FORMULA_EXECUTION, fromNameArgumentsAndMachine<GenericFormulaCmd, ValueForm>()},
         {Cmd::GET_CMD_EST_EXEC_TIME, fromArgumentsAndMachine<GetCmdEstimatedExecTimeCmd>()},
+        {Cmd::SET_SERIAL, fromArgumentsAndMachine<SetConfSerialCmd, ValueForm>()},
     }};
 
 constexpr CommandTable<ConfProtoCommand> mixerConfigTable{

@@ -30,10 +30,6 @@ namespace quv {
 const std::vector<PendingCommand> &pendingCommands()
 {
     static const std::vector<PendingCommand> commands = {
-        {Dispatch::Serial, BothForms, ProtoCommandList::SET_SERIAL, "SetSerialSerialCmd"},
-        {Dispatch::Serial, BothForms, ProtoCommandList::GET_DISP_INFO, "GetDispInfoCmd"},
-        {Dispatch::Serial, BothForms, ProtoCommandList::SET_DISP_INFO, "SetDispInfoCmd"},
-        {Dispatch::Serial, BothForms, ProtoCommandList::CLEAR_DISP_INFO, "ClearDispInfoCmd"},
         {Dispatch::Serial, BothForms, ProtoCommandList::GET_FW_COMMANDS, "FirmwareCommandsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CONFIG, "GetConfigCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SAVE_CONFIG, "SaveConfigCmd"},
@@ -76,13 +72,11 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Config, BothForms, ProtoCommandList::SET_RECALIB_LIST, "SetRecalibrationListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::CONFIG_PARAM, "ConfigParamCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::ADD_STATS_ERRORS, "AddStatsErrorsCmd"},
-        {Dispatch::Config, ListForm, ProtoCommandList::SET_SERIAL, "SetConfSerialCmd"},
         {Dispatch::DispenserConfig, BothForms, ProtoCommandList::SET_DM_DATA, "SetDosingMotorDataCmd"},
         {Dispatch::DispenserConfig, BothForms, ProtoCommandList::SET_DISP_DATA, "SetDispDataCmd"},
         {Dispatch::DispenserConfig, BothForms, ProtoCommandList::SET_CIRCUIT_MAX_SPEED, "SetCircuitMaxSpeedCmd"},
         {Dispatch::DispenserConfig, BothForms, ProtoCommandList::GET_CALIB_LIST, "GetCalibrationListCmd"},
         {Dispatch::DispenserConfig, BothForms, ProtoCommandList::GET_RECALIB_LIST, "GetRecalibrationListCmd"},
-        {Dispatch::DispenserConfig, ValueForm, ProtoCommandList::SET_SERIAL, "SetConfSerialCmd"},
         {Dispatch::Scale, BothForms, ProtoCommandList::WEIGHT, "WeightCmd"},
         {Dispatch::Scale, BothForms, ProtoCommandList::TARE, "TareCmd"},
         {Dispatch::Scale, BothForms, ProtoCommandList::TARE_SET, "TareSetCmd"},
@@ -93,9 +87,7 @@ const std::vector<PendingCommand> &pendingCommands()
 
 const std::vector<PendingAnswer> &pendingAnswers()
 {
-    // tokens never give a GetKeyCodeAnswer: a key code is asked of the driver
     static const std::vector<PendingAnswer> answers = {
-        {SerialType, ProtoCommandList::GET_KEY_CODE, "GetKeyCodeAnswer"},
         {ConfigurationType, ProtoCommandList::GET_CALIB_PROFILES, "GetCalibrationProfilesAnswer"},
         {ConfigurationType, ProtoCommandList::GET_DRIVER_SETTINGS, "GetDriverSettingsAnswer"},
         {ConfigurationType, ProtoCommandList::GET_DRIVER_INFO, "GetDriverInfoAnswer"},

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "configuration/cleardispinfocmd.h"
 #include "configuration/getconfigcmdscmd.h"
+#include "configuration/getdispinfocmd.h"
 #include "configuration/readconfigurationparamcmd.h"
+#include "configuration/setdispinfocmd.h"
+#include "configuration/setserialserialcmd.h"
 #include "configuration/writeconfigurationparamcmd.h"
 #include "dispensing/airpurgecmd.h"
 #include "dispensing/channeltintcmd.h"
@@ -71,6 +75,7 @@ using Cmd = ProtoCommandList;
 constexpr CommandTable<SerialProtoCommand> serialTable{
     Dispatch::Serial,
     {
+        {Cmd::SET_SERIAL, fromArgumentsAndMachine<SetSerialSerialCmd>()},
         {Cmd::GET_ERRORS, fromName<SerialProtoCommand>()},
         {Cmd::GET_ERROR_PKT, fromArguments<FwErrorCmd>()},
         {Cmd::CLEAR_ERRORS, fromNothing<ClearErrorsCmd>()},
@@ -78,6 +83,9 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::READ_CONFIG_ROW, fromArguments<ReadConfigurationParamCmd>()},
         {Cmd::GET_CONFIG_CMDS, fromArguments<GetConfigCmdsCmd>()},
         {Cmd::FINALIZE_CONFIG, fromName<SerialProtoCommand>()},
+        {Cmd::GET_DISP_INFO, fromArguments<GetDispInfoCmd>()},
+        {Cmd::SET_DISP_INFO, fromArguments<SetDispInfoCmd>()},
+        {Cmd::CLEAR_DISP_INFO, fromArguments<ClearDispInfoCmd>()},
         {Cmd::GET_SENSORS_STATUS, fromName<SerialProtoCommand>()},
         {Cmd::GET_SENSOR_DATA, fromArguments<SensorDataCmd>()},
         {Cmd::CLOSE_SERIAL, fromName<SerialProtoCommand>()},

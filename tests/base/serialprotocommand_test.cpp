@@ -117,7 +117,7 @@ TEST(SerialProtoCommand, choosesTheAnswerClassByTheName)
          structOf({{"turntable_circuits", arrayOf()}}),
          {},
          {"1", "0"}},
-        {"GET_KEY_CODE", "GetKeyCodeAnswer"},
+        {"GET_KEY_CODE", "GetKeyCodeAnswer", structOf({{"key_code", "K"}}), {"K"}},
         {"ZDR_GET_COMMANDS", "GetZandorCommandsAnswer", structOf({{"cmd_list", arrayOf()}}), {}, {"1", "0"}},
         {"GET_STATUS", "SerialProtoAnswer"},
         {"RESET", "SerialProtoAnswer"},

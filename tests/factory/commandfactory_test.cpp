@@ -20,6 +20,7 @@
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_firmwarefile.h>
 #include <QuvFramework/fw_mixer.h>
+#include <QuvFramework/fw_serialport.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <QtCore/QDirIterator>
@@ -80,8 +81,10 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_CIRCUITS_STATUS", {2}},
         {"CLEANING", {0, 40, 300, 2, true}},
         {"DEEP_SERVICE", {3, 12, "0A2c", QVariant(List{300})}},
+        {"CLEAR_DISP_INFO", {3}},
         {"GET_CMD_EST_EXEC_TIME", {"GET_STATUS", 7}},
         {"GET_CMD_STATUS", {"ticket 7"}},
+        {"GET_DISP_INFO", {3}},
         {"GET_DISPENSED_FORMULA", {2, 1}},
         {"GET_FORMULA_CIRCUITS", {formula, true}},
         {"GET_FORMULA_EXECUTION", {formula}},
@@ -119,7 +122,9 @@ List argumentsFor(const CommandRow &row, Form form)
         {"SET_DISP_OUTPUT", {3, 12, 2, 6}},
         {"SET_LED_STATUS", {3, 0, "#80102030"}},
         {"SET_BOARD_STATS", {2, QVariant(List{QVariantMap{{"position_id", 3}, {"count", 300}}})}},
+        {"SET_DISP_INFO", {3, "K-17"}},
         {"SET_LEVELS", {false, formula, true}},
+        {"SET_SERIAL", {QVariant::fromValue(FW_SerialPort(QStringLiteral("/dev/ttyS1")))}},
         {"SHELF_MOVE", {1, 300}},
         {"SLAVE_JUMP", {17, 3}},
         {"STIRRING", {2, 300, true}},

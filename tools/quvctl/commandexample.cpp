@@ -84,6 +84,7 @@ constexpr Sample samplesOfCommands[] = {
     {"PURGE", R"([{"purge_quantity":2.5,"quantity_unit":3,"only_filled":true,"head":0}])"},
     {"SHELF_MOVE", "[0,300]"},
     {"GET_SHELF_POS", "[3]"},
+    {"SET_SERIAL", R"([{"conn_type":0,"conn_name":"/dev/ttyS1","conn_address":""}])"},
     {"TURNTABLE_MOVE", "[4,1,2,0,0,50]"},
     {"TURNTABLE_MOVE_STEPS", "[2,50,300]"},
     {"TURNTABLE_MOVE_TO_REFILL", "[4]"},
