@@ -30,7 +30,6 @@ namespace quv {
 const std::vector<PendingCommand> &pendingCommands()
 {
     static const std::vector<PendingCommand> commands = {
-        {Dispatch::Serial, BothForms, ProtoCommandList::GET_FW_COMMANDS, "FirmwareCommandsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CONFIG, "GetConfigCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SAVE_CONFIG, "SaveConfigCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_CALIB_PROFILES, "SetCalibrationProfilesCmd"},

@@ -31,6 +31,7 @@
 #include "firmware/setboardstatscmd.h"
 #include "firmware/slavejumpcmd.h"
 #include "machine/autotestcmd.h"
+#include "machine/firmwarecommandscmd.h"
 #include "processes/autocapcmd.h"
 #include "processes/cleaningcmd.h"
 #include "processes/getlevelsensorscmd.h"
@@ -86,6 +87,7 @@ constexpr CommandTable<SerialProtoCommand> serialTable{
         {Cmd::GET_DISP_INFO, fromArguments<GetDispInfoCmd>()},
         {Cmd::SET_DISP_INFO, fromArguments<SetDispInfoCmd>()},
         {Cmd::CLEAR_DISP_INFO, fromArguments<ClearDispInfoCmd>()},
+        {Cmd::GET_FW_COMMANDS, fromArguments<FirmwareCommandsCmd>()},
         {Cmd::GET_SENSORS_STATUS, fromName<SerialProtoCommand>()},
         {Cmd::GET_SENSOR_DATA, fromArguments<SensorDataCmd>()},
         {Cmd::CLOSE_SERIAL, fromName<SerialProtoCommand>()},

@@ -88,6 +88,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_DISPENSED_FORMULA", {2, 1}},
         {"GET_FORMULA_CIRCUITS", {formula, true}},
         {"GET_FORMULA_EXECUTION", {formula}},
+        {"GET_FW_COMMANDS", {1}},
         {"GET_KEY", {"S-7", "38"}},
         {"GET_LEVEL_SENSORS", {QVariant(List{2, 3})}},
         {"GET_LAST_BOARD_STATS", {2, QVariant(List{3, 1})}},

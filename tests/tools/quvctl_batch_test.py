@@ -783,6 +783,13 @@ class Classes(BatchTest):
             # by its name it is a plain command
             self.assertEqual(self.ask({"op": "encode", "name": name})["class"], "SerialProtoCommand")
 
+    def test_identifiers_of_a_command(self):
+        command = {"class": "CommandIDCmd", "args": [23]}
+        reply = self.ask({"op": "encode", **command})
+        self.assertEqual((reply["class"], reply["code"], reply["serial"]), ("CommandIDCmd", "0068", [23]))
+        self.expect({"op": "decode", **command, "tokens": ["3", "2", "11", "F5"]},
+                    {"ok": True, "class": "CommandIDAnswer", "value": {"command_ids": [17, 245]}})
+        self.assertEqual(self.ask({"op": "encode", "name": "GET_CMD_ID", "args": [23]})["class"], "SerialProtoCommand")
     def test_purges(self):
         purge = {"purge_quantity": 2.5, "quantity_unit": 3, "only_filled": True, "head": 0}
         for form, given in [("value", purge), ("value", [purge]), ("list", [2.5, 3, True, 0])]:

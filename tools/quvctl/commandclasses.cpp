@@ -10,6 +10,7 @@
 #include "dispensing/turntabletintcmd.h"
 #include "firmware/firmwarescanreadcmd.h"
 #include "firmware/firmwarescanstartcmd.h"
+#include "machine/commandidcmd.h"
 #include "status/errornumcmd.h"
 
 #include <QuvFramework/fw_dispenser.h>
@@ -79,6 +80,7 @@ struct CommandClass
 };
 
 constexpr CommandClass commandClasses[] = {
+    {"CommandIDCmd", fromArguments<CommandIDCmd>},
     {"ErrorNumCmd", fromNothing<ErrorNumCmd>},
     {"FirmwareScanCmd", fromArguments<FirmwareScanCmd>},
     {"FirmwareScanReadCmd", fromValue<FirmwareScanReadCmd>},
