@@ -9,6 +9,7 @@ int main(int argc, char **argv)
     quv::addDispensingRatios();
     quv::addErrorRatios();
     quv::addResourceRatios();
+    quv::addMachineRatios();
     quv::addStatusRatios();
     return quv::runRatios(argc, argv);
 }

@@ -8,6 +8,7 @@ void addConfigurationRatios();
 void addDispensingRatios();
 void addErrorRatios();
 void addResourceRatios();
+void addMachineRatios();
 void addStatusRatios();
 
 } // namespace quv

@@ -52,6 +52,8 @@ public:
     void setNozzleBasedDosing(bool nozzleBased) { m_nozzleBasedDosing = nozzleBased; }
     /** True when a circuit is dosed by a scale, so that nobody knows beforehand how long it takes. */
     bool hasGravimetricSwDosingMotors() const;
+    /** False when nobody knows beforehand how long a pour takes. */
+    bool canEstimateDosingCmdExecution() const { return !hasGravimetricSwDosingMotors(); }
 
     // How the machine as a whole is set up.
     int initialWorkingMode() const { return m_initialWorkingMode; }

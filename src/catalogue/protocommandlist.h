@@ -3,12 +3,15 @@
 
 #include "../quvprotocol_global.h"
 
+#include <QuvFramework/fw_global.h>
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
+class CommandDataList;
 class ConfProtoCommand;
 class FW_Dispenser;
 class FW_Machine;
@@ -314,6 +317,18 @@ public:
     /** There is no plain scale command: throws DE02070 (value) or DE02080 (list) for any other name. */
     static ScaleProtoCommand *getScaleProtoCommand(QString name, XmlRpc::XmlRpcValue &args);
     static ScaleProtoCommand *getScaleProtoCommand(QString name, QList<QVariant> args);
+
+    /**
+     * Fills \a list with the commands that such a machine has, in the order of the rows; \a family is the machine's
+     * FW_Dispenser::CommandFamily, and tells which of the two codes a command has. Execution times are tracked in the first family
+     * only. Always true, as the next.
+     */
+    static bool fillCommandDataList(CommandDataList &list, SerialDeviceType device, int family);
+    /**
+     * Those of them that the driver carries out by itself while the machine is not connected, and for which the row at the command's
+     * position in the whole list has the machine as its target.
+     */
+    static bool getOfflineCommandDataList(CommandDataList &list, SerialDeviceType device, int family);
 
 private:
     ProtoCommandList() = default;

@@ -262,10 +262,12 @@ TEST(FW_Dispenser, knowsAScaleDosedCircuit)
 {
     FW_Dispenser machine = dispenser();
     EXPECT_FALSE(machine.hasGravimetricSwDosingMotors());
+    EXPECT_TRUE(machine.canEstimateDosingCmdExecution());
     FW_DosingMotor motor;
     motor.setGravimetricSw(true);
     machine.getCircuitByPosition(8)->setDosingMotor(motor);
     EXPECT_TRUE(machine.hasGravimetricSwDosingMotors());
+    EXPECT_FALSE(machine.canEstimateDosingCmdExecution());
 }
 
 TEST(FW_Dispenser, poursOneCircuitAtATimeUnlessToldOtherwise)

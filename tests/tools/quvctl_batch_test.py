@@ -622,6 +622,59 @@ class Supports(BatchTest):
                     refused("DE00337", "Command type not recognized", GET_PROTO_VALUE))
 
 
+class CommandLists(BatchTest):
+    """What one machine can do."""
+
+    def commands(self, **request):
+        reply = self.ask({"op": "commands", **request})
+        self.assertIs(reply["ok"], True, reply)
+        told = [command["name"] for command in reply["value"]["command_list"]]
+        self.assertEqual(told, [command["name"] for command in reply["commands"]])
+        return {command["name"]: command for command in reply["commands"]}
+
+    def test_filled(self):
+        self.assertEqual(len(self.commands()), 148)
+        self.assertEqual(self.commands()["TINT"], {
+            "id": 8, "name": "TINT", "code": "0017", "minParams": 1, "maxParams": 1, "type": 5, "multiple": False,
+            "useDispenser": True, "schedulingPriorityLevel": 0, "workingPriorityLevel": 0, "checkBusy": True,
+            "trackExecutionTime": True, "busyTimeout": 9999999, "busyCheckFrequency": 500, "recordInStats": True,
+            "machineObjUsage": 2, "privateCommand": False, "erogationCommand": True, "available": True, "version": 0})
+        self.assertEqual(list(self.commands(device=4, family=2)), [
+            "RESET", "GET_ERRORS", "CLEAR_ERRORS", "READ_FW_VERSION", "GET_CMD_LIST", "GET_ACTIVE_DISP"])
+        self.assertEqual(self.commands(device=2), {})
+        self.assertEqual(len(self.commands(offline=True)), 61)
+
+    def test_updated(self):
+        table = ["8", "2", "17", "0", "2", "5", "0", "0", "x"]
+        commands = self.commands(tokens=table, firmware_family=63, revision=39, machine="dispenser")
+        available = {name: command["available"] for name, command in commands.items()}
+        self.assertTrue(available["TINT"] and available["RECIRCULATION"] and available["GET_KEY_CODE"])
+        self.assertFalse(available["RESET"] or available["GET_STATUS"])
+        self.assertEqual((commands["RECIRCULATION"]["version"], commands["TINT"]["version"]), (2, 2))
+        commands = self.commands(tokens=table)
+        self.assertFalse(commands["GET_KEY_CODE"]["available"])
+        self.assertEqual(commands["RECIRCULATION"]["version"], 0)
+        self.expect({"op": "commands", "tokens": ["2", "0", "0"]},
+                    refused("DE00670", "Error during command answer decoding: bad length",
+                            "FirmwareCommandsAnswer::FirmwareCommandsAnswer(QStringList)"))
+
+    def test_read_by_a_client(self):
+        command = {"id": 8, "name": "TINT", "code": "0017", "min_params": 1, "max_params": 1, "driver_cmd": False,
+                   "version": 2}
+        self.expect({"op": "commands", "value": {"command_list": [command]}}, {
+            "ok": True, "class": "GetCommandListAnswer",
+            "value": {"command_list": [{**command, "enabled": True, "time_tracking": False}]},
+            "lines": ["Command TINT (version 2)"]})
+        self.expect({"op": "commands", "value": {}},
+                    refused("DE00433", "GetCommandListAnswer: Errors during ProtocolCommandInfo list creation",
+                            "GetCommandListAnswer::GetCommandListAnswer(const XmlRpc::XmlRpcValue&)"))
+
+    def test_bad_requests(self):
+        self.expect({"op": "commands", "device": "1"}, bad('"device" must be a whole number'))
+        self.expect({"op": "commands", "offline": 1}, bad('"offline" must be true or false'))
+        self.expect({"op": "commands", "tokens": [], "revision": 39}, bad('"firmware_family" is missing'))
+
+
 SERIAL_TOKENS = "SerialProtoAnswer::SerialProtoAnswer(QStringList)"
 
 

@@ -3,6 +3,7 @@
 
 #include "commandarguments.h"
 #include "commandclasses.h"
+#include "commandlistoperation.h"
 #include "queries.h"
 #include "refusaloperation.h"
 #include "replies.h"
@@ -167,6 +168,19 @@ constexpr Operation operations[] = {
     {"envelope", envelope},      {"supports", supports},    {"status", status},
     {"row", rowOperation},       {"apply", applyOperation}, {"refusal", refusalOperation},
     {"series", seriesOperation},
+    {"catalogue", catalogue},
+    {"query", query},
+    {"encode", encode},
+    {"decode", decode},
+    {"answer", answer},
+    {"setanswer", setAnswer},
+    {"envelope", envelope},
+    {"supports", supports},
+    {"status", status},
+    {"row", rowOperation},
+    {"apply", applyOperation},
+    {"refusal", refusalOperation},
+    {"commands", commandListOperation},
 };
 
 } // namespace
