@@ -134,10 +134,10 @@ public:
     FW_Circuit *addNewCircuit(const FW_Canister &canister, int position, int circuitID);
     /** Positions in ascending order, of all circuits or of the enabled ones only. */
     QList<int> getPositionsIDList(bool onlyEnabled) const;
-    /** The addresses of the circuits' boards that are reached by wire: a board has its circuit's position, enabled or not. */
-    QList<int> getWireBoardsID() const { return getPositionsIDList(false); }
     /** The same, but canister by canister in the order of their IDs. */
     QList<int> getPositionsIDSortedByCanister(bool onlyEnabled) const;
+    /** The addresses of the circuits' boards that are reached by wire: a board has its circuit's position, enabled or not. */
+    QList<int> getWireBoardsID() const { return getPositionsIDList(false); }
     /**
      * The IDs of so many circuits by chance, each once, in an order by chance too; of those that are enabled, as their canister is, and
      * have a dosing motor and a usable calibration. All of these when \a count is greater.

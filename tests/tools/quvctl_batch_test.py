@@ -675,9 +675,6 @@ class CommandLists(BatchTest):
         self.expect({"op": "commands", "tokens": [], "revision": 39}, bad('"firmware_family" is missing'))
 
 
-SERIAL_TOKENS = "SerialProtoAnswer::SerialProtoAnswer(QStringList)"
-
-
 class Series(BatchTest):
     """The commands by which a driver carries out another."""
 
@@ -703,6 +700,9 @@ class Series(BatchTest):
         self.series(bad('"machine" must be a dispenser'), name="AUTOTEST")
         self.series(bad('"machine" must be a dispenser'), name="AUTOTEST", machine="mixer")
         self.series(bad('"name": RESET is no series of commands'), name="RESET", machine="dispenser")
+
+
+SERIAL_TOKENS = "SerialProtoAnswer::SerialProtoAnswer(QStringList)"
 
 
 class Refusals(BatchTest):
@@ -843,6 +843,7 @@ class Classes(BatchTest):
         self.expect({"op": "decode", **command, "tokens": ["3", "2", "11", "F5"]},
                     {"ok": True, "class": "CommandIDAnswer", "value": {"command_ids": [17, 245]}})
         self.assertEqual(self.ask({"op": "encode", "name": "GET_CMD_ID", "args": [23]})["class"], "SerialProtoCommand")
+
     def test_purges(self):
         purge = {"purge_quantity": 2.5, "quantity_unit": 3, "only_filled": True, "head": 0}
         for form, given in [("value", purge), ("value", [purge]), ("list", [2.5, 3, True, 0])]:

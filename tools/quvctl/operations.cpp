@@ -163,24 +163,13 @@ struct Operation
 };
 
 constexpr Operation operations[] = {
-    {"catalogue", catalogue},    {"query", query},          {"encode", encode},
-    {"decode", decode},          {"answer", answer},        {"setanswer", setAnswer},
-    {"envelope", envelope},      {"supports", supports},    {"status", status},
-    {"row", rowOperation},       {"apply", applyOperation}, {"refusal", refusalOperation},
-    {"series", seriesOperation},
-    {"catalogue", catalogue},
-    {"query", query},
-    {"encode", encode},
-    {"decode", decode},
-    {"answer", answer},
-    {"setanswer", setAnswer},
-    {"envelope", envelope},
-    {"supports", supports},
-    {"status", status},
-    {"row", rowOperation},
-    {"apply", applyOperation},
-    {"refusal", refusalOperation},
-    {"commands", commandListOperation},
+    {"catalogue", catalogue},    {"query", query},
+    {"encode", encode},          {"decode", decode},
+    {"answer", answer},          {"setanswer", setAnswer},
+    {"envelope", envelope},      {"supports", supports},
+    {"status", status},          {"row", rowOperation},
+    {"apply", applyOperation},   {"refusal", refusalOperation},
+    {"series", seriesOperation}, {"commands", commandListOperation},
 };
 
 } // namespace
