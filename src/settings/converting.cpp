@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "settings/converting_p.h"
+
+#include "base/decoding_p.h"
+
+#include <QuvFramework/fw_utils.h>
+
+#include <cmath>
+
+namespace quv {
+
+bool convertSetting(const QVariant &variant, bool &out)
+{
+    if (!variant.canConvert<bool>())
+        return false;
+    out = variant.toBool();
+    return true;
+}
+
+bool convertSetting(const QVariant &variant, QString &out)
+{
+    QVariant text = variant;
+    if (!text.convert(QMetaType::QString))
+        return false;
+    out = text.toString();
+    return true;
+}
+
+bool convertSetting(const QVariant &variant, long long &out)
+{
+    if (decodeVariant(variant, out))
+        return true;
+    double fraction = 0;
+    bool converts = true;
+    long long number = 0;
+    if (!decodeVariant(variant, fraction))
+        number = variant.toLongLong(&converts);
+    else if ((converts = std::abs(fraction) <= static_cast<double>(MaxWholeNumber)))
+        number = std::llround(fraction);
+    if (converts)
+        out = number;
+    return converts;
+}
+
+} // namespace quv
