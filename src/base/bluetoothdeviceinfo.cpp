@@ -14,6 +14,12 @@ bool registerTypes()
 {
     qRegisterMetaType<List>("BluetoothDeviceInfoList");
     QMetaType::registerEqualsComparator<List>();
+    QMetaType::registerConverter<List, QVariantList>([](const List &devices) {
+        QVariantList variants;
+        for (const BluetoothDeviceInfo &device : devices)
+            variants.append(QVariant::fromValue(device));
+        return variants;
+    });
     return RegisterTravellingType<BluetoothDeviceInfo>("BluetoothDeviceInfo");
 }
 

@@ -78,6 +78,8 @@ TEST(BluetoothDeviceInfoList, isAMemberOfRecords)
     type.write(&devices, value);
     EXPECT_EQ(dumped(value), R"([{"bt_address": "1", "bt_name": "a"}, {"bt_address": "2", "bt_name": "b"}])");
 
+    EXPECT_EQ(dumped(EncodeXmlRpcVariant(QVariant::fromValue(devices))), dumped(value));
+
     EXPECT_TRUE(type.readVariant(QVariant::fromValue(Devices{b}), &devices));
     EXPECT_EQ(devices, Devices{b});
     EXPECT_TRUE(type.readVariant(QVariantList{QVariant::fromValue(a)}, &devices));
