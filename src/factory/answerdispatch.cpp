@@ -9,6 +9,10 @@
 #include "processes/getshelfparamsanswer.h"
 #include "processes/getturntablepositionsanswer.h"
 #include "processes/getzandorcommandsanswer.h"
+#include "settings/getconnectionstatusanswer.h"
+#include "settings/getdriverinfoanswer.h"
+#include "settings/getdriversettingsanswer.h"
+#include "settings/gethostinfoanswer.h"
 #include "status/getactivedispanswer.h"
 #include "status/geterrorsanswer.h"
 #include "status/mixerdriverstatusanswer.h"
@@ -37,7 +41,11 @@ const std::vector<AnswerRow> &configurationRows()
     static const std::vector<AnswerRow> rows = {
         answerRow<GetActiveDispAnswer>(Cmd::GET_ACTIVE_DISP),
         answerRow<MixerDriverStatusAnswer>(Cmd::GET_MIXER_STATUS),
+        answerRow<GetConnectionStatusAnswer>(Cmd::GET_CONN_STATUS),
         answerRow<GetDeviceParamsAnswer>(Cmd::GET_DEVICE_PARAMS),
+        answerRow<GetDriverInfoAnswer>(Cmd::GET_DRIVER_INFO),
+        answerRow<GetDriverSettingsAnswer>(Cmd::GET_DRIVER_SETTINGS),
+        answerRow<GetHostInfoAnswer>(Cmd::GET_HOST_INFO),
         answerRow<GetShelfParamsAnswer>(Cmd::GET_SHELF_PARAMS),
     };
     return rows;

@@ -13,7 +13,11 @@
 #include "sessions/getkeycmd.h"
 #include "sessions/logincmd.h"
 #include "sessions/logoutcmd.h"
+#include "settings/getbluetoothsettingscmd.h"
 #include "settings/getconnectionscmd.h"
+#include "settings/getswversioncmd.h"
+#include "settings/setbluetoothsettingscmd.h"
+#include "settings/setdriversettingscmd.h"
 #include "status/dispenserdriverstatuscmd.h"
 
 namespace quv {
@@ -30,6 +34,10 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::LOGOUT, fromArguments<LogoutCmd>()},
         {Cmd::GET_KEY, fromArguments<GetKeyCmd>()},
         {Cmd::CERTIFY_SESSION, fromArguments<CertifySessionCmd>()},
+        {Cmd::SET_DRIVER_SETTINGS, fromArguments<SetDriverSettingsCmd>()},
+        {Cmd::GET_SW_VERSION, fromArguments<GetSwVersionCmd>()},
+        {Cmd::SET_BT_SETTINGS, fromArguments<SetBluetoothSettingsCmd>()},
+        {Cmd::GET_BT_SETTINGS, fromArguments<GetBluetoothSettingsCmd>()},
         {Cmd::STOP, fromArguments<StopConfCmd>()},
         {Cmd::GET_DISP_STATUS, fromArguments<DispenserDriverStatusCmd>()},
         {Cmd::GET_CONNECTIONS, fromArguments<GetConnectionsCmd>()},

@@ -68,13 +68,31 @@ TEST(ConfProtoCommand, keepsTheAnswerContract)
 
 TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
 {
+    const QVariantMap driverInfo = {
+        {"driver_name", "nuadriver"},          {"driver_path", "/usr/nua"},
+        {"driver_version", "3.14.2"},          {"host_name", "shop-1"},
+        {"config_file_path", "/etc/nua"},      {"default_calib_file_path", "/usr/nua"},
+        {"custom_calib_file_path", "/var/nua"}};
     const AnswerRow rows[] = {
         {"GET_CALIB_PROFILES", "GetCalibrationProfilesAnswer"},
         {"GET_ACTIVE_DISP", "GetActiveDispAnswer", structOf({{"disp_list", arrayOf()}})},
-        {"GET_DRIVER_SETTINGS", "GetDriverSettingsAnswer"},
-        {"GET_DRIVER_INFO", "GetDriverInfoAnswer"},
-        {"GET_CONN_STATUS", "GetConnectionStatusAnswer"},
-        {"GET_HOST_INFO", "GetHostInfoAnswer"},
+        {"GET_DRIVER_SETTINGS",
+         "GetDriverSettingsAnswer",
+         structOf({{"driver_settings", structOf({})}}),
+         {QVariantMap{{"ConfigurationFileName", "a.xml"}}}},
+        {"GET_DRIVER_INFO",
+         "GetDriverInfoAnswer",
+         structOf({{"driver_info", valueOf(driverInfo)}}),
+         {driverInfo}},
+        {"GET_CONN_STATUS",
+         "GetConnectionStatusAnswer",
+         structOf(
+             {{"serial_connection_status", 1}, {"BT_connection_status", 0}, {"scale_connection_status", 0}}),
+         {1, 0, 0}},
+        {"GET_HOST_INFO",
+         "GetHostInfoAnswer",
+         structOf({{"host_name", "shop-1"}, {"BT_radio_ON", true}}),
+         {"shop-1", true}},
         {"GET_CURRENT_WEIGHT", "WeightAnswer"},
         {"GET_SCALE_CONFIG", "GetScaleConfigAnswer"},
         {"GET_SCALE_STATUS", "ScaleStatusAnswer"},

@@ -2,6 +2,7 @@
 #include "catalogue/protocommandlist.h"
 
 #include "base/basetesting.h"
+#include "base/bluetoothdeviceinfo.h"
 #include "base/confprotocommand.h"
 #include "base/outofmemory.h"
 #include "base/scaleprotocommand.h"
@@ -68,6 +69,8 @@ List argumentsFor(const CommandRow &row, Form form)
     const QVariant formula = QVariant::fromValue(grams({{"3", 1.5}, {"4", 20}}));
     const QVariant priming = QVariant::fromValue(strokes({{"3", 2}}));
     const QVariant circuits = QVariant::fromValue(PCircuitFormula(9, {{3, 1, 40, 20}}));
+    const QVariant devices = QVariant::fromValue<BluetoothDeviceInfoList>(
+        QList<BluetoothDeviceInfo>() << BluetoothDeviceInfo("VELTO 1", "00:11"));
     static const std::map<std::string, List> arguments = {
         {"AIRPURGE", {circuits}},
         {"AUTOCAP_MOVE", {1}},
@@ -124,6 +127,8 @@ List argumentsFor(const CommandRow &row, Form form)
         {"SET_LED_STATUS", {3, 0, "#80102030"}},
         {"SET_BOARD_STATS", {2, QVariant(List{QVariantMap{{"position_id", 3}, {"count", 300}}})}},
         {"SET_DISP_INFO", {3, "K-17"}},
+        {"SET_BT_SETTINGS", {true, devices, devices}},
+        {"SET_DRIVER_SETTINGS", {QVariantHash{{"AppProfile", "SHOP"}}}},
         {"SET_LEVELS", {false, formula, true}},
         {"SET_SERIAL", {QVariant::fromValue(FW_SerialPort(QStringLiteral("/dev/ttyS1")))}},
         {"SHELF_MOVE", {1, 300}},
@@ -165,6 +170,12 @@ List argumentsFor(const CommandRow &row, Form form)
                                     {"res_name", "P17.dmp"},
                                     {"res_type", 3},
                                     {"res_index", 4}}})}},
+        {"SET_BT_SETTINGS",
+         {QVariantMap{
+             {"bt_enabled", true},
+             {"bt_target_devices", List{QVariantMap{{"bt_name", "VELTO 1"}, {"bt_address", "00:11"}}}},
+             {"bt_banned_devices", List{QVariantMap{{"bt_name", "VELTO 1"}, {"bt_address", "00:11"}}}}}}},
+        {"SET_DRIVER_SETTINGS", {QVariantMap{{"driver_settings_hash", QVariantMap{{"AppProfile", "SHOP"}}}}}},
         {"STIR_ALL", {QVariant(List{QVariantMap{{"item", 12}, {"duration", 40}}}), 1, false, 700}},
         {"UPDATE_FW",
          {QVariant(List{QVariantMap{{"image", QByteArray("abc")},
