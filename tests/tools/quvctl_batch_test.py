@@ -884,6 +884,83 @@ class Classes(BatchTest):
                     bad('"class": GET_DISPENSED_FORMULA is no serial command, so tokens are no answer to it'))
 
 
+class Settings(BatchTest):
+    """The driver's settings, and what it tells of itself."""
+
+    DEFAULTS = {
+        "AppProfile": "DEFAULT", "BTBannedDevices": "", "BTEnabled": False, "BTScanFilter": "VELTO_5G", "BTScanPolicy": 0,
+        "BTTargetDevices": "", "BusyCheckFrequency": 500, "ConfigurationFileName": "configuration.xml",
+        "ConfigurationPath": "/var/lib/velto/nuadriver/NUAlocal/config/",
+        "CustomCalibrationProfilesFileName": "calibrationProfiles_custom.xml",
+        "CustomCalibrationProfilesPath": "/var/lib/velto/nuadriver/NUAlocal/profiles/",
+        "DefaultCalibrationProfilesFileName": "calibrationProfiles_default.xml",
+        "DefaultCalibrationProfilesPath": "/config_data/", "LockConfiguration": False,
+        "Logger": {"CompactLog": True, "LogFileEnabled": True, "LogFilePath": "/var/log/velto//",
+                   "MaxFileSizeB": 5242880, "MaxNFile": 20},
+        "QuantityPrecision": 4, "ScaleCom_AdvancedPortScanFilter": "", "ScaleCom_PortScanFilter": "",
+        "SerCom_AdvancedPortScanFilter": "5G", "SerCom_PortScanFilter": "", "SerialConnScanFreq": 5000,
+        "SerialScanLevel": 3, "SkipChecks": False, "StatsDBFileName2": "stats_db_V_1.db",
+        "StatsDBPath": "/var/lib/velto/nuadriver/NUAlocal/stats/"}
+    SHOP = {**DEFAULTS, "AppProfile": "SHOP"}
+
+    def test_are_taken_from_struct_and_hash(self):
+        logger = self.DEFAULTS["Logger"]
+        self.expect({"op": "settings"}, {"ok": True, "value": self.DEFAULTS})
+        self.expect({"op": "settings", "value": {"AppProfile": "SHOP"}}, {"ok": True, "value": self.SHOP})
+        self.expect({"op": "settings", "value": {"AppProfile": 5}, "hash": {"AppProfile": "SHOP"}},
+                    {"ok": True, "value": self.SHOP})
+        self.expect({"op": "settings", "value": 5, "name": "driver"},
+                    {"ok": True, "value": {**self.DEFAULTS, "Logger": {**logger, "LogFilePath": "/var/log/velto/driver/"}}})
+        self.expect({"op": "settings", "hash": {"Logger_MaxNFile": "7", "SerialScanLevel": "4"}},
+                    {"ok": True, "value": {**self.DEFAULTS, "Logger": {**logger, "MaxNFile": 7}}})
+        self.expect({"op": "settings", "hash": 5}, bad('"hash" must be an object'))
+
+    def test_are_sent(self):
+        reply = {"ok": True, "class": "SetDriverSettingsCmd", "parameters": [self.SHOP],
+                 "request": ["SET_DRIVER_SETTINGS", {"driver_settings": self.SHOP}], "estimated_ms": 20000,
+                 "command": "Application settings update", "action": "Updating application settings",
+                 "action_detailed": "Updating application settings"}
+        request = {"op": "encode", "name": "SET_DRIVER_SETTINGS"}
+        self.expect({**request, "args": [{"driver_settings": {"AppProfile": "SHOP"}}]}, reply)
+        self.expect({**request, "args": [self.SHOP], "form": "list"}, reply)
+        single = {"AppProfile": "SHOP", "Logger_MaxNFile": 7}
+        for form in ["value", "list"]:
+            self.expect({**request, "args": [{"driver_settings_hash": single}], "form": form},
+                        {**reply, "parameters": [single],
+                         "request": ["SET_DRIVER_SETTINGS", {"driver_settings_hash": single}]})
+
+    def test_come_back(self):
+        self.expect({"op": "answer", "name": "GET_DRIVER_SETTINGS", "value": {"driver_settings": {"AppProfile": "SHOP"}}},
+                    {"ok": True, "class": "GetDriverSettingsAnswer", "value": {"driver_settings": self.SHOP}})
+        host = {"host_name": "shop-1", "BT_radio_ON": True}
+        self.expect({"op": "answer", "name": "GET_HOST_INFO", "value": host},
+                    {"ok": True, "class": "GetHostInfoAnswer", "value": host})
+        version = {"sw_version": "3.14.2", "build_revision": 17, "build_TS": "2026-03-04T05:06:07.008Z",
+                   "release_type": "beta", "git_sha": "0a1b2c"}
+        self.expect({"op": "answer", "name": "GET_SW_VERSION", "value": version},
+                    {"ok": True, "class": "GetSwVersionAnswer", "value": version})
+
+    def test_of_bluetooth(self):
+        device = {"bt_name": "VELTO 1", "bt_address": "00:11"}
+        settings = {"bt_enabled": True, "bt_target_devices": [device], "bt_banned_devices": []}
+        reply = {"ok": True, "class": "SetBluetoothSettingsCmd", "request": ["SET_BT_SETTINGS", settings],
+                 "parameters": [True, [device], []], "estimated_ms": 20000, "command": "Bluetooth settings update",
+                 "action": "Updating bluetooth settings", "action_detailed": "Updating bluetooth settings"}
+        self.expect({"op": "encode", "name": "SET_BT_SETTINGS", "args": [settings]}, reply)
+        self.expect({"op": "encode", "name": "SET_BT_SETTINGS", "args": [True, [device], []], "form": "list"}, reply)
+        self.expect({"op": "answer", "name": "GET_BT_SETTINGS", "value": settings},
+                    {"ok": True, "class": "BluetoothSettingsAnswer", "value": settings})
+
+    def test_of_connections(self):
+        links = {"serial_connection_status": 1, "BT_connection_status": 0, "scale_connection_status": -1}
+        answer = {"ok": True, "class": "GetConnectionStatusAnswer", "value": links}
+        for command in [{"class": "GetConnectionStatusCmd"}, {"name": "GET_CONN_STATUS"}]:
+            self.expect({"op": "answer", **command, "value": links}, answer)
+        self.assertEqual(self.ask({"op": "encode", "class": "GetConnectionStatusCmd"})["command"],
+                         "Connection status read")
+        self.assertEqual(self.ask({"op": "encode", "name": "GET_CONN_STATUS"})["command"], "")
+
+
 class Renamed(BatchTest):
     """A command that a driver gives its newer name."""
 

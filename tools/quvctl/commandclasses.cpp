@@ -11,6 +11,7 @@
 #include "firmware/firmwarescanreadcmd.h"
 #include "firmware/firmwarescanstartcmd.h"
 #include "machine/commandidcmd.h"
+#include "settings/getconnectionstatuscmd.h"
 #include "status/errornumcmd.h"
 
 #include <QuvFramework/fw_dispenser.h>
@@ -85,6 +86,7 @@ constexpr CommandClass commandClasses[] = {
     {"FirmwareScanCmd", fromArguments<FirmwareScanCmd>},
     {"FirmwareScanReadCmd", fromValue<FirmwareScanReadCmd>},
     {"FirmwareScanStartCmd", fromValue<FirmwareScanStartCmd>},
+    {"GetConnectionStatusCmd", fromNothing<GetConnectionStatusCmd>},
     {"GetDispensedFormulaCmd", fromArguments<GetDispensedFormulaCmd>},
     {"PurgeCmd", fromArgumentsAndDispenser<PurgeCmd>},
     {"PurgeQuantityCmd", fromArguments<PurgeQuantityCmd>},

@@ -9,6 +9,7 @@
 #include "replies.h"
 #include "rowoperations.h"
 #include "seriesoperation.h"
+#include "settingsoperation.h"
 
 #include "base/cmdstatus.h"
 #include "base/protoanswer.h"
@@ -170,6 +171,19 @@ constexpr Operation operations[] = {
     {"status", status},          {"row", rowOperation},
     {"apply", applyOperation},   {"refusal", refusalOperation},
     {"series", seriesOperation}, {"commands", commandListOperation},
+    {"catalogue", catalogue},
+    {"query", query},
+    {"encode", encode},
+    {"decode", decode},
+    {"answer", answer},
+    {"setanswer", setAnswer},
+    {"envelope", envelope},
+    {"supports", supports},
+    {"status", status},
+    {"row", rowOperation},
+    {"apply", applyOperation},
+    {"refusal", refusalOperation},
+    {"settings", settingsOperation},
 };
 
 } // namespace
