@@ -9,6 +9,7 @@ void addDispensingRatios();
 void addErrorRatios();
 void addResourceRatios();
 void addMachineRatios();
+void addSettingsRatios();
 void addStatusRatios();
 
 } // namespace quv
