@@ -164,13 +164,6 @@ struct Operation
 };
 
 constexpr Operation operations[] = {
-    {"catalogue", catalogue},    {"query", query},
-    {"encode", encode},          {"decode", decode},
-    {"answer", answer},          {"setanswer", setAnswer},
-    {"envelope", envelope},      {"supports", supports},
-    {"status", status},          {"row", rowOperation},
-    {"apply", applyOperation},   {"refusal", refusalOperation},
-    {"series", seriesOperation}, {"commands", commandListOperation},
     {"catalogue", catalogue},
     {"query", query},
     {"encode", encode},
@@ -183,6 +176,8 @@ constexpr Operation operations[] = {
     {"row", rowOperation},
     {"apply", applyOperation},
     {"refusal", refusalOperation},
+    {"series", seriesOperation},
+    {"commands", commandListOperation},
     {"settings", settingsOperation},
 };
 
