@@ -10,8 +10,8 @@ void CommandCode::setCommandCode(const QString &text)
     code = text;
     if (text.size() != 4)
         return;
-    hi = text.left(2);
-    lo = text.right(2);
+    hi = code.left(2); // the text may be one of the two
+    lo = code.right(2);
 }
 
 void CommandCode::setCommand_HI_LO(const QString &high, const QString &low)

@@ -18,7 +18,7 @@ struct MotorRunningCmd::Description : quv::Description
         archive.required({"position", "a circuit's position"}, self.m_moduleID,
                          {"DE00637", "DE01458", "Expected Position ID parameter"},
                          {"DE00965", "DE01542", "Position ID: expected INT parameter"});
-        archive.optional({"duration", "1 to 120540"}, self.m_duration,
+        archive.optional({"duration", "1 to 120540, which is not checked"}, self.m_duration,
                          {{"DE00966", "Motor running duration: expected INT parameter"},
                           {"DE01543", "Motor running duration: expected INT or LONG parameter"}});
     }

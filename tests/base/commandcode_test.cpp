@@ -45,6 +45,10 @@ TEST(CommandCode, splitsACodeOfFourCharactersOnly)
     }
     code.setCommandCode("GHIJ"); // whatever the characters are
     expectCode(code, "GHIJ", "GH", "IJ");
+
+    code = CommandCode("ABCD", "12");
+    code.setCommandCode(code.hi);
+    expectCode(code, "ABCD", "AB", "CD");
 }
 
 TEST(CommandCode, readsTheBytesAsHexadecimalNumbers)

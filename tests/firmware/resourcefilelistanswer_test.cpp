@@ -34,8 +34,8 @@ TEST(ResourceFileListAnswer, holdsFiles)
     EXPECT_EQ(answer.protoType(), 1);
     EXPECT_EQ(
         dumped(answer.toXmlRpcValue()),
-        R"({"res_file_list": [{"res_data_stream": base64 "AKU=", "res_index": 3, "res_name": "P17.dmp", "res_type": 3}, )"
-        R"({"res_data_stream": base64 "YWI=", "res_index": 1, "res_name": "m.txt", "res_type": 2}]})");
+        R"({"res_file_list": [{"res_data_stream": <00a5>, "res_index": 3, "res_name": "P17.dmp", "res_type": 3}, )"
+        R"({"res_data_stream": <6162>, "res_index": 1, "res_name": "m.txt", "res_type": 2}]})");
     EXPECT_EQ(Answer(answer.toXmlRpcValue()), answer);
     for (const QVariant &item : {QVariant::fromValue(Files{dump(), messages()}),
                                  QVariant(List{QVariant::fromValue(dump()), fileMap("ab", "m.txt", 2, 1)})}) {

@@ -19,7 +19,7 @@ AnswerFacts answers()
 {
     constexpr char answerClass[] = "ResourceFileListAnswer";
     constexpr char written[] =
-        R"({"res_file_list": [{"res_data_stream": base64 "AKU=", "res_index": 3, "res_name": "P17.dmp", "res_type": 3}]})";
+        R"({"res_file_list": [{"res_data_stream": <00a5>, "res_index": 3, "res_name": "P17.dmp", "res_type": 3}]})";
     const FwResourceFile file(twoBytes(), "P17.dmp", FwResourceFile::DumpFile, 3);
     AnswerFacts answers = serialAnswers();
     answers.value =

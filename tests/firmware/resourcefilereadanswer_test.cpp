@@ -28,7 +28,7 @@ TEST(ResourceFileReadAnswer, holdsAFile)
     EXPECT_EQ(answer.protoType(), 1);
     EXPECT_EQ(
         dumped(answer.toXmlRpcValue()),
-        R"({"res_file": {"res_data_stream": base64 "AKU=", "res_index": 3, "res_name": "P17.dmp", "res_type": 3}})");
+        R"({"res_file": {"res_data_stream": <00a5>, "res_index": 3, "res_name": "P17.dmp", "res_type": 3}})");
     EXPECT_EQ(Answer(answer.toXmlRpcValue()), answer);
     for (const QVariant &item :
          {QVariant::fromValue(dump()), QVariant(fileMap(twoBytes(), "P17.dmp", 3, 3))}) {

@@ -28,8 +28,8 @@ Files twoFiles()
 TEST(ResourceFileWriteCmd, keepsTheCommandContract)
 {
     constexpr char written[] =
-        R"([[{"res_data_stream": base64 "AKU=", "res_index": 3, "res_name": "P17.dmp", "res_type": 3}, )"
-        R"({"res_data_stream": base64 "YWI=", "res_index": 1, "res_name": "m.txt", "res_type": 2}]])";
+        R"([[{"res_data_stream": <00a5>, "res_index": 3, "res_name": "P17.dmp", "res_type": 3}, )"
+        R"({"res_data_stream": <6162>, "res_index": 1, "res_name": "m.txt", "res_type": 2}]])";
     const Value value =
         arrayOf(arrayOf(fileStruct(binary(twoBytes()), "P17.dmp", 3, 3), fileStruct("ab", "m.txt", 2, 1)));
     CommandFacts facts(formsOf<Cmd>());
