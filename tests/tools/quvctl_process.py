@@ -5,6 +5,7 @@ import os
 import pty
 import signal
 import subprocess
+import termios
 import threading
 import unittest
 import xmlrpc.server
@@ -32,6 +33,9 @@ def run_on_terminal(*words, asks, answer):
     except OSError as error:
         raise unittest.SkipTest(f"this machine has no terminal to give: {error}")
     if child == 0:
+        attributes = termios.tcgetattr(0)
+        attributes[3] |= termios.NOFLSH  # else Ctrl-C throws away what the program has just shown
+        termios.tcsetattr(0, termios.TCSANOW, attributes)
         os.environ.update(TERM="xterm", NO_COLOR="1")
         os.execv(PROGRAM, [PROGRAM, *words])
     watchdog = threading.Timer(30, os.kill, (child, signal.SIGKILL))
