@@ -821,6 +821,22 @@ class Classes(BatchTest):
         reply = self.ask({"op": "encode", "name": "ERRORS_NUM"})
         self.assertEqual((reply["class"], reply["serial"]), ("SerialProtoCommand", []))
 
+    def test_what_the_driver_carries_out(self):
+        port = {"conn_type": 1, "conn_name": "Velto", "conn_address": "00:11"}
+        for class_name, name, args in [("GetDispensedFormulaConfCmd", "GET_DISPENSED_FORMULA", [2, 1]),
+                                       ("SetConfSerialCmd", "SET_SERIAL", [port]), ("StopConfCmd", "STOP", [3, 2])]:
+            for form in ["value", "list"]:
+                reply = self.ask({"op": "encode", "class": class_name, "args": args, "form": form,
+                                  "machine": "dispenser"})
+                self.assertEqual((reply["ok"], reply.get("class"), reply.get("request")),
+                                 (True, class_name, [name, *args]), reply)
+        self.expect({"op": "encode", "class": "SetConfSerialCmd", "args": ["COM1"]},
+                    refused("DE00442", "SetSerialCmd: unable to create FW_SerialPort object",
+                            "SetSerialCmd::SetSerialCmd(const XmlRpc::XmlRpcValue&)"))
+        self.expect({"op": "encode", "class": "StopConfCmd", "args": [4, 2]},
+                    refused("DE01332", "StopCmd: invalid fw stop type value",
+                            "StopConfCmd::StopConfCmd(const XmlRpc::XmlRpcValue&)"))
+
     def test_scans_for_firmware(self):
         versions = {"slave_versions": [{"board_address": 17, "app_version": [63, 0, 0, 0, 0, 38], "boot_version": []}]}
         tokens = ["4", "1", "11", "3F", "26"]

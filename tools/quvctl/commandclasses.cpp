@@ -3,7 +3,9 @@
 
 #include "commandarguments.h"
 
+#include "configuration/setconfserialcmd.h"
 #include "dispensing/getdispensedformulacmd.h"
+#include "dispensing/getdispensedformulaconfcmd.h"
 #include "dispensing/purgecmd.h"
 #include "dispensing/purgequantitycmd.h"
 #include "dispensing/turntablepurgeformulacmd.h"
@@ -11,6 +13,7 @@
 #include "firmware/firmwarescanreadcmd.h"
 #include "firmware/firmwarescanstartcmd.h"
 #include "machine/commandidcmd.h"
+#include "processes/stopconfcmd.h"
 #include "settings/getconnectionstatuscmd.h"
 #include "status/errornumcmd.h"
 
@@ -61,6 +64,13 @@ Made fromArgumentsAndDispenser(const Request &request, const FW_Machine *machine
     });
 }
 
+template <class Class>
+Made fromArgumentsAndMachine(const Request &request, const FW_Machine *machine)
+{
+    return withArguments(
+        request, [machine](auto &arguments) -> Made { return std::make_unique<Class>(arguments, machine); });
+}
+
 /// Of a turntable: where it stands is the last element of a list, and apart from a value, which has no place for it.
 template <class Class>
 Made fromArgumentsAndPosition(const Request &request, const FW_Machine *machine)
@@ -88,8 +98,11 @@ constexpr CommandClass commandClasses[] = {
     {"FirmwareScanStartCmd", fromValue<FirmwareScanStartCmd>},
     {"GetConnectionStatusCmd", fromNothing<GetConnectionStatusCmd>},
     {"GetDispensedFormulaCmd", fromArguments<GetDispensedFormulaCmd>},
+    {"GetDispensedFormulaConfCmd", fromArguments<GetDispensedFormulaConfCmd>},
     {"PurgeCmd", fromArgumentsAndDispenser<PurgeCmd>},
     {"PurgeQuantityCmd", fromArguments<PurgeQuantityCmd>},
+    {"SetConfSerialCmd", fromArgumentsAndMachine<SetConfSerialCmd>},
+    {"StopConfCmd", fromArguments<StopConfCmd>},
     {"TurntablePurgeFormulaCmd", fromArgumentsAndPosition<TurntablePurgeFormulaCmd>},
     {"TurntableTintCmd", fromArgumentsAndPosition<TurntableTintCmd>},
 };

@@ -11,7 +11,7 @@ class ProtoCommand;
 namespace quv {
 
 /**
- * The command of the class that "class" names, one of those that the factory never makes: a driver makes them by itself.
+ * The command of the class that "class" names, one of those that the factory does not make for a client: a driver makes them by itself.
  * \throws BadRequest when there is no such class, FW_DriverError when it refuses the arguments
  */
 std::unique_ptr<ProtoCommand> commandOfClass(const Request &request, const FW_Machine *machine);
