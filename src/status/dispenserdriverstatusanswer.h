@@ -14,7 +14,7 @@ struct MemberFacts;
 /**
  * The answer to GET_DISP_STATUS: what the driver has under way on a dispenser, "driver_status", and the last status of its
  * firmware, "disp_status", each the int 0 when it is absent; with "pos_available" and "pos_ready", which tell acceptPOScommands()
- * and readyForPOScommands().
+ * and readyForPOScommands() and are false when one of the two is absent.
  */
 class QUVPROTOCOL_EXPORT DispenserDriverStatusAnswer : public MachineDriverStatusAnswer,
                                                        public ConfProtoAnswer

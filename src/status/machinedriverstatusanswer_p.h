@@ -37,7 +37,7 @@ void readDriverStatus(const QList<QVariant> &list, const Refusal &noStatus, cons
     });
 }
 
-/** A status of another kind of machine does not travel. */
+/** A status of another kind of machine does not travel, and the flags tell of what travels. */
 template <class Status, class Answer>
 XmlRpc::XmlRpcValue writtenDriverStatus(const MachineDriverStatusAnswer &source)
 {
@@ -47,8 +47,8 @@ XmlRpc::XmlRpcValue writtenDriverStatus(const MachineDriverStatusAnswer &source)
     XmlRpc::XmlRpcValue value;
     value[Answers::driverStatus_TAG] = status ? status->toXmlRpcValue() : XmlRpc::XmlRpcValue(0);
     value[Answers::dispStatus_TAG] = answer ? answer->toXmlRpcValue() : XmlRpc::XmlRpcValue(0);
-    value[Answers::posAvailable_TAG] = source.acceptPOScommands();
-    value[Answers::posReady_TAG] = source.readyForPOScommands();
+    value[Answers::posAvailable_TAG] = status && answer && source.acceptPOScommands();
+    value[Answers::posReady_TAG] = status && answer && source.readyForPOScommands();
     return value;
 }
 
@@ -71,7 +71,7 @@ QList<MemberFacts> driverStatusFacts(const Refusal &noStatus, const Refusal &noA
     rows[1].meaning = "the last status that the machine told; the int 0 when there is none";
     rows[2].key = Answers::posAvailable_TAG;
     rows[2].type = rows[3].type = &fieldType<bool>();
-    rows[2].meaning = "active, and the driver has nothing else under way on it";
+    rows[2].meaning = "active, with a last status, and the driver has nothing else under way on it";
     rows[3].key = Answers::posReady_TAG;
     rows[3].meaning = "the same, and the machine is at rest and takes commands";
     return factsOf(rows);

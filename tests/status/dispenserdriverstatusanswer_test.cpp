@@ -4,6 +4,7 @@
 #include "base/factlines.h"
 #include "base/outofmemory.h"
 #include "status/driverstatustesting.h"
+#include "status/mixerstatusanswer.h"
 #include "status/statustesting.h"
 
 #include <memory>
@@ -47,6 +48,14 @@ Value filledStruct()
     return structOf({{"driver_status", dispenserStatusStruct()}, {"disp_status", tintingStruct()}});
 }
 
+Answer withStatuses(const MachineStatus *status, const MachineStatusAnswer *machine)
+{
+    Answer answer;
+    answer.setMachineStatus(status);
+    answer.setMachineStatusAnswer(machine);
+    return answer;
+}
+
 std::string written(const std::string &status, const std::string &machine, bool available, bool ready)
 {
     const auto word = [](bool flag) { return std::string(flag ? "true" : "false"); };
@@ -68,7 +77,8 @@ TEST(DispenserDriverStatusAnswer, writesTheNumberZeroForWhatIsAbsent)
     EXPECT_EQ(dumped(Answer().toXmlRpcValue()), written("0", "0", false, false));
     const DispenserStatus status = activeDispenser();
     EXPECT_EQ(dumped(Answer(&status, nullptr).toXmlRpcValue()),
-              written(dumped(status.toXmlRpcValue()), "0", true, false));
+              written(dumped(status.toXmlRpcValue()), "0", false, false));
+    EXPECT_TRUE(Answer(&status, nullptr).acceptPOScommands()); // which does without the firmware's word
     const DispenserStatusAnswer machine = tinting();
     EXPECT_EQ(dumped(Answer(nullptr, &machine).toXmlRpcValue()),
               written("0", dumped(asWritten(tintingStruct())), false, false));
@@ -96,6 +106,20 @@ TEST(DispenserDriverStatusAnswer, doesNotTellStatusesOfOtherMachines)
     for (const MachineStatus *other : {static_cast<const MachineStatus *>(&status), &plain}) {
         answer.setMachineStatus(other);
         EXPECT_EQ(static_cast<int>(answer.toXmlRpcValue()["driver_status"]), 0);
+    }
+}
+
+TEST(DispenserDriverStatusAnswer, tellsReadinessOfWhatItWrites)
+{
+    const DispenserStatus dispenser = activeDispenser();
+    const DispenserStatusAnswer ofDispenser;
+    const MixerStatus mixer(filledMixerInfo(), true, false, false, false);
+    const MixerStatusAnswer ofMixer;
+    for (const Answer &answer : {withStatuses(&mixer, &ofDispenser), withStatuses(&dispenser, &ofMixer)}) {
+        EXPECT_TRUE(answer.acceptPOScommands());
+        Value value = answer.toXmlRpcValue();
+        EXPECT_FALSE(static_cast<bool>(value["pos_available"]));
+        EXPECT_FALSE(static_cast<bool>(value["pos_ready"]));
     }
 }
 
@@ -182,6 +206,8 @@ TEST(DispenserDriverStatusAnswer, tellsItsMembers)
     EXPECT_FALSE(facts.members.at(2).required);
     EXPECT_EQ(facts.members.at(3).key, "pos_ready");
     EXPECT_EQ(facts.members.at(3).type, "bool");
+    EXPECT_EQ(facts.members.at(2).meaning,
+              "active, with a last status, and the driver has nothing else under way on it");
     testing_base::Lines lines;
     appendRefusals(lines, facts.members.at(0).refusals);
     appendRefusals(lines, facts.members.at(1).refusals);

@@ -67,6 +67,16 @@ TEST(MixerDriverStatusAnswer, tellsWhetherTheMixerIsReady)
     EXPECT_TRUE(static_cast<bool>(value["pos_ready"]));
 }
 
+TEST(MixerDriverStatusAnswer, isNotAvailableWithoutItsStatus)
+{
+    const MixerStatus status(filledMixerInfo(), true, false, false, false);
+    const Answer answer(&status, nullptr);
+    EXPECT_TRUE(answer.acceptPOScommands());
+    EXPECT_EQ(dumped(answer.toXmlRpcValue()),
+              "{\"disp_status\": 0, \"driver_status\": " + dumped(status.toXmlRpcValue()) +
+                  ", \"pos_available\": false, \"pos_ready\": false}");
+}
+
 TEST(MixerDriverStatusAnswer, isRefusedWithoutAMember)
 {
     for (const Value &value : {Value(), Value(0), structOf({{"disp_status", 0}})})
