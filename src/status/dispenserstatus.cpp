@@ -126,7 +126,7 @@ bool DispenserStatus::SIDchanged(const QList<DispenserStatus> &before, const QLi
 XmlRpc::XmlRpcValue DispenserStatus::toXmlRpcValue(int) const
 {
     XmlRpc::XmlRpcValue value = record().encode(*this);
-    value[dispenserInfo_TAG] = quv::writtenInfo(*this);
+    value[dispenserInfo_TAG] = quv::writtenInfo(dispenserInfo());
     return value;
 }
 

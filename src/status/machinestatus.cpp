@@ -10,7 +10,28 @@
 
 namespace {
 
-/** Of the device type; one that is a plain MachineStatus has nothing else under way. */
+DispenserInfo ownInfo(const DispenserStatus &, const MachineInfo &machine)
+{
+    return DispenserInfo(machine, 0, 0, false);
+}
+MixerInfo ownInfo(const MixerStatus &, const MachineInfo &machine)
+{
+    return MixerInfo(machine, 0);
+}
+
+const MachineInfo *infoOf(const DispenserStatus &status)
+{
+    return status.dispenserInfo();
+}
+const MachineInfo *infoOf(const MixerStatus &status)
+{
+    return status.mixerInfo();
+}
+
+/**
+ * Of the device type, each with an info of its kind, without which it would not travel. One that is a plain MachineStatus has
+ * nothing else under way.
+ */
 template <class Status>
 QList<Status> statusesOf(SerialDeviceType type, const QList<MachineStatus *> &statuses)
 {
@@ -23,6 +44,10 @@ QList<Status> statusesOf(SerialDeviceType type, const QList<MachineStatus *> &st
             copy = *whole;
         else
             static_cast<MachineStatus &>(copy) = *status;
+        if (!infoOf(copy)) {
+            const auto info = ownInfo(copy, *status->machineInfo());
+            copy.setMachineInfo(&info);
+        }
         found.append(copy);
     }
     return found;
@@ -44,9 +69,9 @@ bool standsForNone(const QVariant &variant)
     return !variant.isValid() || (decodeVariant(variant, number) && number == 0);
 }
 
-XmlRpc::XmlRpcValue writtenInfo(const MachineStatus &status)
+XmlRpc::XmlRpcValue writtenInfo(const MachineInfo *info)
 {
-    return status.machineInfo() ? status.machineInfo()->toXmlRpcValue() : XmlRpc::XmlRpcValue(0);
+    return info ? info->toXmlRpcValue() : XmlRpc::XmlRpcValue(0);
 }
 
 int SIDof(const MachineStatus *status)

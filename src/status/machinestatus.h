@@ -43,7 +43,7 @@ public:
     static bool SIDchanged(const QList<MachineStatus *> &before, const QList<MachineStatus *> &after);
     /** True for two null infos, and for two that MachineInfo::equalTo finds the same. */
     static bool compareMachineInfo(const MachineInfo *left, const MachineInfo *right, bool strict);
-    // Copies of those whose info is of that device type.
+    // Copies of those whose info is of that device type; a plain info becomes one of the kind, with zeros.
     static QList<DispenserStatus> filterDispenserStatus(const QList<MachineStatus *> &statuses);
     static QList<MixerStatus> filterMixerStatus(const QList<MachineStatus *> &statuses);
 

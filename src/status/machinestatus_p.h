@@ -15,8 +15,8 @@ namespace quv {
 bool standsForNone(const XmlRpc::XmlRpcValue &value);
 bool standsForNone(const QVariant &variant);
 
-/** The info of the status, or what stands for none. */
-XmlRpc::XmlRpcValue writtenInfo(const MachineStatus &status);
+/** The info, which is of the status's own kind of machine, or what stands for none. */
+XmlRpc::XmlRpcValue writtenInfo(const MachineInfo *info);
 
 /** The T that a member is, or none. Throws \a refusal when it is missing or cannot be made. */
 template <class T>

@@ -92,6 +92,6 @@ bool MixerStatus::SIDchanged(const QList<MixerStatus> &before, const QList<Mixer
 XmlRpc::XmlRpcValue MixerStatus::toXmlRpcValue(int) const
 {
     XmlRpc::XmlRpcValue value = record().encode(*this);
-    value[mixerInfo_TAG] = quv::writtenInfo(*this);
+    value[mixerInfo_TAG] = quv::writtenInfo(mixerInfo());
     return value;
 }

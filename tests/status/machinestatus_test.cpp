@@ -150,4 +150,44 @@ TEST(MachineStatus, sortsStatusesByTheKindOfDevice)
     EXPECT_EQ(MachineStatus::filterMixerStatus({&dispenser}), QList<MixerStatus>());
 }
 
+TEST(MachineStatus, isSortedWithTheInfoOfItsKind)
+{
+    MachineInfo info = filledMachineInfo();
+    MachineStatus plain(&info, true, false, false, false);
+    DispenserStatus dispenser = activeDispenser();
+    dispenser.setMachineInfo(&info);
+    const DispenserStatus expected(DispenserInfo(info, 0, 0, false), true, false, false, false, false, false,
+                                   false);
+    EXPECT_EQ(MachineStatus::filterDispenserStatus({&plain, &dispenser}),
+              (QList<DispenserStatus>{expected, expected}));
+    info.serialDeviceType = SerialDeviceType::Mixer;
+    plain.setMachineInfo(&info);
+    MixerStatus mixer(filledMixerInfo(), true, false, false, false);
+    mixer.setMachineInfo(&info);
+    const MixerStatus expectedMixer(MixerInfo(info, 0), true, false, false, false);
+    EXPECT_EQ(MachineStatus::filterMixerStatus({&plain, &mixer}),
+              (QList<MixerStatus>{expectedMixer, expectedMixer}));
+}
+
+TEST(MachineStatus, writesOnlyTheInfoOfItsKind)
+{
+    const MachineInfo plain = filledMachineInfo();
+    const DispenserInfo ofDispenser = filledDispenserInfo();
+    const MixerInfo ofMixer = filledMixerInfo();
+    DispenserStatus dispenser = activeDispenser();
+    MixerStatus mixer(ofMixer);
+    for (const MachineInfo *info : {&plain, static_cast<const MachineInfo *>(&ofMixer)}) {
+        dispenser.setMachineInfo(info);
+        Value value = dispenser.toXmlRpcValue();
+        EXPECT_EQ(dumped(value["dispenser_info"]), "0");
+        EXPECT_EQ(DispenserStatus(value).machineInfo(), nullptr);
+    }
+    for (const MachineInfo *info : {&plain, static_cast<const MachineInfo *>(&ofDispenser)}) {
+        mixer.setMachineInfo(info);
+        Value value = mixer.toXmlRpcValue();
+        EXPECT_EQ(dumped(value["mixer_info"]), "0");
+        EXPECT_EQ(MixerStatus(value).machineInfo(), nullptr);
+    }
+}
+
 } // namespace
