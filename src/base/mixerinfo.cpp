@@ -26,7 +26,10 @@ MixerInfo::MixerInfo()
     serialDeviceType = SerialDeviceType::Mixer;
 }
 
-MixerInfo::MixerInfo(const MachineInfo &machine, int mixerID) : MachineInfo(machine), mixer_id(mixerID) {}
+MixerInfo::MixerInfo(const MachineInfo &machine, int mixerID) : MachineInfo(machine), mixer_id(mixerID)
+{
+    serialDeviceType = SerialDeviceType::Mixer;
+}
 
 MixerInfo::MixerInfo(const FW_Mixer *mixer, QString connection) : MachineInfo(mixer, std::move(connection))
 {

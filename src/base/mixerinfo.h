@@ -11,7 +11,8 @@ class QUVPROTOCOL_EXPORT MixerInfo : public MachineInfo
 public:
     static constexpr char mixerID_TAG[] = "mixer_id";
 
-    MixerInfo(); ///< its device type is that of a mixer
+    // The device type is that of a mixer, whatever that of the machine.
+    MixerInfo();
     MixerInfo(const MachineInfo &machine, int mixerID);
     MixerInfo(const FW_Mixer *mixer, QString connection); ///< as a MachineInfo is made
     /** Throws what MachineInfo throws, then DE03200 without mixer_id. */

@@ -35,9 +35,7 @@ inline DispenserInfo filledDispenserInfo()
 
 inline MixerInfo filledMixerInfo()
 {
-    MachineInfo machine = filledMachineInfo();
-    machine.serialDeviceType = SerialDeviceType::Mixer;
-    return {machine, 5};
+    return {filledMachineInfo(), 5};
 }
 
 inline Value machineInfoStruct()

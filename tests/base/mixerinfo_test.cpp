@@ -47,7 +47,7 @@ TEST(MixerInfo, comparesTheMachineAndItsID)
 {
     const MixerInfo info = filledMixerInfo();
     EXPECT_TRUE(info == filledMixerInfo());
-    for (const MixerInfo &other : {MixerInfo(info, 6), MixerInfo(filledMachineInfo(), 5)}) {
+    for (const MixerInfo &other : {MixerInfo(info, 6), MixerInfo(MachineInfo(), 5)}) {
         EXPECT_TRUE(info != other);
         EXPECT_FALSE(info.equalTo(other, false));
     }
@@ -57,6 +57,13 @@ TEST(MixerInfo, comparesTheMachineAndItsID)
         EXPECT_TRUE(info != other);
         EXPECT_TRUE(info.equalTo(other, false));
     }
+}
+
+TEST(MixerInfo, makesAMixerOfAnyMachine)
+{
+    const MixerInfo info(filledMachineInfo(), 5); // which is a dispenser's
+    EXPECT_EQ(info.serialDeviceType, SerialDeviceType::Mixer);
+    EXPECT_EQ(dumped(info.toXmlRpcValue()), mixerInfoDump);
 }
 
 TEST(MixerInfo, isMadeOfAMixer)
