@@ -209,8 +209,8 @@ void MachineInfo::updateMachineConfiguration(FW_Machine *machine) const
 {
     if (!machine)
         return;
-    if (SID != numberOf(machine->SID())) // else its zeros stay
-        machine->setSID(SID < 0 ? QString() : QString::number(SID));
+    if (SID >= 0 && SID != numberOf(machine->SID())) // else its zeros stay, or what is no number
+        machine->setSID(QString::number(SID));
     machine->setConnectionName(isBluetoothConnection() ? btConnectionAddress : serialConnectionName);
     machine->setSerialNumber(serialNumber);
     machine->setDescription(description);

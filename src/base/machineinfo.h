@@ -41,7 +41,7 @@ public:
                 QString key, SerialDeviceType device);
     /**
      * An enabled machine; the \a connection is of this type, by the name that FW_SerialPort::macroConnToString has for it. The SID
-     * is -1 when that of the machine is no number. Of null nothing.
+     * is -1 when that of the machine is no number. The machine does not tell its key code, which the driver sets. Of null nothing.
      */
     MachineInfo(const FW_Machine *machine, QString connection);
     /**
@@ -69,7 +69,7 @@ public:
     bool operator!=(const MachineInfo &other) const { return !(*this == other); }
 
     // Both leave alone what a derived class adds.
-    void clearMI();
+    void clearMI(); ///< its device type becomes that of a dispenser, 1, also when it is a mixer's
     void copy_MI(const MachineInfo &other);
 
     bool isSerialConnection() const;
@@ -84,7 +84,10 @@ public:
     /** The kind of connection and its names; those of the other kind stay. */
     void setConnectionData(const FW_SerialPort &port);
 
-    /** Writes SID, name of the connection, serial number and texts into the machine, if there is one. */
+    /**
+     * Writes SID, name of the connection, serial number and texts into the machine, if there is one. The machine keeps its SID
+     * when that here is not known, -1.
+     */
     void updateMachineConfiguration(FW_Machine *machine) const;
     /** Writes the members of this class into a struct. */
     void udpateXmlRpcValue(XmlRpc::XmlRpcValue &value) const;

@@ -289,10 +289,18 @@ TEST(MachineInfo, configuresTheSystemIDAndTheConnection)
     EXPECT_EQ(mixer.SID(), "7");
     EXPECT_EQ(mixer.connectionName(), "00:11:22:33:44:55");
     info = connectedBy("FTDI");
-    info.SID = -1;
+    info.SID = -1; // not known
     info.updateMachineConfiguration(&mixer);
-    EXPECT_EQ(mixer.SID(), "");
+    EXPECT_EQ(mixer.SID(), "7");
     EXPECT_EQ(mixer.connectionName(), "ttyUSB0");
+}
+
+TEST(MachineInfo, leavesASystemIDThatIsNoNumber)
+{
+    FW_Mixer mixer;
+    mixer.setSID("A7");
+    MachineInfo(&mixer, "SERIAL").updateMachineConfiguration(&mixer);
+    EXPECT_EQ(mixer.SID(), "A7");
 }
 
 TEST(MachineInfo, travelsInAVariant)
