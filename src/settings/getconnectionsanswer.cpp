@@ -129,10 +129,14 @@ GetConnectionsAnswer::GetConnectionsAnswer(const XmlRpc::XmlRpcValue &value)
 GetConnectionsAnswer::GetConnectionsAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
     for (const QVariant &element : qAsConst(list)) {
-        const Info info = quv::madeOrRefused(notMade, Q_FUNC_INFO, [&] { return infoOf(element); });
-        if (!info)
+        const bool isInfo = quv::madeOrRefused(notMade, Q_FUNC_INFO, [&] {
+            const Info info = infoOf(element);
+            if (info)
+                m_connections.append(info);
+            return !info.isNull();
+        });
+        if (!isInfo)
             quv::throwRefusal(otherElement, Q_FUNC_INFO);
-        m_connections.append(info);
     }
 }
 
@@ -146,6 +150,8 @@ GetConnectionsAnswer::getFilteredConnectionsList(FW_SerialPort::SerialPortConnTy
 {
     const QString name = FW_SerialPort::macroConnToString(type);
     Infos found;
+    if (name.isEmpty()) // there is no such type, but connections of a type that nobody knows
+        return found;
     std::copy_if(m_connections.begin(), m_connections.end(), std::back_inserter(found),
                  [&](const Info &info) { return info->connectionType == name; });
     return found;

@@ -40,7 +40,7 @@ public:
     GetConnectionsAnswer *clone() const override;
 
     const QList<QSharedPointer<MachineInfo>> &connectionsList() const { return m_connections; }
-    /** Those of one type of connection. */
+    /** Those of one type of connection; none when there is no such type. */
     QList<QSharedPointer<MachineInfo>>
     getFilteredConnectionsList(FW_SerialPort::SerialPortConnType type) const;
 

@@ -99,10 +99,15 @@ TEST(GetConnectionsAnswer, passesOnWhatAnInfoRefuses)
 TEST(GetConnectionsAnswer, refusesAnInfoThatCannotBeMade)
 {
     const Value value = answerOf(arrayOf(machineInfoStruct()));
-    List list = {QVariant::fromValue(filledMachineInfo())};
     const Answer ready(value);
-    const Answer alsoReady(list);
     expectRefusal("DE01884", notMade, ofValue, [&] { outOfMemoryOnce([&] { Answer{value}; }); });
+    for (const QVariant &element :
+         {QVariant::fromValue(filledMachineInfo()), QVariant::fromValue(filledDispenserInfo()),
+          QVariant::fromValue(filledMixerInfo()), QVariant::fromValue(shared(filledMachineInfo()))}) {
+        List list = {element};
+        const Answer alsoReady(list);
+        expectRefusal("DE01884", notMade, ofList, [&] { outOfMemoryOnce([&] { Answer{list}; }); });
+    }
 }
 
 TEST(GetConnectionsAnswer, isMadeOfAList)
@@ -143,6 +148,7 @@ TEST(GetConnectionsAnswer, filtersByTheTypeOfTheConnection)
     EXPECT_EQ(answer.getFilteredConnectionsList(FW_SerialPort::BluetoothConnection),
               (Infos{bluetooth, otherBluetooth}));
     EXPECT_EQ(answer.getFilteredConnectionsList(FW_SerialPort::FtdiConnection), Infos());
+    EXPECT_EQ(answer.getFilteredConnectionsList(static_cast<FW_SerialPort::SerialPortConnType>(3)), Infos());
 }
 
 TEST(GetConnectionsAnswer, leavesOutConnectionsThatAreNull)
