@@ -141,6 +141,12 @@ Priming2Cmd  XML-RPC value  circuits is missing or of another type  Priming2Cmd:
                 ("DE01711", "GetDispensedFormulaAnswer", "XML-RPC value", "dispensed_formula is missing")]:
             self.assertEqual([refusal[1:5] for refusal in self.refusals(code)], [(owner, form, when, [f"{owner}::{owner}"])])
 
+    def test_members_that_are_also_refused_by_hand(self):
+        self.assertEqual([refusal[1:4] for refusal in self.refusals("DE01884")], [
+            ("GetConnectionsAnswer", "XML-RPC value", "connection_data_list has an element that cannot be made"),
+            ("GetConnectionsAnswer", "list", "")])
+        self.assertIn(("StopCmd", "typed", ""), [refusal[1:4] for refusal in self.refusals("DE01332")])
+
     def test_show_says_the_same(self):
         alike = 0
         for code, form, when in sorted(shown_refusals()):

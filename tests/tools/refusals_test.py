@@ -546,6 +546,32 @@ class Described(Collected):
              ("DE00009", "list", "masks", "missing or another type", made),
              ("DE00010", "XML-RPC value", "pins", "an element that cannot be made", made)])
 
+    def test_member_that_is_also_refused_by_hand(self):
+        self.assertEqual(self.places('''
+            constexpr quv::Refusal notMade = {"DE00001", "not made"};
+            struct FooAnswer::Description
+            {
+                static std::vector<quv::Member<FooAnswer>> members()
+                {
+                    return {quv::Member<FooAnswer>("pins", &FooAnswer::m_pins).unmadeElement(notMade)};
+                }
+            };
+            FooAnswer::FooAnswer(const XmlRpc::XmlRpcValue &value) { madeOrRefused(notMade, [&] { read(value); }); }
+            FooAnswer::FooAnswer(QList<QVariant> &list) { madeOrRefused(notMade, [&] { read(list); }); }
+            ''', base=REFUSAL + '''
+            template <class Make> auto madeOrRefused(const Refusal &refusal, Make make)
+            {
+                throw FW_Exception(refusal.code, refusal.text, Q_FUNC_INFO);
+            }
+            template <class T> class Member
+            {
+            public:
+                template <class C, class V> Member(const char *key, V C::*field, const Refusal &refusal = {}) { go(); }
+                Member &unmadeElement(const Refusal &refusal) { return *this; }
+            };
+            '''), [("DE00001", "XML-RPC value", "pins", "an element that cannot be made", ("FooAnswer::FooAnswer",)),
+                   ("DE00001", "list", "", "", ("FooAnswer::FooAnswer",))])
+
     def test_answer_that_a_class_makes_in_part_by_itself(self):
         self.assertEqual(self.places('''
             struct FooCmd::Description : quv::Description

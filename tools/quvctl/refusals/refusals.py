@@ -121,14 +121,22 @@ class Collector:
     def refusals_of(self, literal):
         found = unique(self.raised(literal, Scope(), ()))
         path = literal.root().path
-        places = self.descriptions.places(literal)
-        if places:
-            return [Refusal(literal.value, raised.text, raised.names, one.refuser, one.form, one.when, (one.function,), path,
-                            one.subject) for raised in found for one in places]
-        return [Refusal(literal.value, raised.text, raised.names, refuser,
-                        raised.form or form or raised.form_of_path, raised.when, (function,), path,
-                        THE_ANSWER if ANSWER in raised.steps() else "")
-                for raised in found for refuser, function, form in self.users(raised.use or literal, raised)]
+        described = [Refusal(literal.value, raised.text, raised.names, one.refuser, one.form, one.when, (one.function,), path,
+                             one.subject) for one in self.descriptions.places(literal) for raised in found]
+        told = {one.form for one in described}
+        places = self.uses_by_hand(literal) if described else [literal]
+        by_functions = [Refusal(literal.value, raised.text, raised.names, refuser,
+                                raised.form or form or raised.form_of_path, raised.when, (function,), path,
+                                THE_ANSWER if ANSWER in raised.steps() else "")
+                        for raised in found for place in places
+                        for refuser, function, form in self.users(raised.use or place, raised)]
+        return described + [one for one in by_functions if one.form not in told]
+
+    def uses_by_hand(self, literal):
+        """Where the variable that a code belongs to is used in functions that describe nothing, maybe in a form more."""
+        name = None if function_of(literal) else declared_name(literal)
+        return [use for use in uses_of(self.sources, name)
+                if (function := function_of(use)) and not is_described(function.outermost.owners)]
 
     # The text
 
