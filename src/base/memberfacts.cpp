@@ -25,6 +25,16 @@ void appendOwnRefusals(QList<RefusalFacts> &refusals, const FieldType &type)
     }
 }
 
+/** A type without a reader of variants is that of a list which the answer reads by its elements. */
+void appendInList(QList<RefusalFacts> &refusals, const MemberRow &row)
+{
+    const bool byElements = row.type && !row.type->readVariant && isGiven(row.inList);
+    if (byElements && !isSame(row.element, row.otherType))
+        appendRefusal(refusals, "list", row.elementWhen, row.element);
+    appendRefusal(refusals, "list", byElements ? "an element of another type" : "missing or another type",
+                  row.inList);
+}
+
 MemberFacts factsOf(const MemberRow &row)
 {
     MemberFacts member;
@@ -45,7 +55,7 @@ MemberFacts factsOf(const MemberRow &row)
         appendOwnRefusals(member.refusals, *row.type);
     if (!isSame(row.element, row.otherType))
         appendRefusal(member.refusals, "XML-RPC", row.elementWhen, row.element);
-    appendRefusal(member.refusals, "list", "missing or another type", row.inList);
+    appendInList(member.refusals, row);
     for (RefusalFacts &refusal : member.refusals)
         refusal.text.replace(QLatin1String("%1"), member.key);
     return member;

@@ -10,17 +10,29 @@
 
 namespace quv {
 
+namespace {
+
+template <class Status>
+constexpr FieldType statusListType()
+{
+    FieldType type = objectListType<Status>();
+    type.readVariant = nullptr; // a list is read by its elements
+    return type;
+}
+
+} // namespace
+
 template <>
 const FieldType &fieldType<QList<DispenserStatus>>()
 {
-    static constexpr FieldType type = objectListType<DispenserStatus>();
+    static constexpr FieldType type = statusListType<DispenserStatus>();
     return type;
 }
 
 template <>
 const FieldType &fieldType<QList<MixerStatus>>()
 {
-    static constexpr FieldType type = objectListType<MixerStatus>();
+    static constexpr FieldType type = statusListType<MixerStatus>();
     return type;
 }
 
@@ -111,7 +123,8 @@ struct GetActiveDispAnswer::Description
 
     static std::vector<quv::Member<Answer>> members()
     {
-        return {quv::Member<Answer>(dispList_TAG, &Answer::m_dispensers, noDispensers, otherElement)
+        return {quv::Member<Answer>(dispList_TAG, &Answer::m_dispensers, {}, otherElement)
+                    .otherType(noDispensers)
                     .meaning("of each dispenser what the driver has under way, and which it is"),
                 quv::Member<Answer>(mixerList_TAG, &Answer::m_mixers)
                     .otherType(noMixers)
@@ -140,8 +153,11 @@ GetActiveDispAnswer::GetActiveDispAnswer(const XmlRpc::XmlRpcValue &value)
 GetActiveDispAnswer::GetActiveDispAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
     for (const QVariant &element : qAsConst(list)) {
-        if (!appendStatus<ActiveDispAnswerParams>(element, m_dispensers) &&
-            !appendStatus<ActiveMixerAnswerParams>(element, m_mixers))
+        const bool isMachine = quv::madeOrRefused(otherElement, Q_FUNC_INFO, [&] {
+            return appendStatus<ActiveDispAnswerParams>(element, m_dispensers) ||
+                   appendStatus<ActiveMixerAnswerParams>(element, m_mixers);
+        });
+        if (!isMachine)
             quv::throwRefusal(otherElement, Q_FUNC_INFO);
     }
 }

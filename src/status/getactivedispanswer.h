@@ -28,13 +28,13 @@ public:
     explicit GetActiveDispAnswer(const QList<DispenserStatus> &dispensers,
                                  const QList<MixerStatus> &mixers = {});
     /**
-     * Throws DE03209 without disp_list (an array), DE03210 for a mixer_list that is no array, and what DispenserStatus and
-     * MixerStatus throw of an element. mixer_list may be missing.
+     * Throws DE03209 for a disp_list and DE03210 for a mixer_list that is no array, and what DispenserStatus and MixerStatus throw
+     * of an element. Both may be missing.
      */
     explicit GetActiveDispAnswer(const XmlRpc::XmlRpcValue &value);
     /**
      * Each element an ActiveDispAnswerParams or ActiveMixerAnswerParams, or a DispenserStatus or MixerStatus. Throws DE03211 for
-     * another type, and what they throw of a bad map.
+     * another type or one that cannot be made, and what they throw of a bad map.
      */
     explicit GetActiveDispAnswer(QList<QVariant> &list);
 

@@ -113,4 +113,16 @@ TEST(GetConnectionsCmd, tellsItsArgument)
     EXPECT_EQ(lines.at(3), "  list, conn_type is of another type: DE03221");
 }
 
+TEST(GetConnectionsCmd, tellsTheElementsOfAListInItsAnswer)
+{
+    const quv::CommandFacts facts = quv::commandFacts("GET_CONNECTIONS");
+    ASSERT_EQ(facts.members.size(), 1);
+    testing_base::Lines lines;
+    appendRefusals(lines, facts.members.at(0).refusals);
+    ASSERT_EQ(lines.size(), 10U);
+    EXPECT_EQ(lines.at(7), "  XML-RPC, an element that cannot be made: DE01884");
+    EXPECT_EQ(lines.at(8), "  list, an element that cannot be made: DE01884");
+    EXPECT_EQ(lines.at(9), "  list, an element of another type: DE00937");
+}
+
 } // namespace

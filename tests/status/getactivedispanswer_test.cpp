@@ -2,6 +2,7 @@
 #include "status/getactivedispanswer.h"
 
 #include "base/confprotocommand.h"
+#include "base/factlines.h"
 #include "base/outofmemory.h"
 #include "status/activedispanswerparams.h"
 #include "status/activemixeranswerparams.h"
@@ -48,17 +49,17 @@ TEST(GetActiveDispAnswer, travelsAsTwoArrays)
               filled());
     EXPECT_EQ(Answer(structOf({{"disp_list", arrayOf(dispenserStatusStruct())}})),
               Answer({filledDispenserStatus()}));
+    EXPECT_EQ(Answer(structOf({{"mixer_list", arrayOf(mixerStatusStruct())}})),
+              Answer({}, {filledMixerStatus()}));
     EXPECT_EQ(dumped(Answer().toXmlRpcValue()), R"({"disp_list": [], "mixer_list": []})");
     EXPECT_EQ(Answer(Answer().toXmlRpcValue()), Answer());
     EXPECT_EQ(Answer(filled().toXmlRpcValue()).protoType(), 2);
 }
 
-TEST(GetActiveDispAnswer, isRefusedWithoutItsArrays)
+TEST(GetActiveDispAnswer, refusesWhatIsNoArray)
 {
-    for (const Value &value :
-         {Value(), Value(0), arrayOf(), structOf({}), structOf({{"disp_list", 0}}),
-          structOf({{"mixer_list", arrayOf()}}), structOf({{"disp_list", dispenserStatusStruct()}})})
-        expectRefusal("DE03209", noDispensers, ofValue, [&] { Answer{value}; });
+    for (const Value &bad : {Value(0), structOf({}), dispenserStatusStruct()})
+        expectRefusal("DE03209", noDispensers, ofValue, [&] { Answer{structOf({{"disp_list", bad}})}; });
     for (const Value &bad : {Value(0), structOf({}), Value("x")})
         expectRefusal("DE03210", noMixers, ofValue, [&] {
             Answer{structOf({{"disp_list", arrayOf()}, {"mixer_list", bad}})};
@@ -128,6 +129,18 @@ TEST(GetActiveDispAnswer, refusesAListOfOtherThings)
                   "MixerStatus::MixerStatus(const XmlRpc::XmlRpcValue&, int)", [&] { Answer{list}; });
 }
 
+TEST(GetActiveDispAnswer, refusesAListOfWhichAMachineCannotBeMade)
+{
+    const QVariant elements[] = {
+        QVariant::fromValue(filledDispenserStatus()), QVariant::fromValue(filledMixerStatus()),
+        QVariant::fromValue(ActiveDispAnswerParams()), QVariant::fromValue(ActiveMixerAnswerParams())};
+    for (const QVariant &element : elements) {
+        List list = {element};
+        const Answer ready(list);
+        expectRefusal("DE03211", otherElement, ofList, [&] { outOfMemoryOnce([&] { Answer{list}; }); });
+    }
+}
+
 TEST(GetActiveDispAnswer, isMadeOfTheStatusesOfAllMachines)
 {
     DispenserStatus ofDispenser = filledDispenserStatus();
@@ -135,6 +148,21 @@ TEST(GetActiveDispAnswer, isMadeOfTheStatusesOfAllMachines)
     MachineStatus unknown;
     EXPECT_EQ(Answer(QList<MachineStatus *>{&ofMixer, &unknown, nullptr, &ofDispenser}), filled());
     EXPECT_EQ(Answer(QList<MachineStatus *>()), Answer());
+}
+
+TEST(GetActiveDispAnswer, canBeReadWhateverInfosItsStatusesHave)
+{
+    const MachineInfo info = filledMachineInfo();
+    MachineStatus plain(&info);
+    const Answer kept(QList<MachineStatus *>{&plain});
+    EXPECT_EQ(kept.getDispenserIDs(), IDs{0});
+    EXPECT_EQ(Answer(kept.toXmlRpcValue()), kept);
+    DispenserStatus ofOther = activeDispenser();
+    ofOther.setMachineInfo(&info);
+    const Answer read(Answer(QList<DispenserStatus>{ofOther}).toXmlRpcValue());
+    ASSERT_EQ(read.dispensers().size(), 1);
+    EXPECT_TRUE(read.dispensers().at(0).active);
+    EXPECT_EQ(read.dispensers().at(0).machineInfo(), nullptr);
 }
 
 TEST(GetActiveDispAnswer, tellsIDs)
@@ -197,13 +225,25 @@ TEST(GetActiveDispAnswer, comparesBothLists)
     EXPECT_EQ(cleared, Answer());
 }
 
+TEST(GetActiveDispAnswer, tellsItsMembers)
+{
+    const quv::CommandFacts facts = quv::commandFacts("GET_ACTIVE_DISP");
+    ASSERT_EQ(facts.members.size(), 2);
+    EXPECT_FALSE(facts.members.at(0).required || facts.members.at(1).required);
+    testing_base::Lines lines;
+    appendRefusals(lines, facts.members.at(0).refusals);
+    ASSERT_EQ(lines.size(), 6U);
+    EXPECT_EQ(lines.at(0), "  XML-RPC, another type: DE03209");
+    EXPECT_EQ(lines.at(5), "  list, an element of another type: DE03211");
+}
+
 TEST(GetActiveDispAnswer, isTheAnswerToItsCommand)
 {
     ConfProtoCommand command("GET_ACTIVE_DISP", nullptr);
     ASSERT_TRUE(command.buildProtoAnswer(filled().toXmlRpcValue(), nullptr));
     EXPECT_TRUE(filled().equalTo(command.getProtoAnswer()));
     FW_DriverError error;
-    EXPECT_FALSE(command.buildProtoAnswer(Value(0), &error));
+    EXPECT_FALSE(command.buildProtoAnswer(structOf({{"disp_list", 0}}), &error));
     expectError(error, "DE03209", noDispensers);
 }
 

@@ -133,6 +133,7 @@ Priming2Cmd  XML-RPC value  circuits is missing or of another type  Priming2Cmd:
     def test_members_of_a_described_answer(self):
         for code, owner, form, when in [
                 ("DE01178", "GetCmdEstimatedExecTimeAnswer", "list", "exec_time is missing or of another type"),
+                ("DE00937", "GetConnectionsAnswer", "list", "connection_data_list has an element of another type"),
                 ("DE00459", "CheckFormulaLevelsAnswer", "XML-RPC value",
                  "canisters_below_critical has an element of another type"),
                 ("DE00460", "CheckFormulaLevelsAnswer", "XML-RPC value",

@@ -572,6 +572,28 @@ class Described(Collected):
             '''), [("DE00001", "XML-RPC value", "pins", "an element that cannot be made", ("FooAnswer::FooAnswer",)),
                    ("DE00001", "list", "", "", ("FooAnswer::FooAnswer",))])
 
+    def test_elements_of_a_list(self):
+        member = '''
+            template <class T> class Member
+            {
+            public:
+                template <class C, class V>
+                Member(const char *key, V C::*field, const Refusal &refusal = {}, const Refusal &inList = {}) { go(); }
+            };
+            '''
+        for body, when in [("for (const QVariant &element : list) append(element);", "an element of another type"),
+                           ("read(list, Q_FUNC_INFO);", "missing or another type")]:
+            self.assertEqual(self.places('''
+                struct FooAnswer::Description
+                {
+                    static std::vector<quv::Member<FooAnswer>> members()
+                    {
+                        return {quv::Member<FooAnswer>("pins", &FooAnswer::m_pins, {}, {"DE00001", "no pin"})};
+                    }
+                };
+                FooAnswer::FooAnswer(QList<QVariant> &list) { %s }
+                ''' % body, base=REFUSAL + member), [("DE00001", "list", "pins", when, ("FooAnswer::FooAnswer",))])
+
     def test_answer_that_a_class_makes_in_part_by_itself(self):
         self.assertEqual(self.places('''
             struct FooCmd::Description : quv::Description

@@ -5,7 +5,7 @@ from dataclasses import dataclass
 from itertools import islice
 
 from cpptokens import elements, is_group, is_name, is_sign
-from forms import ENVELOPE, LIST, VALUE
+from forms import ENVELOPE, LIST, VALUE, form_of
 from places import declared_before, handed_to, list_around, uses_of
 from sources import callee_of, function_of
 from texts import DEEPEST, Scope
@@ -81,11 +81,19 @@ class Descriptions:
                 not any(one.owners[-1:] == (MEMBER,) for one in handed_to(self.sources, group)):
             return None
         when = "missing or another type"
-        if parameter == "refusal" and operation == MAY_BE_MISSING:
+        if parameter == "inList" and self.is_list_of_elements(function_of(group).owners[:-1]):
+            when = MEMBER_WORDS["element"]
+        elif parameter == "refusal" and operation == MAY_BE_MISSING:
             when = "another type"
         elif parameter == "refusal" and {"otherType", "unmade"} & set(operations_on(group)):
             when = "missing"
         return self.raised_by_constructors(group, LIST if parameter == "inList" else VALUE, self.name_in(group), when)
+
+    def is_list_of_elements(self, owners):
+        """Whether a class goes through the list by itself, and does not read it member by member."""
+        made_of_lists = [one for one in self.sources.functions.get(owners[-1], [])
+                         if one.owners == owners and one.body and form_of(one) == LIST]
+        return bool(made_of_lists) and not any(is_name(node, "read") for one in made_of_lists for node in one.holds())
 
     def parameter_of(self, group, index, name):
         """The name of what stands in a place of a list, in the description's function of that name; None anywhere else."""
