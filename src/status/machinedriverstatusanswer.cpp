@@ -3,6 +3,9 @@
 
 #include "base/cloned_p.h"
 #include "base/protoanswer.h"
+#include "status/machinedriverstatusanswer_p.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -26,7 +29,31 @@ bool areSame(const T *left, const T *right)
     return left && right ? isSame(*left, *right) : left == right;
 }
 
+QString withoutName(QString text, const QString &name)
+{
+    return text.replace(name, QStringLiteral("…"));
+}
+
 } // namespace
+
+void quv::appendRefusalsOf(const QList<MemberFacts> &parts, MemberFacts &member)
+{
+    QList<QPair<RefusalFacts, QString>> told; // each with its text for any part
+    for (const MemberFacts &part : parts) {
+        for (const RefusalFacts &refusal : part.refusals) {
+            const QString text = withoutName(refusal.text, part.key);
+            const auto known = std::find_if(told.begin(), told.end(), [&](const auto &one) {
+                return one.first.code == refusal.code && one.second == text;
+            });
+            if (known == told.end())
+                told.append({{refusal.form, "without a good " + part.key, refusal.code, refusal.text}, text});
+            else
+                known->first = {refusal.form, "without a good member", refusal.code, text};
+        }
+    }
+    for (const auto &one : told)
+        member.refusals.append(one.first);
+}
 
 MachineDriverStatusAnswer::MachineDriverStatusAnswer() = default;
 

@@ -52,6 +52,9 @@ XmlRpc::XmlRpcValue writtenDriverStatus(const MachineDriverStatusAnswer &source)
     return value;
 }
 
+/** What refuses the object that a member is, by its own members; those with one text but for their names are one. */
+void appendRefusalsOf(const QList<MemberFacts> &parts, MemberFacts &member);
+
 template <class Status, class Answer>
 QList<MemberFacts> driverStatusFacts(const Refusal &noStatus, const Refusal &noAnswer,
                                      const Refusal &noAnswerInList)
@@ -74,7 +77,9 @@ QList<MemberFacts> driverStatusFacts(const Refusal &noStatus, const Refusal &noA
     rows[2].meaning = "active, with a last status, and the driver has nothing else under way on it";
     rows[3].key = Answers::posReady_TAG;
     rows[3].meaning = "the same, and the machine is at rest and takes commands";
-    return factsOf(rows);
+    QList<MemberFacts> facts = factsOf(rows);
+    appendRefusalsOf(Answer::memberFacts(), facts[1]);
+    return facts;
 }
 
 } // namespace quv

@@ -211,13 +211,17 @@ TEST(DispenserDriverStatusAnswer, tellsItsMembers)
     testing_base::Lines lines;
     appendRefusals(lines, facts.members.at(0).refusals);
     appendRefusals(lines, facts.members.at(1).refusals);
-    EXPECT_EQ(lines,
-              (testing_base::Lines{"  XML-RPC, missing: DE00735", "  XML-RPC, without a good active: DE00724",
-                                   "  XML-RPC, without a good conf_mng: DE00723",
-                                   "  XML-RPC, without a good fw_update: DE00725",
-                                   "  XML-RPC, without dispenser_info: DE00761",
-                                   "  list, missing or another type: DE00735", "  XML-RPC, missing: DE00736",
-                                   "  list, missing or another type: DE00737"}));
+    EXPECT_EQ(
+        lines,
+        (testing_base::Lines{
+            "  XML-RPC, missing: DE00735", "  XML-RPC, without a good active: DE00724",
+            "  XML-RPC, without a good conf_mng: DE00723", "  XML-RPC, without a good fw_update: DE00725",
+            "  XML-RPC, without dispenser_info: DE00761", "  list, missing or another type: DE00735",
+            "  XML-RPC, missing: DE00736", "  list, missing or another type: DE00737",
+            "  XML-RPC, without a good disp_status: DE00443", "  XML-RPC, without a good member: DE00026",
+            "  XML-RPC, without a good member: DE00026"}));
+    EXPECT_EQ(facts.members.at(1).refusals.at(3).text, "MachineStatusAnswer: expected … value");
+    EXPECT_EQ(facts.members.at(1).refusals.at(4).text, "DispenserStatusAnswer: expected … value");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "status/mixerdriverstatusanswer.h"
 
 #include "base/confprotocommand.h"
+#include "base/factlines.h"
 #include "status/driverstatustesting.h"
 #include "status/mixertesting.h"
 
@@ -112,6 +113,21 @@ TEST(MixerDriverStatusAnswer, comparesAndClonesBoth)
     other.setActiveMachine(true);
     EXPECT_FALSE(answer.equalTo(&other));
     EXPECT_FALSE(answer.equalTo(nullptr));
+}
+
+TEST(MixerDriverStatusAnswer, tellsWhatRefusesTheStatus)
+{
+    const quv::CommandFacts facts = quv::commandFacts("GET_MIXER_STATUS");
+    ASSERT_EQ(facts.members.size(), 4);
+    testing_base::Lines lines;
+    appendRefusals(lines, facts.members.at(1).refusals);
+    EXPECT_EQ(lines,
+              (testing_base::Lines{"  XML-RPC, missing: DE03207", "  list, missing or another type: DE03208",
+                                   "  XML-RPC, without a good disp_status: DE00443",
+                                   "  XML-RPC, without a good member: DE00026",
+                                   "  XML-RPC, without a good can_present: DE00026",
+                                   "  XML-RPC, without a good member: DE00026",
+                                   "  XML-RPC, without a good member: DE02667"}));
 }
 
 TEST(MixerDriverStatusAnswer, isTheAnswerToItsCommand)
