@@ -41,7 +41,7 @@ public:
     int speed(double quantity, bool *ok = nullptr) const;         ///< above 0
     int nozzleValveID(double quantity, bool *ok = nullptr) const; ///< 0 for none
 
-    // The least and the greatest of the points' speeds, usable or not; 0 without points.
+    // The least and the greatest of the points' speeds, usable or not; 0 when no point has one.
     int minSpeed() const;
     int maxSpeed() const;
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -40,9 +41,16 @@ double interpolated(const Points &points, double x, From from, To to)
 constexpr auto stepsOf = [](const FW_CalibrationPoint &point) { return double(point.steps); };
 constexpr auto quantityOf = [](const FW_CalibrationPoint &point) { return point.quantity; };
 
-bool isSlower(const FW_CalibrationPoint &left, const FW_CalibrationPoint &right)
+/** The speed that goes before all others; 0 when no point has one. */
+template <class Order>
+int firstSpeed(const Points &points, Order comesFirst)
 {
-    return left.speed < right.speed;
+    int first = 0;
+    for (const FW_CalibrationPoint &point : points) {
+        if (point.speed > 0 && (first == 0 || comesFirst(point.speed, first)))
+            first = point.speed;
+    }
+    return first;
 }
 
 template <class T>
@@ -107,12 +115,12 @@ int FW_Calibration::nozzleValveID(double quantity, bool *ok) const
 
 int FW_Calibration::minSpeed() const
 {
-    return m_points.isEmpty() ? 0 : std::min_element(m_points.cbegin(), m_points.cend(), isSlower)->speed;
+    return firstSpeed(m_points, std::less<>());
 }
 
 int FW_Calibration::maxSpeed() const
 {
-    return m_points.isEmpty() ? 0 : std::max_element(m_points.cbegin(), m_points.cend(), isSlower)->speed;
+    return firstSpeed(m_points, std::greater<>());
 }
 
 const FW_CalibrationPoint &FW_Calibration::pointReaching(double quantity) const

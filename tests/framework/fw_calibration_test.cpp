@@ -118,6 +118,16 @@ TEST(FW_Calibration, knowsItsSlowestAndItsFastestPoint)
     EXPECT_EQ(FW_Calibration().maxSpeed(), 0);
 }
 
+TEST(FW_Calibration, pointsWithoutSpeedAreNeitherSlowNorFast)
+{
+    const FW_Calibration partly({{100, 1, 0, 0}, {900, 10, 60, 0}, {1800, 20, -5, 0}, {8100, 100, 40, 0}});
+    EXPECT_EQ(partly.minSpeed(), 40);
+    EXPECT_EQ(partly.maxSpeed(), 60);
+    const FW_Calibration none({{100, 1, -5, 0}, {900, 10, -1, 0}});
+    EXPECT_EQ(none.minSpeed(), 0);
+    EXPECT_EQ(none.maxSpeed(), 0);
+}
+
 TEST(FW_Calibration, whatCannotBeCountedIsNotOk)
 {
     for (const double quantity :

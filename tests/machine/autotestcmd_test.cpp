@@ -419,6 +419,17 @@ TEST(AutotestSeries, ofARotanPoursAStrokeAtSpeedsOfItsCalibrations)
     EXPECT_GT(speeds.size(), 30U);
 }
 
+TEST(AutotestSeries, ofARotanTakesNoSpeedOfAPointThatHasNone)
+{
+    FW_Dispenser machine = rotatingMachine(6);
+    for (const int position : {1, 2, 4})
+        machine.getCircuitByPosition(position)->setCalibration(
+            FW_Calibration({{100, 1, 0, 0}, {900, 10, 40, 0}}));
+    std::set<std::size_t> counts;
+    for (const Pour &pour : allPours(Series(AutotestCmd(50), machine), counts))
+        EXPECT_EQ(pour.speed, 40);
+}
+
 TEST(AutotestSeries, ofARotanLeavesOutWhatItHasNot)
 {
     FW_Dispenser machine = rotatingMachine(6);
