@@ -183,7 +183,8 @@ void SeriesBuilder::addPourOfRandomQuantities()
         const double quantity = getRandomNumber(points.constFirst().quantity, points.constLast().quantity);
         long long steps = 0;
         int speed = 0;
-        circuit.getStepsAndSpeed(quantity, steps, speed);
+        if (!circuit.getStepsAndSpeed(quantity, steps, speed))
+            continue; // no speed of its own would be the greatest of the motor
         formula.addItem(FW_PositionIngredient(circuit.positionId(), steps,
                                               std::min(speed, circuit.maxSpeed()), nozzleValveOf(circuit))
                             .formulaItem());

@@ -385,6 +385,21 @@ TEST(AutotestSeries, ofALiradorLeavesOutCircuitsWithoutCalibration)
     EXPECT_THAT(Series(AutotestCmd(20), machine).lines, ElementsAreArray(reset + turns + turns + rest));
 }
 
+TEST(AutotestSeries, ofALiradorLeavesOutWhatItsCalibrationTellsNoSpeedFor)
+{
+    FW_Dispenser machine = rotatingMachine(10);
+    for (const int position : {1, 2})
+        machine.getCircuitByPosition(position)->setCalibration(
+            FW_Calibration({{100, 1, 0, 0}, {8100, 100, 0, 0}}));
+    for (const std::vector<Pour> &pour : Series(AutotestCmd(100), machine).pours) {
+        ASSERT_EQ(pour.size(), 1U);
+        EXPECT_EQ(pour.front().position, 4);
+        EXPECT_EQ(pour.front().speed, 30);
+    }
+    machine.getCircuitByPosition(4)->setCalibration(FW_Calibration({{50, 1, 0, 0}}));
+    EXPECT_THAT(Series(AutotestCmd(20), machine).lines, ElementsAreArray(reset + turns + turns + rest));
+}
+
 TEST(AutotestSeries, ofARotan)
 {
     const Lines cycle = {"TINT", "CLEANING@0 245 4 0 1 1",
