@@ -134,7 +134,7 @@ public:
     FW_Circuit *addNewCircuit(const FW_Canister &canister, int position, int circuitID);
     /** Positions in ascending order, of all circuits or of the enabled ones only. */
     QList<int> getPositionsIDList(bool onlyEnabled) const;
-    /** The same, but canister by canister in the order of their IDs. */
+    /** The same, but canister by canister in the order of their IDs; enabled are those of enabled canisters only. */
     QList<int> getPositionsIDSortedByCanister(bool onlyEnabled) const;
     /** The addresses of the circuits' boards that are reached by wire: a board has its circuit's position, enabled or not. */
     QList<int> getWireBoardsID() const { return getPositionsIDList(false); }

@@ -298,8 +298,10 @@ QList<int> FW_Dispenser::getPositionsIDList(bool onlyEnabled) const
 QList<int> FW_Dispenser::getPositionsIDSortedByCanister(bool onlyEnabled) const
 {
     std::map<int, QList<int>> positionsOfCanisters;
-    for (const FW_Canister &canister : m_canisters)
-        positionsOfCanisters[canister.id()] += canister.getCircuitPositions(onlyEnabled);
+    for (const FW_Canister &canister : m_canisters) {
+        if (canister.isEnabled() || !onlyEnabled)
+            positionsOfCanisters[canister.id()] += canister.getCircuitPositions(onlyEnabled);
+    }
     QList<int> sorted;
     for (auto &[id, positions] : positionsOfCanisters) {
         std::sort(positions.begin(), positions.end());

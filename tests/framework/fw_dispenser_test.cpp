@@ -75,6 +75,9 @@ TEST(FW_Dispenser, tellsPositionsCanisterByCanister)
         pouring::canister(2, "", 0, {pouring::circuit(4, 12, 0), disabled, pouring::circuit(5, 9, 0)}));
     EXPECT_THAT(machine.getPositionsIDSortedByCanister(false), ElementsAre(3, 9, 12, 1));
     EXPECT_THAT(machine.getPositionsIDSortedByCanister(true), ElementsAre(9, 12, 1));
+    machine.getCanisterById(2)->setEnabled(false);
+    EXPECT_THAT(machine.getPositionsIDSortedByCanister(false), ElementsAre(3, 9, 12, 1));
+    EXPECT_THAT(machine.getPositionsIDSortedByCanister(true), ElementsAre(1));
     EXPECT_THAT(FW_Dispenser().getPositionsIDSortedByCanister(false), IsEmpty());
 }
 

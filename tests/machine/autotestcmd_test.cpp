@@ -400,6 +400,17 @@ TEST(AutotestSeries, ofALiradorLeavesOutWhatItsCalibrationTellsNoSpeedFor)
     EXPECT_THAT(Series(AutotestCmd(20), machine).lines, ElementsAreArray(reset + turns + turns + rest));
 }
 
+TEST(AutotestSeries, ofALiradorDoesNotTurnToDisabledCanisters)
+{
+    FW_Dispenser machine = rotatingMachine(10);
+    machine.getCanisterById(7)->setEnabled(false);
+    const Lines there = {"TURNTABLE_MOVE@2 1 2 0 0", "TURNTABLE_MOVE@4 1 2 0 0"};
+    const Lines back = {"TURNTABLE_MOVE@4 1 2 0 0", "TURNTABLE_MOVE@2 1 2 0 0"};
+    const Lines fiveTurns = there + back + there + back + there;
+    EXPECT_THAT(Series(AutotestCmd(1), machine).lines,
+                ElementsAreArray(reset + fiveTurns + Lines{"TINT"} + fiveTurns + rest));
+}
+
 TEST(AutotestSeries, ofARotan)
 {
     const Lines cycle = {"TINT", "CLEANING@0 245 4 0 1 1",
