@@ -89,6 +89,21 @@ TEST_F(DriverQueriesTest, theFormulaInTheMachinesOwnTerms)
     EXPECT_EQ(low.items()[1].id, QStringLiteral("1"));
     EXPECT_EQ(low.items()[1].quantity, 1000);
     EXPECT_EQ(low.items()[1].queueID, 0);
+    EXPECT_FALSE(envelope.member("low_level_formula").hasMember("speeds")) << "none was asked for";
+}
+
+TEST_F(DriverQueriesTest, speedsThatAFormulaAsksForStayInTheMachinesOwnTerms)
+{
+    XmlRpcValue asked = formula({{"C", 2.5}, {"A", 10}, {"B", 1}, {"C", 1}});
+    asked["speeds"] = arrayOf(0, 35, 45, 20);
+    const Envelope envelope = call("EXEC_B", "GET_LOW_LEVEL_FORMULA", asked);
+    EXPECT_EQ(envelope.retCode, 0) << envelope.error();
+    const Formula low(envelope.member("low_level_formula"));
+    ASSERT_EQ(low.items().size(), 3);
+    EXPECT_EQ(low.items()[0].speed, 0); // of what is named twice the first counts
+    EXPECT_EQ(low.items()[1].speed, 35);
+    EXPECT_EQ(low.items()[2].speed, 45);
+    EXPECT_EQ(low.items()[0].quantity, 350);
 }
 
 TEST_F(DriverQueriesTest, levelsAreChangedOrSet)

@@ -78,6 +78,15 @@ CircuitFormulaItemList circuitsOf(const Formula &formula, const FW_Dispenser &di
     return items;
 }
 
+/// The same circuits in the same order, by what was asked for.
+QVector<FormulaItem> positionsOf(const Formula &formula, const FW_Dispenser &dispenser)
+{
+    Formula byPosition;
+    FW_DriverError error;
+    require(formula.convertToCircuitPositions(byPosition, &dispenser, &error), error);
+    return byPosition.items();
+}
+
 CanisterFormulaItemList canistersOf(const Formula &formula, const FW_Dispenser &dispenser)
 {
     CanisterFormulaItemList items;
@@ -129,14 +138,11 @@ Answer checkLevels(const ProtoCommand &command, const DriverKnowledge &knowledge
 Answer formulaCircuits(const ProtoCommand &command, const DriverKnowledge &knowledge)
 {
     const FW_Dispenser dispenser = dispenserOf(knowledge);
-    Formula byPosition;
-    FW_DriverError error;
-    require(askedFormula(command, dispenser).convertToCircuitPositions(byPosition, &dispenser, &error),
-            error);
     QList<int> circuits;
     QList<int> positions;
     QList<double> quantities;
-    for (const FormulaItem &item : byPosition.items()) {
+    const QVector<FormulaItem> items = positionsOf(askedFormula(command, dispenser), dispenser);
+    for (const FormulaItem &item : items) {
         positions.append(item.id.toInt());
         circuits.append(std::as_const(dispenser).getCircuitByPosition(positions.constLast())->id());
         quantities.append(item.quantity);
@@ -151,14 +157,18 @@ Answer lowLevelFormula(const ProtoCommand &command, const DriverKnowledge &knowl
     Formula inSteps;
     inSteps.setQuantityUnit(Formula::Steps);
     inSteps.setExecutionCriterion(asked.executionCriterion());
-    for (const CircuitFormulaItem &item : circuitsOf(asked, dispenser)) {
+    const CircuitFormulaItemList items = circuitsOf(asked, dispenser);
+    const QVector<FormulaItem> askedItems = positionsOf(asked, dispenser);
+    for (int i = 0; i < items.size(); ++i) {
+        const CircuitFormulaItem &item = items.at(i);
         bool isKnown = false;
         const long long steps = item.steps(&isKnown);
         if (!isKnown)
             refuse(InvalidRequest, "DE03119",
                    QStringLiteral("The calibration of circuit %1 tells no steps").arg(item.positionId()));
-        inSteps.addItem(
-            {QString::number(item.positionId()), double(steps), item.queueID(), item.nozzleValveID()});
+        // without a speed of its own an item leaves it to the machine here, too
+        inSteps.addItem({QString::number(item.positionId()), double(steps), item.queueID(),
+                         item.nozzleValveID(), askedItems.at(i).speed});
     }
     return std::make_unique<GetLowLevelFormulaAnswer>(inSteps);
 }
