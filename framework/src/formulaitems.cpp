@@ -18,7 +18,7 @@ CircuitFormulaItem::Result<int> speedOf(const Portion &portion, int unit)
 {
     const FW_Circuit &circuit = *portion.source.circuit;
     if (portion.speed != 0)
-        return {portion.speed, portion.speed > 0};
+        return {portion.speed, FW_DosingMotor::checkMaxSpeed(portion.speed)};
     if (!quv::isByCalibration(unit))
         return {circuit.maxSpeed(), circuit.maxSpeed() > 0};
     bool ok = false;

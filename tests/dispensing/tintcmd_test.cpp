@@ -241,6 +241,11 @@ TEST(TintCmd, refusesBadCalibrations)
 {
     expectRefused("DE00533", badSteps, grams({{"1", 30}, {"2", 1}}), withoutCalibration(2));
     expectRefused("DE00529", badSpeed, grams({{"1", 30}, {"2", 1}}), withoutSpeed(2));
+    for (const int speed : {-1, 2001}) { // of the item's own
+        Formula formula = grams({{"1", 30}});
+        formula.addItem({"2", 1, 0, 0, speed});
+        expectRefused("DE00529", badSpeed, formula, dispenser());
+    }
     expectAccepted(grams({{"1", 30}, {"2", 1}}), withoutCalibration(3));
 }
 

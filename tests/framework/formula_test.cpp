@@ -616,6 +616,8 @@ TEST(Formula, theSpeedOfAnItemGoesFirst)
     EXPECT_EQ(speed(onlyItem(formulaOf(Formula::CircuitPositions, Formula::Strokes, {{"8", 5, 0, 0, 33}}))),
               Told<int>(33, true)); // which needs no calibration then
     EXPECT_FALSE(speed(onlyItem(positions({{"2", 1, 0, 0, -1}}))).second);
+    EXPECT_EQ(speed(onlyItem(positions({{"2", 1, 0, 0, 2000}}))), Told<int>(2000, true));
+    EXPECT_FALSE(speed(onlyItem(positions({{"2", 1, 0, 0, 2001}}))).second); // no motor is as fast
 }
 
 TEST(Formula, takesCircuitsWithTheirNumbers)
