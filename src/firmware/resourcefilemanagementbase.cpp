@@ -30,7 +30,7 @@ ResourceFileManagementBase::ResourceFileManagementBase(const XmlRpc::XmlRpcValue
 
 ResourceFileManagementBase::ResourceFileManagementBase(QStringList parameters)
 {
-    m_resourceData = quv::madeOrRefused({"DE02740", quv::noResourceData.text}, Q_FUNC_INFO,
+    m_resourceData = quv::madeOrRefused({"DE02740", quv::invalidResourceData}, Q_FUNC_INFO,
                                         [&] { return FwResourceData(std::move(parameters)); });
 }
 

@@ -7,7 +7,9 @@
 
 namespace quv {
 
-constexpr Refusal noResourceData = {"DE02735", "ResourceFileManagementBase: invalid parameter"};
+constexpr char invalidResourceData[] = "ResourceFileManagementBase: invalid parameter";
+
+constexpr Refusal noResourceData = {"DE02735", invalidResourceData};
 constexpr Refusal emptyResourceList = {"DE02733",
                                        "ResourceFileManagementBase decoding failed: invalid QVariant value"};
 constexpr Refusal otherThanResourceData = {
@@ -23,7 +25,7 @@ struct ResourceFileManagementBase::Description
     {
         return {quv::Member<Base>(resourceData_TAG, &Base::m_resourceData, quv::noResourceData,
                                   quv::otherThanResourceData)
-                    .unmade({"DE02734", quv::noResourceData.text})
+                    .unmade({"DE02734", quv::invalidResourceData})
                     .meaning("read as a struct of subcmd, res_index, block_address and data; written as an "
                              "array of four ints, the last 0 unless the data is a decimal number")};
     }

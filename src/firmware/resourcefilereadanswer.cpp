@@ -6,7 +6,8 @@
 
 namespace {
 
-constexpr quv::Refusal noFile = {"DE02754", "ResourceFileWriteCmd: invalid FwResourceFile parameter"};
+constexpr char invalid[] =
+    "ResourceFileWriteCmd: invalid FwResourceFile parameter"; // users know it by the text of writing
 
 } // namespace
 
@@ -16,8 +17,8 @@ struct ResourceFileReadAnswer::Description
 
     static std::vector<quv::Member<Answer>> members()
     {
-        static constexpr quv::Refusal badFile = {"DE02755", noFile.text};
-        return {quv::Member<Answer>(resourceFile_TAG, &Answer::m_file, noFile, badFile)
+        static constexpr quv::Refusal badFile = {"DE02755", invalid};
+        return {quv::Member<Answer>(resourceFile_TAG, &Answer::m_file, {"DE02754", invalid}, badFile)
                     .unmade(badFile)
                     .meaning("res_data_stream (base64), res_name, res_type and res_index")};
     }
@@ -35,7 +36,7 @@ ResourceFileReadAnswer::ResourceFileReadAnswer(const XmlRpc::XmlRpcValue &value)
 ResourceFileReadAnswer::ResourceFileReadAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
     if (list.isEmpty())
-        quv::throwRefusal(noFile, Q_FUNC_INFO);
+        throw FW_Exception("DE02754", invalid, Q_FUNC_INFO);
     read(list, Q_FUNC_INFO);
 }
 

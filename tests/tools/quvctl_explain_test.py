@@ -148,6 +148,15 @@ Priming2Cmd  XML-RPC value  circuits is missing or of another type  Priming2Cmd:
             ("GetConnectionsAnswer", "list", "")])
         self.assertIn(("StopCmd", "typed", ""), [refusal[1:4] for refusal in self.refusals("DE01332")])
 
+    def test_codes_of_one_text(self):
+        for code, owner, places in [
+                ("DE02734", "ResourceFileManagementBase", [("XML-RPC value", "res_data cannot be made")]),
+                ("DE02735", "ResourceFileManagementBase", [("XML-RPC value", "res_data is missing")]),
+                ("DE02740", "ResourceFileManagementBase", [("tokens", "")]),
+                ("DE02754", "ResourceFileReadAnswer", [("XML-RPC value", "res_file is missing"), ("list", "")]),
+                ("DE02755", "ResourceFileReadAnswer", [("XML-RPC value", "res_file cannot be made"),
+                                                       ("list", "res_file is missing or of another type")])]:
+            self.assertEqual([refusal[1:4] for refusal in self.refusals(code)], [(owner, *place) for place in places])
     def test_show_says_the_same(self):
         alike = 0
         for code, form, when in sorted(shown_refusals()):
