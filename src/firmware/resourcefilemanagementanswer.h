@@ -29,8 +29,7 @@ public:
     bool equalTo(const ProtoAnswer *other) const override; ///< the same class and the same block
     XmlRpc::XmlRpcValue toXmlRpcValue() const override;    ///< cannot be read back
 
-    using SerialProtoAnswer::
-        serialParameters; ///< the tokens; those of the base are what a command would send
+    using ResourceFileManagementBase::serialParameters; // the tokens are those of SerialProtoAnswer
 
     static QList<quv::MemberFacts> memberFacts();
 };

@@ -24,7 +24,8 @@ TEST(ResourceFileManagementAnswer, holdsABlock)
     const Answer answer(QStringList("9") + parameters);
     EXPECT_EQ(answer.resourceData(), block());
     EXPECT_EQ(answer.protoType(), 1);
-    EXPECT_EQ(answer.serialParameters(), parameters);
+    EXPECT_EQ(answer.serialParameters(), (QList<int>{2, 243, 56, 1, 2, 0, 0, 10, 5}));
+    EXPECT_EQ(static_cast<const SerialProtoAnswer &>(answer).serialParameters(), parameters);
     EXPECT_EQ(dumped(answer.toXmlRpcValue()), R"({"res_data": [2, 243, 300, 0]})");
     List list = {QVariant::fromValue(block())};
     for (const Answer &same :
