@@ -1,8 +1,15 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/resourcefilelistanswer.h"
 
+#include "base/argumentteller_p.h"
 #include "base/describedanswer_p.h"
 #include "firmware/fwresourcefile_p.h"
+
+namespace {
+
+constexpr quv::Refusal noFile = {"DE02759", "ResourceFileListAnswer: no FwResourceFile found"};
+
+} // namespace
 
 struct ResourceFileListAnswer::Description
 {
@@ -27,7 +34,7 @@ ResourceFileListAnswer::ResourceFileListAnswer(const XmlRpc::XmlRpcValue &value)
 {
     read(value, Q_FUNC_INFO);
     if (m_files.isEmpty())
-        throw FW_Exception("DE02759", "ResourceFileListAnswer: no FwResourceFile found", Q_FUNC_INFO);
+        quv::throwRefusal(noFile, Q_FUNC_INFO);
 }
 
 ResourceFileListAnswer::ResourceFileListAnswer(QList<QVariant> &list) : DescribedAnswer(list)
@@ -40,4 +47,11 @@ ResourceFileListAnswer::ResourceFileListAnswer(QList<QVariant> &list) : Describe
 ResourceFileListAnswer *ResourceFileListAnswer::clone() const
 {
     return new ResourceFileListAnswer(*this);
+}
+
+QList<quv::MemberFacts> ResourceFileListAnswer::memberFacts()
+{
+    QList<quv::MemberFacts> members = DescribedAnswer::memberFacts();
+    quv::appendRefusal(members.first().refusals, "XML-RPC", "empty", noFile);
+    return members;
 }

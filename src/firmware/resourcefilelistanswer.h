@@ -29,6 +29,8 @@ public:
 
     ResourceFileListAnswer *clone() const override;
 
+    static QList<quv::MemberFacts> memberFacts();
+
     const QList<FwResourceFile> &resourceFiles() const { return m_files; }
 
 private:
