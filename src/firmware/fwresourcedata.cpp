@@ -56,9 +56,11 @@ void appendAddress(QList<int> &parameters, int address)
 int nextAddress(quv::TokenReader &reader, const char *function)
 {
     constexpr quv::Refusal bad = {"DE02744", badValues};
-    const long long low = reader.nextUnchecked();
+    constexpr unsigned greatest = std::numeric_limits<int>::max();
+    const unsigned given = reader.nextUnchecked();
+    const long long low = given > greatest ? 0 : given; // what is no int is as good as no number
     const long long address = low + static_cast<long long>(addressBase) * reader.next(bad);
-    if (address > std::numeric_limits<int>::max())
+    if (address > greatest)
         quv::throwRefusal(bad, function);
     return static_cast<int>(address);
 }

@@ -31,8 +31,8 @@ struct QUVPROTOCOL_EXPORT FwResourceData
     explicit FwResourceData(const XmlRpc::XmlRpcValue &value);
     /**
      * The parameters of an answer, as serialParameters() tells them. Throws DE02741 (fewer than five), DE02742 (subcommand), DE02743
-     * (index), DE02744 (high digit of the address), DE02745 (length) for what is no number, DE02746 when bytes are missing. A low digit
-     * and halves of bytes that are no numbers are 0.
+     * (index), DE02744 (high digit of the address), DE02745 (length) for what is no number, DE02744 also for a high digit that makes
+     * the address too great, DE02746 when bytes are missing. A low digit that is no int and halves of bytes that are no numbers are 0.
      */
     explicit FwResourceData(QStringList parameters);
     explicit FwResourceData(bool) = delete; // would be an XML-RPC value, as would the next three

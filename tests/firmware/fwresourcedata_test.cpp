@@ -105,7 +105,12 @@ TEST(FwResourceData, readsABlockOfZerosOnlyInFull)
 
 TEST(FwResourceData, takesALowDigitAndHalvesThatAreNoNumbersForZero)
 {
-    expectFields(Data(QStringList{"2", "F3", "zz", "1", "0"}), 2, 243, 244, "");
+    for (const char *low : {"zz", "", "-1", "80000000", "FFFFFFFF", "100000000"})
+        expectFields(Data(QStringList{"2", "F3", low, "1", "0"}), 2, 243, 244, "");
+    expectFields(Data(QStringList{"2", "F3", "7FFFFFFF", "0", "0"}), 2, 243, 2147483647, "");
+    expectRefusal("DE02744", badValues, ofTokens, [] {
+        const Data block(QStringList{"2", "F3", "7FFFFFFF", "1", "0"});
+    });
     expectFields(Data(QStringList{"2", "F3", "", "0", "2", "x", "4", "4", "-1"}), 2, 243, 0, "\x04\x40");
     expectFields(Data(QStringList{"2", "F3", "0", "0", "1", "3", "11"}), 2, 243, 0, "\x41"); // 3 * 16 + 17
 }
