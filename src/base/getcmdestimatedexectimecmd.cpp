@@ -5,6 +5,7 @@
 #include "base/describedcommand_p.h"
 #include "base/getcmdestimatedexectimeanswer.h"
 #include "base/guard_p.h"
+#include "base/requestarguments_p.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
 
@@ -38,10 +39,7 @@ std::unique_ptr<ProtoCommand> makeCommand(const XmlRpc::XmlRpcValue &command, co
     QString commandName;
     if (!DecodeXmlRpcValue(command, 0, commandName) || !ProtoCommandList::existsCommand(commandName))
         throw FW_Exception("DE01184", "Invalid parameters: command does not exists", function);
-    XmlRpc::XmlRpcValue arguments;
-    arguments.setSize(command.size() - 1);
-    for (int i = 1; i < command.size(); ++i)
-        arguments[i - 1] = command[i];
+    XmlRpc::XmlRpcValue arguments = quv::argumentsIn(command);
     try {
         return std::unique_ptr<ProtoCommand>(
             ProtoCommandList::getProtoCommand(commandName, arguments, machine));

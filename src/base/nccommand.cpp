@@ -5,6 +5,7 @@
 #include "base/guard_p.h"
 #include "base/protoanswer.h"
 #include "base/protocommand.h"
+#include "base/requestarguments_p.h"
 #include "base/xmlrpcanswer.h"
 #include "catalogue/protocommandlist.h"
 
@@ -217,8 +218,9 @@ XmlRpc::XmlRpcValue NCCommand::toXmlRpcValue(QString leading, bool *ok) const
         *ok = named;
     if (!named)
         return request; // numbers alone are no request
-    const XmlRpc::XmlRpcValue parameters = m_protoCommand->xmlrpc_parameters(nullptr);
-    if (parameters.getType() == XmlRpc::XmlRpcValue::TypeArray && parameters.size() > 0)
+    // as the command sends them: not every one has an array of them
+    const XmlRpc::XmlRpcValue parameters = quv::argumentsIn(m_protoCommand->toXmlRpcValue(QString()));
+    if (parameters.size() > 0)
         request[request.size()][CMD_PARAMETERS] = parameters;
     if (m_lastAnswer)
         EncodeXmlRpcValue(request[request.size()], LAST_ANSWER, m_lastAnswer->toXmlRpcValue());

@@ -77,9 +77,14 @@ XmlRpc::XmlRpcValue ResourceFileManagementCmd::xmlrpc_parameters(bool *ok) const
 {
     if (ok)
         *ok = true;
+    return xmlRpcValue();
+}
+
+XmlRpc::XmlRpcValue ResourceFileManagementCmd::toXmlRpcValue(QString leading, bool *ok) const
+{
     XmlRpc::XmlRpcValue array;
-    array[0] = xmlRpcValue();
-    return array;
+    array[0] = xmlrpc_parameters();
+    return buildXmlRpcValue(m_command, array, leading, ok);
 }
 
 QList<int> ResourceFileManagementCmd::serialParameters(int) const

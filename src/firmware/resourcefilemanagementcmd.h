@@ -32,8 +32,10 @@ public:
     void setDefaults(); ///< no serial address, and a cleared block
 
     QList<QVariant> parameters() const override; ///< those of the base: not what a list is read from
-    /** The base's struct, first in the array: not what a value is read from. */
+    /** The base's struct and no array: not what a value is read from. */
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const override;
+    /** With that struct as its one argument. */
+    XmlRpc::XmlRpcValue toXmlRpcValue(QString leading, bool *ok = nullptr) const override;
     QList<int> serialParameters(int family) const override; ///< those of the block
 
     using DescribedCommand::setAnswer;

@@ -33,8 +33,9 @@ void expectWritten(const ProtoCommand &command, const CommandFacts &facts, const
     EXPECT_EQ(ok, request.isWritten);
     EXPECT_EQ(dumped(command.xmlrpc_parameters()), request.expectedDump);
 
-    const std::string behindTheName =
-        request.expectedDump == "[]" ? "]" : ", " + request.expectedDump.substr(1);
+    const bool isStruct = request.expectedDump[0] == '{'; // which is sent as one argument
+    const std::string array = isStruct ? '[' + request.expectedDump + ']' : request.expectedDump;
+    const std::string behindTheName = array == "[]" ? "]" : ", " + array.substr(1);
     const std::string rest = '"' + facts.catalogue.name + '"' + behindTheName;
     ok = false;
     EXPECT_EQ(dumped(command.toXmlRpcValue(QString(), &ok)), "[" + rest);

@@ -3,6 +3,8 @@
 
 #include "base/commandcontract.h"
 #include "base/factlines.h"
+#include "base/getcmdestimatedexectimecmd.h"
+#include "base/nccommand.h"
 #include "base/outofmemory.h"
 #include "firmware/resourcefilemanagementanswer.h"
 #include "firmware/resourcetesting.h"
@@ -58,7 +60,7 @@ Request requestOf(Request request)
 {
     return request.notReadBack()
         .parameters({2, 243, 300, twoBytes()})
-        .written(R"([{"res_data": [2, 243, 300, 0]}])")
+        .written(R"({"res_data": [2, 243, 300, 0]})")
         .sends({2, 243, 56, 1, 2, 0, 0, 10, 5})
         .holds({QVariant::fromValue(block())});
 }
@@ -74,7 +76,7 @@ TEST(ResourceFileManagementCmd, keepsTheCommandContract)
     facts.getters = {getter(&Cmd::resourceData)};
     facts.defaults = Request()
                          .parameters({0, 0, 0, QByteArray()})
-                         .written(R"([{"res_data": [0, 0, 0, 0]}])")
+                         .written(R"({"res_data": [0, 0, 0, 0]})")
                          .sends({0, 0, 0, 0, 0})
                          .holds({QVariant::fromValue(FwResourceData())});
     facts.requests = {
@@ -86,9 +88,8 @@ TEST(ResourceFileManagementCmd, keepsTheCommandContract)
 
 TEST(ResourceFileManagementCmd, needsABlock)
 {
-    for (const Value &none :
-         {Value(), Value(7), arrayOf(), arrayOf(7, blockValue()), structOf({}),
-          arrayOf(arrayOf(blockValue())), Cmd(block()).xmlrpc_parameters()[0]["res_data"]}) {
+    for (const Value &none : {Value(), Value(7), arrayOf(), arrayOf(7, blockValue()), structOf({}),
+                              arrayOf(arrayOf(blockValue())), Cmd(block()).xmlrpc_parameters()["res_data"]}) {
         SCOPED_TRACE(dumped(none));
         expectRefusal("DE02735", noBlock, ofBaseValue, [&] { const Cmd command(none); });
     }
@@ -97,6 +98,20 @@ TEST(ResourceFileManagementCmd, needsABlock)
     expectRefusal("DE02732", otherItem, ofBaseList, [] { const Cmd command{Cmd(block()).parameters()}; });
     static_assert(!std::is_constructible_v<Cmd, int>);
     static_assert(!std::is_constructible_v<Cmd, const char *>);
+}
+
+TEST(ResourceFileManagementCmd, sendsItsStructAsOneArgument)
+{
+    Cmd command(block());
+    const Value request = command.toXmlRpcValue(QString());
+    EXPECT_EQ(dumped(request), R"(["RES_FILE_MNGM", {"res_data": [2, 243, 300, 0]}])");
+    EXPECT_EQ(dumped(command.toXmlRpcValue("key")),
+              R"(["key", "RES_FILE_MNGM", {"res_data": [2, 243, 300, 0]}])");
+    EXPECT_EQ(dumped(NCCommand(&command, nullptr, 100, 2000).toXmlRpcValue(QString())),
+              R"(["RES_FILE_MNGM", {"cmd_parameters": [{"res_data": [2, 243, 300, 0]}]}, 100, 2000])");
+    EXPECT_EQ(dumped(GetCmdEstimatedExecTimeCmd(&command).toXmlRpcValue(QString())),
+              R"(["GET_CMD_EST_EXEC_TIME", {"command": ["RES_FILE_MNGM", {"res_data": [2, 243, 300, 0]}]}])");
+    expectRefusal("DE02728", badBlock, ofBlock, [&] { const Cmd again(arrayOf(request[1])); });
 }
 
 TEST(ResourceFileManagementCmd, forgetsTheAddressWithTheBlock)

@@ -8,6 +8,7 @@
 #include "words.h"
 
 #include "base/confprotocommand.h"
+#include "base/requestarguments_p.h"
 #include "base/scaleprotocommand.h"
 #include "base/serialprotocommand.h"
 #include "catalogue/commandfacts.h"
@@ -62,9 +63,9 @@ std::vector<int> lostArguments(const nlohmann::json &request, const ProtoCommand
 {
     // What becomes of an argument is the command's own affair: several may travel as one struct, or one as several. So an
     // argument only counts as lost when it is neither read nor written, or when none is written at all.
-    const XmlRpcValue written = command.xmlrpc_parameters(nullptr);
-    const bool writesNone = written.getType() != XmlRpcValue::TypeArray || written.size() == 0;
     const XmlRpcValue sent = command.toXmlRpcValue(QString());
+    const XmlRpcValue written = argumentsIn(sent);
+    const bool writesNone = written.size() == 0;
     const nlohmann::json &arguments = request["args"];
     std::vector<int> lost;
     for (std::size_t i = 0; i < arguments.size(); ++i)
@@ -93,8 +94,8 @@ QStringList knownMembers(const CommandFacts &command, std::size_t place, const X
 void refuseMisspeltMembers(const CommandFacts &facts, const nlohmann::json &request,
                            const ProtoCommand &command)
 {
-    const XmlRpcValue written = command.xmlrpc_parameters(nullptr);
     const XmlRpcValue sent = command.toXmlRpcValue(QString());
+    const XmlRpcValue written = argumentsIn(sent);
     const nlohmann::json &arguments = request["args"];
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (!arguments[i].is_object())
