@@ -102,3 +102,12 @@ TEST(CommandExample, isNotThereWhenTheCommandWouldNotTakeIt)
     EXPECT_EQ(shell(command("AUTOCAP_MOVE", {{"movement_type", "of the shelf"}})),
               "none"); // which nobody knows
 }
+
+TEST(CommandExample, isForPythonAloneWhenQuvctlWouldSendWhatTheDriverRefuses)
+{
+    const quv::CommandFacts block = quv::commandFacts("RES_FILE_MNGM");
+    EXPECT_EQ(shell(block), "");
+    EXPECT_EQ(python(block),
+              "driver.EXEC_B(\"RES_FILE_MNGM\", {\"res_data\": {\"subcmd\": 1, \"res_index\": 243, "
+              "\"block_address\": 0, \"data\": \"\"}})");
+}

@@ -344,6 +344,22 @@ class LostArguments(CliTest):
         self.assertEqual(self.wrong("encode", "--form", "list", "GET_ERRORS", "[1,2]"),
                          'quvctl: GET_ERRORS carries no arguments; "[1,2]" would be lost (see quvctl help)\n')
 
+    def test_requests_that_the_driver_would_refuse(self):
+        block = json.dumps({"res_data": {"subcmd": 1, "res_index": 243, "block_address": 300, "data": "12"}})
+        for name, argument in [("RES_FILE_MNGM", block),
+                               ("GET_CMD_EST_EXEC_TIME", json.dumps({"command": ["RES_FILE_MNGM", json.loads(block)]}))]:
+            with Driver(envelope(0)) as driver:
+                for how in [(), ("--async",)]:
+                    self.assertEqual(self.wrong("call", name, argument, *how, "--port", str(driver.port)),
+                                     f"quvctl: {name} cannot be called: the driver would refuse what quvctl sends "
+                                     "(DE02728: FwResourceData: bad parameters) (see quvctl help)\n")
+                self.assertEqual((driver.requests, driver.started), ([], []))
+        told = json.loads(self.done("encode", "RES_FILE_MNGM", block, "--json"))
+        self.assertEqual(told["request"], ["RES_FILE_MNGM", {"res_data": [1, 243, 300, 12]}])
+        self.assertEqual(told["serial"], [1, 243, 56, 1, 2, 3, 1, 3, 2])
+        self.assertIn('takes no notice of "res_dat"; did you mean "res_data"?',
+                      self.wrong("encode", "RES_FILE_MNGM", json.dumps({**json.loads(block), "res_dat": 1})))
+
     def test_refusals_of_the_command_come_first(self):
         self.assertEqual(self.refused("encode", "GET_STATUS", "x", "4"),
                          "DE00298: Position ID: expected INT parameter\n")

@@ -90,7 +90,7 @@ const XmlRpcAnswer &answered(const Driver &driver, ProtoCommand &command, const 
 std::unique_ptr<ProtoCommand> commandOf(const CommandLine &line)
 {
     try {
-        return typedCommand(line, commandRequest(line));
+        return calledCommand(line);
     } catch (const FW_DriverError &error) {
         const QString hint = hintFor(error.code());
         if (hint.isEmpty())
@@ -122,7 +122,7 @@ const Subcommand callSubcommand = {
     "arguments' names, by which they can be given as well: position=3. With --async it shows a ticket and\n"
     "does not wait: quvctl ticket asks for the answer. The driver has the machine; a few commands read\n"
     "their formula by one here too, and --machine tells them which. Nothing is sent when a whole argument\n"
-    "would be lost on the way.",
+    "would be lost on the way, or when the driver would refuse what is left of the request.",
     1,
     -1,
     withDriverOptions({machineOption,

@@ -5,6 +5,7 @@
 #include "machines.h"
 
 #include "base/protocommand.h"
+#include "base/requestarguments_p.h"
 #include "catalogue/protocommandlist.h"
 
 #include <QuvFramework/fw_error.h>
@@ -110,27 +111,23 @@ std::optional<OrderedJson> sampleOf(const QString &name, const Sample (&samples)
     return std::nullopt;
 }
 
-bool isTaken(const CommandFacts &command, const OrderedJson &arguments, const char *machine)
+/// Null when the command would not take the arguments.
+std::unique_ptr<ProtoCommand> madeOf(const CommandFacts &command, XmlRpc::XmlRpcValue arguments,
+                                     const char *machine)
 {
     try {
-        XmlRpc::XmlRpcValue values = toXmlRpcValue(nlohmann::json(arguments));
-        const std::unique_ptr<ProtoCommand> made(ProtoCommandList::getProtoCommand(
-            command.name, values, machineByName(QLatin1String(machine)).get()));
-        return true;
+        return std::unique_ptr<ProtoCommand>(ProtoCommandList::getProtoCommand(
+            command.name, arguments, machineByName(QLatin1String(machine)).get()));
     } catch (const FW_DriverError &) {
-        return false;
+        return nullptr;
     }
 }
 
-/// The option that quvctl needs to make the command, which the driver will make as well; nothing when one of them cannot.
-std::optional<QString> machineOptionFor(const CommandFacts &command, const OrderedJson &arguments)
+/// Whether the driver would make the command of what quvctl sends. A plain one only counts its arguments.
+bool canBeSent(const CommandFacts &command, const ProtoCommand &made, const char *machine)
 {
-    for (const char *machine : {"dispenser", "dual"})
-        if (isTaken(command, arguments, machine))
-            return isTaken(command, arguments, "none")
-                       ? QString()
-                       : QStringLiteral(" --machine ") + QLatin1String(machine);
-    return std::nullopt;
+    return command.className.isEmpty() ||
+           madeOf(command, argumentsIn(made.toXmlRpcValue(QString())), machine) != nullptr;
 }
 
 /// As a shell's word.
@@ -154,9 +151,9 @@ QString wordOf(const OrderedJson &value)
     return QString::fromStdString(writeJson(value));
 }
 
-QString shellWords(const CommandFacts &command, const OrderedJson &arguments)
+QString shellCall(const CommandFacts &command, const OrderedJson &arguments)
 {
-    QString words;
+    QString words = QStringLiteral("quvctl call ") + command.name;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const QString name = command.arguments.value(static_cast<int>(i)).name;
         words += QLatin1Char(' ') +
@@ -221,12 +218,21 @@ std::optional<OrderedJson> sampleArguments(const CommandFacts &command)
 std::optional<CommandExample> exampleOf(const CommandFacts &command)
 {
     const auto arguments = sampleArguments(command);
-    const auto machine = arguments ? machineOptionFor(command, *arguments) : std::nullopt;
-    if (!machine)
+    if (!arguments)
         return std::nullopt;
-    return CommandExample{QStringLiteral("quvctl call %1").arg(command.name) +
-                              shellWords(command, *arguments) + *machine,
-                          pythonCall(command.name, *arguments)};
+    const XmlRpc::XmlRpcValue values = toXmlRpcValue(nlohmann::json(*arguments));
+    for (const char *machine : {"dispenser", "dual"}) { // of the driver
+        const auto made = madeOf(command, values, machine);
+        if (!made)
+            continue;
+        CommandExample example{QString(), pythonCall(command.name, *arguments)};
+        if (canBeSent(command, *made, machine))
+            example.shell =
+                shellCall(command, *arguments) +
+                (madeOf(command, values, "none") ? "" : QStringLiteral(" --machine %1").arg(machine));
+        return example;
+    }
+    return std::nullopt;
 }
 
 } // namespace quv

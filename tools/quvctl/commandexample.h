@@ -14,7 +14,8 @@ namespace quv {
 /// A call that can be tried as it stands.
 struct CommandExample
 {
-    QString shell;  ///< quvctl call GET_STATUS position=3
+    QString
+        shell; ///< quvctl call GET_STATUS position=3; empty when quvctl would not send what the driver takes
     QString python; ///< driver.EXEC_B("GET_STATUS", 3)
 };
 

@@ -59,9 +59,10 @@ OrderedJson referenceJson(const CommandReference &command)
     json["tellsMembers"] = facts.tellsMembers;
     json["members"] = arrayOf(facts.members, memberJson);
     json["answerRefusals"] = arrayOf(facts.answerRefusals, refusalJson);
+    if (command.example && !command.example->shell.isEmpty())
+        json["example"]["shell"] = toJson(command.example->shell);
     if (command.example)
-        json["example"] = {{"shell", toJson(command.example->shell)},
-                           {"python", toJson(command.example->python)}};
+        json["example"]["python"] = toJson(command.example->python);
     return json;
 }
 

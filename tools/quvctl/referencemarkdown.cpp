@@ -105,7 +105,8 @@ QString section(const CommandReference &command)
     parts.append(membersTable(facts));
     parts.append(refusalsTable(command));
     if (command.example) {
-        parts.append(block(QStringLiteral("sh"), command.example->shell));
+        if (!command.example->shell.isEmpty())
+            parts.append(block(QStringLiteral("sh"), command.example->shell));
         parts.append(block(QStringLiteral("python"), command.example->python));
     }
     parts.removeAll(QString());

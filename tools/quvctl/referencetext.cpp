@@ -78,7 +78,8 @@ void printExample(const CommandReference &command)
     if (!command.example)
         return;
     printHeading("Examples");
-    printCode(command.example->shell + QLatin1Char('\n'));
+    if (!command.example->shell.isEmpty())
+        printCode(command.example->shell + QLatin1Char('\n'));
     printCode(QLatin1String(pythonPreparation) + QStringLiteral("print(%1)").arg(command.example->python));
 }
 

@@ -5,6 +5,7 @@
 #include "commandline.h"
 #include "excerpt.h"
 #include "operations.h"
+#include "replies.h"
 #include "words.h"
 
 #include "base/confprotocommand.h"
@@ -13,6 +14,7 @@
 #include "base/serialprotocommand.h"
 #include "catalogue/commandfacts.h"
 
+#include <QuvFramework/fw_machine.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <typeinfo>
@@ -164,7 +166,30 @@ void requireCallable(const CommandFacts &command)
                              .arg(command.name, argumentsInWords(needed)));
 }
 
+/// A driver makes the command by the same library. Some write less than they read.
+void requireTaken(const ProtoCommand &command, const nlohmann::json &request)
+{
+    XmlRpcValue arguments = argumentsIn(command.toXmlRpcValue(QString()));
+    const auto machine = machineOf(Request(request));
+    try {
+        const std::unique_ptr<ProtoCommand> taken(
+            ProtoCommandList::getProtoCommand(command.command(), arguments, machine.get()));
+    } catch (const FW_DriverError &error) {
+        throw UsageError(
+            QStringLiteral("%1 cannot be called: the driver would refuse what quvctl sends (%2: %3)")
+                .arg(command.command(), error.code(), error.text()));
+    }
+}
+
 } // namespace
+
+std::unique_ptr<ProtoCommand> calledCommand(const CommandLine &line)
+{
+    const nlohmann::json request = commandRequest(line);
+    auto command = typedCommand(line, request);
+    requireTaken(*command, request);
+    return command;
+}
 
 std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request)
 {

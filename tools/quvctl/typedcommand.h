@@ -35,4 +35,10 @@ auto withCommandName(const QString &name, Work work) -> decltype(work())
  */
 std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request);
 
+/**
+ * The command that a user typed, to be sent.
+ * \throws UsageError when a driver would refuse what it sends, and as typedCommand
+ */
+std::unique_ptr<ProtoCommand> calledCommand(const CommandLine &line);
+
 } // namespace quv
