@@ -157,6 +157,7 @@ Priming2Cmd  XML-RPC value  circuits is missing or of another type  Priming2Cmd:
                 ("DE02755", "ResourceFileReadAnswer", [("XML-RPC value", "res_file cannot be made"),
                                                        ("list", "res_file is missing or of another type")])]:
             self.assertEqual([refusal[1:4] for refusal in self.refusals(code)], [(owner, *place) for place in places])
+
     def test_show_says_the_same(self):
         alike = 0
         for code, form, when in sorted(shown_refusals()):
