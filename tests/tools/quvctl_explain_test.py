@@ -176,7 +176,7 @@ Priming2Cmd  XML-RPC value  circuits is missing or of another type  Priming2Cmd:
 
     def test_several_places(self):
         self.assertEqual({refusal[1] for refusal in self.refusals("DE01295")},
-                         {"GetConfigCmdsCmd", "ReadConfigurationParamCmd", "SerialProtoCommand"})
+                         {"CommandIDCmd", "GetConfigCmdsCmd", "GetDispInfoCmd", "ReadConfigurationParamCmd", "SerialProtoCommand"})
 
     def test_framework_and_driver(self):
         self.assertEqual(self.refusals("DE03002"), [

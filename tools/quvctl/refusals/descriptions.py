@@ -93,7 +93,7 @@ class Descriptions:
         """Whether a class goes through the list by itself, and does not read it member by member."""
         made_of_lists = [one for one in self.sources.functions.get(owners[-1], [])
                          if one.owners == owners and one.body and form_of(one) == LIST]
-        return bool(made_of_lists) and not any(is_name(node, "read") for one in made_of_lists for node in one.holds())
+        return any(is_name(node, "for") for one in made_of_lists for node in one.holds())
 
     def parameter_of(self, group, index, name):
         """The name of what stands in a place of a list, in the description's function of that name; None anywhere else."""
