@@ -160,6 +160,10 @@ bool storeWideNumber(const XmlRpcValue &value, T &out)
         std::is_unsigned_v<T> ? 18446744073709551616.0 : 9223372036854775808.0; // 2^64, 2^63
     constexpr double least = std::is_unsigned_v<T> ? 0 : -limit;
     const double *number = scalar<double>(value, XmlRpcValue::TypeDouble);
+    if (number && std::is_unsigned_v<T> && *number == limit) { // as which the greatest are written
+        out = std::numeric_limits<T>::max();
+        return true;
+    }
     if (!number || std::trunc(*number) != *number || *number < least || *number >= limit ||
         (*number >= Int::min() && *number <= Int::max()))
         return false;

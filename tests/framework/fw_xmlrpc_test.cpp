@@ -196,7 +196,10 @@ TEST(DecodeXmlRpcValue, readsUnsignedLongLong)
     expectRefusedInEveryPlace(XmlRpcValue(-1), 5ULL);
     for (unsigned long long number : {2147483648ULL, 9007199254740992ULL, 18446744073709549568ULL})
         expectReads(EncodeXmlRpcVariant(number), 5ULL, number);
-    for (double number : {0.0, 7.0, 2147483648.5, -2147483649.0, 18446744073709551616.0})
+    // the greatest number is written as 2^64, the double nearest to it
+    expectReads(EncodeXmlRpcVariant(18446744073709551615ULL), 5ULL, 18446744073709551615ULL);
+    expectReads(XmlRpcValue(18446744073709551616.0), 5ULL, 18446744073709551615ULL);
+    for (double number : {0.0, 7.0, 2147483648.5, -2147483649.0, 18446744073709555712.0})
         expectRefusedInEveryPlace(XmlRpcValue(number), 5ULL);
 }
 
