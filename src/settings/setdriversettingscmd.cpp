@@ -35,6 +35,17 @@ void readRequest(const XmlRpcValue &request, DriverSettings &settings, QHash<QSt
     }
 }
 
+/** The settings that have a value: without one they would travel as 0. */
+QHash<QString, QVariant> withValues(const QHash<QString, QVariant> &settings)
+{
+    QHash<QString, QVariant> given;
+    for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting) {
+        if (setting->isValid())
+            given.insert(setting.key(), *setting);
+    }
+    return given;
+}
+
 } // namespace
 
 struct SetDriverSettingsCmd::Description : quv::Description
@@ -104,6 +115,6 @@ XmlRpcValue SetDriverSettingsCmd::xmlrpc_parameters(bool *ok) const
     if (m_hash.isEmpty())
         array[0][driverSettings_TAG] = m_settings.toXmlRpcValue();
     else
-        EncodeXmlRpcValue(array[0], driverSettingsHash_TAG, m_hash);
+        EncodeXmlRpcValue(array[0], driverSettingsHash_TAG, withValues(m_hash));
     return array;
 }

@@ -19,11 +19,14 @@ public:
 
     SetDriverSettingsCmd() = default; ///< the default settings
     explicit SetDriverSettingsCmd(const DriverSettings &settings);
-    /** Single settings by their keys, as DriverSettings::update takes them. Without any it is a command of the default settings. */
+    /**
+     * Single settings by their keys, as DriverSettings::update takes them; one without a value is not written. Without any key it is a
+     * command of the default settings.
+     */
     explicit SetDriverSettingsCmd(const QHash<QString, QVariant> &settings);
     /**
-     * A struct with either of the members. Throws DE00978 for anything else, DE00980 and DE02427 when the whole setup or the single
-     * settings are no struct, DE00979 without either.
+     * A struct with either of the members; an empty "driver_settings_hash" is the whole default setup. Throws DE00978 for anything
+     * else, DE00980 and DE02427 when the whole setup or the single settings are no struct, DE00979 without either.
      */
     explicit SetDriverSettingsCmd(const XmlRpc::XmlRpcValue &value);
     /** A DriverSettings, a hash of single settings, or the struct of the other form as a map. Throws DE00981 without one. */

@@ -113,6 +113,18 @@ TEST_F(SetDriverSettingsCmdTest, withoutASingleSettingHoldsTheDefaults)
     EXPECT_EQ(dumped(command.xmlrpc_parameters()), settingsDump("DEFAULT"));
 }
 
+TEST_F(SetDriverSettingsCmdTest, writesNoSettingWithoutAValue)
+{
+    bool ok = false;
+    EXPECT_EQ(dumped(SetDriverSettingsCmd(Hash{{"AppProfile", "SHOP"}, {"SerialConnScanFreq", QVariant()}})
+                         .xmlrpc_parameters(&ok)),
+              R"([{"driver_settings_hash": {"AppProfile": "SHOP"}}])");
+    EXPECT_TRUE(ok);
+    // which is not the default setup
+    EXPECT_EQ(dumped(SetDriverSettingsCmd(Hash{{"SerialConnScanFreq", QVariant()}}).xmlrpc_parameters()),
+              R"([{"driver_settings_hash": {}}])");
+}
+
 TEST_F(SetDriverSettingsCmdTest, refusesAValueWithoutSettings)
 {
     constexpr char noStruct[] = "SetDriverSettingsCmd decoding failed: expected xml-rpc struct type";
