@@ -13,6 +13,10 @@ struct GetConnectionStatusCmd::Description : quv::Description
 
 template class quv::DescribedCommand<GetConnectionStatusCmd, ConfProtoCommand>;
 
+GetConnectionStatusCmd::GetConnectionStatusCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value) {}
+
+GetConnectionStatusCmd::GetConnectionStatusCmd(QList<QVariant> list) : DescribedCommand(list) {}
+
 GetConnectionStatusCmd *GetConnectionStatusCmd::clone() const
 {
     return new GetConnectionStatusCmd(*this);

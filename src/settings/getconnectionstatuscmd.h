@@ -14,7 +14,10 @@ class QUVPROTOCOL_EXPORT GetConnectionStatusCmd
 public:
     struct Description;
 
-    GetConnectionStatusCmd() = default; ///< takes no arguments
+    GetConnectionStatusCmd() = default;
+    explicit GetConnectionStatusCmd(const XmlRpc::XmlRpcValue &value); ///< takes no arguments
+    explicit GetConnectionStatusCmd(QList<QVariant> list);
+    explicit GetConnectionStatusCmd(int) = delete; // would be an XML-RPC value
 
     GetConnectionStatusCmd *clone() const override;
 };

@@ -34,11 +34,15 @@ TEST(GetConnectionStatusCmd, keepsTheCommandContract)
     CommandFacts facts(formsOf<GetConnectionStatusCmd>());
     facts.catalogue = {"GET_CONN_STATUS", 92, "", 0};
     facts.protoType = 2;
-    facts.takesNothing = true;
+    facts.keepsTheList = true;
     facts.words = silence();
     facts.words.command = "Connection status read";
     facts.defaults = Request().written("[]");
-    facts.requests = {Request().onlyTyped().notReadBack().typed<GetConnectionStatusCmd>().written("[]")};
+    facts.requests = {
+        Request().typed<GetConnectionStatusCmd>().written("[]"),
+        Request({5}).onlyFromList().notReadBack().written("[]"),
+        Request({5}).onlyFromValue().parameters({}).written("[]"),
+    };
     facts.answers = answers();
     expectCommandContract(facts);
 }

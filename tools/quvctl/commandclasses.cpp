@@ -96,7 +96,7 @@ constexpr CommandClass commandClasses[] = {
     {"FirmwareScanCmd", fromArguments<FirmwareScanCmd>},
     {"FirmwareScanReadCmd", fromValue<FirmwareScanReadCmd>},
     {"FirmwareScanStartCmd", fromValue<FirmwareScanStartCmd>},
-    {"GetConnectionStatusCmd", fromNothing<GetConnectionStatusCmd>},
+    {"GetConnectionStatusCmd", fromArguments<GetConnectionStatusCmd>},
     {"GetDispensedFormulaCmd", fromArguments<GetDispensedFormulaCmd>},
     {"GetDispensedFormulaConfCmd", fromArguments<GetDispensedFormulaConfCmd>},
     {"PurgeCmd", fromArgumentsAndDispenser<PurgeCmd>},
