@@ -12,7 +12,8 @@ namespace {
 
 QString joined(const QString &folder, const char *name)
 {
-    return folder + QDir::separator() + QLatin1String(name);
+    const bool isRoot = folder == QDir::separator(); // alone it ends with a separator
+    return (isRoot ? QString() : folder) + QDir::separator() + QLatin1String(name);
 }
 
 QString joinedFolder(const QString &folder, const char *name)

@@ -88,6 +88,15 @@ TEST_F(DriverPaths, lieInTheFolderForData)
     EXPECT_EQ(settings.getLogFilePath(), "/var/log/velto/driver/");
 }
 
+TEST_F(DriverPaths, lieInTheRootWithOneSeparator)
+{
+    const bool isOurs = access("/", W_OK) == 0;
+    set("NUA_RW_DATA", "/");
+    set("NUA_CONFIG", "/");
+    EXPECT_EQ(S::defaultDataPath(), isOurs ? "/NUAlocal" : "/var/lib/velto/nuadriver/NUAlocal");
+    EXPECT_EQ(S::getDriverPrivatePath(), "/config_data/"); // there is no application here
+}
+
 TEST_F(DriverPaths, ofTheDriversOwnFilesGoByTheProgram)
 {
     EXPECT_EQ(S::getDriverPrivatePath(), "/config_data/"); // no program is known
