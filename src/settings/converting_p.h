@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/fieldtype_p.h"
+
+#include <QuvFramework/fw_exception.h>
+
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
@@ -24,6 +28,17 @@ bool convertSetting(const QVariant &variant, Whole &out)
         return false;
     out = static_cast<Whole>(number);
     return true;
+}
+
+/** An object, or a list of them, as in a list of parameters; what its own class refuses is not taken either. */
+template <class T>
+bool takeObject(const QVariant &variant, T &out)
+{
+    try {
+        return fieldType<T>().readVariant(variant, &out);
+    } catch (const FW_Exception &) {
+        return false;
+    }
 }
 
 } // namespace quv

@@ -2,6 +2,7 @@
 #include "settings/getdriverinfoanswer.h"
 
 #include "base/describedanswer_p.h"
+#include "settings/converting_p.h"
 #include "settings/driverinfo_p.h"
 
 struct GetDriverInfoAnswer::Description
@@ -33,5 +34,5 @@ GetDriverInfoAnswer *GetDriverInfoAnswer::clone() const
 
 void GetDriverInfoAnswer::setDriverInfo(QVariant driverInfo)
 {
-    quv::fieldType<DriverInfo>().readVariant(driverInfo, &m_driverInfo);
+    quv::takeObject(driverInfo, m_driverInfo);
 }

@@ -84,8 +84,10 @@ TEST(GetDriverInfoAnswer, takesAnInfo)
     GetDriverInfoAnswer other;
     other.setDriverInfo(QVariant::fromValue(info()));
     EXPECT_EQ(other.driverInfo(), info());
-    for (const QVariant &value : {QVariant(), QVariant(7), QVariant(QVariantMap())})
-        other.setDriverInfo(value);
+    for (const QVariant &value :
+         {QVariant(), QVariant(7), QVariant(QVariantMap()), QVariant(QVariantMap{{"driver_name", "other"}}),
+          QVariant(QVariantMap{{"driver_name", 5}})})
+        EXPECT_NO_THROW(other.setDriverInfo(value)) << shown({value});
     EXPECT_EQ(other.driverInfo(), info());
 }
 

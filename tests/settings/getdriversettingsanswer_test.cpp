@@ -71,8 +71,9 @@ TEST(GetDriverSettingsAnswer, takesSettings)
     GetDriverSettingsAnswer other;
     other.setDriverSettings(QVariant::fromValue(settings()));
     EXPECT_EQ(other.driverSettings(), settings());
-    for (const QVariant &value : {QVariant(), QVariant(7), QVariant(QVariantMap())})
-        other.setDriverSettings(value);
+    for (const QVariant &value :
+         {QVariant(), QVariant(7), QVariant(QVariantMap()), QVariant(QVariantMap{{"AppProfile", "MILL"}})})
+        EXPECT_NO_THROW(other.setDriverSettings(value)) << shown({value});
     EXPECT_EQ(other.driverSettings(), settings());
 }
 
