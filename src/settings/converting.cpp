@@ -6,8 +6,21 @@
 #include <QuvFramework/fw_utils.h>
 
 #include <cmath>
+#include <limits>
 
 namespace quv {
+
+namespace {
+
+/** Of an unsigned number, which Qt would make a negative one. */
+bool isBeyondLong(const QVariant &variant)
+{
+    const int type = variant.userType();
+    return (type == QMetaType::ULong || type == QMetaType::ULongLong) &&
+           variant.toULongLong() > static_cast<qulonglong>(std::numeric_limits<qlonglong>::max());
+}
+
+} // namespace
 
 bool convertSetting(const QVariant &variant, bool &out)
 {
@@ -30,6 +43,8 @@ bool convertSetting(const QVariant &variant, long long &out)
 {
     if (decodeVariant(variant, out))
         return true;
+    if (isBeyondLong(variant))
+        return false;
     double fraction = 0;
     bool converts = true;
     long long number = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "settings/driversettings.h"
 
+#include "base/bluetoothdeviceinfo_p.h"
+#include "base/decoding_p.h"
 #include "settings/driversettings_p.h"
 #include "settings/setting_p.h"
 
@@ -13,6 +15,7 @@
 #include <QtCore/QThread>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -53,6 +56,20 @@ struct AsScanLevel
     static int give(int field) { return field; }
 };
 
+/** An unsigned number, beyond an int too: its field type would make it a negative one. */
+struct AsCount
+{
+    using Outside = long long;
+    static bool take(long long given, unsigned &field)
+    {
+        if (given < 0 || given > std::numeric_limits<unsigned>::max())
+            return false;
+        field = static_cast<unsigned>(given);
+        return true;
+    }
+    static long long give(unsigned field) { return field; }
+};
+
 /** Devices as one text. */
 struct AsText
 {
@@ -68,6 +85,17 @@ struct AsText
     }
 };
 
+bool takeDevices(const QVariant &variant, BluetoothDeviceInfoList &devices)
+{
+    // readers of settings files part a text without quotes at its commas
+    QStringList parts;
+    if (quv::decodeVariant(variant, parts))
+        return AsText::take(parts.join(QLatin1Char(',')), devices);
+    QString text;
+    return quv::takeObject(variant, devices) ||
+           (quv::convertSetting(variant, text) && AsText::take(text, devices));
+}
+
 int defaultMaxThreadCount()
 {
     static const int idealCount = QThread::idealThreadCount();
@@ -75,6 +103,12 @@ int defaultMaxThreadCount()
 }
 
 } // namespace
+
+template <>
+bool quv::readSettingVariant<BluetoothDeviceInfoList, AsText>(const QVariant &variant, void *field)
+{
+    return takeDevices(variant, *static_cast<BluetoothDeviceInfoList *>(field));
+}
 
 /** All settings, in their order: the field, its default, and how it travels. */
 struct DriverSettings::Table
@@ -115,7 +149,7 @@ const std::vector<Setting> &DriverSettings::Table::settings()
         {&S::m_busyCheckFrequency, 500, none, BusyCheckFrequency_TAG},
         {&S::m_tintCommandTimeout, 3600000},
         {&S::m_bootstrapTimeout, 10000},
-        {&S::m_quantityPrecision, 4, none, QuantityPrecision_TAG},
+        {&S::m_quantityPrecision, 4, none, QuantityPrecision_TAG, AsCount()},
         {&S::m_appProfile, "DEFAULT", none, AppProfile_TAG},
         {&S::m_dispenserPort, SerialDeviceType::Dispenser},
         {&S::m_mixerPort, SerialDeviceType::Mixer},

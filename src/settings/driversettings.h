@@ -12,6 +12,8 @@
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
+#include <string>
+
 enum class MachineModel;
 
 /** How a driver looks for dispensers over Bluetooth. The numbers are the driver's; any is kept. */
@@ -70,7 +72,8 @@ public:
     explicit DriverSettings(const char *name)
         : DriverSettings(QString::fromUtf8(name)) {} // is no XML-RPC value
     explicit DriverSettings(const XmlRpc::XmlRpcValue &value, QString name = QString());
-    explicit DriverSettings(bool) = delete; // would be an XML-RPC value, as would the next two
+    explicit DriverSettings(bool) = delete; // would be an XML-RPC value, as would the next three
+    explicit DriverSettings(const std::string &) = delete;
     explicit DriverSettings(int) = delete;
     explicit DriverSettings(double) = delete;
 
@@ -82,7 +85,7 @@ public:
 
     /** The default of every setting. Those of folders go by the environment of this moment. */
     void setDefaults(QString name);
-    /** Takes the settings that the hash holds, under their flat keys; texts are converted. */
+    /** Takes the settings that the hash holds, under their flat keys; texts are converted. Devices may be a list, too. */
     void update(const QHash<QString, QVariant> &values);
     XmlRpc::XmlRpcValue toXmlRpcValue() const;
 

@@ -9,6 +9,7 @@
 #include <QtCore/QThread>
 
 #include <functional>
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -435,6 +436,9 @@ TEST_F(DriverSettingsTest, dropWhatDoesNotConvert)
              {"SerialConnScanFreq", 3e9},
              {"BusyCheckFrequency", "often"},
              {"BusyCheckFrequency", 1e300},
+             {"BusyCheckFrequency", 18446744073709551615ULL},
+             {"BusyCheckFrequency", 9223372036854775808ULL},
+             {"BusyCheckFrequency", QVariant::fromValue(18446744073709551615UL)},
              {"QuantityPrecision", "-1"},
              {"QuantityPrecision", 4294967296LL},
              {"SerialScanLevel", "4"},
@@ -468,6 +472,45 @@ TEST_F(DriverSettingsTest, convertNumbersAndTruth)
     EXPECT_EQ(settings.getSerialScanLevel(Type::Dispenser), 1);
 }
 
+TEST_F(DriverSettingsTest, takeUnsignedNumbersThatFit)
+{
+    for (const QVariant &greatest :
+         {QVariant(9223372036854775807ULL), QVariant::fromValue(9223372036854775807UL)}) {
+        S settings("driver");
+        settings.update({{"BusyCheckFrequency", greatest}});
+        EXPECT_EQ(settings.getBusyCheckFrequency(), 9223372036854775807LL);
+    }
+}
+
+TEST_F(DriverSettingsTest, takeDevicesInEveryForm)
+{
+    const QVariantList structs = {QVariantMap{{"bt_name", "VELTO 1"}, {"bt_address", "00:11"}},
+                                  QVariantMap{{"bt_name", "VELTO 2"}, {"bt_address", "00:22"}}};
+    const std::vector<std::pair<const char *, Devices (S::*)() const>> settingsOfDevices = {
+        {"BTTargetDevices", &S::getBTTargetDevices}, {"BTBannedDevices", &S::getBTBannedDevices}};
+    for (const auto &[key, held] : settingsOfDevices) {
+        SCOPED_TRACE(key);
+        for (const QVariant &form : {QVariant(QStringList{"VELTO 1|00:11", "VELTO 2|00:22"}),
+                                     QVariant(QVariantList{"VELTO 1|00:11", "VELTO 2|00:22"}),
+                                     QVariant(structs), QVariant::fromValue(devices())}) {
+            S settings("driver");
+            settings.update({{key, form}});
+            EXPECT_EQ((settings.*held)(), devices()) << form.typeName();
+            for (const QVariant &other : {QVariant(), QVariant(QVariantMap()), QVariant(QVariantList{7}),
+                                          QVariant(QVariantList{QVariantMap{{"bt_name", "VELTO 3"}}})})
+                settings.update({{key, other}});
+            EXPECT_EQ((settings.*held)(), devices()) << form.typeName();
+            settings.update({{key, QStringList()}});
+            EXPECT_EQ((settings.*held)(), Devices());
+        }
+        Devices withComma;
+        withComma.append(BluetoothDeviceInfo("mill, left", "00:33"));
+        S settings("driver");
+        settings.update({{key, QVariant::fromValue(withComma)}});
+        EXPECT_EQ((settings.*held)(), withComma);
+    }
+}
+
 TEST_F(DriverSettingsTest, knowNoOtherKeys)
 {
     const S defaults("driver");
@@ -498,6 +541,7 @@ TEST_F(DriverSettingsTest, keepTheDefaultOfAMemberOfAnotherType)
                                                      {"LockConfiguration", 1},
                                                      {"AppProfile", 7},
                                                      {"QuantityPrecision", -1},
+                                                     {"QuantityPrecision", 4294967296.0},
                                                      {"SerialScanLevel", 4},
                                                      {"SerialScanLevel", -1},
                                                      {"Logger", 5},
@@ -551,6 +595,18 @@ TEST_F(DriverSettingsTest, comeBackFromTheirStruct)
         EXPECT_TRUE(given.isTaken(back)) << given.flatKey;
 }
 
+TEST_F(DriverSettingsTest, keepAWidePrecision)
+{
+    S settings("driver");
+    settings.setQuantityPrecision(4294967295U);
+    const Value written = settings.toXmlRpcValue();
+    EXPECT_EQ(dumped(written["QuantityPrecision"]), "4.29497e+09");
+    EXPECT_EQ(S(written, "driver").getQuantityPrecision(), 4294967295U);
+    settings.update({{"QuantityPrecision", 2147483648.0}});
+    EXPECT_EQ(settings.getQuantityPrecision(), 2147483648U);
+    EXPECT_EQ(S(settings.toXmlRpcValue(), "driver"), settings);
+}
+
 TEST_F(DriverSettingsTest, doNotSendWhatHasNoKey)
 {
     S settings("driver");
@@ -602,6 +658,7 @@ TEST_F(DriverSettingsTest, areMadeOfNoNumber)
 {
     static_assert(!std::is_constructible_v<S, int> && !std::is_constructible_v<S, bool>);
     static_assert(!std::is_constructible_v<S, double> && !std::is_convertible_v<QString, S>);
+    static_assert(!std::is_constructible_v<S, std::string>);
 }
 
 } // namespace
