@@ -325,19 +325,21 @@ class Reference(DocumentTest):
         calls = [line for fence in self.fences if fence.info == "python" for line in fence.lines
                  if line.startswith("driver.EXEC_B(")]
         self.assertGreater(len(examples), 40)
-        self.assertEqual(len(examples), len(calls))
+        self.assertGreaterEqual(len(calls), len(examples))  # quvctl cannot send what a command does not write
         for machine in ("dispenser", "dual"):
+            def of_machine(lines):
+                return [line for line in lines if ("CHANNEL_TINT" in line) == (machine == "dual")]
+
             shell.run(f"quvdriver --machine {machine} --machine mixer --speed 10000 &")
-            for example, call in zip(examples, calls):
-                if ("CHANNEL_TINT" in example) != (machine == "dual"):
-                    continue
+            for example in of_machine(examples):
                 with self.subTest(example):
                     told = shell.run(example)
                     codes = set(re.findall(r"DE\d{5}", "\n".join(told)))
                     self.assertTrue(any(line.endswith(" executed successfully!") for line in told) or codes & self.LIMITS, told)
+            for call in of_machine(calls):
                 with self.subTest(call):
                     with xmlrpc.client.ServerProxy(f"http://127.0.0.1:{shell.ports[PORT]}") as driver:
-                        envelope = eval(call, {"driver": driver})
+                        envelope = eval(call, {"driver": driver, "xmlrpc": xmlrpc})
                     codes = {error["code"] for error in envelope["errors"]}
                     self.assertTrue(envelope["ret_code"] == 0 or codes & self.LIMITS, envelope)
 

@@ -61,7 +61,8 @@ TEST(FW_Dispenser, positionsAscend)
     machine.addCanister(pouring::canister(2, "", 0, {pouring::circuit(2, 4, 0)}));
     EXPECT_THAT(machine.getPositionsIDList(false), ElementsAre(4, 9, 12));
     EXPECT_THAT(machine.getPositionsIDList(true), ElementsAre(4, 12));
-    EXPECT_THAT(machine.getWireBoardsID(), ElementsAre(4, 9, 12)) << "a board is there whether enabled or not";
+    EXPECT_THAT(machine.getWireBoardsID(), ElementsAre(4, 9, 12))
+        << "a board is there whether enabled or not";
     EXPECT_THAT(FW_Dispenser().getPositionsIDList(false), IsEmpty());
 }
 

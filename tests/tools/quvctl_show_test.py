@@ -2,6 +2,7 @@
 """quvctl show: a command in words, and its examples. Usage: quvctl_show_test.py QUVDRIVER QUVCTL COMMANDS_MD"""
 
 import ast
+import base64
 import difflib
 import fcntl
 import functools
@@ -15,6 +16,7 @@ import subprocess
 import sys
 import termios
 import unittest
+import xmlrpc.client
 
 import quvctl_process
 import quvdriver_process
@@ -215,11 +217,15 @@ class Recorder:
         return list(params)
 
 
+def bytes_or_struct(members):
+    return xmlrpc.client.Binary(base64.b64decode(members["$base64"])) if "$base64" in members else members
+
+
 def value(word):
     """What a word of an example stands for."""
     text = re.sub(r"^[a-z_0-9]+=", "", word)
     try:
-        return json.loads(text)
+        return json.loads(text, object_hook=bytes_or_struct)
     except ValueError:
         return text
 
@@ -238,7 +244,7 @@ class Examples(ShowTest):
                 self.assertIn(name, examples, "it needs a sample in tools/quvctl/commandexample.cpp")
         for name, example in examples.items():
             if "shell" not in example:
-                sent, *arguments = eval(example["python"], {"driver": Recorder()})
+                sent, *arguments = eval(example["python"], {"driver": Recorder(), "xmlrpc": xmlrpc})
                 code, _, error = run("call", sent, *map(json.dumps, arguments))
                 self.assertEqual((sent, code), (name, 2))
                 self.assertIn(f"{name} cannot be called: the driver would refuse what quvctl sends", error)
@@ -248,7 +254,7 @@ class Examples(ShowTest):
             self.assertEqual(json.loads(self.done("encode", "--json", *words))["request"][0], name)
             if "--machine" in words:
                 del words[words.index("--machine"):]
-            self.assertEqual(eval(example["python"], {"driver": Recorder()}), [name, *map(value, words[1:])])
+            self.assertEqual(eval(example["python"], {"driver": Recorder(), "xmlrpc": xmlrpc}), [name, *map(value, words[1:])])
 
     def test_they_work(self):
         for machine, names in [

@@ -51,6 +51,7 @@ constexpr Sample samplesOfCommands[] = {
     {"GET_CMD_EST_EXEC_TIME", R"([{"command":["RESET"]}])"},
     {"READ_CONFIG_ROW", "[7,1]"},
     {"RESET_FW", R"([2,{"board_addresses":[3,4]}])"},
+    {"SLAVE_JUMP", "[12,2]"},
     {"UPDATE_FW", R"([[{"board_type":2,"board_addresses":[3,4],"image":{"$base64":"AP8="}}]])"},
     {"WRITE_CONFIG_ROW", R"([{"cmd_value":7,"cmd_parameters":"1,60,10,40"}])"},
     {"PRIMING", R"([{"formula_type":1,"quantity_unit":2,"ids":[2,3],"quantities":[3,3]}])"},
