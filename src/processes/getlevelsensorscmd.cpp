@@ -54,7 +54,8 @@ GetLevelSensorsCmd *GetLevelSensorsCmd::clone() const
 
 QList<QVariant> GetLevelSensorsCmd::parameters() const
 {
-    return {intListToVariant(m_positions)}; // variants of integer lists do not compare
+    // variants of integer lists do not compare, and in braces some compilers would copy the list
+    return QList<QVariant>() << QVariant(intListToVariant(m_positions));
 }
 
 QList<int> GetLevelSensorsCmd::serialParameters(int) const
