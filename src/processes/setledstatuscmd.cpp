@@ -66,7 +66,8 @@ struct SetLedStatusCmd::Description : quv::Description
         archive.required("led", self.led, badLed, badLed);
         archive.optional({"mode", "0 shows the colour, 245 is not set"}, self.mode, badMode);
         archive.refuseUnless(checkLedMode(self.mode), badMode);
-        archive.optional({"colour", "#AARRGGBB, #RRGGBB or a name; empty for none"}, self.colour, badColour);
+        archive.optional({"colour", R"("#AARRGGBB", "#RRGGBB" or a name; empty for none)"}, self.colour,
+                         badColour);
         archive.refuseUnless(isColour(self.colour), badColour);
     }
 
