@@ -10,6 +10,7 @@ int main(int argc, char **argv)
     quv::addErrorRatios();
     quv::addResourceRatios();
     quv::addMachineRatios();
+    quv::addMachineTreeRatios();
     quv::addSettingsRatios();
     quv::addStatusRatios();
     return quv::runRatios(argc, argv);

@@ -9,6 +9,7 @@ void addDispensingRatios();
 void addErrorRatios();
 void addResourceRatios();
 void addMachineRatios();
+void addMachineTreeRatios();
 void addSettingsRatios();
 void addStatusRatios();
 

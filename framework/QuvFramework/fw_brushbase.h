@@ -4,8 +4,6 @@
 #include <QuvFramework/fw_cleanjob.h>
 #include <QuvFramework/fw_device.h>
 
-#include <tuple>
-
 /** A brush of a rotating machine, with the job of quick cleaning by it. */
 class QUVFRAMEWORK_EXPORT FW_BrushBase : public FW_Device, public FW_CleanJob
 {
@@ -21,12 +19,6 @@ public:
 
 protected:
     explicit FW_BrushBase(int kind) : FW_Device(kind), FW_CleanJob(Quick) {}
-
-    auto brushFields() const
-    {
-        const FW_CleanJob &job = *this;
-        return std::tie(job, m_position, m_selfCleaningTime);
-    }
 
 private:
     int m_position = 0;

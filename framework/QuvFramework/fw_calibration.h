@@ -3,7 +3,12 @@
 
 #include <QuvFramework/fw_global.h>
 
+#include <QtCore/QMetaType>
 #include <QtCore/QVector>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
+#include <initializer_list>
 
 /** One measured pour: so many motor steps at this speed, through this nozzle valve, gave this quantity. */
 struct QUVFRAMEWORK_EXPORT FW_CalibrationPoint
@@ -27,6 +32,11 @@ class QUVFRAMEWORK_EXPORT FW_Calibration
 public:
     FW_Calibration() = default;
     explicit FW_Calibration(QVector<FW_CalibrationPoint> points);
+    explicit FW_Calibration(std::initializer_list<FW_CalibrationPoint> points)
+        : FW_Calibration(QVector<FW_CalibrationPoint>(points))
+    {}
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_Calibration(const XmlRpc::XmlRpcValue &value);
 
     const QVector<FW_CalibrationPoint> &points() const { return m_points; }
     void setPoints(QVector<FW_CalibrationPoint> points);
@@ -45,6 +55,8 @@ public:
     int minSpeed() const;
     int maxSpeed() const;
 
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
     bool operator==(const FW_Calibration &other) const { return m_points == other.m_points; }
     bool operator!=(const FW_Calibration &other) const { return !(*this == other); }
 
@@ -54,3 +66,5 @@ private:
     QVector<FW_CalibrationPoint> m_points;
     bool m_usable = false;
 };
+
+Q_DECLARE_METATYPE(FW_Calibration)

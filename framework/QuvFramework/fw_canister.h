@@ -5,7 +5,10 @@
 #include <QuvFramework/fw_circuit.h>
 
 #include <QtCore/QList>
+#include <QtCore/QMetaType>
 #include <QtCore/QString>
+
+#include <xmlrpcpp/XmlRpcValue.h>
 
 #include <optional>
 
@@ -18,6 +21,8 @@ class QUVFRAMEWORK_EXPORT FW_Canister
 public:
     FW_Canister() = default;
     explicit FW_Canister(int id) : m_id(id) {}
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_Canister(const XmlRpc::XmlRpcValue &value);
 
     int id() const { return m_id; }
     void setId(int id) { m_id = id; }
@@ -66,6 +71,8 @@ public:
     /** Positions of all circuits, or of the enabled ones only. */
     QList<int> getCircuitPositions(bool onlyEnabled) const;
 
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
     bool operator==(const FW_Canister &other) const;
     bool operator!=(const FW_Canister &other) const { return !(*this == other); }
 
@@ -82,3 +89,5 @@ private:
     std::optional<FW_CanisterLevelSensor> m_levelSensor;
     QList<FW_Circuit> m_circuits;
 };
+
+Q_DECLARE_METATYPE(FW_Canister)

@@ -3,6 +3,10 @@
 
 #include <QuvFramework/fw_global.h>
 
+#include <QtCore/QMetaType>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
 /** The sensor that tells when a canister runs low. */
 class QUVFRAMEWORK_EXPORT FW_CanisterLevelSensor
 {
@@ -10,6 +14,9 @@ public:
     /** In what the check frequency is told. */
     enum FrequencyUnit { FirmwareUnit = 0, HundredthsOfStroke = 1 };
 
+    FW_CanisterLevelSensor() = default;
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_CanisterLevelSensor(const XmlRpc::XmlRpcValue &value);
     FW_CanisterLevelSensor *clone() const; ///< owned by the caller
 
     bool isEnabled() const { return m_enabled; }
@@ -26,6 +33,8 @@ public:
     int checkFrequencyUnit() const { return m_checkFrequencyUnit; }
     void setCheckFrequency(int frequency, int unit);
 
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
     bool operator==(const FW_CanisterLevelSensor &other) const;
     bool operator!=(const FW_CanisterLevelSensor &other) const { return !(*this == other); }
 
@@ -37,3 +46,5 @@ private:
     int m_checkFrequency = 100;
     int m_checkFrequencyUnit = HundredthsOfStroke;
 };
+
+Q_DECLARE_METATYPE(FW_CanisterLevelSensor)

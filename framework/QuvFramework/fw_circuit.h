@@ -9,7 +9,10 @@
 #include <QuvFramework/fw_valve.h>
 
 #include <QtCore/QList>
+#include <QtCore/QMetaType>
 #include <QtCore/QString>
+
+#include <xmlrpcpp/XmlRpcValue.h>
 
 /** The way from a canister to the nozzle: motor and pump, valves, and how they pour. */
 class QUVFRAMEWORK_EXPORT FW_Circuit
@@ -20,6 +23,8 @@ public:
 
     FW_Circuit() = default;
     FW_Circuit(int id, int positionId) : m_id(id), m_positionId(positionId) {}
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_Circuit(const XmlRpc::XmlRpcValue &value);
 
     int id() const { return m_id; }
     void setId(int id) { m_id = id; }
@@ -77,6 +82,8 @@ public:
     int wireConnectorId() const { return m_wireConnectorId; }
     void setWireConnectorId(int id) { m_wireConnectorId = id; }
 
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
     bool operator==(const FW_Circuit &other) const;
     bool operator!=(const FW_Circuit &other) const { return !(*this == other); }
 
@@ -103,3 +110,5 @@ private:
     QList<int> m_nozzleValvesID;
     FW_Calibration m_calibration;
 };
+
+Q_DECLARE_METATYPE(FW_Circuit)

@@ -4,11 +4,17 @@
 #include <QuvFramework/fw_cleanjob.h>
 #include <QuvFramework/fw_motor.h>
 
+#include <QtCore/QMetaType>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
 /** The motor that cleans the nozzle of a circuit, with its job of accurate cleaning. */
 class QUVFRAMEWORK_EXPORT FW_CleaningMotor : public FW_Motor, public FW_CleanJob
 {
 public:
     explicit FW_CleaningMotor(FW_ModelNumber model = -1);
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_CleaningMotor(const XmlRpc::XmlRpcValue &value);
 
     int duration() const { return m_duration; } ///< seconds
     void setDuration(int seconds) { m_duration = seconds; }
@@ -30,6 +36,8 @@ public:
     /** The inverse. False, and the results as they were, for what is not 0 to 255. */
     static bool decodeCleanPolicyFwMask(int policy, int &schedule, int &target, int &process);
 
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
     bool operator==(const FW_CleaningMotor &other) const;
     bool operator!=(const FW_CleaningMotor &other) const { return !(*this == other); }
 
@@ -39,3 +47,5 @@ private:
     int m_target = 0;
     int m_process = 0;
 };
+
+Q_DECLARE_METATYPE(FW_CleaningMotor)

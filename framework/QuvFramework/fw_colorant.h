@@ -4,7 +4,10 @@
 #include <QuvFramework/fw_global.h>
 
 #include <QtCore/QList>
+#include <QtCore/QMetaType>
 #include <QtCore/QString>
+
+#include <xmlrpcpp/XmlRpcValue.h>
 
 class FW_Dispenser;
 
@@ -14,6 +17,9 @@ class QUVFRAMEWORK_EXPORT FW_Colorant
 public:
     FW_Colorant() = default;
     explicit FW_Colorant(const QString &code, const QString &name = QString()) : m_code(code), m_name(name) {}
+    explicit FW_Colorant(const char *code) : m_code(QString::fromUtf8(code)) {}
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_Colorant(const XmlRpc::XmlRpcValue &value);
 
     QString code() const { return m_code; }
     void setCode(const QString &code) { m_code = code; }
@@ -28,11 +34,9 @@ public:
     /** Positions of the circuits of the machine's canisters that hold it: of all, or of what is enabled only. */
     QList<int> getPositionsID(const FW_Dispenser &machine, bool onlyEnabled) const;
 
-    bool operator==(const FW_Colorant &other) const
-    {
-        return m_code == other.m_code && m_name == other.m_name && m_enabled == other.m_enabled &&
-               m_systemColorantID == other.m_systemColorantID;
-    }
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
+    bool operator==(const FW_Colorant &other) const;
     bool operator!=(const FW_Colorant &other) const { return !(*this == other); }
 
 private:
@@ -41,3 +45,5 @@ private:
     bool m_enabled = true;
     int m_systemColorantID = 0;
 };
+
+Q_DECLARE_METATYPE(FW_Colorant)

@@ -49,14 +49,6 @@ protected:
     FW_Device(const FW_Device &) = default;
     FW_Device &operator=(const FW_Device &) = default;
 
-    /** What equalTo of a class tells: \a fields gives all values of a device of the class as a tuple. */
-    template <class Device, class Fields>
-    static bool equalFields(const Device &device, const FW_Device &other, Fields fields)
-    {
-        const auto *same = dynamic_cast<const Device *>(&other);
-        return same && device.isEnabled() == same->isEnabled() && fields(device) == fields(*same);
-    }
-
 private:
     int m_kind = 0;
     bool m_enabled = true;

@@ -8,6 +8,7 @@
 #include <QuvFramework/fw_timespan.h>
 
 #include <QtCore/QList>
+#include <QtCore/QMetaType>
 #include <QtCore/QVector>
 
 #include <map>
@@ -28,9 +29,13 @@ public:
     enum class HeadArrangement { Single = 1, Dual = 2 };
 
     FW_Dispenser() = default;
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_Dispenser(const XmlRpc::XmlRpcValue &value);
 
     FW_Dispenser *clone() const override;
     SerialDeviceType machineType() const override;
+    XmlRpc::XmlRpcValue toXmlRpcValue() const override;
+    bool equalTo(const FW_Machine &other) const override;
 
     CommandFamily commandFamily() const { return m_commandFamily; }
     void setCommandFamily(CommandFamily family) { m_commandFamily = family; }
@@ -239,3 +244,5 @@ private:
     QList<FW_Colorant> m_colorants;
     std::map<int, std::shared_ptr<FW_Device>> m_devices;
 };
+
+Q_DECLARE_METATYPE(FW_Dispenser)

@@ -2,13 +2,17 @@
 #pragma once
 
 #include <QuvFramework/fw_flowcorrection.h>
+#include <QuvFramework/fw_gravimetricsettings.h>
 #include <QuvFramework/fw_motor.h>
 #include <QuvFramework/fw_ramp.h>
 #include <QuvFramework/fw_singletransmission.h>
 
+#include <QtCore/QMetaType>
 #include <QtCore/QSharedData>
 #include <QtCore/QSharedDataPointer>
 #include <QtCore/QVector>
+
+#include <xmlrpcpp/XmlRpcValue.h>
 
 #include <optional>
 
@@ -37,17 +41,11 @@ public:
         bool operator!=(const SpeedMpxOffset &other) const { return !(*this == other); }
     };
 
-    /** By how far and how often a scale corrects a pour. */
-    struct GravimetricSettings
-    {
-        double tolerance = 0.05; ///< grams
-        int maxCorrections = 3;
-
-        bool operator==(const GravimetricSettings &other) const;
-        bool operator!=(const GravimetricSettings &other) const { return !(*this == other); }
-    };
+    using GravimetricSettings = ::GravimetricSettings;
 
     FW_DosingMotor() = default;
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_DosingMotor(const XmlRpc::XmlRpcValue &value);
 
     int maxSpeed() const { return m_maxSpeed; }
     int maxSpeedOrigin() const { return m_maxSpeedOrigin; }
@@ -154,6 +152,8 @@ public:
     void setFlowCorrection(const FW_FlowCorrection &part) { m_details->flowCorrection = part; }
     void removeFlowCorrection();
 
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
     bool operator==(const FW_DosingMotor &other) const;
     bool operator!=(const FW_DosingMotor &other) const { return !(*this == other); }
 
@@ -181,8 +181,6 @@ private:
         std::optional<FW_Ramp> ramp;
         std::optional<FW_SingleTransmission> singleTransmission;
         std::optional<FW_FlowCorrection> flowCorrection;
-
-        bool operator==(const Details &other) const;
     };
 
     template <class Part>
@@ -197,3 +195,5 @@ private:
     bool m_gravimetricSw = false;
     QSharedDataPointer<Details> m_details = QSharedDataPointer<Details>(new Details);
 };
+
+Q_DECLARE_METATYPE(FW_DosingMotor)

@@ -8,6 +8,8 @@
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
+#include <memory>
+
 /** Machine models by their number in the makers' catalogue; numbers that are not named here are models as well. */
 enum class MachineModel {
     None = -1,
@@ -27,6 +29,15 @@ public:
     virtual ~FW_Machine();
     virtual FW_Machine *clone() const = 0; ///< a deep copy, owned by the caller
     virtual SerialDeviceType machineType() const = 0;
+    /** All members, which a machine of the same kind is made of again; the model is "machine_model". */
+    virtual XmlRpc::XmlRpcValue toXmlRpcValue() const = 0;
+    /** True for a machine of the same kind with the same values. */
+    virtual bool equalTo(const FW_Machine &other) const = 0;
+    /**
+     * The dispenser or mixer that the struct describes, by its model; null for a struct of another kind, or of none.
+     * \throws FW_Exception DE03350 when a member is wrong
+     */
+    static std::unique_ptr<FW_Machine> fromXmlRpcValue(const XmlRpc::XmlRpcValue &value);
 
     int id() const { return m_id; }
     void setId(int id) { m_id = id; }
@@ -53,7 +64,10 @@ public:
     static bool isAFactorySID(const QString &SID);
     /** The kind of machine that a model is: models from 100 on are mixers, 0 to 99 dispensers; 0 for no model. */
     static int getMachineType(MachineModel model);
-    /** Reads the member "machine_model" (int) of a machine's struct; None when it is not there. */
+    /**
+     * Reads the member "machine_model" (int) of a machine's struct. A struct without one tells by its "type", "dispenser" or
+     * "mixer", and is a generic machine; else None.
+     */
     static MachineModel getMachineModelFromXmlRpcValue(const XmlRpc::XmlRpcValue &value);
 
 protected:

@@ -4,8 +4,6 @@
 #include <QuvFramework/fw_device.h>
 #include <QuvFramework/fw_motor.h>
 
-#include <tuple>
-
 /** What moves circuits or cans to their places by a motor that finds a pin at zero and one at each circuit. */
 class QUVFRAMEWORK_EXPORT FW_Rack : public FW_Device, public FW_Motor
 {
@@ -29,13 +27,6 @@ public:
 
 protected:
     explicit FW_Rack(int kind) : FW_Device(kind), FW_Motor(Rack) {}
-
-    auto rackFields() const
-    {
-        const FW_Motor &motor = *this;
-        return std::tie(motor, m_zeroRefPinSize, m_circuitPinSize, m_positioningTolerance, m_highSpeed,
-                        m_lowSpeed, m_zeroRefSearchSpeed);
-    }
 
 private:
     int m_zeroRefPinSize = 60;

@@ -4,11 +4,17 @@
 #include <QuvFramework/fw_motor.h>
 #include <QuvFramework/fw_timespan.h>
 
+#include <QtCore/QMetaType>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
 /** The motor that keeps the colorant of a circuit going round. Speeds are in turns per minute. */
 class QUVFRAMEWORK_EXPORT FW_RecirculationMotor : public FW_Motor
 {
 public:
     FW_RecirculationMotor() : FW_Motor(Recirculation) {}
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_RecirculationMotor(const XmlRpc::XmlRpcValue &value);
 
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled) { m_enabled = enabled; }
@@ -28,6 +34,8 @@ public:
     static int defaultRecirculationActivity(FW_ModelNumber model);
     static int defaultRecirculationPause(int unit); ///< an hour
 
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
     bool operator==(const FW_RecirculationMotor &other) const;
     bool operator!=(const FW_RecirculationMotor &other) const { return !(*this == other); }
 
@@ -39,3 +47,5 @@ private:
     FW_TimeSpan m_recirculationPause =
         FW_TimeSpan(defaultRecirculationPause(FW_TimeSpan::Seconds), FW_TimeSpan::Seconds);
 };
+
+Q_DECLARE_METATYPE(FW_RecirculationMotor)

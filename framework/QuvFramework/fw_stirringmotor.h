@@ -4,11 +4,17 @@
 #include <QuvFramework/fw_motor.h>
 #include <QuvFramework/fw_timespan.h>
 
+#include <QtCore/QMetaType>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
 /** The motor that stirs a canister, or all of them. */
 class QUVFRAMEWORK_EXPORT FW_StirringMotor : public FW_Motor
 {
 public:
     FW_StirringMotor() : FW_Motor(Stirring) {}
+    /** From the struct that toXmlRpcValue writes; members may be missing. \throws FW_Exception DE03350 */
+    explicit FW_StirringMotor(const XmlRpc::XmlRpcValue &value);
 
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled) { m_enabled = enabled; }
@@ -28,6 +34,8 @@ public:
     void setWireConnectorsIdBitMask(int mask) { m_wireConnectorsIdBitMask = mask; }
     void setWireConnectorId(int connector); ///< this one alone; none for what is not 1 to 31
 
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
     bool operator==(const FW_StirringMotor &other) const;
     bool operator!=(const FW_StirringMotor &other) const { return !(*this == other); }
 
@@ -40,3 +48,5 @@ private:
     int m_wireBoardId = 0;
     int m_wireConnectorsIdBitMask = 0;
 };
+
+Q_DECLARE_METATYPE(FW_StirringMotor)

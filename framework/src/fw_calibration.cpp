@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "members_p.h"
+
 #include <QuvFramework/fw_calibration.h>
+#include <QuvFramework/fw_metatype.h>
 #include <QuvFramework/fw_utils.h>
 
 #include <algorithm>
@@ -8,6 +11,8 @@
 #include <utility>
 
 namespace {
+
+const bool isCalibrationRegistered = RegisterTravellingType<FW_Calibration>("FW_Calibration");
 
 using Points = QVector<FW_CalibrationPoint>;
 
@@ -65,8 +70,7 @@ T result(T value, bool good, bool *ok)
 
 bool FW_CalibrationPoint::operator==(const FW_CalibrationPoint &other) const
 {
-    return steps == other.steps && quantity == other.quantity && speed == other.speed &&
-           nozzleValveID == other.nozzleValveID;
+    return quv::haveSameMembers(*this, other);
 }
 
 FW_Calibration::FW_Calibration(QVector<FW_CalibrationPoint> points)
@@ -78,6 +82,16 @@ void FW_Calibration::setPoints(QVector<FW_CalibrationPoint> points)
 {
     m_points = std::move(points);
     m_usable = rises(m_points);
+}
+
+FW_Calibration::FW_Calibration(const XmlRpc::XmlRpcValue &value)
+{
+    quv::readMembers(value, *this, Q_FUNC_INFO);
+}
+
+XmlRpc::XmlRpcValue FW_Calibration::toXmlRpcValue() const
+{
+    return quv::writtenMembers(*this);
 }
 
 long long FW_Calibration::steps(double quantity, bool *ok) const

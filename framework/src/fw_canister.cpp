@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "members_p.h"
+
 #include <QuvFramework/fw_canister.h>
+#include <QuvFramework/fw_metatype.h>
 
 namespace {
+
+const bool isCanisterRegistered = RegisterTravellingType<FW_Canister>("FW_Canister");
+const bool isCanisterLevelSensorRegistered =
+    RegisterTravellingType<FW_CanisterLevelSensor>("FW_CanisterLevelSensor");
 
 constexpr int lastLayoutPosition = 244; // 245 stands for none on the serial link
 
@@ -40,13 +47,19 @@ void FW_Canister::setCanisterLevelSensor(int sensors)
         m_levelSensor.reset();
 }
 
+FW_Canister::FW_Canister(const XmlRpc::XmlRpcValue &value)
+{
+    quv::readMembers(value, *this, Q_FUNC_INFO);
+}
+
+XmlRpc::XmlRpcValue FW_Canister::toXmlRpcValue() const
+{
+    return quv::writtenMembers(*this);
+}
+
 bool FW_Canister::operator==(const FW_Canister &other) const
 {
-    return m_id == other.m_id && m_enabled == other.m_enabled && m_colorantCode == other.m_colorantCode &&
-           m_maximumQuantity == other.m_maximumQuantity && m_currentQuantity == other.m_currentQuantity &&
-           m_reserveQuantity == other.m_reserveQuantity && m_warningQuantity == other.m_warningQuantity &&
-           m_activationFlag == other.m_activationFlag && m_layoutPositionsId == other.m_layoutPositionsId &&
-           m_levelSensor == other.m_levelSensor && m_circuits == other.m_circuits;
+    return quv::haveSameMembers(*this, other);
 }
 
 FW_CanisterLevelSensor *FW_CanisterLevelSensor::clone() const
@@ -60,9 +73,17 @@ void FW_CanisterLevelSensor::setCheckFrequency(int frequency, int unit)
     m_checkFrequencyUnit = unit;
 }
 
+FW_CanisterLevelSensor::FW_CanisterLevelSensor(const XmlRpc::XmlRpcValue &value)
+{
+    quv::readMembers(value, *this, Q_FUNC_INFO);
+}
+
+XmlRpc::XmlRpcValue FW_CanisterLevelSensor::toXmlRpcValue() const
+{
+    return quv::writtenMembers(*this);
+}
+
 bool FW_CanisterLevelSensor::operator==(const FW_CanisterLevelSensor &other) const
 {
-    return m_enabled == other.m_enabled && m_wireBoardId == other.m_wireBoardId &&
-           m_wireConnectorId == other.m_wireConnectorId && m_criticalLevel == other.m_criticalLevel &&
-           m_checkFrequency == other.m_checkFrequency && m_checkFrequencyUnit == other.m_checkFrequencyUnit;
+    return quv::haveSameMembers(*this, other);
 }

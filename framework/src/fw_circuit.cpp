@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "members_p.h"
+
 #include <QuvFramework/fw_circuit.h>
+#include <QuvFramework/fw_metatype.h>
 
 #include <algorithm>
 
 namespace {
+
+const bool isCircuitRegistered = RegisterTravellingType<FW_Circuit>("FW_Circuit");
 
 /** What \a motor refers to becomes what \a former refers to. */
 void takeReferences(FW_DosingMotor &motor, const FW_DosingMotor &former)
@@ -55,14 +60,17 @@ bool FW_Circuit::getStepsAndSpeed(double quantity, long long &steps, int &speed)
     return true;
 }
 
+FW_Circuit::FW_Circuit(const XmlRpc::XmlRpcValue &value)
+{
+    quv::readMembers(value, *this, Q_FUNC_INFO);
+}
+
+XmlRpc::XmlRpcValue FW_Circuit::toXmlRpcValue() const
+{
+    return quv::writtenMembers(*this);
+}
+
 bool FW_Circuit::operator==(const FW_Circuit &other) const
 {
-    return m_id == other.m_id && m_positionId == other.m_positionId && m_enabled == other.m_enabled &&
-           m_headId == other.m_headId && m_queueID == other.m_queueID &&
-           m_wireBoardId == other.m_wireBoardId && m_wireConnectorId == other.m_wireConnectorId &&
-           m_hasDosingMotor == other.m_hasDosingMotor && m_dosingMotor == other.m_dosingMotor &&
-           m_stirringMotors == other.m_stirringMotors &&
-           m_recirculationMotors == other.m_recirculationMotors &&
-           m_cleaningMotors == other.m_cleaningMotors && m_valves == other.m_valves &&
-           m_nozzleValvesID == other.m_nozzleValvesID && m_calibration == other.m_calibration;
+    return quv::haveSameMembers(*this, other);
 }

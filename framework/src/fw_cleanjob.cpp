@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "members_p.h"
+
 #include <QuvFramework/fw_brushbase.h>
 #include <QuvFramework/fw_cleaningmotor.h>
 #include <QuvFramework/fw_cleanjob.h>
+#include <QuvFramework/fw_metatype.h>
 
 namespace {
+
+const bool isCleaningMotorRegistered = RegisterTravellingType<FW_CleaningMotor>("FW_CleaningMotor");
 
 // The policy's number: four bits of schedule, two of target, two of process.
 constexpr int schedules = 16;
@@ -89,8 +94,17 @@ bool FW_CleaningMotor::decodeCleanPolicyFwMask(int policy, int &schedule, int &t
     return true;
 }
 
+FW_CleaningMotor::FW_CleaningMotor(const XmlRpc::XmlRpcValue &value)
+{
+    quv::readMembers(value, *this, Q_FUNC_INFO);
+}
+
+XmlRpc::XmlRpcValue FW_CleaningMotor::toXmlRpcValue() const
+{
+    return quv::writtenMembers(*this);
+}
+
 bool FW_CleaningMotor::operator==(const FW_CleaningMotor &other) const
 {
-    return FW_Motor::operator==(other) && FW_CleanJob::operator==(other) && m_duration == other.m_duration &&
-           m_brushType == other.m_brushType && m_target == other.m_target && m_process == other.m_process;
+    return quv::haveSameMembers(*this, other);
 }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "members_p.h"
+
 #include <QuvFramework/fw_autocap.h>
 #include <QuvFramework/fw_brush.h>
 #include <QuvFramework/fw_brush2.h>
@@ -20,7 +22,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <tuple>
 
 namespace {
 
@@ -28,6 +29,13 @@ template <class Device>
 std::unique_ptr<FW_Device> made()
 {
     return std::make_unique<Device>();
+}
+
+template <class Device>
+bool sameDevice(const Device &device, const FW_Device &other)
+{
+    const auto *same = dynamic_cast<const Device *>(&other);
+    return same && quv::haveSameMembers(device, *same);
 }
 
 } // namespace
@@ -83,11 +91,7 @@ FW_Autocap *FW_Autocap::clone() const
 
 bool FW_Autocap::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Autocap &d) {
-        return std::tie(d.m_type, d.m_movementType, d.m_openingTimeout, d.m_closingTimeout, d.m_closingDelay,
-                        d.m_powerOffDelay, d.m_automaticClosure, d.m_movementSpeed, d.m_workingMode,
-                        d.m_slidingOfflinePosTime);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_Autocap::setDefaults(bool enabled)
@@ -113,12 +117,7 @@ FW_Shelf *FW_Shelf::clone() const
 
 bool FW_Shelf::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Shelf &d) {
-        return std::tie(d.m_type, d.m_puncher, d.m_doorValue, d.m_moveOffset, d.m_resolution,
-                        d.m_punchingTolerance, d.m_punchingSpeed, d.m_canPresenceSensorHigh,
-                        d.m_punchingSensorHigh, d.m_punchingMoveOffset, d.m_rollConveyor,
-                        d.m_rollConveyorHeight);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_Shelf::setDefaults(bool enabled)
@@ -134,9 +133,7 @@ FW_CanPresenceSensor *FW_CanPresenceSensor::clone() const
 
 bool FW_CanPresenceSensor::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_CanPresenceSensor &d) {
-        return std::tie(d.m_type, d.m_canPresenceCheckAndStatus);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_CanPresenceSensor::setDefaults(bool enabled, FW_ModelNumber /*model*/)
@@ -152,9 +149,7 @@ FW_Humidifier *FW_Humidifier::clone() const
 
 bool FW_Humidifier::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Humidifier &d) {
-        return std::tie(d.m_readingPeriod, d.m_multiplierCoefficients, d.m_lowHumidityWarningThreshold);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_Humidifier::setDefaults(bool enabled)
@@ -201,7 +196,7 @@ FW_Offline *FW_Offline::clone() const
 
 bool FW_Offline::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Offline &d) { return std::tie(d.m_easyOnTime); });
+    return sameDevice(*this, other);
 }
 
 void FW_Offline::setDefaults(bool enabled)
@@ -224,9 +219,7 @@ FW_TemperatureSensor *FW_TemperatureSensor::clone() const
 
 bool FW_TemperatureSensor::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_TemperatureSensor &d) {
-        return std::tie(d.m_readingPeriod, d.m_thresholds, d.m_speedsOfGroup1, d.m_speedsOfGroup2);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_TemperatureSensor::setDefaults(bool enabled, FW_ModelNumber /*model*/)
@@ -280,9 +273,7 @@ FW_BungHoleLocator *FW_BungHoleLocator::clone() const
 
 bool FW_BungHoleLocator::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_BungHoleLocator &d) {
-        return std::tie(d.m_drivingMode, d.m_deactivationDelay);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_BungHoleLocator::setDefaults(bool enabled)
@@ -298,9 +289,7 @@ FW_NozzleLight *FW_NozzleLight::clone() const
 
 bool FW_NozzleLight::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_NozzleLight &d) {
-        return std::tie(d.m_drivingMode, d.m_deactivationDelay);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_NozzleLight::setDefaults(bool enabled)
@@ -316,11 +305,7 @@ FW_Turntable *FW_Turntable::clone() const
 
 bool FW_Turntable::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Turntable &d) {
-        return std::tuple_cat(d.rackFields(),
-                              std::tie(d.m_roundSteps, d.m_perimeter, d.m_internalPerimeter, d.m_refillAngle,
-                                       d.m_serviceAngle, d.m_stepTime, d.m_positions));
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_Turntable::setDefaults(bool enabled)
@@ -346,9 +331,7 @@ FW_Heater *FW_Heater::clone() const
 
 bool FW_Heater::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Heater &d) {
-        return std::tie(d.m_lowTemperatureThreshold, d.m_highTemperatureThreshold);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_Heater::setDefaults(bool enabled, FW_ModelNumber /*model*/)
@@ -364,7 +347,7 @@ FW_Brush *FW_Brush::clone() const
 
 bool FW_Brush::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Brush &d) { return d.brushFields(); });
+    return sameDevice(*this, other);
 }
 
 void FW_Brush::setDefaults(bool enabled)
@@ -380,8 +363,7 @@ FW_NozzleValve *FW_NozzleValve::clone() const
 
 bool FW_NozzleValve::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other,
-                       [](const FW_NozzleValve &d) { return std::tie(d.m_nozzleType, d.m_timeout); });
+    return sameDevice(*this, other);
 }
 
 void FW_NozzleValve::setDefaults(FW_ModelNumber /*model*/, bool enabled)
@@ -397,10 +379,7 @@ FW_Lineartable *FW_Lineartable::clone() const
 
 bool FW_Lineartable::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Lineartable &d) {
-        return std::tuple_cat(
-            d.rackFields(), std::tie(d.m_linearSteps, d.m_length, d.m_freeSlotPosition, d.m_servicePosition));
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_Lineartable::setDefaults(bool enabled)
@@ -416,11 +395,7 @@ FW_UltrasoundCleaning *FW_UltrasoundCleaning::clone() const
 
 bool FW_UltrasoundCleaning::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_UltrasoundCleaning &d) {
-        return std::tie(d.m_sourceVoltageValue, d.m_cleaningPolicyValue, d.m_ultrasoundDuration,
-                        d.m_ultrasoundPause, d.m_emptyingTime, d.m_fillingTime,
-                        d.m_levelSensorEnabledFwValue);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_UltrasoundCleaning::setDefaults(bool enabled)
@@ -436,7 +411,7 @@ FW_Lock *FW_Lock::clone() const
 
 bool FW_Lock::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Lock &d) { return std::tie(d.m_manualUnlockSignalMask); });
+    return sameDevice(*this, other);
 }
 
 void FW_Lock::setDefaults(bool enabled, FW_ModelNumber /*model*/)
@@ -452,7 +427,7 @@ FW_Brush2 *FW_Brush2::clone() const
 
 bool FW_Brush2::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_Brush2 &d) { return d.brushFields(); });
+    return sameDevice(*this, other);
 }
 
 void FW_Brush2::setDefaults(bool enabled)
@@ -468,10 +443,7 @@ FW_PLCBoard *FW_PLCBoard::clone() const
 
 bool FW_PLCBoard::equalTo(const FW_Device &other) const
 {
-    return equalFields(*this, other, [](const FW_PLCBoard &d) {
-        return std::tie(d.m_plcSignalsValue, d.m_endDispSignalActivationTime,
-                        d.m_errDispSignalActivationTime);
-    });
+    return sameDevice(*this, other);
 }
 
 void FW_PLCBoard::setDefaults(bool enabled)

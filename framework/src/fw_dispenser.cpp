@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "members_p.h"
+
 #include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_metatype.h>
 #include <QuvFramework/fw_utils.h>
 
 #include <algorithm>
@@ -8,6 +11,8 @@
 #include <utility>
 
 namespace {
+
+const bool isDispenserRegistered = RegisterTravellingType<FW_Dispenser>("FW_Dispenser");
 
 constexpr int lastModule = 31; // of as many bits as a mask has
 
@@ -82,15 +87,6 @@ int lowestFreeCircuitID(const FW_Dispenser &dispenser)
     while (dispenser.hasCircuitID(id))
         ++id;
     return id;
-}
-
-bool isSameMachine(const FW_Machine &left, const FW_Machine &right)
-{
-    const auto fields = [](const FW_Machine &m) {
-        return std::make_tuple(m.id(), m.model(), m.modelName(), m.SID(), m.description(), m.productCode(),
-                               m.serialNumber(), m.connectionName(), m.confStructureName());
-    };
-    return fields(left) == fields(right);
 }
 
 bool isOfLine(const QString &modelName, QLatin1String line)
@@ -177,22 +173,25 @@ void FW_Dispenser::setINVTypeFromValve(int valveType)
         m_INVType = 2;
 }
 
+FW_Dispenser::FW_Dispenser(const XmlRpc::XmlRpcValue &value)
+{
+    quv::readMembers(value, *this, Q_FUNC_INFO);
+}
+
+XmlRpc::XmlRpcValue FW_Dispenser::toXmlRpcValue() const
+{
+    return quv::writtenMembers(*this);
+}
+
 bool FW_Dispenser::operator==(const FW_Dispenser &other) const
 {
-    const auto fields = [](const FW_Dispenser &d) {
-        return std::tie(d.m_commandFamily, d.m_headArrangement, d.m_tintingParallelism,
-                        d.m_recirculatingParallelism, d.m_stirringParallelism, d.m_nozzleBasedDosing,
-                        d.m_initialWorkingMode, d.m_powerSupply, d.m_connectivity, d.m_powerOffDelay,
-                        d.m_postTintingTime, d.m_modulesID, d.m_ledManagement, d.m_timedProcessesStartupMask,
-                        d.m_RCSProcessPause, d.m_RCSProcessesFwMask, d.m_reserveSensor, d.m_INVType,
-                        d.m_globalStirring, d.m_canisters, d.m_colorants);
-    };
-    const auto areSame = [](const auto &left, const auto &right) {
-        return left.first == right.first && *left.second == *right.second;
-    };
-    return isSameMachine(*this, other) && fields(*this) == fields(other) &&
-           std::equal(m_devices.cbegin(), m_devices.cend(), other.m_devices.cbegin(), other.m_devices.cend(),
-                      areSame);
+    return quv::haveSameMembers(*this, other);
+}
+
+bool FW_Dispenser::equalTo(const FW_Machine &other) const
+{
+    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(&other);
+    return dispenser && *this == *dispenser;
 }
 
 bool FW_Dispenser::addCanister(const FW_Canister &canister, int index, bool replace)

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "members_p.h"
+
 #include <QuvFramework/fw_dosingmotor.h>
+#include <QuvFramework/fw_metatype.h>
 
 #include <tuple>
 
 namespace {
+
+const bool isDosingMotorRegistered = RegisterTravellingType<FW_DosingMotor>("FW_DosingMotor");
 
 // Pumps of type 8 are driven without a stepper, so they know no zero and need twice the current.
 constexpr int transmissionPump = 8;
@@ -76,32 +81,22 @@ bool FW_DosingMotor::checkSpeedThrTempReductionGroupID(int group)
 
 bool FW_DosingMotor::SpeedMpxOffset::operator==(const SpeedMpxOffset &other) const
 {
-    return speed == other.speed && multiplier == other.multiplier && offset == other.offset;
+    return quv::haveSameMembers(*this, other);
 }
 
-bool FW_DosingMotor::GravimetricSettings::operator==(const GravimetricSettings &other) const
+FW_DosingMotor::FW_DosingMotor(const XmlRpc::XmlRpcValue &value)
 {
-    return tolerance == other.tolerance && maxCorrections == other.maxCorrections;
+    quv::readMembers(value, *this, Q_FUNC_INFO);
 }
 
-bool FW_DosingMotor::Details::operator==(const Details &other) const
+XmlRpc::XmlRpcValue FW_DosingMotor::toXmlRpcValue() const
 {
-    const auto fields = [](const Details &d) {
-        return std::tie(d.pumpType, d.pumpValue, d.strokeValue, d.suctionSpeed, d.zeroPump, d.activationTime,
-                        d.delay, d.maxSpeedLimit, d.interDispensingTime, d.dispensingAlgorithmMask,
-                        d.smartSpeedReduction, d.speedThrTempReductionGroupID, d.speedMpxOffsets,
-                        d.gravimetricSettings, d.headRefID, d.pressureSensorWireBoardId,
-                        d.pressureSensorWireConnectorId, d.ramp, d.singleTransmission, d.flowCorrection);
-    };
-    return fields(*this) == fields(other);
+    return quv::writtenMembers(*this);
 }
 
 bool FW_DosingMotor::operator==(const FW_DosingMotor &other) const
 {
-    return FW_Motor::operator==(other) && m_maxSpeed == other.m_maxSpeed &&
-           m_maxSpeedOrigin == other.m_maxSpeedOrigin && m_stepsPerStroke == other.m_stepsPerStroke &&
-           m_gravimetricSw == other.m_gravimetricSw &&
-           (m_details == other.m_details || *m_details == *other.m_details);
+    return quv::haveSameMembers(*this, other);
 }
 
 void FW_Ramp::setDefaults()
@@ -111,9 +106,7 @@ void FW_Ramp::setDefaults()
 
 bool FW_Ramp::operator==(const FW_Ramp &other) const
 {
-    return m_configRef == other.m_configRef && m_enabled == other.m_enabled &&
-           m_initialSteps == other.m_initialSteps && m_finalSteps == other.m_finalSteps &&
-           m_speedThreshold == other.m_speedThreshold && m_slowSpeed == other.m_slowSpeed;
+    return quv::haveSameMembers(*this, other);
 }
 
 void FW_SingleTransmission::setDefaults()
@@ -123,13 +116,7 @@ void FW_SingleTransmission::setDefaults()
 
 bool FW_SingleTransmission::operator==(const FW_SingleTransmission &other) const
 {
-    const auto fields = [](const FW_SingleTransmission &t) {
-        return std::tie(t.configRef, t.motorRatedCurrent, t.inverterRatedCurrent,
-                        t.inverterOverloadMultiplier, t.motorCurrentMultiplier, t.motorOverloadTimeout,
-                        t.motorMaxSpeed, t.y1, t.y2, t.x1, t.x2, t.motorSpeedErrorTolerance, t.encoderPulses,
-                        t.encoderChannels, t.encoderStepFraction, t.inverterCurrentMax, t.inverterVoltageMax);
-    };
-    return fields(*this) == fields(other);
+    return quv::haveSameMembers(*this, other);
 }
 
 void FW_FlowCorrection::setDefaults(FW_ModelNumber)
@@ -139,11 +126,7 @@ void FW_FlowCorrection::setDefaults(FW_ModelNumber)
 
 bool FW_FlowCorrection::operator==(const FW_FlowCorrection &other) const
 {
-    const auto fields = [](const FW_FlowCorrection &c) {
-        return std::tie(c.configRef, c.overchargeSteps, c.predispenseSteps, c.bottomDelay, c.topDelay,
-                        c.zonalFlowCorrectionLevel, c.zonalDelayLevel);
-    };
-    return fields(*this) == fields(other);
+    return quv::haveSameMembers(*this, other);
 }
 
 void FW_DosingMotor::removeGravimetricSettings()

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_machine.h>
+#include <QuvFramework/fw_mixer.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <algorithm>
@@ -33,6 +35,25 @@ int FW_Machine::getMachineType(MachineModel model)
 MachineModel FW_Machine::getMachineModelFromXmlRpcValue(const XmlRpc::XmlRpcValue &value)
 {
     int model = static_cast<int>(MachineModel::None);
-    DecodeXmlRpcValue(value, "machine_model", model);
+    QString type;
+    if (FindXmlRpcMember(value, "machine_model"))
+        DecodeXmlRpcValue(value, "machine_model", model);
+    else if (DecodeXmlRpcValue(value, "type", type) && type == QLatin1String("dispenser"))
+        return MachineModel::GenericDispenser;
+    else if (type == QLatin1String("mixer"))
+        return MachineModel::GenericMixer;
     return static_cast<MachineModel>(model);
+}
+
+std::unique_ptr<FW_Machine> FW_Machine::fromXmlRpcValue(const XmlRpc::XmlRpcValue &value)
+{
+    switch (static_cast<SerialDeviceType>(getMachineType(getMachineModelFromXmlRpcValue(value)))) {
+    case SerialDeviceType::Dispenser:
+        return std::make_unique<FW_Dispenser>(value);
+    case SerialDeviceType::Mixer:
+        return std::make_unique<FW_Mixer>(value);
+    case SerialDeviceType::Scale:
+        break;
+    }
+    return nullptr;
 }

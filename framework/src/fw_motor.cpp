@@ -1,7 +1,18 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "members_p.h"
+
+#include <QuvFramework/fw_metatype.h>
 #include <QuvFramework/fw_motor.h>
 #include <QuvFramework/fw_recirculationmotor.h>
 #include <QuvFramework/fw_stirringmotor.h>
+
+namespace {
+
+const bool isStirringMotorRegistered = RegisterTravellingType<FW_StirringMotor>("FW_StirringMotor");
+const bool isRecirculationMotorRegistered =
+    RegisterTravellingType<FW_RecirculationMotor>("FW_RecirculationMotor");
+
+} // namespace
 
 FW_Motor::FW_Motor(MotorKind kind)
     : m_resolution(defaultResolution(kind)),
@@ -49,13 +60,19 @@ void FW_StirringMotor::setWireConnectorId(int connector)
         connector >= 1 && connector <= 31 ? static_cast<int>(1U << (connector - 1)) : 0;
 }
 
+FW_StirringMotor::FW_StirringMotor(const XmlRpc::XmlRpcValue &value)
+{
+    quv::readMembers(value, *this, Q_FUNC_INFO);
+}
+
+XmlRpc::XmlRpcValue FW_StirringMotor::toXmlRpcValue() const
+{
+    return quv::writtenMembers(*this);
+}
+
 bool FW_StirringMotor::operator==(const FW_StirringMotor &other) const
 {
-    return FW_Motor::operator==(other) && m_enabled == other.m_enabled &&
-           m_stirringActivity == other.m_stirringActivity && m_stirringPause == other.m_stirringPause &&
-           m_stirringPolicy == other.m_stirringPolicy && m_speed == other.m_speed &&
-           m_wireBoardId == other.m_wireBoardId &&
-           m_wireConnectorsIdBitMask == other.m_wireConnectorsIdBitMask;
+    return quv::haveSameMembers(*this, other);
 }
 
 int FW_RecirculationMotor::defaultRecirculationActivity(FW_ModelNumber)
@@ -68,10 +85,17 @@ int FW_RecirculationMotor::defaultRecirculationPause(int unit)
     return FW_TimeSpan(60, FW_TimeSpan::Minutes).in(unit);
 }
 
+FW_RecirculationMotor::FW_RecirculationMotor(const XmlRpc::XmlRpcValue &value)
+{
+    quv::readMembers(value, *this, Q_FUNC_INFO);
+}
+
+XmlRpc::XmlRpcValue FW_RecirculationMotor::toXmlRpcValue() const
+{
+    return quv::writtenMembers(*this);
+}
+
 bool FW_RecirculationMotor::operator==(const FW_RecirculationMotor &other) const
 {
-    return FW_Motor::operator==(other) && m_enabled == other.m_enabled && m_speed == other.m_speed &&
-           m_suctionSpeed == other.m_suctionSpeed &&
-           m_recirculationActivity == other.m_recirculationActivity &&
-           m_recirculationPause == other.m_recirculationPause;
+    return quv::haveSameMembers(*this, other);
 }

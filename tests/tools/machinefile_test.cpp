@@ -21,6 +21,8 @@
 #include <QuvFramework/fw_ultrasoundcleaning.h>
 #include <QuvFramework/fw_version.h>
 
+#include <QtCore/QRegularExpression>
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -688,7 +690,24 @@ TEST(MachineFile, keepsEachValueByItself)
         change.apply(dispenser);
         EXPECT_TRUE(dispenser != plain) << change.name;
         EXPECT_TRUE(read(machineFileOf(dispenser)) == dispenser) << change.name;
+        // as text, since comparison runs the description too
+        EXPECT_EQ(machineFileOf(FW_Dispenser(dispenser.toXmlRpcValue())), machineFileOf(dispenser))
+            << change.name;
     }
+}
+
+TEST(MachineFile, survivesTheWayOverXmlRpc)
+{
+    const FW_Dispenser dispenser = read(FullDispenser);
+    EXPECT_EQ(machineFileOf(FW_Dispenser(dispenser.toXmlRpcValue())), machineFileOf(fullDispenser()));
+    const QByteArray mixer =
+        "{\"type\":\"mixer\",\"id\":5,\"model\":120,\"model_name\":\"M\",\"sid\":\"9\",\"description\":\"d\","
+        "\"product_code\":\"p\",\"serial_number\":\"s\",\"connection_name\":\"c\",\"conf_structure_name\":"
+        "\"n\"}\n";
+    const auto machine = FW_Machine::fromXmlRpcValue(readMachineFile(mixer)->toXmlRpcValue());
+    ASSERT_TRUE(machine);
+    EXPECT_EQ(QString::fromUtf8(machineFileOf(*machine)).remove(QRegularExpression(QStringLiteral("\\s"))),
+              QString::fromUtf8(mixer).trimmed());
 }
 
 TEST(MachineFile, keepsADeviceWithItsDefaults)

@@ -3,9 +3,9 @@
 
 #include "excerpt.h"
 #include "jsonvalue.h"
-#include "machinemembers_p.h"
 
-#include <QtCore/QRegularExpression>
+#include <QuvFramework/fw_members.h>
+
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
 
@@ -25,16 +25,6 @@ using nlohmann::json;
 [[noreturn]] void refuse(const QString &path, const QString &text)
 {
     throw std::runtime_error((path + QStringLiteral(": ") + text).toStdString());
-}
-
-QString joined(const QString &path, const QString &key)
-{
-    return path.isEmpty() ? key : path + QLatin1Char('.') + key;
-}
-
-QString elementPath(const QString &list, int index)
-{
-    return QStringLiteral("%1[%2]").arg(list).arg(index);
 }
 
 template <class T>
@@ -64,6 +54,8 @@ template <class T>
 class Reader
 {
 public:
+    static constexpr char modelKey[] = "model";
+
     Reader(const json &source, const QString &path, T &object)
         : m_source(source),
           m_path(path),
@@ -79,7 +71,7 @@ public:
     void required(const char *key, Get get, Set set, Range range = {})
     {
         if (!m_source.contains(key))
-            refuse(joined(m_path, QLatin1String(key)), QStringLiteral("is missing"));
+            refuse(memberPath(m_path, QLatin1String(key)), QStringLiteral("is missing"));
         optional(key, get, set, range);
     }
 
@@ -88,7 +80,8 @@ public:
     {
         using Value = std::decay_t<std::invoke_result_t<Get, const T &>>;
         if (const json *value = take(key))
-            std::invoke(set, m_object, readValue<Value>(*value, joined(m_path, QLatin1String(key)), range));
+            std::invoke(set, m_object,
+                        readValue<Value>(*value, memberPath(m_path, QLatin1String(key)), range));
     }
 
     template <class Get, class Set, class Remove>
@@ -110,7 +103,7 @@ public:
         const json *value = take(key);
         if (!value)
             return;
-        Reader members(*value, joined(m_path, QLatin1String(key)), m_object);
+        Reader members(*value, memberPath(m_path, QLatin1String(key)), m_object);
         describeGroup(members);
         members.refuseOthers();
     }
@@ -119,7 +112,7 @@ public:
     {
         for (const auto &member : m_source.items()) {
             if (m_taken.count(member.key()) == 0)
-                refuse(joined(m_path, excerpt(QString::fromStdString(member.key()))),
+                refuse(memberPath(m_path, excerpt(QString::fromStdString(member.key()))),
                        QStringLiteral("unknown member"));
         }
     }
@@ -143,6 +136,8 @@ template <class T>
 class Writer
 {
 public:
+    static constexpr char modelKey[] = "model";
+
     explicit Writer(const T &object) : m_object(object) {}
 
     void constant(const char *key, const char *text) { m_written[key] = text; }
@@ -191,7 +186,7 @@ long long readInteger(const json &value, const QString &path, Range range)
     // false for what is no integer, so that both refusals are one
     const long long number = value.is_number_integer() ? value.get<long long>() : range.min - 1;
     if (number < range.min || number > range.max)
-        refuse(path, QStringLiteral("must be an integer from %1 to %2").arg(range.min).arg(range.max));
+        refuse(path, mustBeInteger(range));
     return number;
 }
 
@@ -201,24 +196,18 @@ double readNumber(const json &value, const QString &path, Range range)
     const auto max = static_cast<int>(std::min<long long>(range.max, MaxQuantity));
     const double number = value.is_number() ? value.get<double>() : min - 1.0;
     if (!(number >= min && number <= max))
-        refuse(path, QStringLiteral("must be a number from %1 to %2").arg(min).arg(max));
+        refuse(path, mustBeNumber(range));
     return number;
 }
 
-constexpr const char *UnitNames[] = {"ms", "s", "min"}; // by FW_TimeSpan::Unit
-
 MachineTime readTime(const json &value, const QString &path)
 {
-    static const QRegularExpression pattern(
-        QRegularExpression::anchoredPattern(QStringLiteral("([0-9]+) (ms|s|min)")));
-    const QString text = value.is_string() ? QString::fromStdString(value.get<std::string>()) : QString();
-    const QRegularExpressionMatch match = pattern.match(text);
-    bool fits = false;
-    const int number = match.captured(1).toInt(&fits);
-    if (!fits)
-        refuse(path, QStringLiteral("must be a time, as \"30 min\", \"90 s\" or \"1500 ms\""));
-    const auto unit = std::find(std::begin(UnitNames), std::end(UnitNames), match.captured(2));
-    return {number, static_cast<int>(unit - std::begin(UnitNames))};
+    const auto time = value.is_string()
+                          ? machineTimeFromText(QString::fromStdString(value.get_ref<const std::string &>()))
+                          : std::nullopt;
+    if (!time)
+        refuse(path, mustBeTime());
+    return *time;
 }
 
 QString readText(const json &value, const QString &path)
@@ -282,7 +271,7 @@ OrderedJson writtenValue(const T &value)
     } else if constexpr (std::is_same_v<T, QString>) {
         return value.toStdString();
     } else if constexpr (std::is_same_v<T, MachineTime>) {
-        return std::to_string(value.value) + ' ' + UnitNames[value.unit];
+        return toText(value).toStdString();
     } else if constexpr (IsOptional<T>::value) {
         return value ? writtenValue(*value) : OrderedJson();
     } else if constexpr (IsList<T>::value) {
@@ -343,7 +332,7 @@ public:
             return;
         const auto known = m_parts.emplace(reference, *part).first;
         if (known->second != *part)
-            refuse(joined(motorPath, m_key),
+            refuse(memberPath(motorPath, m_key),
                    QStringLiteral("is not equal to another of reference %1").arg(reference));
     }
 
@@ -356,7 +345,7 @@ Unique<QString> checkedColorantCodes(const FW_Dispenser &dispenser)
 {
     Unique<QString> codes("colorant");
     for (int i = 0; i < dispenser.colorants().size(); ++i) {
-        const QString path = joined(elementPath(QStringLiteral("colorants"), i), QStringLiteral("code"));
+        const QString path = memberPath(elementPath(QStringLiteral("colorants"), i), QStringLiteral("code"));
         if (dispenser.colorants().at(i).code().isEmpty())
             refuse(path, QStringLiteral("must not be empty"));
         codes.add(dispenser.colorants().at(i).code(), path);
@@ -372,15 +361,15 @@ void checkCanisters(const FW_Dispenser &dispenser, const Unique<QString> &colora
     for (int i = 0; i < dispenser.canisters().size(); ++i) {
         const FW_Canister &canister = dispenser.canisters().at(i);
         const QString path = elementPath(QStringLiteral("canisters"), i);
-        canisterIds.add(canister.id(), joined(path, QStringLiteral("id")));
+        canisterIds.add(canister.id(), memberPath(path, QStringLiteral("id")));
         if (!canister.colorantCode().isEmpty() && !colorantCodes.contains(canister.colorantCode()))
-            refuse(joined(path, QStringLiteral("colorant")),
+            refuse(memberPath(path, QStringLiteral("colorant")),
                    QStringLiteral("there is no colorant \"%1\"").arg(excerpt(canister.colorantCode())));
         for (int j = 0; j < canister.circuits().size(); ++j) {
             const FW_Circuit &circuit = canister.circuits().at(j);
-            const QString circuitPath = elementPath(joined(path, QStringLiteral("circuits")), j);
-            circuitIds.add(circuit.id(), joined(circuitPath, QStringLiteral("id")));
-            positions.add(circuit.positionId(), joined(circuitPath, QStringLiteral("position_id")));
+            const QString circuitPath = elementPath(memberPath(path, QStringLiteral("circuits")), j);
+            circuitIds.add(circuit.id(), memberPath(circuitPath, QStringLiteral("id")));
+            positions.add(circuit.positionId(), memberPath(circuitPath, QStringLiteral("position_id")));
         }
     }
 }
@@ -394,7 +383,7 @@ void checkSharedParts(const FW_Dispenser &dispenser)
         const QString circuits = elementPath(QStringLiteral("canisters"), i) + QStringLiteral(".circuits");
         for (int j = 0; j < dispenser.canisters().at(i).circuits().size(); ++j) {
             const FW_DosingMotor &motor = dispenser.canisters().at(i).circuits().at(j).dosingMotor();
-            const QString path = joined(elementPath(circuits, j), QStringLiteral("dosing_motor"));
+            const QString path = memberPath(elementPath(circuits, j), QStringLiteral("dosing_motor"));
             ramps.add(motor.ramp(), motor.rampConfigRef(), path);
             transmissions.add(motor.singleTransmission(), motor.singleTransmissionConfigRef(), path);
             corrections.add(motor.flowCorrection(), motor.flowCorrectionConfigRef(), path);

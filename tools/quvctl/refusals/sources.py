@@ -60,8 +60,9 @@ class Sources:
                 self.aliases.setdefault(name, []).append((types, owners, source.root))
 
     def functions_near(self, name, node):
-        """Those of the name, a lambda of the same function or else those of the same file before all others."""
+        """Those of the name, a lambda of the same function or else those of the same file before all others, then of its library."""
         found = self.functions.get(name, [])
+        found = [one for one in found if library_of(one.root.path) == library_of(node.root().path)] or found
         function = function_of(node)
         local = [one for one in found if one.outer and function and one.outermost is function.outermost]
         found = [one for one in found if not one.outer]
@@ -125,6 +126,10 @@ class Sources:
         here = [one for one in found if one.root is node.root()]
         header = [one for one in found if is_header(one.root.path)]
         return (here or header or [None])[0]
+
+
+def library_of(path):
+    return path.split("/", 1)[0]
 
 
 def is_header(path):

@@ -5,6 +5,7 @@
 #include <QuvFramework/fw_brush.h>
 #include <QuvFramework/fw_brush2.h>
 #include <QuvFramework/fw_bungholelocator.h>
+#include <QuvFramework/fw_calibrationprofiles.h>
 #include <QuvFramework/fw_canpresencesensor.h>
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_heater.h>
@@ -29,14 +30,16 @@
 #include <limits>
 #include <optional>
 
-// What a machine file holds, a line a member. An archive reads or writes it:
+// What a machine holds, a line a member. This one description is what machine files, the structs of XML-RPC and comparison are made
+// of: each is an archive that runs it.
 //
 //   constant(key, text)               a member that is always there and says always the same
 //   required(key, get, set, range)    a member that has to be there
 //   optional(key, get, set, range)    one that has the default of its object when it is not there; get may give a
 //                                     std::optional, for what the object can do without
-//   removable(key, get, set, remove)  as optional, with null for an object that is without what it has by default
+//   removable(key, get, set, remove)  as optional, with a sign for an object that is without what it has by default
 //   group(key, describeGroup)         members of the object that stand in an object of their own
+//   modelKey                          under which a machine's model stands
 
 namespace quv {
 
@@ -54,7 +57,7 @@ constexpr int MaxModule = 31; // of as many bits as a mask has
 constexpr int MaxQuantity = 1000000000;
 constexpr int AbsoluteZero = -273; // degrees Celsius
 
-/// A time in the unit in which a file tells it, the greatest that leaves nothing over.
+/// A time as it is told: in the greatest unit that leaves nothing over.
 struct MachineTime
 {
     int value = 0;
@@ -62,6 +65,32 @@ struct MachineTime
 
     bool operator==(const MachineTime &other) const { return value == other.value && unit == other.unit; }
 };
+
+/// As "30 min", "90 s" or "1500 ms".
+QUVFRAMEWORK_EXPORT QString toText(MachineTime time);
+QUVFRAMEWORK_EXPORT std::optional<MachineTime> machineTimeFromText(const QString &text);
+
+/// What is wrong with a member, and the member's way from the object that was to be read: "canisters[3].circuits[0].head".
+struct MemberFault
+{
+    QString path;
+    QString text;
+};
+
+inline QString memberPath(const QString &object, const QString &key)
+{
+    return object.isEmpty() ? key : object + QLatin1Char('.') + key;
+}
+
+inline QString elementPath(const QString &list, int index)
+{
+    return QStringLiteral("%1[%2]").arg(list).arg(index);
+}
+
+// What a member must be, for people.
+QUVFRAMEWORK_EXPORT QString mustBeInteger(Range range);
+QUVFRAMEWORK_EXPORT QString mustBeNumber(Range range);
+QUVFRAMEWORK_EXPORT QString mustBeTime();
 
 struct ReserveSensor
 {
@@ -121,6 +150,12 @@ void describe(Archive<FW_CalibrationPoint> &point)
     describeField(point, "nozzle_valve", &Point::nozzleValveID);
 }
 
+template <template <class> class Archive>
+void describe(Archive<FW_Calibration> &calibration)
+{
+    calibration.optional("points", &FW_Calibration::points, &FW_Calibration::setPoints);
+}
+
 template <class Archive>
 void describeMotor(Archive &motor)
 {
@@ -139,9 +174,9 @@ void describe(Archive<FW_DosingMotor::SpeedMpxOffset> &entry)
 }
 
 template <template <class> class Archive>
-void describe(Archive<FW_DosingMotor::GravimetricSettings> &settings)
+void describe(Archive<GravimetricSettings> &settings)
 {
-    using Settings = FW_DosingMotor::GravimetricSettings;
+    using Settings = GravimetricSettings;
     describeField(settings, "tolerance", &Settings::tolerance);
     describeField(settings, "max_corrections", &Settings::maxCorrections);
 }
@@ -245,7 +280,7 @@ void describe(Archive<FW_DosingMotor> &motor)
     motor.optional("speed_multipliers", &Motor::speedMpxOffsets, addSpeedMultipliers);
     motor.optional("gravimetric", &Motor::isGravimetricSw, &Motor::setGravimetricSw);
     motor.optional("gravimetric_settings", gravimetricSettings,
-                   [](Motor &m, const std::optional<Motor::GravimetricSettings> &settings) {
+                   [](Motor &m, const std::optional<GravimetricSettings> &settings) {
                        m.setGravimetricSettings(*settings);
                    });
     motor.optional("head_reference", &Motor::headRefID, &Motor::setHeadRefID);
@@ -404,6 +439,16 @@ void describe(Archive<FW_Colorant> &colorant)
     colorant.optional("name", &FW_Colorant::name, &FW_Colorant::setName);
     colorant.optional("enabled", &FW_Colorant::isEnabled, &FW_Colorant::setEnabled);
     colorant.optional("system_id", &FW_Colorant::systemColorantID, &FW_Colorant::setSystemColorantID);
+}
+
+template <template <class> class Archive>
+void describe(Archive<FW_CalibrationProfiles> &profiles)
+{
+    profiles.optional("pumps", &FW_CalibrationProfiles::pumps,
+                      [](FW_CalibrationProfiles &p, const QList<FW_DosingMotor> &pumps) {
+                          for (const FW_DosingMotor &pump : pumps)
+                              p.addPump(pump);
+                      });
 }
 
 // --- devices
@@ -688,7 +733,7 @@ void describeShared(Archive &machine)
         return m.model() == MachineModel::None ? std::nullopt : std::make_optional(m.model());
     };
     machine.optional("id", &FW_Machine::id, &FW_Machine::setId);
-    machine.optional("model", model,
+    machine.optional(Archive::modelKey, model,
                      [](FW_Machine &m, std::optional<MachineModel> number) { m.setModel(*number); });
     machine.optional("model_name", &FW_Machine::modelName, &FW_Machine::setModelName);
     machine.optional("sid", &FW_Machine::SID, &FW_Machine::setSID);
