@@ -119,3 +119,32 @@ TEST(Translation, leavesTheTextsOfLogsOut)
                              "Application info read", "Success!", "Failed to create answer"})
         EXPECT_FALSE(found.contains(text)) << text;
 }
+
+// The translation of the product is whole: each text that lupdate finds has its German one, with the same places for what is filled in.
+TEST(Translation, germanHasEveryText)
+{
+    QString complaints;
+    QSet<QString> missing = collectTexts(complaints)["QuvProtocol"];
+    QFile file(GERMAN_TRANSLATION);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader reader(&file);
+    QString source;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (reader.name() == QLatin1String("source")) {
+            source = reader.readElementText();
+            EXPECT_TRUE(missing.remove(source)) << "twice, or no text any more: " << source.toStdString();
+        } else if (reader.name() == QLatin1String("translation")) {
+            EXPECT_FALSE(reader.attributes().hasAttribute("type")) << "unfinished: " << source.toStdString();
+            const QString german = reader.readElementText();
+            EXPECT_FALSE(german.trimmed().isEmpty()) << source.toStdString();
+            for (const char *place : {"%1", "%2", "%3", "%4"})
+                EXPECT_EQ(german.count(QLatin1String(place)), source.count(QLatin1String(place)))
+                    << place << " in " << german.toStdString();
+        }
+    }
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    EXPECT_EQ(QStringList(missing.values()), QStringList())
+        << "see CONTRIBUTING.md for how to translate them";
+}

@@ -2,6 +2,7 @@
 #include "driver.h"
 #include "excerpt.h"
 #include "help.h"
+#include "language.h"
 #include "operations.h"
 #include "subcommands.h"
 #include "suggestions.h"
@@ -154,6 +155,9 @@ int main(int argc, char *argv[])
     QStringList words;
     for (int i = 1; i < argc; ++i)
         words.append(QString::fromUtf8(argv[i]));
+    // programs that read a batch get the texts of their choice, not of the user who happens to start them
+    const bool isForPrograms = words.value(0) == QLatin1String(batchSubcommand.name);
+    const Language language(argc, argv, isForPrograms ? Language::QuvLang : Language::QuvLangOrLocale);
     const ExitStatus status = runReporting(words);
     const QString failure = outputFailure();
     if (failure.isEmpty())

@@ -79,8 +79,8 @@ OrderedJson encode(const Request &request)
     }
     reply["estimated_ms"] = command->getCmdEstimatedExecutionTime(machine.get());
     reply["command"] = toJson(command->commandString());
-    reply["action"] = toJson(command->actionString(false).m_text);
-    reply["action_detailed"] = toJson(command->actionString(true).m_text);
+    reply["action"] = toJson(command->actionString(false).m_translated);
+    reply["action_detailed"] = toJson(command->actionString(true).m_translated);
     return reply;
 }
 

@@ -5,6 +5,7 @@
 
 #include "callthreads.h"
 #include "httpaccess.h"
+#include "language.h"
 #include "machines.h"
 #include "terminal.h"
 #include "trace.h"
@@ -316,6 +317,7 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("quvprotocol.*.debug=false"));
     QCoreApplication::setApplicationName(QStringLiteral("quvdriver"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUV_VERSION));
+    const quv::Language language(argc, argv, quv::Language::QuvLangOrLocale);
     try {
         QCommandLineParser parser;
         parser.addOptions(knownOptions);
