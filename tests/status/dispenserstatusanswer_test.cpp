@@ -903,7 +903,7 @@ TEST(DispenserStatusTexts, describeEachConditionByItself)
 {
     for (const std::string &name : allFlags()) {
         SCOPED_TRACE(name);
-        Lines expected;
+        StatusLines expected;
         for (const auto &[flag, line] : conditions) {
             SCOPED_TRACE(line.text);
             if (name == flag)
@@ -911,7 +911,7 @@ TEST(DispenserStatusTexts, describeEachConditionByItself)
         }
         EXPECT_EQ(withFlag(name).getStatusDescriptions(nullptr), expected);
     }
-    EXPECT_EQ(DispenserStatusAnswer().getStatusDescriptions(nullptr), Lines());
+    EXPECT_EQ(DispenserStatusAnswer().getStatusDescriptions(nullptr), StatusLines());
 }
 
 TEST(DispenserStatusTexts, describeAllConditionsInTheirOrder)
@@ -936,13 +936,13 @@ TEST(DispenserStatusTexts, tellHeadsApartOnlyWhereThereMayBeTwo)
     DispenserStatusAnswer both = first;
     both.head2_can_dose = true;
 
-    const Lines ready = linesOf({{"Ready to dispense", false}});
+    const StatusLines ready = linesOf({{"Ready to dispense", false}});
     EXPECT_EQ(first.getStatusDescriptions(&oneHead), ready);
-    EXPECT_EQ(second.getStatusDescriptions(&oneHead), Lines());
+    EXPECT_EQ(second.getStatusDescriptions(&oneHead), StatusLines());
     EXPECT_EQ(both.getStatusDescriptions(&oneHead), ready);
 
-    const Lines head1 = linesOf({{"Head 1 ready to dispense", false}});
-    const Lines head2 = linesOf({{"Head 2 ready to dispense", false}});
+    const StatusLines head1 = linesOf({{"Head 1 ready to dispense", false}});
+    const StatusLines head2 = linesOf({{"Head 2 ready to dispense", false}});
     for (const FW_Machine *machine :
          {static_cast<const FW_Machine *>(nullptr), static_cast<const FW_Machine *>(&twoHeads),
           static_cast<const FW_Machine *>(&mixer)}) {
@@ -1114,13 +1114,14 @@ TEST(DispenserStatusTexts, areTranslated)
     const TranslatedTexts translated;
     for (const auto &[flag, line] : conditions) {
         SCOPED_TRACE(line.text);
-        EXPECT_EQ(withFlag(flag).getStatusDescriptions(nullptr), (Lines{{translation(line.text), line.bad}}));
+        EXPECT_EQ(withFlag(flag).getStatusDescriptions(nullptr),
+                  (StatusLines{{translation(line.text), line.bad}}));
         if (line.bad) {
             EXPECT_EQ(withFlag(flag).getFirstBadWorkingState(), translation(line.text));
         }
     }
     EXPECT_EQ(withFlag("head1_can_dose").getStatusDescriptions(&oneHead),
-              (Lines{{translation("Ready to dispense"), false}}));
+              (StatusLines{{translation("Ready to dispense"), false}}));
     for (const ChangeLine &change : changes) {
         const DispenserStatusAnswer off = withFlag(change.flag, false);
         const DispenserStatusAnswer on = withFlag(change.flag, true);

@@ -25,7 +25,7 @@ public:
     PlainStatus *clone() const override { return new PlainStatus(*this); }
     bool decodeSerialStatus(QStringList, FW_DriverError *) override { return true; }
     bool acceptCommands() const override { return true; }
-    Lines getStatusDescriptions(const FW_Machine *) const override
+    StatusLines getStatusDescriptions(const FW_Machine *) const override
     {
         return {{QStringLiteral("Everything is bad"), true}};
     }
@@ -426,8 +426,8 @@ TEST(MachineStatusAnswer, describesEachConditionByItself)
 {
     for (const auto &flag : machineFlags) {
         SCOPED_TRACE(flag.name);
-        Lines onDispenser;
-        Lines onMixer;
+        StatusLines onDispenser;
+        StatusLines onMixer;
         for (const ConditionLine &condition : conditions) {
             if (std::string(condition.flag) == flag.name) {
                 onDispenser.append({QString::fromLatin1(condition.dispenser), condition.bad});
@@ -440,8 +440,9 @@ TEST(MachineStatusAnswer, describesEachConditionByItself)
         EXPECT_EQ(status.getMachineStatusDescriptions(SerialDeviceType::Mixer), onMixer);
         EXPECT_EQ(status.getMachineStatusDescriptions(SerialDeviceType::Scale), onMixer);
     }
-    EXPECT_EQ(PlainStatus().getMachineStatusDescriptions(SerialDeviceType::Dispenser), Lines());
-    EXPECT_EQ(withFlag("normal_wm", false).getMachineStatusDescriptions(SerialDeviceType::Mixer), Lines());
+    EXPECT_EQ(PlainStatus().getMachineStatusDescriptions(SerialDeviceType::Dispenser), StatusLines());
+    EXPECT_EQ(withFlag("normal_wm", false).getMachineStatusDescriptions(SerialDeviceType::Mixer),
+              StatusLines());
 }
 
 TEST(MachineStatusAnswer, describesAllConditionsInTheirOrder)
@@ -449,8 +450,8 @@ TEST(MachineStatusAnswer, describesAllConditionsInTheirOrder)
     PlainStatus status;
     for (const auto &flag : machineFlags)
         status.*flag.field = true;
-    Lines onDispenser;
-    Lines onMixer;
+    StatusLines onDispenser;
+    StatusLines onMixer;
     for (const ConditionLine &condition : conditions) {
         onDispenser.append({QString::fromLatin1(condition.dispenser), condition.bad});
         onMixer.append({QString::fromLatin1(condition.mixer), condition.bad});
@@ -591,9 +592,9 @@ TEST(MachineStatusAnswer, translatesConditions)
         SCOPED_TRACE(condition.dispenser);
         const PlainStatus status = withFlag(condition.flag, true);
         EXPECT_EQ(status.getMachineStatusDescriptions(SerialDeviceType::Dispenser),
-                  (Lines{{translation(condition.dispenser), condition.bad}}));
+                  (StatusLines{{translation(condition.dispenser), condition.bad}}));
         EXPECT_EQ(status.getMachineStatusDescriptions(SerialDeviceType::Mixer),
-                  (Lines{{translation(condition.mixer), condition.bad}}));
+                  (StatusLines{{translation(condition.mixer), condition.bad}}));
     }
 }
 

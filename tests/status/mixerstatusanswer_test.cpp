@@ -795,7 +795,7 @@ TEST(MixerStatusDescriptions, saveTheirWordsOnOtherFlags)
                              "normal_wm", "door_partially_opened", "config_changed"}));
     for (const std::string &name : silent) {
         const MixerStatusAnswer answer = withFlag(name);
-        EXPECT_EQ(answer.getStatusDescriptions(nullptr), Lines()) << name;
+        EXPECT_EQ(answer.getStatusDescriptions(nullptr), StatusLines()) << name;
         EXPECT_FALSE(answer.hasBadWorkingState()) << name;
     }
 }

@@ -153,9 +153,9 @@ QStringList idleTokens()
     return {"E", "0", "1", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0"};
 }
 
-Lines linesOf(const std::vector<Line> &lines)
+StatusLines linesOf(const std::vector<Line> &lines)
 {
-    Lines list;
+    StatusLines list;
     for (const Line &line : lines)
         list.append({QString::fromLatin1(line.text), line.bad});
     return list;

@@ -53,7 +53,7 @@ struct Line
     const char *text = "";
     bool bad = false;
 };
-using Lines = QList<QPair<QString, bool>>;
-Lines linesOf(const std::vector<Line> &lines);
+using StatusLines = QList<QPair<QString, bool>>;
+StatusLines linesOf(const std::vector<Line> &lines);
 
 } // namespace testing_status
