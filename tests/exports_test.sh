@@ -7,7 +7,7 @@ names() { # of symbols, from what nm prints
     awk '{ print $NF }' | sort -u
 }
 
-called=$(comm -12 <(find "$1" -name '*_test.cpp.o' -exec nm --undefined-only {} + | names) \
+called=$(comm -12 <(find "$1" -name '*_test*.cpp.o' -exec nm --undefined-only {} + | names) \
     <(nm --defined-only "$2" 2>/dev/null | names))
 hidden=$(comm -23 <(echo "$called") <(nm -D --defined-only "$3" | names) | c++filt | grep -v -e 'quv::' -e '^$' || true)
 if (($(wc -l <<<"$called") < 500)); then
