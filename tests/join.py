@@ -29,5 +29,5 @@ def joined(sources):
 if __name__ == "__main__":
     output, *sources = map(Path, sys.argv[1:])
     text = joined(sources)
-    if not output.exists() or output.read_text() != text: # what did not change is not compiled again
+    if not output.exists() or output.read_text() != text:  # what did not change is not compiled again
         output.write_text(text)
