@@ -4,6 +4,8 @@
 #include "base/decoding_p.h"
 #include "base/latin1_p.h"
 
+#include <limits>
+
 namespace quv {
 
 namespace {
@@ -22,6 +24,28 @@ Decoded readArray(const XmlRpcValue &value, void *field)
     const Decoded decoded = read<V>(value, field);
     return decoded != Decoded::Good && value.getType() == XmlRpcValue::TypeArray ? Decoded::BadElement
                                                                                  : decoded;
+}
+
+// A number without sign is read as one of 64 bits, which tells how those beyond an int travel.
+bool storeUnsigned(unsigned long long number, void *field)
+{
+    if (number > std::numeric_limits<unsigned int>::max())
+        return false;
+    *static_cast<unsigned int *>(field) = static_cast<unsigned int>(number);
+    return true;
+}
+
+Decoded readUnsigned(const XmlRpcValue &value, void *field)
+{
+    unsigned long long number = 0;
+    return DecodeXmlRpcValue(value, number) && storeUnsigned(number, field) ? Decoded::Good
+                                                                            : Decoded::OtherType;
+}
+
+bool readUnsignedVariant(const QVariant &variant, void *field)
+{
+    unsigned long long number = 0;
+    return decodeVariant(variant, number) && storeUnsigned(number, field);
 }
 
 Decoded readDoubles(const XmlRpcValue &value, void *field)
@@ -67,10 +91,9 @@ void writeDoubles(const void *field, XmlRpcValue &value)
         value[i] = numbers.at(i);
 }
 
-template <class V>
 void writeCutToInt(const void *field, XmlRpcValue &value)
 {
-    value = static_cast<int>(*static_cast<const V *>(field));
+    value = static_cast<int>(*static_cast<const long long *>(field));
 }
 
 void writeLatin1(const void *field, XmlRpcValue &value)
@@ -142,8 +165,13 @@ const FieldType &fieldType<int>()
 template <>
 const FieldType &fieldType<unsigned int>()
 {
-    static constexpr FieldType type =
-        describe<unsigned int>("int", read<unsigned int>, writeCutToInt<unsigned int>);
+    static constexpr FieldType type = {"int",
+                                       FieldType::Other,
+                                       readUnsigned,
+                                       readUnsignedVariant,
+                                       writeVariant<unsigned int>,
+                                       equalFields<unsigned int>,
+                                       resetField<unsigned int>};
     return type;
 }
 
@@ -254,7 +282,7 @@ const FieldType &latin1Text()
 
 const FieldType &cutToInt()
 {
-    static constexpr FieldType type = describe<long long>("int", read<long long>, writeCutToInt<long long>);
+    static constexpr FieldType type = describe<long long>("int", read<long long>, writeCutToInt);
     return type;
 }
 

@@ -55,7 +55,7 @@ const FieldType &fieldType<bool>();
 template <>
 const FieldType &fieldType<int>();
 template <>
-const FieldType &fieldType<unsigned int>(); ///< whose upper half is negative when it is written
+const FieldType &fieldType<unsigned int>(); ///< beyond an int it travels as a double
 template <>
 const FieldType &fieldType<long long>();
 template <>
@@ -71,7 +71,7 @@ const FieldType &fieldType<XmlRpc::XmlRpcValue>();
 template <>
 const FieldType &fieldType<QList<double>>();
 template <>
-const FieldType &fieldType<unsigned long long>(); ///< beyond an int it travels as a double
+const FieldType &fieldType<unsigned long long>(); ///< likewise
 template <>
 const FieldType &fieldType<QByteArray>();
 template <>

@@ -15,7 +15,6 @@
 #include <QtCore/QThread>
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -54,20 +53,6 @@ struct AsScanLevel
         return true;
     }
     static int give(int field) { return field; }
-};
-
-/** An unsigned number, beyond an int too: its field type would make it a negative one. */
-struct AsCount
-{
-    using Outside = long long;
-    static bool take(long long given, unsigned &field)
-    {
-        if (given < 0 || given > std::numeric_limits<unsigned>::max())
-            return false;
-        field = static_cast<unsigned>(given);
-        return true;
-    }
-    static long long give(unsigned field) { return field; }
 };
 
 /** Devices as one text. */
@@ -149,7 +134,7 @@ const std::vector<Setting> &DriverSettings::Table::settings()
         {&S::m_busyCheckFrequency, 500, none, BusyCheckFrequency_TAG},
         {&S::m_tintCommandTimeout, 3600000},
         {&S::m_bootstrapTimeout, 10000},
-        {&S::m_quantityPrecision, 4, none, QuantityPrecision_TAG, AsCount()},
+        {&S::m_quantityPrecision, 4U, none, QuantityPrecision_TAG},
         {&S::m_appProfile, "DEFAULT", none, AppProfile_TAG},
         {&S::m_dispenserPort, SerialDeviceType::Dispenser},
         {&S::m_mixerPort, SerialDeviceType::Mixer},

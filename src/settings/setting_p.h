@@ -46,7 +46,8 @@ template <class V, class Form>
 Decoded readSetting(const XmlRpc::XmlRpcValue &value, void *field)
 {
     typename Form::Outside given{};
-    return DecodeXmlRpcValue(value, given) && Form::take(std::move(given), *static_cast<V *>(field))
+    const Decoded decoded = fieldType<typename Form::Outside>().read(value, &given);
+    return decoded == Decoded::Good && Form::take(std::move(given), *static_cast<V *>(field))
                ? Decoded::Good
                : Decoded::OtherType;
 }

@@ -182,6 +182,41 @@ TEST(FieldType, ofAVersionIsItsText)
     EXPECT_TRUE(read.isNull());
 }
 
+TEST(FieldType, ofThirtyTwoBitsWithoutSign)
+{
+    const quv::FieldType &type = quv::fieldType<unsigned int>();
+    const struct
+    {
+        unsigned field;
+        Value value;
+    } rows[] = {{0, Value(0)},
+                {2147483647U, Value(2147483647)},
+                {2147483648U, Value(2147483648.0)},
+                {4294967295U, Value(4294967295.0)}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.field);
+        Value written;
+        type.write(&row.field, written);
+        EXPECT_TRUE(SameXmlRpcValue(written, row.value)) << dumped(written);
+        unsigned read = 7;
+        EXPECT_EQ(type.read(row.value, &read), quv::Decoded::Good);
+        EXPECT_EQ(read, row.field);
+        read = 7;
+        EXPECT_TRUE(type.readVariant(QVariant(row.field), &read));
+        EXPECT_EQ(read, row.field);
+    }
+    unsigned read = 7;
+    for (const Value &bad : {Value(-1), Value("1"), Value(true), Value(5.0), Value(2147483647.0),
+                             Value(2147483648.5), Value(4294967296.0)})
+        EXPECT_EQ(type.read(bad, &read), quv::Decoded::OtherType) << dumped(bad);
+    for (const QVariant &bad :
+         {QVariant(), QVariant(-5), QVariant(5.0), QVariant(4294967296LL), QVariant("5")})
+        EXPECT_FALSE(type.readVariant(bad, &read));
+    EXPECT_EQ(read, 7U);
+    EXPECT_TRUE(type.readVariant(QVariant(2147483648.0), &read)); // as it comes in a map
+    EXPECT_EQ(read, 2147483648U);
+}
+
 TEST(FieldType, ofSixtyFourBitsWithoutSign)
 {
     const quv::FieldType &type = quv::fieldType<unsigned long long>();

@@ -3,6 +3,8 @@
 
 #include "base/basetesting.h"
 
+#include <QuvFramework/fw_xmlrpc.h>
+
 #include <type_traits>
 
 namespace {
@@ -92,11 +94,22 @@ TEST(FW_Command, travelsAsAStruct)
     expectCommand(FW_Command(structOf({{"cmd_code", 508}, {"cmd_status", 2}, {"cmd_exec", "0"}})), 508, 2, 1);
 }
 
+TEST(FW_Command, readsAnyCodeThatItWrites)
+{
+    for (const unsigned code : {2147483647U, 2147483648U, 4294967295U})
+        expectCommand(FW_Command(FW_Command(code, 1, CmdExecution::No).toXmlRpcValue()), code, 1, 0);
+    const Value widest = FW_Command(4294967295U, 1, CmdExecution::No).toXmlRpcValue();
+    EXPECT_TRUE(SameXmlRpcValue(widest["cmd_code"], Value(4294967295.0))) << dumped(widest);
+    const Value greatestInt = FW_Command(2147483647U, 1, CmdExecution::No).toXmlRpcValue();
+    EXPECT_TRUE(SameXmlRpcValue(greatestInt["cmd_code"], Value(2147483647))) << dumped(greatestInt);
+}
+
 TEST(FW_Command, needsTwoOfItsMembers)
 {
     for (const Value &value :
          {Value(), Value(5), arrayOf(508, 2), structOf({}), structOf({{"cmd_code", "508"}}),
-          structOf({{"cmd_code", -1}, {"cmd_status", 2}})}) {
+          structOf({{"cmd_code", -1}, {"cmd_status", 2}}),
+          structOf({{"cmd_code", 4294967296.0}, {"cmd_status", 2}})}) {
         SCOPED_TRACE(dumped(value));
         expectRefusal("DE00668", "FW_Command: expected command code value", ofValue,
                       [&] { FW_Command{value}; });
