@@ -5,6 +5,7 @@
 #include "settings/converting_p.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QString>
 
 #include <cstddef>
 #include <functional>
@@ -125,7 +126,7 @@ public:
     /** The value of the hash, when it has one. */
     void take(const QHash<QString, QVariant> &values, T &settings) const
     {
-        const auto value = values.constFind(QString::fromStdString(m_flatKey));
+        const auto value = values.constFind(m_hashKey);
         if (travels() && value != values.constEnd())
             m_type->readVariant(*value, reinterpret_cast<char *>(&settings) + m_offset);
     }
@@ -164,6 +165,7 @@ private:
         m_section = section;
         m_key = key;
         m_flatKey = section.empty() ? key : section + '_' + key;
+        m_hashKey = QString::fromStdString(m_flatKey);
         m_type = &settingType<V, Form>();
         m_offset = offset;
     }
@@ -184,6 +186,7 @@ private:
     std::string m_section;
     std::string m_key;
     std::string m_flatKey;
+    QString m_hashKey;                 ///< the same
     const FieldType *m_type = nullptr; ///< null for what does not travel
     std::ptrdiff_t m_offset = 0;
 };
