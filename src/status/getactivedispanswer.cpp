@@ -6,6 +6,7 @@
 #include "status/activedispanswerparams.h"
 #include "status/activemixeranswerparams.h"
 #include "status/dispenserstatus_p.h"
+#include "status/machinestatus_p.h"
 #include "status/mixerstatus_p.h"
 
 namespace quv {
@@ -45,15 +46,6 @@ constexpr quv::Refusal noMixers = {"DE03210", "GetActiveDispAnswer: expected mix
 constexpr quv::Refusal otherElement = {"DE03211",
                                        "GetActiveDispAnswer decoding failed: invalid QVariant value"};
 
-const DispenserInfo *infoOf(const DispenserStatus &status)
-{
-    return status.dispenserInfo();
-}
-const MixerInfo *infoOf(const MixerStatus &status)
-{
-    return status.mixerInfo();
-}
-
 int idOf(const DispenserInfo &info)
 {
     return info.disp_id;
@@ -68,7 +60,7 @@ QList<int> idsOf(const QList<Status> &statuses, bool onlyActive)
 {
     QList<int> ids;
     for (const Status &status : statuses) {
-        const auto *info = infoOf(status);
+        const auto *info = quv::infoOf(status);
         if (info && (status.active || !onlyActive))
             ids.append(idOf(*info));
     }

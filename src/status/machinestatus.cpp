@@ -2,9 +2,7 @@
 #include "status/machinestatus.h"
 
 #include "base/cloned_p.h"
-#include "status/dispenserstatus.h"
 #include "status/machinestatus_p.h"
-#include "status/mixerstatus.h"
 
 #include <typeinfo>
 
@@ -17,15 +15,6 @@ DispenserInfo ownInfo(const DispenserStatus &, const MachineInfo &machine)
 MixerInfo ownInfo(const MixerStatus &, const MachineInfo &machine)
 {
     return MixerInfo(machine, 0);
-}
-
-const MachineInfo *infoOf(const DispenserStatus &status)
-{
-    return status.dispenserInfo();
-}
-const MachineInfo *infoOf(const MixerStatus &status)
-{
-    return status.mixerInfo();
 }
 
 /**
@@ -44,7 +33,7 @@ QList<Status> statusesOf(SerialDeviceType type, const QList<MachineStatus *> &st
             copy = *whole;
         else
             static_cast<MachineStatus &>(copy) = *status;
-        if (!infoOf(copy)) {
+        if (!quv::infoOf(copy)) {
             const auto info = ownInfo(copy, *status->machineInfo());
             copy.setMachineInfo(&info);
         }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "base/decoding_p.h"
+#include "status/dispenserstatus.h"
 #include "status/machinestatus.h"
+#include "status/mixerstatus.h"
 
 #include <algorithm>
 #include <optional>
@@ -10,6 +12,16 @@
 // What the statuses of dispensers and mixers share.
 
 namespace quv {
+
+/** The info of the status's own kind of machine, or none. */
+inline const DispenserInfo *infoOf(const DispenserStatus &status)
+{
+    return status.dispenserInfo();
+}
+inline const MixerInfo *infoOf(const MixerStatus &status)
+{
+    return status.mixerInfo();
+}
 
 /** True for what travels in the place of an object that there is not. */
 bool standsForNone(const XmlRpc::XmlRpcValue &value);
