@@ -119,6 +119,29 @@ TEST(FieldType, writesAndEmptiesDoubles)
     EXPECT_STREQ(doubles().name, "array of doubles");
 }
 
+TEST(FieldType, ofAnArrayTellsABadElementFromAnotherType)
+{
+    QStringList texts = {"x"};
+    QList<int> ints = {7};
+    EXPECT_EQ(quv::fieldType<QStringList>().read(arrayOf("a", "b"), &texts), quv::Decoded::Good);
+    EXPECT_EQ(quv::fieldType<QStringList>().read(arrayOf("a", 1), &texts), quv::Decoded::BadElement);
+    EXPECT_EQ(quv::fieldType<QStringList>().read(Value("a"), &texts), quv::Decoded::OtherType);
+    EXPECT_EQ(texts, (QStringList{"a", "b"}));
+    EXPECT_EQ(quv::fieldType<QList<int>>().read(arrayOf(1, 2), &ints), quv::Decoded::Good);
+    EXPECT_EQ(quv::fieldType<QList<int>>().read(arrayOf(1, "2"), &ints), quv::Decoded::BadElement);
+    EXPECT_EQ(quv::fieldType<QList<int>>().read(Value(1), &ints), quv::Decoded::OtherType);
+    EXPECT_EQ(ints, (QList<int>{1, 2}));
+}
+
+TEST(FieldType, ofAnyValueTakesAnyVariant)
+{
+    Value value;
+    EXPECT_TRUE(quv::fieldType<Value>().readVariant(QVariant(List{1, "a"}), &value));
+    EXPECT_EQ(dumped(value), R"([1, "a"])");
+    EXPECT_TRUE(quv::fieldType<Value>().readVariant(QVariant(true), &value));
+    EXPECT_EQ(dumped(value), "true");
+}
+
 TEST(FieldType, ofATimeIsATextInUniversalTime)
 {
     const quv::FieldType &type = quv::fieldType<QDateTime>();
@@ -140,7 +163,7 @@ TEST(FieldType, ofATimeIsATextInUniversalTime)
     time.tm_mday = 4;
     time.tm_hour = 4;
     EXPECT_EQ(type.read(Value(&time), &read), quv::Decoded::Good);
-    EXPECT_EQ(read.toUTC().toString(Qt::ISODate), "2026-03-04T04:00:00Z");
+    EXPECT_EQ(read.toString(Qt::ISODate), "2026-03-04T04:00:00Z"); // whatever the zone of the reader is
 
     EXPECT_TRUE(type.readVariant(QVariant(field), &read));
     EXPECT_EQ(read, field);
