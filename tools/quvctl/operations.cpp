@@ -30,16 +30,6 @@ namespace quv {
 
 namespace {
 
-std::unique_ptr<ProtoCommand> makeCommand(const Request &request, const FW_Machine *machine)
-{
-    if (request.has("class"))
-        return commandOfClass(request, machine);
-    const QString name = request.text("name");
-    return withArguments(request, [&](auto &arguments) {
-        return std::unique_ptr<ProtoCommand>(ProtoCommandList::getProtoCommand(name, arguments, machine));
-    });
-}
-
 /// Gives the command its newer name, as a driver does for a firmware that knows the newer form.
 void rename(ProtoCommand &command, const QString &name)
 {
@@ -191,6 +181,16 @@ OrderedJson runOperation(const Request &request)
     if (operation == std::end(operations))
         throw BadRequest("\"op\" names no operation");
     return operation->run(request);
+}
+
+std::unique_ptr<ProtoCommand> makeCommand(const Request &request, const FW_Machine *machine)
+{
+    if (request.has("class"))
+        return commandOfClass(request, machine);
+    const QString name = request.text("name");
+    return withArguments(request, [&](auto &arguments) {
+        return std::unique_ptr<ProtoCommand>(ProtoCommandList::getProtoCommand(name, arguments, machine));
+    });
 }
 
 std::unique_ptr<ProtoCommand> makeCommand(const Request &request)

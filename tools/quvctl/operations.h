@@ -7,6 +7,7 @@
 
 class CmdStatus;
 class FW_DriverError;
+class FW_Machine;
 class ProtoAnswer;
 class ProtoCommand;
 class XmlRpcAnswer;
@@ -21,6 +22,8 @@ OrderedJson runOperation(const Request &request);
 
 /// The command that "name" or "class", "args", "form" and "machine" tell. \throws as runOperation
 std::unique_ptr<ProtoCommand> makeCommand(const Request &request);
+/// The same for a machine that was read before.
+std::unique_ptr<ProtoCommand> makeCommand(const Request &request, const FW_Machine *machine);
 
 /// The same, holding the answer that it made of "tokens". \throws as runOperation
 std::unique_ptr<ProtoCommand> decodedCommand(const Request &request);

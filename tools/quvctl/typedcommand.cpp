@@ -33,14 +33,26 @@ bool isPlain(const ProtoCommand &command)
            type == typeid(ScaleProtoCommand);
 }
 
-/// Whether the command takes notice of a part of the request: anything else in its place changes what is sent, or is refused.
-bool isRead(nlohmann::json request, const nlohmann::json::json_pointer &place, const XmlRpcValue &sent)
+/// What a user typed, and all that comes of it, each made once.
+struct Typed
 {
+    nlohmann::json request;
+    std::unique_ptr<FW_Machine> machine;
+    std::unique_ptr<ProtoCommand> command;
+    XmlRpcValue sent;
+    XmlRpcValue written; // the arguments in it
+};
+
+/// Whether the command takes notice of a part of the request: anything else in its place changes what is sent, or is refused.
+bool isRead(const Typed &typed, const nlohmann::json::json_pointer &place)
+{
+    nlohmann::json request = typed.request;
     for (const nlohmann::json &other : {nlohmann::json::object(), nlohmann::json("?"), nlohmann::json(true),
                                         nlohmann::json(false), nlohmann::json(1), nlohmann::json(2)}) {
         request[place] = other;
         try {
-            if (!SameXmlRpcValue(makeCommand(Request(request))->toXmlRpcValue(QString()), sent))
+            const auto command = makeCommand(Request(request), typed.machine.get());
+            if (!SameXmlRpcValue(command->toXmlRpcValue(QString()), typed.sent))
                 return true;
         } catch (...) { // what was refused was read
             return true;
@@ -60,18 +72,16 @@ bool isWritten(const nlohmann::json &argument, std::size_t place, const XmlRpcVa
     return element && SameXmlRpcValue(*element, toXmlRpcValue(argument));
 }
 
-/// The places of the arguments that the request of \a command does without.
-std::vector<int> lostArguments(const nlohmann::json &request, const ProtoCommand &command)
+/// The places of the arguments that are not sent.
+std::vector<int> lostArguments(const Typed &typed)
 {
     // What becomes of an argument is the command's own affair: several may travel as one struct, or one as several. So an
     // argument only counts as lost when it is neither read nor written, or when none is written at all.
-    const XmlRpcValue sent = command.toXmlRpcValue(QString());
-    const XmlRpcValue written = argumentsIn(sent);
-    const bool writesNone = written.size() == 0;
-    const nlohmann::json &arguments = request["args"];
+    const bool writesNone = typed.written.size() == 0;
+    const nlohmann::json &arguments = typed.request["args"];
     std::vector<int> lost;
     for (std::size_t i = 0; i < arguments.size(); ++i)
-        if (writesNone || (!isWritten(arguments[i], i, written) && !isRead(request, placeOf(i), sent)))
+        if (writesNone || (!isWritten(arguments[i], i, typed.written) && !isRead(typed, placeOf(i))))
             lost.push_back(static_cast<int>(i));
     return lost;
 }
@@ -93,20 +103,18 @@ QStringList knownMembers(const CommandFacts &command, std::size_t place, const X
 
 /// A struct may well hold more than the command reads, as the answer to another one does. What nobody reads and has nearly the
 /// name of a member is misspelt.
-void refuseMisspeltMembers(const CommandFacts &facts, const nlohmann::json &request,
-                           const ProtoCommand &command)
+void refuseMisspeltMembers(const CommandFacts &facts, const Typed &typed)
 {
-    const XmlRpcValue sent = command.toXmlRpcValue(QString());
-    const XmlRpcValue written = argumentsIn(sent);
-    const nlohmann::json &arguments = request["args"];
+    const nlohmann::json &arguments = typed.request["args"];
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (!arguments[i].is_object())
             continue;
-        const QStringList known = knownMembers(facts, i, FindXmlRpcElement(written, static_cast<int>(i)));
+        const QStringList known =
+            knownMembers(facts, i, FindXmlRpcElement(typed.written, static_cast<int>(i)));
         for (const auto &[name, value] : arguments[i].items()) {
             const QString member = QString::fromStdString(name);
             const QString meant = known.contains(member) ? QString() : didYouMean(member, known);
-            if (!meant.isEmpty() && !isRead(request, placeOf(i) / name, sent))
+            if (!meant.isEmpty() && !isRead(typed, placeOf(i) / name))
                 throw UsageError(
                     QStringLiteral("%1 takes no notice of \"%2\"%3").arg(facts.name, excerpt(member), meant));
         }
@@ -130,10 +138,11 @@ QString misspeltMember(const CommandFacts &facts, const nlohmann::json &argument
     return {};
 }
 
-std::unique_ptr<ProtoCommand> madeCommand(const CommandFacts &facts, const nlohmann::json &request)
+std::unique_ptr<ProtoCommand> madeCommand(const CommandFacts &facts, const nlohmann::json &request,
+                                          const FW_Machine *machine)
 {
     try {
-        return makeCommand(Request(request));
+        return makeCommand(Request(request), machine);
     } catch (const FW_DriverError &error) {
         const QString misspelt = misspeltMember(facts, request["args"]);
         if (misspelt.isEmpty())
@@ -167,51 +176,61 @@ void requireCallable(const CommandFacts &command)
 }
 
 /// A driver makes the command by the same library. Some write less than they read.
-void requireTaken(const ProtoCommand &command, const nlohmann::json &request)
+void requireTaken(const Typed &typed)
 {
-    XmlRpcValue arguments = argumentsIn(command.toXmlRpcValue(QString()));
-    const auto machine = machineOf(Request(request));
+    const QString name = typed.command->command();
+    XmlRpcValue arguments = typed.written;
     try {
         const std::unique_ptr<ProtoCommand> taken(
-            ProtoCommandList::getProtoCommand(command.command(), arguments, machine.get()));
+            ProtoCommandList::getProtoCommand(name, arguments, typed.machine.get()));
     } catch (const FW_DriverError &error) {
         throw UsageError(
             QStringLiteral("%1 cannot be called: the driver would refuse what quvctl sends (%2: %3)")
-                .arg(command.command(), error.code(), error.text()));
+                .arg(name, error.code(), error.text()));
     }
+}
+
+Typed readTyped(const CommandLine &line, nlohmann::json request)
+{
+    const QString &name = line.words().first();
+    const CommandFacts facts = commandFacts(name);
+    requireCallable(facts);
+    Typed typed;
+    typed.request = std::move(request);
+    typed.machine = machineOf(Request(typed.request));
+    typed.command =
+        withCommandName(name, [&] { return madeCommand(facts, typed.request, typed.machine.get()); });
+    typed.sent = typed.command->toXmlRpcValue(QString());
+    typed.written = argumentsIn(typed.sent);
+    const QStringList words = typedArguments(line).words;
+    QStringList lost;
+    for (const int place : lostArguments(typed))
+        if (!words.at(place).isEmpty()) // a default is nobody's loss
+            lost.append(words.at(place));
+    if (lost.isEmpty()) {
+        refuseMisspeltMembers(facts, typed);
+        return typed;
+    }
+    if (facts.tellsArguments && lost.size() < words.size() && words.size() <= facts.arguments.size())
+        throw UsageError(QStringLiteral("%1 would not send \"%2\" as it is given")
+                             .arg(name, excerpt(lost.join(QLatin1Char(' ')))));
+    const QString why = whyLost(*typed.command, words.size(), lost.size());
+    throw UsageError(
+        QStringLiteral("%1 %2; \"%3\" would be lost").arg(name, why, excerpt(lost.join(QLatin1Char(' ')))));
 }
 
 } // namespace
 
 std::unique_ptr<ProtoCommand> calledCommand(const CommandLine &line)
 {
-    const nlohmann::json request = commandRequest(line);
-    auto command = typedCommand(line, request);
-    requireTaken(*command, request);
-    return command;
+    Typed typed = readTyped(line, commandRequest(line));
+    requireTaken(typed);
+    return std::move(typed.command);
 }
 
 std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request)
 {
-    const QString &name = line.words().first();
-    const CommandFacts facts = commandFacts(name);
-    requireCallable(facts);
-    auto command = withCommandName(name, [&] { return madeCommand(facts, request); });
-    const QStringList words = typedArguments(line).words;
-    QStringList lost;
-    for (const int place : lostArguments(request, *command))
-        if (!words.at(place).isEmpty()) // a default is nobody's loss
-            lost.append(words.at(place));
-    if (lost.isEmpty()) {
-        refuseMisspeltMembers(facts, request, *command);
-        return command;
-    }
-    if (facts.tellsArguments && lost.size() < words.size() && words.size() <= facts.arguments.size())
-        throw UsageError(QStringLiteral("%1 would not send \"%2\" as it is given")
-                             .arg(name, excerpt(lost.join(QLatin1Char(' ')))));
-    const QString why = whyLost(*command, words.size(), lost.size());
-    throw UsageError(
-        QStringLiteral("%1 %2; \"%3\" would be lost").arg(name, why, excerpt(lost.join(QLatin1Char(' ')))));
+    return std::move(readTyped(line, request).command);
 }
 
 } // namespace quv
