@@ -36,15 +36,6 @@ quv::Decoded readDevice(const XmlRpc::XmlRpcValue &value, void *field)
     return quv::Decoded::Good;
 }
 
-bool readDeviceVariant(const QVariant &variant, void *field)
-{
-    int number = 0;
-    if (!quv::decodeVariant(variant, number))
-        return false;
-    *static_cast<SerialDeviceType *>(field) = static_cast<SerialDeviceType>(number);
-    return true;
-}
-
 void writeDevice(const void *field, XmlRpc::XmlRpcValue &value)
 {
     value = static_cast<int>(*static_cast<const SerialDeviceType *>(field));
@@ -60,7 +51,7 @@ const FieldType &fieldType<SerialDeviceType>()
     static constexpr FieldType type = {"int",
                                        FieldType::Other,
                                        readDevice,
-                                       readDeviceVariant,
+                                       nullptr, // an info has no list form
                                        writeDevice,
                                        equalFields<SerialDeviceType>,
                                        resetField<SerialDeviceType>};
