@@ -98,6 +98,33 @@ TEST(Record, readsMembersOfAllTypes)
     EXPECT_TRUE(valve.ignored);
 }
 
+TEST(Record, readsAListInTheOrderOfItsTable)
+{
+    const quv::Record<Valve> record({
+        {"position", &Valve::position, {"DE1", expected}, {"DE7", "No position"}},
+        Row("cycles", &Valve::cycles).uses(quv::Write | quv::Compare), // has no place in a list
+        Row::alwaysFalse("legacy"),                                    // nor has this
+        {"label", &Valve::label},
+        {"open", &Valve::open, {"DE2", expected}, {"DE8", "No %1"}},
+    });
+    const auto valveOf = [&record](const List &list) {
+        Valve valve;
+        record.decode(list, valve, signature);
+        return valve;
+    };
+    const Valve valve = valveOf({3, "north", true});
+    EXPECT_EQ(valve.position, 3);
+    EXPECT_EQ(valve.cycles, 7);
+    EXPECT_EQ(valve.label, "north");
+    EXPECT_TRUE(valve.open);
+    EXPECT_EQ(valveOf({3, 5, true, "more"}).label, "none"); // an optional one of another type
+
+    expectRefusal("DE7", "No position", signature, [&] { valveOf({}); });
+    expectRefusal("DE7", "No position", signature, [&] { valveOf({"3", 5, 5}); });
+    expectRefusal("DE8", "No open", signature, [&] { valveOf({3, "north"}); });
+    expectRefusal("DE8", "No open", signature, [&] { valveOf({3, "north", 1}); });
+}
+
 TEST(Record, leavesTheFieldsOfOptionalMembersAlone)
 {
     const Value missing = structOf({{"open", true}, {"position", 3}, {"flow", 2}});
