@@ -133,6 +133,35 @@ TEST(FieldType, ofAnArrayTellsABadElementFromAnotherType)
     EXPECT_EQ(ints, (QList<int>{1, 2}));
 }
 
+TEST(FieldType, hasANameForPeople)
+{
+    const struct
+    {
+        const quv::FieldType &type;
+        const char *name;
+    } rows[] = {
+        {quv::fieldType<bool>(), "bool"},
+        {quv::fieldType<int>(), "int"},
+        {quv::fieldType<unsigned int>(), "int"},
+        {quv::fieldType<long long>(), "int"},
+        {quv::fieldType<unsigned long long>(), "int"},
+        {quv::cutToInt(), "int"},
+        {quv::fieldType<double>(), "double"},
+        {quv::fieldType<QString>(), "string"},
+        {quv::latin1Text(), "string"},
+        {quv::fieldType<QByteArray>(), "base64"},
+        {quv::fieldType<QDateTime>(), "date and time"},
+        {quv::fieldType<QVersionNumber>(), "version"},
+        {quv::fieldType<QStringList>(), "array of strings"},
+        {quv::fieldType<QList<int>>(), "array of ints"},
+        {quv::fieldType<QHash<QString, QVariant>>(), "struct"},
+        {quv::fieldType<QMap<QString, QVariant>>(), "struct"},
+        {quv::fieldType<Value>(), "any"},
+    };
+    for (const auto &row : rows)
+        EXPECT_STREQ(row.type.name, row.name);
+}
+
 TEST(FieldType, ofAnyValueTakesAnyVariant)
 {
     Value value;
