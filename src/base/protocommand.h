@@ -45,7 +45,7 @@ public:
 
     /** The arguments as a client gives them. */
     virtual QList<QVariant> parameters() const;
-    /** The arguments as an XML-RPC array; \a ok, when given, becomes true. */
+    /** The arguments as XML-RPC: an array, or of RES_FILE_MNGM the struct alone; \a ok, when given, becomes true. */
     virtual XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok = nullptr) const;
 
     /** Stores a clone; null, and an answer that cannot be cloned, only clears. Never throws. */
