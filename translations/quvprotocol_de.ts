@@ -887,5 +887,13 @@
         <source>Door unlocked</source>
         <translation>Tür entriegelt</translation>
     </message>
+    <message>
+        <source>Changing dispenser ID to %1</source>
+        <translation>Die ID des Dosierers wird auf %1 geändert</translation>
+    </message>
+    <message>
+        <source>Changing dispenser ID from %1 to %2</source>
+        <translation>Die ID des Dosierers wird von %1 auf %2 geändert</translation>
+    </message>
 </context>
 </TS>

@@ -18,6 +18,12 @@
 #include "settings/getswversioncmd.h"
 #include "settings/setbluetoothsettingscmd.h"
 #include "settings/setdriversettingscmd.h"
+#include "setup/configparamcmd.h"
+#include "setup/setcircuitmaxspeedcmd.h"
+#include "setup/setdispdatacmd.h"
+#include "setup/setdispidcmd.h"
+#include "setup/setdosingmotordatacmd.h"
+#include "setup/setserialnumbercmd.h"
 #include "status/dispenserdriverstatuscmd.h"
 
 namespace quv {
@@ -48,6 +54,9 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::GET_FORMULA_EXECUTION, fromNameAndArguments<GenericFormulaCmd, ListForm>()},
         {Cmd::GET_DISPENSED_FORMULA, fromArguments<GetDispensedFormulaConfCmd>()},
         {Cmd::SET_SERIAL, fromArgumentsAndMachine<SetConfSerialCmd, ListForm>()},
+        {Cmd::SET_SERIAL_NUMBER, fromArguments<SetSerialNumberCmd>()},
+        {Cmd::SET_DISP_ID, fromArguments<SetDispIDCmd>()},
+        {Cmd::CONFIG_PARAM, fromArguments<ConfigParamCmd>()},
     }};
 
 constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{
@@ -61,6 +70,9 @@ constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{
         {Cmd::GET_FORMULA_EXECUTION, fromNameArgumentsAndMachine<GenericFormulaCmd, ValueForm>()},
         {Cmd::GET_CMD_EST_EXEC_TIME, fromArgumentsAndMachine<GetCmdEstimatedExecTimeCmd>()},
         {Cmd::SET_SERIAL, fromArgumentsAndMachine<SetConfSerialCmd, ValueForm>()},
+        {Cmd::SET_DM_DATA, fromArgumentsAndDispenser<SetDosingMotorDataCmd>()},
+        {Cmd::SET_DISP_DATA, fromArgumentsAndDispenser<SetDispDataCmd>()},
+        {Cmd::SET_CIRCUIT_MAX_SPEED, fromArgumentsAndDispenser<SetCircuitMaxSpeedCmd>()},
     }};
 
 constexpr CommandTable<ConfProtoCommand> mixerConfigTable{

@@ -85,6 +85,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"CLEANING", {0, 40, 300, 2, true}},
         {"DEEP_SERVICE", {3, 12, "0A2c", QVariant(List{300})}},
         {"CLEAR_DISP_INFO", {3}},
+        {"CONFIG_PARAM", {3, 1, QVariantMap{{"filling_time", 9.5}}}},
         {"GET_CMD_EST_EXEC_TIME", {"GET_STATUS", 7}},
         {"GET_CMD_STATUS", {"ticket 7"}},
         {"GET_DISP_INFO", {3}},
@@ -126,11 +127,16 @@ List argumentsFor(const CommandRow &row, Form form)
         {"SET_DISP_OUTPUT", {3, 12, 2, 6}},
         {"SET_LED_STATUS", {3, 0, "#80102030"}},
         {"SET_BOARD_STATS", {2, QVariant(List{QVariantMap{{"position_id", 3}, {"count", 300}}})}},
+        {"SET_CIRCUIT_MAX_SPEED", {3, 120, true}},
+        {"SET_DISP_DATA", {"till 2"}},
+        {"SET_DISP_ID", {3, 12}},
         {"SET_DISP_INFO", {3, "K-17"}},
+        {"SET_DM_DATA", {3, "P 17"}},
         {"SET_BT_SETTINGS", {true, devices, devices}},
         {"SET_DRIVER_SETTINGS", {QVariantHash{{"AppProfile", "SHOP"}}}},
         {"SET_LEVELS", {false, formula, true}},
         {"SET_SERIAL", {QVariant::fromValue(FW_SerialPort(QStringLiteral("/dev/ttyS1")))}},
+        {"SET_SERIAL_NUMBER", {"K-17"}},
         {"SHELF_MOVE", {1, 300}},
         {"SLAVE_JUMP", {17, 3}},
         {"STIRRING", {2, 300, true}},
@@ -151,6 +157,7 @@ List argumentsFor(const CommandRow &row, Form form)
     };
     // commands whose arguments travel in another shape over XML-RPC
     static const std::map<std::string, List> values = {
+        {"CONFIG_PARAM", {3, 1, QVariantMap{{"config_params", QVariantMap{{"filling_time", 9.5}}}}}},
         {"GET_CIRCUITS_STATUS", {QVariantMap{{"circuit_positions", List{2}}}}},
         {"GET_CMD_EST_EXEC_TIME", {QVariantMap{{"command", List{"GET_STATUS", 7}}}}},
         {"MIX",
