@@ -406,8 +406,8 @@ class LostArguments(CliTest):
             words = [word if isinstance(word, str) else json.dumps(word) for word in words]
             self.done("encode", *words, "--machine", "dual")
 
-    def test_commands_that_cannot_be_called_yet(self):
-        """Commands without a class of their own count their arguments and send none."""
+    def test_commands_that_cannot_be_called(self):
+        """Commands without a class of their own send no arguments."""
         rows = [row for row in json.loads(self.done("list", "--json")) if row["minParams"] > 0]
         requests = "".join(json.dumps({"op": "encode", "name": row["name"], "args": [1] * row["minParams"]}) + "\n"
                            for row in rows)
@@ -422,9 +422,9 @@ class LostArguments(CliTest):
         given = ["1"] * count
         with Driver(envelope(0)) as driver:
             self.assertEqual(self.wrong("call", name, *given, "--port", str(driver.port)),
-                             f"quvctl: {name} cannot be called yet: it needs {needed}, and quvctl cannot send any "
+                             f"quvctl: {name} cannot be called: it needs {needed}, and quvctl cannot send any "
                              "(see quvctl help)\n")
-            self.assertIn("CHECK_SERIAL cannot be called yet", self.wrong("call", "CHECK_SERIAL", "--port", str(driver.port)))
+            self.assertIn("CHECK_SERIAL cannot be called", self.wrong("call", "CHECK_SERIAL", "--port", str(driver.port)))
             self.assertEqual(driver.requests, [])
 
 

@@ -119,10 +119,52 @@ Delivers colorant    no
         self.assertIn('\n  DE00171  XML-RPC  the arguments are no array: "Error decoding xmp-rpc type"\n', text)
         self.assertNotIn("DE00311", text)
 
-    def test_command_without_arguments(self):
-        text = self.done("show", "GET_ERRORS")
-        self.assertIn("\nClass    SerialProtoCommand\n\nArguments: none\n\n", text)
-        self.assertIn("\n  quvctl call GET_ERRORS\n", text)
+    def test_plain_command(self):
+        self.assertEqual(self.done("show", "CHECK_BUSY").split("\n\nRow ")[0], """\
+Name     CHECK_BUSY
+Purpose  Checks whether the machine is busy
+Class    ConfProtoCommand, the plain one of its kind
+
+Arguments: none of its own; any that are given are dropped
+
+Answer: a plain ConfProtoAnswer, without members
+
+Examples
+  quvctl call CHECK_BUSY
+
+  import xmlrpc.client
+
+  driver = xmlrpc.client.ServerProxy("http://127.0.0.1:9333")
+  print(driver.EXEC_B("CHECK_BUSY"))""")
+        self.assertEqual(self.done("show", "CHECK_SERIAL").split("\n\nRow ")[0], """\
+Name     CHECK_SERIAL
+Purpose  Checks the serial port of a machine
+Class    ConfProtoCommand, the plain one of its kind
+
+Arguments: none of its own; the catalogue tells 1, and any that are given are dropped
+
+Answer: a plain ConfProtoAnswer, without members""")
+        text = self.done("show", "INIT")
+        self.assertIn("\nClass    SerialProtoCommand, the plain one of its kind\n", text)
+        self.assertIn("\nAnswer: a plain SerialProtoAnswer, without members\n", text)
+
+    def test_plain_command_with_an_answer_of_its_own(self):
+        for name, answer in [("GET_ERRORS", "GetErrorsAnswer"), ("GET_KEY_CODE", "GetKeyCodeAnswer"),
+                             ("GET_TURNTABLE_POSITIONS", "GetTurntablePositionsAnswer")]:
+            text = self.done("show", name)
+            self.assertIn("\nClass    SerialProtoCommand, the plain one of its kind\n\n"
+                          "Arguments: none of its own; any that are given are dropped\n\n"
+                          f"Answer: {answer}\n", text)
+            self.assertIn(f"\n  quvctl call {name}\n", text)
+
+    def test_plain_commands_are_told_apart(self):
+        for name in self.names():
+            facts = self.facts(name)
+            self.assertEqual(facts["plain"], facts["class"] in ("SerialProtoCommand", "ConfProtoCommand"), name)
+            if facts["plain"]:
+                self.assertEqual(facts["arguments"], [], name)
+                self.assertIn("\nArguments: none of its own; ", self.done("show", name))
+                self.assertRegex(self.done("show", name), r"(?m)^Answer: \w")
 
     def test_of_a_command_without_a_class_only_the_row_is_told(self):
         for name in self.names():

@@ -6,7 +6,36 @@
 
 #include "catalogue/protocommandlist.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace quv {
+
+namespace {
+
+/// A class of commands that have none of their own, and that of the answers to which nobody has given one.
+struct PlainClass
+{
+    const char *command;
+    const char *answer;
+};
+
+constexpr PlainClass plainClasses[] = {
+    {"SerialProtoCommand", "SerialProtoAnswer"},
+    {"ConfProtoCommand", "ConfProtoAnswer"},
+};
+
+/// Null for a command with a class of its own.
+const PlainClass *plainClassOf(const CommandFacts &command)
+{
+    const auto *found =
+        std::find_if(std::begin(plainClasses), std::end(plainClasses), [&](const PlainClass &plain) {
+            return command.className == QLatin1String(plain.command);
+        });
+    return found == std::end(plainClasses) ? nullptr : found;
+}
+
+} // namespace
 
 CommandReference referenceOf(const CMD_STRUCT &row)
 {
@@ -20,8 +49,15 @@ CommandReference referenceOf(const CMD_STRUCT &row)
     return command;
 }
 
+bool isPlain(const CommandFacts &command)
+{
+    return plainClassOf(command) != nullptr;
+}
+
 QString classInWords(const CommandFacts &command)
 {
+    if (isPlain(command))
+        return QStringLiteral("%1, the plain one of its kind").arg(command.className);
     return command.className.isEmpty() ? QStringLiteral("none of its own yet") : command.className;
 }
 
@@ -29,6 +65,13 @@ QString argumentsNote(const CommandReference &command)
 {
     if (!command.facts.arguments.isEmpty())
         return {};
+    if (isPlain(command.facts)) {
+        const QString counted =
+            command.row->maxParams == 0
+                ? QString()
+                : QStringLiteral("the catalogue tells %1, and ").arg(parametersInWords(*command.row));
+        return QStringLiteral("none of its own; %1any that are given are dropped").arg(counted);
+    }
     if (command.row->maxParams == 0)
         return QStringLiteral("none");
     const bool travel = !command.facts.className.isEmpty() && !command.facts.tellsArguments;
@@ -46,6 +89,8 @@ QString answerNote(const CommandReference &command)
                    : QStringLiteral("%1, whose members are not told yet").arg(facts.answerClass);
     if (facts.answerToCome && facts.tellsArguments)
         return QStringLiteral("a plain one, as long as its class is still to come");
+    if (const PlainClass *plain = plainClassOf(facts))
+        return QStringLiteral("a plain %1, without members").arg(QLatin1String(plain->answer));
     return facts.tellsArguments ? QStringLiteral("a plain one, without members") : QString();
 }
 

@@ -27,6 +27,9 @@ struct CommandReference
 
 CommandReference referenceOf(const CMD_STRUCT &row);
 
+/// Whether it is a command without a class of its own, so that it has no arguments either.
+bool isPlain(const CommandFacts &command);
+
 // In words.
 QString classInWords(const CommandFacts &command);
 QString argumentsNote(

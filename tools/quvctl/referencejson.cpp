@@ -52,6 +52,7 @@ OrderedJson referenceJson(const CommandReference &command)
     OrderedJson json = catalogueRow(*command.row);
     json["purpose"] = toJson(facts.purpose);
     json["class"] = toJson(facts.className);
+    json["plain"] = isPlain(facts);
     json["tellsArguments"] = facts.tellsArguments;
     json["arguments"] = arrayOf(facts.arguments, argumentJson);
     json["refusals"] = arrayOf(command.requestRefusals, refusalJson);

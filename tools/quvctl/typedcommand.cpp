@@ -25,7 +25,7 @@ namespace {
 
 using XmlRpc::XmlRpcValue;
 
-/// Whether a command has no class of its own: it counts its arguments, and sends none.
+/// Whether a command has no class of its own: it sends no arguments.
 bool isPlain(const ProtoCommand &command)
 {
     const std::type_info &type = typeid(command);
@@ -164,14 +164,14 @@ QString whyLost(const ProtoCommand &command, int given, int lost)
                          : QStringLiteral("takes %1").arg(argumentsInWords(given - lost));
 }
 
-/// A plain command counts its arguments and sends none, so one that needs some cannot do what it is for.
+/// A plain command sends no arguments, so one that needs some cannot do what it is for.
 void requireCallable(const CommandFacts &command)
 {
     const int needed = ProtoCommandList::cmdParamNum(command.name, true);
     const bool sendsNone =
         command.className.isEmpty() || (command.tellsArguments && command.arguments.isEmpty());
     if (sendsNone && needed > 0)
-        throw UsageError(QStringLiteral("%1 cannot be called yet: it needs %2, and quvctl cannot send any")
+        throw UsageError(QStringLiteral("%1 cannot be called: it needs %2, and quvctl cannot send any")
                              .arg(command.name, argumentsInWords(needed)));
 }
 
