@@ -3,7 +3,6 @@
 
 #include "base/confprotoanswer.h"
 #include "base/serialprotoanswer.h"
-#include "configuration/getkeycodeanswer.h"
 #include "factory/answertables_p.h"
 #include "masterdata/getdeviceparamsanswer.h"
 #include "processes/getshelfparamsanswer.h"
@@ -13,6 +12,7 @@
 #include "settings/getdriverinfoanswer.h"
 #include "settings/getdriversettingsanswer.h"
 #include "settings/gethostinfoanswer.h"
+#include "setup/getkeycodeanswer.h"
 #include "status/getactivedispanswer.h"
 #include "status/geterrorsanswer.h"
 #include "status/mixerdriverstatusanswer.h"

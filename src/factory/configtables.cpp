@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/getcmdestimatedexectimecmd.h"
 #include "base/getcommandstatuscmd.h"
-#include "configuration/setconfserialcmd.h"
 #include "dispensing/checkformulalevelscmd.h"
 #include "dispensing/genericformulacmd.h"
 #include "dispensing/getdispensedformulaconfcmd.h"
@@ -20,6 +19,7 @@
 #include "settings/setdriversettingscmd.h"
 #include "setup/configparamcmd.h"
 #include "setup/setcircuitmaxspeedcmd.h"
+#include "setup/setconfserialcmd.h"
 #include "setup/setdispdatacmd.h"
 #include "setup/setdispidcmd.h"
 #include "setup/setdosingmotordatacmd.h"

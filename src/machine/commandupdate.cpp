@@ -2,7 +2,6 @@
 #include "machine/commandupdate_p.h"
 
 #include "catalogue/protocommandlist.h"
-#include "configuration/dispinfocmd.h"
 #include "firmware/getrealboardstatscmd.h"
 #include "machine/firmwarecommandscmd.h"
 #include "processes/autocapcmd.h"
@@ -10,6 +9,7 @@
 #include "processes/recirculationcmd.h"
 #include "processes/stirringcmd.h"
 #include "processes/stopcmd.h"
+#include "setup/dispinfocmd.h"
 #include "status/getactivecircuitscmd.h"
 
 #include <algorithm>

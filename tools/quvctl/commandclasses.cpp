@@ -3,7 +3,6 @@
 
 #include "commandarguments.h"
 
-#include "configuration/setconfserialcmd.h"
 #include "dispensing/getdispensedformulacmd.h"
 #include "dispensing/getdispensedformulaconfcmd.h"
 #include "dispensing/purgecmd.h"
@@ -15,6 +14,7 @@
 #include "machine/commandidcmd.h"
 #include "processes/stopconfcmd.h"
 #include "settings/getconnectionstatuscmd.h"
+#include "setup/setconfserialcmd.h"
 #include "status/errornumcmd.h"
 
 #include <QuvFramework/fw_dispenser.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/setserialcmd.h"
+#include "setup/setserialcmd.h"
 
 #include "base/commandcontract.h"
-#include "configuration/setconfserialcmd.h"
-#include "configuration/setserialserialcmd.h"
+#include "setup/setconfserialcmd.h"
+#include "setup/setserialserialcmd.h"
 
 #include <type_traits>
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/setdispinfocmd.h"
+#include "setup/setdispinfocmd.h"
 
-#include "configuration/cleardispinfocmd.h"
-#include "configuration/dispinfotesting.h"
+#include "setup/cleardispinfocmd.h"
+#include "setup/dispinfotesting.h"
 
 #include <type_traits>
 
 namespace {
 
-using namespace testing_configuration;
+using namespace testing_setup;
 
 CommandFacts facts()
 {

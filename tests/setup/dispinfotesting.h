@@ -5,7 +5,7 @@
 
 // What the tests of the commands share that read, write and clear a text about the machine.
 
-namespace testing_configuration {
+namespace testing_setup {
 
 using namespace testing_base;
 
@@ -38,4 +38,4 @@ CommandFacts dispInfoFacts(const CatalogueFacts &catalogue, int action)
     return facts;
 }
 
-} // namespace testing_configuration
+} // namespace testing_setup

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/dispinfoanswer.h"
+#include "setup/dispinfoanswer.h"
 
 #include "configuration/configurationtesting.h"
 

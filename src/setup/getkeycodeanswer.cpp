@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/getkeycodeanswer.h"
+#include "setup/getkeycodeanswer.h"
 
 #include "base/describedanswer_p.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/dispinfocmd.h"
+#include "setup/dispinfocmd.h"
 
-#include "configuration/dispinfocmd_p.h"
+#include "setup/dispinfocmd_p.h"
 
 #include <QuvFramework/fw_version.h>
 

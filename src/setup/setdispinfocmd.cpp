@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/setdispinfocmd.h"
+#include "setup/setdispinfocmd.h"
 
-#include "configuration/dispinfocmd_p.h"
+#include "setup/dispinfocmd_p.h"
 
 struct SetDispInfoCmd::Description : DispInfoCmd::Description
 {

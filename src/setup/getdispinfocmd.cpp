@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/getdispinfocmd.h"
+#include "setup/getdispinfocmd.h"
 
-#include "configuration/dispinfoanswer.h"
-#include "configuration/dispinfocmd_p.h"
+#include "setup/dispinfoanswer.h"
+#include "setup/dispinfocmd_p.h"
 
 #include <utility>
 

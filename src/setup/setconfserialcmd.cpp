@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/setconfserialcmd.h"
+#include "setup/setconfserialcmd.h"
 
-#include "configuration/setserialcmd_p.h"
+#include "setup/setserialcmd_p.h"
 
 struct SetConfSerialCmd::Description : SetSerialCmd::Description
 {};

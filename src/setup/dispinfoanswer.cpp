@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/dispinfoanswer.h"
+#include "setup/dispinfoanswer.h"
 
 #include "base/describedanswer_p.h"
 #include "base/tokens_p.h"
-#include "configuration/dispinfocmd.h"
+#include "setup/dispinfocmd.h"
 
 #include <QuvFramework/fw_exception.h>
 

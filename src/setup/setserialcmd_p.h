@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/describedcommand_p.h"
-#include "configuration/setserialcmd.h"
+#include "setup/setserialcmd.h"
 
 namespace quv {
 

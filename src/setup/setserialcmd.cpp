@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/setserialcmd.h"
+#include "setup/setserialcmd.h"
 
-#include "configuration/setserialcmd_p.h"
+#include "setup/setserialcmd_p.h"
 
 SetSerialCmd::SetSerialCmd(const FW_SerialPort &serialPort) : m_serialPort(serialPort) {}
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/describedcommand_p.h"
-#include "configuration/dispinfocmd.h"
+#include "setup/dispinfocmd.h"
 
 /** What the descriptions of the commands have in common. */
 struct DispInfoCmd::Description : quv::Description

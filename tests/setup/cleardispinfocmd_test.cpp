@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/cleardispinfocmd.h"
+#include "setup/cleardispinfocmd.h"
 
-#include "configuration/dispinfotesting.h"
+#include "setup/dispinfotesting.h"
 
 #include <type_traits>
 
 namespace {
 
-using namespace testing_configuration;
+using namespace testing_setup;
 
 TEST(ClearDispInfoCmd, keepsTheCommandContract)
 {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/getdispinfocmd.h"
+#include "setup/getdispinfocmd.h"
 
-#include "configuration/dispinfoanswer.h"
-#include "configuration/dispinfotesting.h"
+#include "setup/dispinfoanswer.h"
+#include "setup/dispinfotesting.h"
 
 #include <type_traits>
 
 namespace {
 
-using namespace testing_configuration;
+using namespace testing_setup;
 
 TEST(GetDispInfoCmd, keepsTheCommandContract)
 {

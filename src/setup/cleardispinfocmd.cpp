@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/cleardispinfocmd.h"
+#include "setup/cleardispinfocmd.h"
 
 #include "base/serialprotoanswer.h"
-#include "configuration/dispinfocmd_p.h"
+#include "setup/dispinfocmd_p.h"
 
 struct ClearDispInfoCmd::Description : DispInfoCmd::Description
 {

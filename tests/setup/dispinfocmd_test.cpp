@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configuration/dispinfocmd.h"
+#include "setup/dispinfocmd.h"
 
 #include <QuvFramework/fw_version.h>
 
