@@ -5,6 +5,8 @@
 
 #include <QuvFramework/fw_machine.h>
 
+#include <utility>
+
 namespace {
 
 constexpr char badFormat[] = "Serial number: error in serial number format";
@@ -29,9 +31,9 @@ struct SetSerialNumberCmd::Description : quv::Description
 
 template class quv::DescribedCommand<SetSerialNumberCmd, ConfProtoCommand>;
 
-SetSerialNumberCmd::SetSerialNumberCmd(const QString &serialNumber) : m_serialNumber(serialNumber)
+SetSerialNumberCmd::SetSerialNumberCmd(QString serialNumber) : m_serialNumber(std::move(serialNumber))
 {
-    if (!FW_Machine::checkSerialNumber(serialNumber))
+    if (!FW_Machine::checkSerialNumber(m_serialNumber))
         throw FW_Exception("DE01780", badFormat, Q_FUNC_INFO);
 }
 

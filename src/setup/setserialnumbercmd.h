@@ -13,7 +13,7 @@ public:
 
     SetSerialNumberCmd() = default;
     /** Throws DE01780 for what is no serial number (FW_Machine::checkSerialNumber). */
-    explicit SetSerialNumberCmd(const QString &serialNumber);
+    explicit SetSerialNumberCmd(QString serialNumber);
     /**
      * The serial number (string). Throws DE01774 for another type and DE01781 for what is no serial number; without it the base
      * refuses (DE00312).

@@ -231,7 +231,7 @@ TEST(SetSerialNumberCmd, keepsTheCommandContract)
     for (const QVariant &wrong : noSerialNumbers)
         facts.typedRefusals.push_back({made<SetSerialNumberCmd>(wrong.toString()),
                                        {"DE01780", format},
-                                       "SetSerialNumberCmd::SetSerialNumberCmd(const QString&)"});
+                                       "SetSerialNumberCmd::SetSerialNumberCmd(QString)"});
     facts.answers = confAnswers();
     expectCommandContract(facts);
 }
