@@ -133,3 +133,9 @@ QMap<QString, QVariant> ConfigParamCmd::buildAnswerParams(const FW_Machine *mach
             {textOf(Cleaning::emptyingTime_TAG), cleaning->emptyingTime()},
             {textOf(Cleaning::fillingTime_TAG), cleaning->fillingTime()}};
 }
+
+bool ConfigParamCmd::operator==(const ConfigParamCmd &other) const
+{
+    return m_configParam == other.m_configParam && m_configCmdType == other.m_configCmdType &&
+           ConfigParams::operator==(other);
+}

@@ -50,6 +50,9 @@ public:
     /** What the answer tells of the machine: all parameters, or none without ultrasound cleaning. */
     static QMap<QString, QVariant> buildAnswerParams(const FW_Machine *machine);
 
+    bool operator==(const ConfigParamCmd &other) const; ///< all arguments, not only the parameters
+    bool operator!=(const ConfigParamCmd &other) const { return !(*this == other); }
+
 private:
     int m_configParam = UltrasoundCleaning;
     int m_configCmdType = Read;

@@ -184,6 +184,18 @@ TEST(ConfigParamCmd, keepsTheCommandContract)
     static_assert(!std::is_constructible_v<ConfigParamCmd, const char *>);
 }
 
+TEST(ConfigParamCmd, comparesAllItsArguments)
+{
+    const ConfigParamCmd command(List{0, 1, params});
+    EXPECT_TRUE(command == ConfigParamCmd(ultrasound, writeType, params));
+    EXPECT_FALSE(command != ConfigParamCmd(ultrasound, writeType, params));
+    for (const List &other : {List{3, 1, params}, List{0, 0, params}, List{0, 1}}) {
+        SCOPED_TRACE(shown(other));
+        EXPECT_TRUE(command != ConfigParamCmd(other));
+        EXPECT_FALSE(command == ConfigParamCmd(other));
+    }
+}
+
 TEST(ConfigParamCmd, refusesWhatHasNoParameters)
 {
     for (const Value &other : otherStructs()) {
