@@ -895,5 +895,53 @@
         <source>Changing dispenser ID from %1 to %2</source>
         <translation>Die ID des Dosierers wird von %1 auf %2 geändert</translation>
     </message>
+    <message>
+        <source>Cloning dispenser configuration</source>
+        <translation>Konfiguration des Dosierers wird kopiert</translation>
+    </message>
+    <message>
+        <source>Cloning machine configuration</source>
+        <translation>Konfiguration der Maschine wird kopiert</translation>
+    </message>
+    <message>
+        <source>Deleting dispenser configuration</source>
+        <translation>Konfiguration des Dosierers wird gelöscht</translation>
+    </message>
+    <message>
+        <source>Deleting machine configuration</source>
+        <translation>Konfiguration der Maschine wird gelöscht</translation>
+    </message>
+    <message>
+        <source>Retrieving configuration</source>
+        <translation>Konfiguration wird abgerufen</translation>
+    </message>
+    <message>
+        <source>Updating dispenser configurations</source>
+        <translation>Konfigurationen der Dosierer werden aktualisiert</translation>
+    </message>
+    <message>
+        <source>Updating dispenser configuration</source>
+        <translation>Konfiguration des Dosierers wird aktualisiert</translation>
+    </message>
+    <message>
+        <source>Updating machine configuration</source>
+        <translation>Konfiguration der Maschine wird aktualisiert</translation>
+    </message>
+    <message>
+        <source>Activating configuration of dispenser %1</source>
+        <translation>Konfiguration von Dosierer %1 wird aktiviert</translation>
+    </message>
+    <message>
+        <source>Activating configuration of dispenser %1 from dispenser %2</source>
+        <translation>Konfiguration von Dosierer %1 wird von Dosierer %2 aus aktiviert</translation>
+    </message>
+    <message>
+        <source>Activating configuration %1</source>
+        <translation>Konfiguration %1 wird aktiviert</translation>
+    </message>
+    <message>
+        <source>Activating configuration %1 from %2</source>
+        <translation>Konfiguration %1 wird von %2 aus aktiviert</translation>
+    </message>
 </context>
 </TS>
