@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/machineid.h"
 
-#include <QuvFramework/fw_exception.h>
-#include <QuvFramework/fw_metatype.h>
+#include "base/machineid_p.h"
+#include "base/objectlist_p.h"
+
 #include <QuvFramework/fw_xmlrpc.h>
 
 namespace {
 
-const bool isRegistered = RegisterTravellingType<MachineID>("MachineID");
-
-/** Whole or in part, it is refused with one text. */
-constexpr char badValue[] = "Bad Machine ID value";
+const bool isRegistered = quv::registerTravellingList<MachineID>("MachineID", "QList<MachineID>");
 
 const char *wordOf(SerialDeviceType type)
 {
@@ -31,9 +29,9 @@ MachineID::MachineID(const XmlRpc::XmlRpcValue &value)
 {
     int number = 0;
     if (!DecodeXmlRpcValue(value, QLatin1String(id_TAG), id))
-        throw FW_Exception("DE02679", badValue, Q_FUNC_INFO);
+        quv::throwRefusal(quv::noMachineNumber, Q_FUNC_INFO);
     if (!DecodeXmlRpcValue(value, QLatin1String(machine_TAG), number))
-        throw FW_Exception("DE02680", badValue, Q_FUNC_INFO);
+        quv::throwRefusal(quv::noMachineType, Q_FUNC_INFO);
     type = static_cast<SerialDeviceType>(number);
 }
 

@@ -17,7 +17,17 @@
 #include "settings/getswversioncmd.h"
 #include "settings/setbluetoothsettingscmd.h"
 #include "settings/setdriversettingscmd.h"
+#include "setup/clonedispensercmd.h"
+#include "setup/clonemachinecmd.h"
 #include "setup/configparamcmd.h"
+#include "setup/deletedispensercmd.h"
+#include "setup/deletemachinecmd.h"
+#include "setup/getconfigcmd.h"
+#include "setup/saveconfigcmd.h"
+#include "setup/savedispenserconfigcmd.h"
+#include "setup/savemachineconfigcmd.h"
+#include "setup/setactivedispcmd.h"
+#include "setup/setactivemachinecmd.h"
 #include "setup/setcircuitmaxspeedcmd.h"
 #include "setup/setconfserialcmd.h"
 #include "setup/setdispdatacmd.h"
@@ -44,6 +54,16 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::GET_SW_VERSION, fromArguments<GetSwVersionCmd>()},
         {Cmd::SET_BT_SETTINGS, fromArguments<SetBluetoothSettingsCmd>()},
         {Cmd::GET_BT_SETTINGS, fromArguments<GetBluetoothSettingsCmd>()},
+        {Cmd::GET_CONFIG, fromArguments<GetConfigCmd>()},
+        {Cmd::SAVE_CONFIG, fromArguments<SaveConfigCmd>()},
+        {Cmd::DELETE_DISPENSER, fromArguments<DeleteDispenserCmd>()},
+        {Cmd::CLONE_DISPENSER, fromArguments<CloneDispenserCmd>()},
+        {Cmd::SAVE_DISP_CONFIG, fromArguments<SaveDispenserConfigCmd>()},
+        {Cmd::SET_ACTIVE_DISP, fromArguments<SetActiveDispCmd>()},
+        {Cmd::SET_ACTIVE_MACHINE, fromArguments<SetActiveMachineCmd>()},
+        {Cmd::DELETE_MACHINE, fromArguments<DeleteMachineCmd>()},
+        {Cmd::CLONE_MACHINE, fromArguments<CloneMachineCmd>()},
+        {Cmd::SAVE_MACHINE_CONFIG, fromArguments<SaveMachineConfigCmd>()},
         {Cmd::STOP, fromArguments<StopConfCmd>()},
         {Cmd::GET_DISP_STATUS, fromArguments<DispenserDriverStatusCmd>()},
         {Cmd::GET_CONNECTIONS, fromArguments<GetConnectionsCmd>()},

@@ -30,13 +30,7 @@ namespace quv {
 const std::vector<PendingCommand> &pendingCommands()
 {
     static const std::vector<PendingCommand> commands = {
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_CONFIG, "GetConfigCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SAVE_CONFIG, "SaveConfigCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_CALIB_PROFILES, "SetCalibrationProfilesCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::DELETE_DISPENSER, "DeleteDispenserCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::CLONE_DISPENSER, "CloneDispenserCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SAVE_DISP_CONFIG, "SaveDispenserConfigCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_ACTIVE_DISP, "SetActiveDispCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_DISP_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CIRCUIT_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CANISTER_LIST, "GetDataListCmd"},
@@ -57,10 +51,6 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Config, BothForms, ProtoCommandList::SET_GRAV_SETTINGS, "SetGravSettingsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::ADD_EVENT, "AddEventCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_MIXER_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_ACTIVE_MACHINE, "SetActiveMachineCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::DELETE_MACHINE, "DeleteMachineCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::CLONE_MACHINE, "CloneMachineCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SAVE_MACHINE_CONFIG, "SaveMachineConfigCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_QRCODE_CALIB, "GetQRCodeCalibrationCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_RECALIB_LIST, "SetRecalibrationListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::ADD_STATS_ERRORS, "AddStatsErrorsCmd"},

@@ -4,6 +4,7 @@
 #include "base/basetesting.h"
 #include "base/bluetoothdeviceinfo.h"
 #include "base/confprotocommand.h"
+#include "base/machineid.h"
 #include "base/outofmemory.h"
 #include "base/scaleprotocommand.h"
 #include "base/serialprotocommand.h"
@@ -18,6 +19,7 @@
 #include "processes/mixerplatescmd.h"
 #include "processes/stiritem.h"
 
+#include <QuvFramework/fw_configuration.h>
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_firmwarefile.h>
 #include <QuvFramework/fw_mixer.h>
@@ -71,6 +73,13 @@ List argumentsFor(const CommandRow &row, Form form)
     const QVariant circuits = QVariant::fromValue(PCircuitFormula(9, {{3, 1, 40, 20}}));
     const QVariant devices = QVariant::fromValue<BluetoothDeviceInfoList>(
         QList<BluetoothDeviceInfo>() << BluetoothDeviceInfo("VELTO 1", "00:11"));
+    const MachineID mixer(7, SerialDeviceType::Mixer);
+    FW_Configuration mixers;
+    mixers.setMachine(std::make_unique<FW_Mixer>());
+    const QVariant configuration = QVariant::fromValue(mixers);
+    FW_Dispenser numbered;
+    numbered.setId(3);
+    const QVariant dispenser = QVariant::fromValue(numbered);
     static const std::map<std::string, List> arguments = {
         {"AIRPURGE", {circuits}},
         {"AUTOCAP_MOVE", {1}},
@@ -84,6 +93,15 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_CIRCUITS_STATUS", {2}},
         {"CLEANING", {0, 40, 300, 2, true}},
         {"DEEP_SERVICE", {3, 12, "0A2c", QVariant(List{300})}},
+        {"CLONE_DISPENSER", {3}},
+        {"CLONE_MACHINE", {QVariant::fromValue(mixer)}},
+        {"DELETE_DISPENSER", {QVariant::fromValue(QList<int>{3, 5})}},
+        {"DELETE_MACHINE", {QVariant::fromValue(QList<MachineID>{mixer})}},
+        {"GET_CONFIG", {1}},
+        {"SAVE_CONFIG", {configuration, true}},
+        {"SAVE_DISP_CONFIG", {dispenser, true, false}},
+        {"SET_ACTIVE_DISP", {3, 5, true}},
+        {"SET_ACTIVE_MACHINE", {QVariant::fromValue(mixer), QVariant::fromValue(mixer), true}},
         {"CLEAR_DISP_INFO", {3}},
         {"CONFIG_PARAM", {3, 1, QVariantMap{{"filling_time", 9.5}}}},
         {"GET_CMD_EST_EXEC_TIME", {"GET_STATUS", 7}},
@@ -158,6 +176,21 @@ List argumentsFor(const CommandRow &row, Form form)
     // commands whose arguments travel in another shape over XML-RPC
     static const std::map<std::string, List> values = {
         {"CONFIG_PARAM", {3, 1, QVariantMap{{"config_params", QVariantMap{{"filling_time", 9.5}}}}}},
+        {"CLONE_DISPENSER", {QVariantMap{{"disp_data", QVariantMap{{"disp_id", 3}}}}}},
+        {"CLONE_MACHINE", {QVariantMap{{"machine_id", QVariant::fromValue(mixer).toMap()}}}},
+        {"DELETE_DISPENSER", {QVariantMap{{"disp_id_list", List{3, 5}}}}},
+        {"DELETE_MACHINE", {QVariantMap{{"machine_id_list", List{QVariant::fromValue(mixer).toMap()}}}}},
+        {"SAVE_CONFIG",
+         {QVariantMap{{"config_data", QVariantMap{{"configuration", configuration.toMap()},
+                                                  {"update_board_config", true}}}}}},
+        {"SAVE_DISP_CONFIG",
+         {QVariantMap{{"disp_data", QVariantMap{{"dispenser_config", dispenser.toMap()},
+                                                {"update_board_config", true},
+                                                {"factory_config", false}}}}}},
+        {"SAVE_MACHINE_CONFIG",
+         {QVariantMap{{"config_data", QVariantMap{{"machine_config", dispenser.toMap()},
+                                                  {"update_board_config", true},
+                                                  {"factory_config", false}}}}}},
         {"GET_CIRCUITS_STATUS", {QVariantMap{{"circuit_positions", List{2}}}}},
         {"GET_CMD_EST_EXEC_TIME", {QVariantMap{{"command", List{"GET_STATUS", 7}}}}},
         {"MIX",
@@ -209,10 +242,11 @@ enum class Reads { All, NotItsOwn, NoList, NothingOfAList };
 Reads readsOf(const CommandRow &row)
 {
     static const std::map<std::string, Reads> others = {
-        {"BOARD_MEMORY", Reads::NothingOfAList}, // is asked for over XML-RPC
-        {"RES_FILE_MNGM", Reads::NotItsOwn},     // a block of a file is written in another shape
-        {"SLAVE_JUMP", Reads::NotItsOwn},        // the address of the slave is read, but never written
-        {"WRITE_CONFIG_ROW", Reads::NoList},     // a row comes from a machine or a struct
+        {"BOARD_MEMORY", Reads::NothingOfAList},        // is asked for over XML-RPC
+        {"RES_FILE_MNGM", Reads::NotItsOwn},            // a block of a file is written in another shape
+        {"SAVE_MACHINE_CONFIG", Reads::NothingOfAList}, // a list is kept as it is
+        {"SLAVE_JUMP", Reads::NotItsOwn},               // the address of the slave is read, but never written
+        {"WRITE_CONFIG_ROW", Reads::NoList},            // a row comes from a machine or a struct
     };
     const auto other = others.find(row.name);
     return other != others.end() ? other->second : Reads::All;

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "base/objectfield_p.h"
+
+#include <QuvFramework/fw_configuration.h>
+
+namespace quv {
+
+template <>
+inline constexpr const char *markOf<FW_Configuration> = FW_Configuration::MACHINES;
+template <>
+inline constexpr const char *nameOf<FW_Configuration> = "configuration";
+
+template <>
+inline const FieldType &fieldType<FW_Configuration>()
+{
+    static constexpr FieldType type = objectType<FW_Configuration>();
+    return type;
+}
+
+} // namespace quv
