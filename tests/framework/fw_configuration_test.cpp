@@ -189,7 +189,7 @@ TEST(FW_Configuration, refusesAMachineThatIsWrong)
             FW_Configuration{
                 structOf({{"machines", arrayOf({mixer, structOf({{"type", "mixer"}, {"id", "3"}})})}})};
         },
-        "DE03350", "machines[1]: FW_Mixer: id must be an integer from 0 to 2147483647",
+        "DE03350", "machines[1]: Machine data: id must be an integer from 0 to 2147483647",
         "FW_Mixer::FW_Mixer(const XmlRpc::XmlRpcValue&)");
 }
 

@@ -299,7 +299,7 @@ TEST(SaveDispenserConfigCmd, refusesAList)
 
 TEST(SaveDispenserConfigCmd, passesOnWhatADispenserIsRefusedWith)
 {
-    constexpr char text[] = "FW_Dispenser: heads must be an integer from 1 to 2";
+    constexpr char text[] = "Machine data: heads must be an integer from 1 to 2";
     constexpr char function[] = "FW_Dispenser::FW_Dispenser(const XmlRpc::XmlRpcValue&)";
     const Value bad = structOf({{"type", "dispenser"}, {"heads", 3}});
     expectRefusal("DE03350", text, function, [&] {
@@ -430,7 +430,7 @@ TEST(SaveMachineConfigCmd, cannotReadWhatItWritesWithoutAMachine)
 TEST(SaveMachineConfigCmd, passesOnWhatAMachineIsRefusedWith)
 {
     const Value bad = structOf({{"type", "dispenser"}, {"heads", 3}});
-    expectRefusal("DE03350", "FW_Dispenser: heads must be an integer from 1 to 2",
+    expectRefusal("DE03350", "Machine data: heads must be an integer from 1 to 2",
                   "FW_Dispenser::FW_Dispenser(const XmlRpc::XmlRpcValue&)", [&] {
                       SaveMachineConfigCmd{requestOf("config_data", structOf({{"machine_config", bad}}))};
                   });
