@@ -943,5 +943,17 @@
         <source>Activating configuration %1 from %2</source>
         <translation>Konfiguration %1 wird von %2 aus aktiviert</translation>
     </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Updating calibration profiles</source>
+        <translation>Kalibrierprofile werden aktualisiert</translation>
+    </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 
 #include "base/confprotoanswer.h"
 #include "base/serialprotoanswer.h"
+#include "calibration/getcalibrationprofilesanswer.h"
 #include "factory/answertables_p.h"
 #include "masterdata/getdeviceparamsanswer.h"
 #include "processes/getshelfparamsanswer.h"
@@ -39,6 +40,7 @@ const std::vector<AnswerRow> &serialRows()
 const std::vector<AnswerRow> &configurationRows()
 {
     static const std::vector<AnswerRow> rows = {
+        answerRow<GetCalibrationProfilesAnswer>(Cmd::GET_CALIB_PROFILES),
         answerRow<GetActiveDispAnswer>(Cmd::GET_ACTIVE_DISP),
         answerRow<MixerDriverStatusAnswer>(Cmd::GET_MIXER_STATUS),
         answerRow<GetConnectionStatusAnswer>(Cmd::GET_CONN_STATUS),

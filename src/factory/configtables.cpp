@@ -1,6 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "base/getcmdestimatedexectimecmd.h"
 #include "base/getcommandstatuscmd.h"
+#include "calibration/getcalibrationlistcmd.h"
+#include "calibration/getqrcodecalibrationcmd.h"
+#include "calibration/getrecalibrationlistcmd.h"
+#include "calibration/setcalibrationlistcmd.h"
+#include "calibration/setcalibrationprofilescmd.h"
+#include "calibration/setcalibtestpointscmd.h"
+#include "calibration/setqrcodecalibrationcmd.h"
+#include "calibration/setrecalibrationlistcmd.h"
 #include "dispensing/checkformulalevelscmd.h"
 #include "dispensing/genericformulacmd.h"
 #include "dispensing/getdispensedformulaconfcmd.h"
@@ -77,6 +85,12 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::SET_SERIAL_NUMBER, fromArguments<SetSerialNumberCmd>()},
         {Cmd::SET_DISP_ID, fromArguments<SetDispIDCmd>()},
         {Cmd::CONFIG_PARAM, fromArguments<ConfigParamCmd>()},
+        {Cmd::SET_CALIB_PROFILES, fromArguments<SetCalibrationProfilesCmd>()},
+        {Cmd::SET_CALIB_LIST, fromArguments<SetCalibrationListCmd>()},
+        {Cmd::SET_CALIB_TEST_POINTS, fromArguments<SetCalibTestPointsCmd>()},
+        {Cmd::SET_QRCODE_CALIB, fromArguments<SetQRCodeCalibrationCmd>()},
+        {Cmd::GET_QRCODE_CALIB, fromArguments<GetQRCodeCalibrationCmd>()},
+        {Cmd::SET_RECALIB_LIST, fromArguments<SetRecalibrationListCmd>()},
     }};
 
 constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{
@@ -93,6 +107,8 @@ constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{
         {Cmd::SET_DM_DATA, fromArgumentsAndDispenser<SetDosingMotorDataCmd>()},
         {Cmd::SET_DISP_DATA, fromArgumentsAndDispenser<SetDispDataCmd>()},
         {Cmd::SET_CIRCUIT_MAX_SPEED, fromArgumentsAndDispenser<SetCircuitMaxSpeedCmd>()},
+        {Cmd::GET_CALIB_LIST, fromArgumentsAndDispenser<GetCalibrationListCmd>()},
+        {Cmd::GET_RECALIB_LIST, fromArgumentsAndDispenser<GetRecalibrationListCmd>()},
     }};
 
 constexpr CommandTable<ConfProtoCommand> mixerConfigTable{

@@ -30,17 +30,13 @@ namespace quv {
 const std::vector<PendingCommand> &pendingCommands()
 {
     static const std::vector<PendingCommand> commands = {
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_CALIB_PROFILES, "SetCalibrationProfilesCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_DISP_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CIRCUIT_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CANISTER_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_COLORANT_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_DEVICE_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CMD_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_CALIB_LIST, "SetCalibrationListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_STATS_ERRORS, "GetStatsErrorsCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_CALIB_TEST_POINTS, "SetCalibTestPointsCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_QRCODE_CALIB, "SetQRCodeCalibrationCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_COLORANT_LIST, "SetColorantListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CURRENT_WEIGHT, "GetCurrentWeightCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_CANISTER_LIST, "SetCanisterListCmd"},
@@ -51,11 +47,7 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Config, BothForms, ProtoCommandList::SET_GRAV_SETTINGS, "SetGravSettingsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::ADD_EVENT, "AddEventCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_MIXER_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_QRCODE_CALIB, "GetQRCodeCalibrationCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_RECALIB_LIST, "SetRecalibrationListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::ADD_STATS_ERRORS, "AddStatsErrorsCmd"},
-        {Dispatch::DispenserConfig, BothForms, ProtoCommandList::GET_CALIB_LIST, "GetCalibrationListCmd"},
-        {Dispatch::DispenserConfig, BothForms, ProtoCommandList::GET_RECALIB_LIST, "GetRecalibrationListCmd"},
         {Dispatch::Scale, BothForms, ProtoCommandList::WEIGHT, "WeightCmd"},
         {Dispatch::Scale, BothForms, ProtoCommandList::TARE, "TareCmd"},
         {Dispatch::Scale, BothForms, ProtoCommandList::TARE_SET, "TareSetCmd"},
@@ -67,7 +59,6 @@ const std::vector<PendingCommand> &pendingCommands()
 const std::vector<PendingAnswer> &pendingAnswers()
 {
     static const std::vector<PendingAnswer> answers = {
-        {ConfigurationType, ProtoCommandList::GET_CALIB_PROFILES, "GetCalibrationProfilesAnswer"},
         {ConfigurationType, ProtoCommandList::GET_CURRENT_WEIGHT, "WeightAnswer"},
         {ConfigurationType, ProtoCommandList::GET_SCALE_CONFIG, "GetScaleConfigAnswer"},
         {ConfigurationType, ProtoCommandList::GET_SCALE_STATUS, "ScaleStatusAnswer"},

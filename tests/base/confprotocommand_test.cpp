@@ -74,7 +74,10 @@ TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
         {"config_file_path", "/etc/nua"},      {"default_calib_file_path", "/usr/nua"},
         {"custom_calib_file_path", "/var/nua"}};
     const AnswerRow rows[] = {
-        {"GET_CALIB_PROFILES", "GetCalibrationProfilesAnswer"},
+        {"GET_CALIB_PROFILES",
+         "GetCalibrationProfilesAnswer",
+         structOf({{"calibration_profiles", structOf({{"pumps", arrayOf()}})}}),
+         {QVariantMap{{"pumps", List{}}}}},
         {"GET_ACTIVE_DISP", "GetActiveDispAnswer", structOf({{"disp_list", arrayOf()}})},
         {"GET_DRIVER_SETTINGS",
          "GetDriverSettingsAnswer",

@@ -8,6 +8,8 @@
 #include "base/outofmemory.h"
 #include "base/scaleprotocommand.h"
 #include "base/serialprotocommand.h"
+#include "calibration/basiccalibrationdata.h"
+#include "calibration/calibrationdata.h"
 #include "catalogue/commandrows.h"
 #include "dispensing/dispensertesting.h"
 #include "dispensing/pcircuitformula.h"
@@ -19,6 +21,8 @@
 #include "processes/mixerplatescmd.h"
 #include "processes/stiritem.h"
 
+#include <QuvFramework/fw_calibrationprofiles.h>
+#include <QuvFramework/fw_calibrationtest.h>
 #include <QuvFramework/fw_configuration.h>
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_firmwarefile.h>
@@ -80,6 +84,8 @@ List argumentsFor(const CommandRow &row, Form form)
     FW_Dispenser numbered;
     numbered.setId(3);
     const QVariant dispenser = QVariant::fromValue(numbered);
+    const QVariantMap calibrations = {
+        {"calibrations_list", List{QVariant::fromValue(CalibrationData(3, {}, FW_DosingMotor())).toMap()}}};
     static const std::map<std::string, List> arguments = {
         {"AIRPURGE", {circuits}},
         {"AUTOCAP_MOVE", {1}},
@@ -90,6 +96,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"CHECK_FORMULA_LEVELS", {formula, true}},
         {"CLEAR_BOARD_STATS", {2, QVariant(List{3, 1})}},
         {"GET_ACTIVE_CIRCUITS", {13}},
+        {"GET_CALIB_LIST", {3, true}},
         {"GET_CIRCUITS_STATUS", {2}},
         {"CLEANING", {0, 40, 300, 2, true}},
         {"DEEP_SERVICE", {3, 12, "0A2c", QVariant(List{300})}},
@@ -115,7 +122,9 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_LEVEL_SENSORS", {QVariant(List{2, 3})}},
         {"GET_LAST_BOARD_STATS", {2, QVariant(List{3, 1})}},
         {"GET_LOW_LEVEL_FORMULA", {formula}},
+        {"GET_QRCODE_CALIB", {0}},
         {"GET_REAL_BOARD_STATS", {2, QVariant(List{3, 1})}},
+        {"GET_RECALIB_LIST", {3, true}},
         {"GET_SHELF_POS", {3}},
         {"GET_SENSOR_DATA", {4, 2}},
         {"GET_STATUS", {7}},
@@ -148,11 +157,18 @@ List argumentsFor(const CommandRow &row, Form form)
         {"SET_CIRCUIT_MAX_SPEED", {3, 120, true}},
         {"SET_DISP_DATA", {"till 2"}},
         {"SET_DISP_ID", {3, 12}},
+        {"SET_CALIB_LIST",
+         {QVariant::fromValue(QList<CalibrationData>{CalibrationData(3, {}, FW_DosingMotor())})}},
+        {"SET_CALIB_PROFILES", {QVariant::fromValue(FW_CalibrationProfiles()), true, true}},
+        {"SET_CALIB_TEST_POINTS",
+         {"C-17", QVariant::fromValue(QList<FW_CalibrationTest>{FW_CalibrationTest(2.5, 2, 800, 60, 0)})}},
         {"SET_DISP_INFO", {3, "K-17"}},
         {"SET_DM_DATA", {3, "P 17"}},
         {"SET_BT_SETTINGS", {true, devices, devices}},
         {"SET_DRIVER_SETTINGS", {QVariantHash{{"AppProfile", "SHOP"}}}},
         {"SET_LEVELS", {false, formula, true}},
+        {"SET_QRCODE_CALIB", {"Q1;7"}},
+        {"SET_RECALIB_LIST", {QVariant::fromValue(QList<BasicCalibrationData>{BasicCalibrationData(3, {})})}},
         {"SET_SERIAL", {QVariant::fromValue(FW_SerialPort(QStringLiteral("/dev/ttyS1")))}},
         {"SET_SERIAL_NUMBER", {"K-17"}},
         {"SHELF_MOVE", {1, 300}},
@@ -193,6 +209,7 @@ List argumentsFor(const CommandRow &row, Form form)
                                                   {"factory_config", false}}}}}},
         {"GET_CIRCUITS_STATUS", {QVariantMap{{"circuit_positions", List{2}}}}},
         {"GET_CMD_EST_EXEC_TIME", {QVariantMap{{"command", List{"GET_STATUS", 7}}}}},
+        {"GET_QRCODE_CALIB", {QVariantMap{{"qr_code_density", 0}}}},
         {"MIX",
          {QVariantMap{
              {"mixer_cycles",
@@ -215,6 +232,17 @@ List argumentsFor(const CommandRow &row, Form form)
              {"bt_enabled", true},
              {"bt_target_devices", List{QVariantMap{{"bt_name", "VELTO 1"}, {"bt_address", "00:11"}}}},
              {"bt_banned_devices", List{QVariantMap{{"bt_name", "VELTO 1"}, {"bt_address", "00:11"}}}}}}},
+        {"SET_CALIB_LIST", {calibrations}},
+        {"SET_CALIB_TEST_POINTS",
+         {"C-17", QVariantMap{{"calib_tests", List{QVariantMap{{"target_quantity", 2.5},
+                                                               {"quantity", 2.0},
+                                                               {"steps", 800},
+                                                               {"speed", 60},
+                                                               {"nozzle_valve", 0}}}}}}},
+        {"SET_QRCODE_CALIB", {QVariantMap{{"qr_code_calibration", "Q1;7"}}}},
+        {"SET_RECALIB_LIST",
+         {QVariantMap{
+             {"calibrations_list", List{QVariantMap{{"position_id", 3}, {"calib_points", List{}}}}}}}},
         {"SET_DRIVER_SETTINGS", {QVariantMap{{"driver_settings_hash", QVariantMap{{"AppProfile", "SHOP"}}}}}},
         {"STIR_ALL", {QVariant(List{QVariantMap{{"item", 12}, {"duration", 40}}}), 1, false, 700}},
         {"UPDATE_FW",

@@ -977,6 +977,48 @@ class Settings(BatchTest):
         self.assertEqual(self.ask({"op": "encode", "name": "GET_CONN_STATUS"})["command"], "")
 
 
+class Calibrations(BatchTest):
+    def test_of_a_circuit(self):
+        reply = {"ok": True, "class": "GetCalibrationListCmd", "request": ["GET_CALIB_LIST", 3, True],
+                 "parameters": [3, True], "estimated_ms": 20000, "command": "", "action": "In progress",
+                 "action_detailed": "In progress"}
+        self.expect({"op": "encode", "name": "GET_CALIB_LIST", "args": [3, True], "machine": "dispenser"}, reply)
+        self.expect({"op": "encode", "name": "GET_CALIB_LIST", "args": [3, True], "form": "list"}, reply)
+        refusal = {"ok": False, "code": "DE00876",
+                   "text": "Invalid position ID parameter: not present on current dispenser",
+                   "function": "CalibrationListCmd::CalibrationListCmd(const XmlRpc::XmlRpcValue&, const FW_Dispenser*)"}
+        self.expect({"op": "encode", "name": "GET_RECALIB_LIST", "args": [245], "machine": "dispenser"}, refusal)
+
+    def test_of_points(self):
+        point = {"calib_point_id": 1, "disp_quantity": 1.02, "disp_steps": 400, "speed": 60, "nozzle_valve_id": 0}
+        data = {"position_id": 3, "calib_points": [point]}
+        struct = {"calibrations_list": [data]}
+        reply = {"ok": True, "class": "SetRecalibrationListCmd", "request": ["SET_RECALIB_LIST", struct],
+                 "parameters": [[data]], "estimated_ms": 20000, "command": "", "action": "In progress",
+                 "action_detailed": "In progress"}
+        request = {"op": "encode", "name": "SET_RECALIB_LIST"}
+        self.expect({**request, "args": [struct]}, reply)
+        self.expect({**request, "args": [[data]], "form": "list"}, reply)
+        self.expect({**request, "args": [data], "form": "list"}, reply)
+        self.expect({"op": "answer", "name": "GET_RECALIB_LIST", "args": [3], "value": struct},
+                    {"ok": True, "class": "GetRecalibrationListAnswer", "value": struct})
+
+    def test_of_pumps(self):
+        profiles = {"calibration_profiles": {"pumps": []}}
+        self.expect({"op": "answer", "name": "GET_CALIB_PROFILES", "value": profiles},
+                    {"ok": True, "class": "GetCalibrationProfilesAnswer", "value": profiles})
+        reply = self.ask({"op": "encode", "name": "SET_CALIB_PROFILES", "args": [{"pumps": [{"id": 7}]}, True, False]})
+        self.assertEqual((reply["class"], reply["command"]), ("SetCalibrationProfilesCmd", "Calibration profiles write"))
+        self.assertEqual(reply["request"][1]["pumps"][0]["id"], 7)
+
+    def test_in_codes(self):
+        self.assertEqual(self.ask({"op": "encode", "name": "GET_QRCODE_CALIB"})["request"],
+                         ["GET_QRCODE_CALIB", {"qr_code_density": 1}])
+        codes = {"encoded_data_list": ["Q1;7", "Q2;8"]}
+        self.expect({"op": "answer", "name": "GET_QRCODE_CALIB", "value": codes},
+                    {"ok": True, "class": "GetQRCodeCalibrationAnswer", "value": codes})
+
+
 class Renamed(BatchTest):
     """A command that a driver gives its newer name."""
 

@@ -45,6 +45,7 @@ constexpr Sample samplesOfTypes[] = {
 /// The arguments of commands for which their types do not tell enough.
 constexpr Sample samplesOfCommands[] = {
     {"GET_STATUS", "[3]"},
+    {"GET_CALIB_LIST", "[3,true]"},
     {"GET_CIRCUITS_STATUS", R"([{"circuit_positions":[2,3]}])"},
     {"GET_ERROR_PKT", "[]"}, // quvctl cannot send what the command does not write
     {"GET_CMD_STATUS", R"(["08c07d1b-0c86-482f-89f7-e64569cd7441"])"},
@@ -82,6 +83,17 @@ constexpr Sample samplesOfCommands[] = {
     {"DELETE_MACHINE", R"([{"machine_id_list":[{"id":2,"machine":4}]}])"},
     {"SET_ACTIVE_DISP", "[3,1]"},
     {"SET_ACTIVE_MACHINE", R"([{"id":2,"machine":4},{"id":1,"machine":4}])"},
+    {"GET_QRCODE_CALIB", R"([{"qr_code_density":1}])"},
+    {"GET_RECALIB_LIST", "[3,true]"},
+    {"SET_CALIB_LIST",
+     R"([{"calibrations_list":[{"position_id":3,"pump_info":{"max_speed":100},)"
+     R"("circuit_calibrations":[{"points":[{"steps":400,"quantity":1.0,"speed":60}]}]}]}])"},
+    {"SET_CALIB_PROFILES", R"([{"pumps":[{"id":1,"max_speed":100}]},true,false])"},
+    {"SET_CALIB_TEST_POINTS",
+     R"(["C-17",{"calib_tests":[{"target_quantity":2.5,"quantity":2.48,"steps":1000,"speed":60}]}])"},
+    {"SET_QRCODE_CALIB", R"([{"qr_code_calibration":"Q1;7"}])"},
+    {"SET_RECALIB_LIST", R"([{"calibrations_list":[{"position_id":3,"calib_points":)"
+                         R"([{"calib_point_id":1,"disp_quantity":1.02,"disp_steps":400,"speed":60}]}]}])"},
     {"STIRRING", "[3,60]"},
     {"RECIRCULATION", "[3,60,50]"},
     {"STIR_ALL", R"([[{"item":3,"duration":60},{"item":4,"duration":60}],0,false,500])"},

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "../quvprotocol_global.h"
+
+#include <QuvFramework/fw_calibration.h>
+#include <QuvFramework/fw_dosingmotor.h>
+
+#include <QtCore/QList>
+#include <QtCore/QMetaType>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
+/**
+ * The calibration of one circuit, with the motor that it was measured with. Travels in a QVariant under its name, also as the map that
+ * its struct is; a list of them under "QList<CalibrationData>".
+ */
+struct QUVPROTOCOL_EXPORT CalibrationData
+{
+    static constexpr char positionID_TAG[] = "position_id";
+    static constexpr char dosingMotor_TAG[] = "pump_info";
+    static constexpr char circuitCalibrations_TAG[] = "circuit_calibrations";
+
+    CalibrationData() = default;
+    CalibrationData(int position, const QList<FW_Calibration> &calibrations, const FW_DosingMotor &motor)
+        : positionID(position),
+          circuitCalibrations(calibrations),
+          dosingMotor(motor)
+    {}
+    /**
+     * Throws std::invalid_argument for a member that is missing or of another type: there is no code to it, the answers and commands
+     * have theirs. Also throws as FW_DosingMotor and FW_Calibration do.
+     */
+    explicit CalibrationData(const XmlRpc::XmlRpcValue &value);
+    explicit CalibrationData(bool) = delete; // would be an XML-RPC value, as would the next three
+    explicit CalibrationData(int) = delete;
+    explicit CalibrationData(double) = delete;
+    explicit CalibrationData(const char *) = delete;
+
+    XmlRpc::XmlRpcValue toXmlRpcValue() const;
+
+    bool operator==(const CalibrationData &other) const;
+    bool operator!=(const CalibrationData &other) const { return !(*this == other); }
+
+    int positionID = 0; ///< of the circuit
+    QList<FW_Calibration> circuitCalibrations;
+    FW_DosingMotor dosingMotor;
+};
+
+Q_DECLARE_METATYPE(CalibrationData)
