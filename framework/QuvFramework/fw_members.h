@@ -92,6 +92,7 @@ QUVFRAMEWORK_EXPORT QString mustBeInteger(Range range);
 QUVFRAMEWORK_EXPORT QString mustBeNumber(Range range);
 QUVFRAMEWORK_EXPORT QString mustBeTime();
 
+/// How a machine tells that a canister has fallen to its reserve, FW_Dispenser::setReserveSensorTypeAndPolicyMask.
 struct ReserveSensor
 {
     int type = 0;
