@@ -955,5 +955,25 @@
         <source>Updating calibration profiles</source>
         <translation>Kalibrierprofile werden aktualisiert</translation>
     </message>
+    <message>
+        <source>Reading gravimetric settings</source>
+        <translation>Gravimetrische Einstellungen werden gelesen</translation>
+    </message>
+    <message>
+        <source>Updating gravimetric settings</source>
+        <translation>Gravimetrische Einstellungen werden geändert</translation>
+    </message>
+    <message>
+        <source>Retrieving scale configuration</source>
+        <translation>Einstellungen der Waage werden gelesen</translation>
+    </message>
+    <message>
+        <source>Taring</source>
+        <translation>Die Waage wird tariert</translation>
+    </message>
+    <message>
+        <source>Weighing</source>
+        <translation>Es wird gewogen</translation>
+    </message>
 </context>
 </TS>

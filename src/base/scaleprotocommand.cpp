@@ -17,6 +17,16 @@ ScaleProtoCommand::ScaleProtoCommand(QString command, QList<QVariant> parameters
     : ProtoCommand(quv::ScaleType, command, parameters, nullptr)
 {}
 
+ScaleProtoCommand::ScaleProtoCommand(QString command, const FW_Machine *) : ScaleProtoCommand(command) {}
+
+ScaleProtoCommand::ScaleProtoCommand(QString command, const XmlRpc::XmlRpcValue &value, const FW_Machine *)
+    : ScaleProtoCommand(command, value)
+{}
+
+ScaleProtoCommand::ScaleProtoCommand(QString command, QList<QVariant> parameters, const FW_Machine *)
+    : ScaleProtoCommand(command, parameters)
+{}
+
 ScaleProtoCommand *ScaleProtoCommand::clone() const
 {
     return new ScaleProtoCommand(*this);

@@ -24,4 +24,10 @@ public:
 
     /** Stores a clone of the scale's answer. */
     virtual bool setScaleAnswer(ScaleProtoAnswer *answer, FW_DriverError *error);
+
+protected:
+    // For the layer of a described command, which hands its base a machine as well: a scale has none.
+    ScaleProtoCommand(QString command, const FW_Machine *machine);
+    ScaleProtoCommand(QString command, const XmlRpc::XmlRpcValue &value, const FW_Machine *machine);
+    ScaleProtoCommand(QString command, QList<QVariant> parameters, const FW_Machine *machine);
 };

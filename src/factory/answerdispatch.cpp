@@ -9,6 +9,9 @@
 #include "processes/getshelfparamsanswer.h"
 #include "processes/getturntablepositionsanswer.h"
 #include "processes/getzandorcommandsanswer.h"
+#include "scale/getscaleconfiganswer.h"
+#include "scale/scalestatusanswer.h"
+#include "scale/weightanswer.h"
 #include "settings/getconnectionstatusanswer.h"
 #include "settings/getdriverinfoanswer.h"
 #include "settings/getdriversettingsanswer.h"
@@ -49,6 +52,9 @@ const std::vector<AnswerRow> &configurationRows()
         answerRow<GetDriverSettingsAnswer>(Cmd::GET_DRIVER_SETTINGS),
         answerRow<GetHostInfoAnswer>(Cmd::GET_HOST_INFO),
         answerRow<GetShelfParamsAnswer>(Cmd::GET_SHELF_PARAMS),
+        answerRow<WeightAnswer>(Cmd::GET_CURRENT_WEIGHT),
+        answerRow<GetScaleConfigAnswer>(Cmd::GET_SCALE_CONFIG),
+        answerRow<ScaleStatusAnswer>(Cmd::GET_SCALE_STATUS),
     };
     return rows;
 }

@@ -16,6 +16,11 @@
 #include "dispensing/setlevelscmd.h"
 #include "factory/commandtables_p.h"
 #include "processes/stopconfcmd.h"
+#include "scale/getcurrentweightcmd.h"
+#include "scale/getestcmd.h"
+#include "scale/getgravsettingscmd.h"
+#include "scale/setgravsettingscmd.h"
+#include "scale/setscaleconfigcmd.h"
 #include "sessions/certifysessioncmd.h"
 #include "sessions/getkeycmd.h"
 #include "sessions/logincmd.h"
@@ -91,6 +96,11 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::SET_QRCODE_CALIB, fromArguments<SetQRCodeCalibrationCmd>()},
         {Cmd::GET_QRCODE_CALIB, fromArguments<GetQRCodeCalibrationCmd>()},
         {Cmd::SET_RECALIB_LIST, fromArguments<SetRecalibrationListCmd>()},
+        {Cmd::GET_CURRENT_WEIGHT, fromArguments<GetCurrentWeightCmd>()},
+        {Cmd::SET_SCALE_CONFIG, fromArguments<SetScaleConfigCmd>()},
+        {Cmd::GET_GRAV_SETTINGS, fromArguments<GetGravSettingsCmd>()},
+        {Cmd::SET_GRAV_SETTINGS, fromArguments<SetGravSettingsCmd>()},
+        {Cmd::GE_TEST, fromArguments<GETestCmd>()},
     }};
 
 constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{

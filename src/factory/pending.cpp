@@ -38,20 +38,11 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CMD_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_STATS_ERRORS, "GetStatsErrorsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_COLORANT_LIST, "SetColorantListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_CURRENT_WEIGHT, "GetCurrentWeightCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_CANISTER_LIST, "SetCanisterListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GE_TEST, "GETestCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_COL_USAGE_STATS, "GetColorantUsageStatsCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_SCALE_CONFIG, "SetScaleConfigCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_GRAV_SETTINGS, "GetGravSettingsCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_GRAV_SETTINGS, "SetGravSettingsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::ADD_EVENT, "AddEventCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_MIXER_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::ADD_STATS_ERRORS, "AddStatsErrorsCmd"},
-        {Dispatch::Scale, BothForms, ProtoCommandList::WEIGHT, "WeightCmd"},
-        {Dispatch::Scale, BothForms, ProtoCommandList::TARE, "TareCmd"},
-        {Dispatch::Scale, BothForms, ProtoCommandList::TARE_SET, "TareSetCmd"},
-        {Dispatch::Scale, BothForms, ProtoCommandList::DISPLAY_STRING, "DisplayStringCmd"},
     };
     return commands;
 }
@@ -59,9 +50,6 @@ const std::vector<PendingCommand> &pendingCommands()
 const std::vector<PendingAnswer> &pendingAnswers()
 {
     static const std::vector<PendingAnswer> answers = {
-        {ConfigurationType, ProtoCommandList::GET_CURRENT_WEIGHT, "WeightAnswer"},
-        {ConfigurationType, ProtoCommandList::GET_SCALE_CONFIG, "GetScaleConfigAnswer"},
-        {ConfigurationType, ProtoCommandList::GET_SCALE_STATUS, "ScaleStatusAnswer"},
         {ConfigurationType, ProtoCommandList::GET_USS_W_STATUS, "GetUssWaterStatusAnswer"},
     };
     return answers;

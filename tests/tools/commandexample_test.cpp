@@ -33,23 +33,22 @@ std::string python(const quv::CommandFacts &command)
 /// Plain, so it takes whatever it is given.
 quv::CommandFacts ofAllTypes()
 {
-    return command("SET_GRAV_SETTINGS", {{"number", "int"},
-                                         {"flag", "bool"},
-                                         {"quantity", "double"},
-                                         {"words", "string"},
-                                         {"circuits", "array of ints"},
-                                         {"colorants", "array of strings"}});
+    return command("SCALE_RESET", {{"number", "int"},
+                                   {"flag", "bool"},
+                                   {"quantity", "double"},
+                                   {"words", "string"},
+                                   {"circuits", "array of ints"},
+                                   {"colorants", "array of strings"}});
 }
 
 } // namespace
 
 TEST(CommandExample, hasAValueOfEachType)
 {
-    EXPECT_EQ(shell(ofAllTypes()),
-              "quvctl call SET_GRAV_SETTINGS number=1 flag=true quantity=12.5 words=text "
-              "'circuits=[1,2]' 'colorants=[\"B\",\"KX\"]'");
+    EXPECT_EQ(shell(ofAllTypes()), "quvctl call SCALE_RESET number=1 flag=true quantity=12.5 words=text "
+                                   "'circuits=[1,2]' 'colorants=[\"B\",\"KX\"]'");
     EXPECT_EQ(python(ofAllTypes()),
-              "driver.EXEC_B(\"SET_GRAV_SETTINGS\", 1, True, 12.5, \"text\", [1, 2], [\"B\", \"KX\"])");
+              "driver.EXEC_B(\"SCALE_RESET\", 1, True, 12.5, \"text\", [1, 2], [\"B\", \"KX\"])");
 }
 
 TEST(CommandExample, hasAFormula)

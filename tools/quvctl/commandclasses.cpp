@@ -13,6 +13,7 @@
 #include "firmware/firmwarescanstartcmd.h"
 #include "machine/commandidcmd.h"
 #include "processes/stopconfcmd.h"
+#include "scale/scaleresetcmd.h"
 #include "settings/getconnectionstatuscmd.h"
 #include "setup/setconfserialcmd.h"
 #include "status/errornumcmd.h"
@@ -101,6 +102,7 @@ constexpr CommandClass commandClasses[] = {
     {"GetDispensedFormulaConfCmd", fromArguments<GetDispensedFormulaConfCmd>},
     {"PurgeCmd", fromArgumentsAndDispenser<PurgeCmd>},
     {"PurgeQuantityCmd", fromArguments<PurgeQuantityCmd>},
+    {"ScaleResetCmd", fromArguments<ScaleResetCmd>},
     {"SetConfSerialCmd", fromArgumentsAndMachine<SetConfSerialCmd>},
     {"StopConfCmd", fromArguments<StopConfCmd>},
     {"TurntablePurgeFormulaCmd", fromArgumentsAndPosition<TurntablePurgeFormulaCmd>},

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "base/refusal_p.h"
+
+namespace quv {
+
+constexpr char gravSettingsNotRead[] = "SetGravSettingsCmd: error in xmlrpc decoding";
+constexpr Refusal noGravSettingsStruct = {"DE02405", gravSettingsNotRead};
+constexpr Refusal noGravSettingsArray = {"DE02406", gravSettingsNotRead};
+constexpr Refusal badGravSettings = {"DE02407", gravSettingsNotRead};
+constexpr Refusal badGravSettingsInList = {"DE02408",
+                                           "GravSettingsBase decoding failed: invalid QVariant value"};
+
+constexpr char tellsGravSettings[] = "of each circuit its \"position_id\" and its settings";
+constexpr char gravSettingsArgument[] =
+    "\"circuits_grav_settings\", as the answer to GET_GRAV_SETTINGS tells it (in a list the array alone)";
+
+} // namespace quv
