@@ -34,7 +34,9 @@ struct GETestCmd::Description : quv::Description
 
     static void tellArguments(quv::ArgumentTeller &teller)
     {
-        teller.argument({"test", "\"current_scale_weight\" (double) and \"driver_GE_settings\" (struct)"},
+        teller.argument({"test", "\"current_scale_weight\" (grams) and \"driver_GE_settings\", a struct of "
+                                 "\"tolerance\" (grams) and "
+                                 "\"max_corrections\""},
                         "struct");
         teller.refuse("another type", {noStruct, noStruct});
         teller.refuse("current_scale_weight is missing or of another type", {noWeight, noWeight});

@@ -12,7 +12,8 @@ constexpr Refusal badGravSettings = {"DE02407", gravSettingsNotRead};
 constexpr Refusal badGravSettingsInList = {"DE02408",
                                            "GravSettingsBase decoding failed: invalid QVariant value"};
 
-constexpr char tellsGravSettings[] = "of each circuit its \"position_id\" and its settings";
+constexpr char tellsGravSettings[] =
+    "of each circuit \"position_id\", \"tolerance\" (grams) and \"max_corrections\"";
 constexpr char gravSettingsArgument[] =
     "\"circuits_grav_settings\", as the answer to GET_GRAV_SETTINGS tells it (in a list the array alone)";
 

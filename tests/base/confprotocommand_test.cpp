@@ -5,6 +5,8 @@
 #include "base/answerrows.h"
 #include "base/basetesting.h"
 
+#include <QuvFramework/fw_scale.h>
+
 #include <memory>
 
 using namespace testing_base;
@@ -96,9 +98,15 @@ TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
          "GetHostInfoAnswer",
          structOf({{"host_name", "shop-1"}, {"BT_radio_ON", true}}),
          {"shop-1", true}},
-        {"GET_CURRENT_WEIGHT", "WeightAnswer"},
-        {"GET_SCALE_CONFIG", "GetScaleConfigAnswer"},
-        {"GET_SCALE_STATUS", "ScaleStatusAnswer"},
+        {"GET_CURRENT_WEIGHT",
+         "WeightAnswer",
+         structOf({{"weight_value", 12.5}, {"unit", 0}, {"stable_weight", true}, {"precision", 1}}),
+         {12.5, 0, true, 1}},
+        {"GET_SCALE_CONFIG",
+         "GetScaleConfigAnswer",
+         arrayOf(structOf({{"scale", 0}})),
+         {QVariant::fromValue(FW_Scale())}},
+        {"GET_SCALE_STATUS", "ScaleStatusAnswer", structOf({{"connected", false}}), {false}},
         {"GET_USS_W_STATUS", "GetUssWaterStatusAnswer"},
         {"GET_MIXER_STATUS",
          "MixerDriverStatusAnswer",
@@ -125,6 +133,7 @@ TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
         EXPECT_EQ(className(command.getProtoAnswer()), expected);
         ASSERT_TRUE(command.buildProtoAnswer(list, nullptr));
         EXPECT_EQ(className(command.getProtoAnswer()), expected);
-        EXPECT_EQ(command.getProtoAnswer()->protoType(), 2);
+        // a weight is told as the scale itself tells it
+        EXPECT_EQ(command.getProtoAnswer()->protoType(), expected == "WeightAnswer" ? 3 : 2);
     }
 }

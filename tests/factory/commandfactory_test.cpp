@@ -26,7 +26,9 @@
 #include <QuvFramework/fw_configuration.h>
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_firmwarefile.h>
+#include <QuvFramework/fw_gravimetricsettings.h>
 #include <QuvFramework/fw_mixer.h>
+#include <QuvFramework/fw_scale.h>
 #include <QuvFramework/fw_serialport.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
@@ -86,6 +88,10 @@ List argumentsFor(const CommandRow &row, Form form)
     const QVariant dispenser = QVariant::fromValue(numbered);
     const QVariantMap calibrations = {
         {"calibrations_list", List{QVariant::fromValue(CalibrationData(3, {}, FW_DosingMotor())).toMap()}}};
+    const QVariant gravSettings =
+        QVariantMap{{"position_id", 3}, {"tolerance", 0.25}, {"max_corrections", 5}};
+    const QVariant scale =
+        QVariant::fromValue(FW_Scale("Libra 6", FW_SerialPort(), ScaleUtils::Kilogram, 6.5, 3));
     static const std::map<std::string, List> arguments = {
         {"AIRPURGE", {circuits}},
         {"AUTOCAP_MOVE", {1}},
@@ -95,6 +101,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"CHANNEL_TINT", {2, formula}},
         {"CHECK_FORMULA_LEVELS", {formula, true}},
         {"CLEAR_BOARD_STATS", {2, QVariant(List{3, 1})}},
+        {"DISPLAY_STRING", {"Base 1"}},
         {"GET_ACTIVE_CIRCUITS", {13}},
         {"GET_CALIB_LIST", {3, true}},
         {"GET_CIRCUITS_STATUS", {2}},
@@ -114,11 +121,16 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_CMD_EST_EXEC_TIME", {"GET_STATUS", 7}},
         {"GET_CMD_STATUS", {"ticket 7"}},
         {"GET_DISP_INFO", {3}},
+        {"GET_CURRENT_WEIGHT", {true}},
         {"GET_DISPENSED_FORMULA", {2, 1}},
         {"GET_FORMULA_CIRCUITS", {formula, true}},
         {"GET_FORMULA_EXECUTION", {formula}},
         {"GET_FW_COMMANDS", {1}},
+        {"GET_GRAV_SETTINGS", {QVariant(List{2, 3})}},
         {"GET_KEY", {"S-7", "38"}},
+        {"GE_TEST",
+         {QVariantMap{{"current_scale_weight", 12.5},
+                      {"driver_GE_settings", QVariant::fromValue(GravimetricSettings(0.25, 5))}}}},
         {"GET_LEVEL_SENSORS", {QVariant(List{2, 3})}},
         {"GET_LAST_BOARD_STATS", {2, QVariant(List{3, 1})}},
         {"GET_LOW_LEVEL_FORMULA", {formula}},
@@ -166,9 +178,11 @@ List argumentsFor(const CommandRow &row, Form form)
         {"SET_DM_DATA", {3, "P 17"}},
         {"SET_BT_SETTINGS", {true, devices, devices}},
         {"SET_DRIVER_SETTINGS", {QVariantHash{{"AppProfile", "SHOP"}}}},
+        {"SET_GRAV_SETTINGS", {QVariant(List{gravSettings})}},
         {"SET_LEVELS", {false, formula, true}},
         {"SET_QRCODE_CALIB", {"Q1;7"}},
         {"SET_RECALIB_LIST", {QVariant::fromValue(QList<BasicCalibrationData>{BasicCalibrationData(3, {})})}},
+        {"SET_SCALE_CONFIG", {scale}},
         {"SET_SERIAL", {QVariant::fromValue(FW_SerialPort(QStringLiteral("/dev/ttyS1")))}},
         {"SET_SERIAL_NUMBER", {"K-17"}},
         {"SHELF_MOVE", {1, 300}},
@@ -177,11 +191,14 @@ List argumentsFor(const CommandRow &row, Form form)
         {"STIR_ALL", {QVariant::fromValue(QList<StirItem>{StirItem(12, 40)}), 1, false, 700}},
         {"STOP", {3, 2}},
         {"SW_PROCESS_TOGGLE", {2, 3, 4, 5}},
+        {"TARE", {true, false}},
+        {"TARE_SET", {12.5, 1}},
         {"TINT", {formula}},
         {"TOGGLE_TEMPORIZED", {false, 3, 60}},
         {"TURNTABLE_MOVE", {7, 2, 1, 90, 1, 50}},
         {"TURNTABLE_MOVE_STEPS", {1, 50, 1}}, // of one step, which is both the number and its digits
         {"TURNTABLE_MOVE_TO_REFILL", {7}},
+        {"WEIGHT", {1, 2, 7.5}},
         {"WORKING_MODE", {3}},
         {"ZDR_ACTUATOR_MOVE", {9, 2, 3, 4, 5, 300}},
         {"ZDR_CYCLE_OPERATION", {3, 17, 245}},
@@ -210,6 +227,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_CIRCUITS_STATUS", {QVariantMap{{"circuit_positions", List{2}}}}},
         {"GET_CMD_EST_EXEC_TIME", {QVariantMap{{"command", List{"GET_STATUS", 7}}}}},
         {"GET_QRCODE_CALIB", {QVariantMap{{"qr_code_density", 0}}}},
+        {"GET_GRAV_SETTINGS", {QVariantMap{{"positions_id", List{2, 3}}}}},
         {"MIX",
          {QVariantMap{
              {"mixer_cycles",
@@ -244,6 +262,8 @@ List argumentsFor(const CommandRow &row, Form form)
          {QVariantMap{
              {"calibrations_list", List{QVariantMap{{"position_id", 3}, {"calib_points", List{}}}}}}}},
         {"SET_DRIVER_SETTINGS", {QVariantMap{{"driver_settings_hash", QVariantMap{{"AppProfile", "SHOP"}}}}}},
+        {"SET_GRAV_SETTINGS", {QVariantMap{{"circuits_grav_settings", List{gravSettings}}}}},
+        {"SET_SCALE_CONFIG", {QVariantMap{{"scale", scale}}}},
         {"STIR_ALL", {QVariant(List{QVariantMap{{"item", 12}, {"duration", 40}}}), 1, false, 700}},
         {"UPDATE_FW",
          {QVariant(List{QVariantMap{{"image", QByteArray("abc")},

@@ -266,8 +266,8 @@ TEST(GetGravSettingsCmd, tellsItselfAndItsAnswer)
     EXPECT_EQ(
         membersOf("GET_GRAV_SETTINGS"),
         (Lines{"GravSettingsAnswer",
-               "circuits_grav_settings (array of structs): of each circuit its \"position_id\" and its "
-               "settings",
+               "circuits_grav_settings (array of structs): of each circuit \"position_id\", \"tolerance\" "
+               "(grams) and \"max_corrections\"",
                "  XML-RPC, no struct: DE02405", "  XML-RPC, missing or another type: DE02406",
                "  XML-RPC, an element of another type: DE02407", "  list, missing or another type: DE02408",
                "  XML-RPC, : DE03325", "  list, : DE03326"}));

@@ -756,6 +756,39 @@ class Refusals(BatchTest):
         self.refusal(bad('"raw" must be a string'), raw=["0A"])
 
 
+class Scales(BatchTest):
+    """Scales, and how circuits are dosed by one."""
+
+    def test_a_restart_that_only_a_driver_makes(self):
+        for form, code in [("value", "DE02171"), ("list", "DE02172")]:
+            reply = self.ask({"op": "encode", "class": "ScaleResetCmd", "args": [True], "form": form})
+            self.assertEqual((reply["class"], reply["request"]), ("ScaleResetCmd", ["SCALE_RESET", True]))
+            reply = self.ask({"op": "encode", "class": "ScaleResetCmd", "args": [1], "form": form})
+            self.assertEqual((reply["code"], reply["text"]),
+                             (code, "Hard reset value parameter: expected BOOL parameter"))
+        reply = self.ask({"op": "encode", "name": "SCALE_RESET", "args": []})
+        self.assertEqual((reply["class"], reply["request"]), ("ConfProtoCommand", ["SCALE_RESET"]))
+
+    def test_objects_in_lists_are_their_structs(self):
+        scale = {"scale_model": "Libra 6", "scale_unit": 1, "max_weight": 6.2, "precision": 3,
+                 "scale_port": {"conn_type": 0, "conn_name": "/dev/ttyS1", "conn_address": ""}}
+        circuits = [{"position_id": 3, "tolerance": 0.25, "max_corrections": 5}]
+        test = {"current_scale_weight": 12.5, "driver_GE_settings": {"tolerance": 0.25, "max_corrections": 5}}
+        for name, in_list, in_value in [("SET_SCALE_CONFIG", scale, {"scale": scale}),
+                                        ("SET_GRAV_SETTINGS", circuits, {"circuits_grav_settings": circuits}),
+                                        ("GET_GRAV_SETTINGS", [2, 3], {"positions_id": [2, 3]}),
+                                        ("GE_TEST", test, test)]:
+            for form, arguments in [("list", [in_list]), ("value", [in_value])]:
+                reply = self.ask({"op": "encode", "name": name, "args": arguments, "form": form})
+                self.assertEqual((reply.get("request"), reply.get("parameters")), ([name, in_value], [in_list]))
+
+    def test_no_scale(self):
+        self.assertEqual(self.ask({"op": "encode", "name": "SET_SCALE_CONFIG"})["request"],
+                         ["SET_SCALE_CONFIG", {"scale": 0}])
+        self.assertEqual(self.ask({"op": "answer", "name": "GET_SCALE_CONFIG", "value": [{"scale": 0}]}),
+                         {"ok": True, "class": "GetScaleConfigAnswer", "value": [{"scale": 0}]})
+
+
 class Errors(BatchTest):
     """The buffer of errors that a firmware keeps."""
 
