@@ -37,7 +37,7 @@ std::unique_ptr<FW_Scale> scaleOf(const XmlRpcValue &value, const char *function
 
 std::unique_ptr<FW_Scale> copyOf(const std::unique_ptr<FW_Scale> &scale)
 {
-    return scale ? std::make_unique<FW_Scale>(*scale) : nullptr;
+    return std::unique_ptr<FW_Scale>(scale ? new FW_Scale(*scale) : nullptr);
 }
 
 } // namespace
