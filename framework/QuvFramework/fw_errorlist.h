@@ -10,7 +10,10 @@
 #include <memory>
 #include <vector>
 
-/** Errors of all kinds, in the order in which they were told. The list owns its errors; copying it copies them. */
+/**
+ * Errors of all kinds, in the order in which they were told. The list owns its errors; copying it copies them. It travels in a QVariant
+ * under its name, also as the list of the maps that its errors' structs are.
+ */
 class QUVFRAMEWORK_EXPORT FW_ErrorList
 {
 public:

@@ -3,6 +3,7 @@
 
 #include <QuvFramework/fw_xmlrpc.h>
 
+#include <QtCore/QList>
 #include <QtCore/QMap>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
@@ -23,4 +24,20 @@ bool RegisterTravellingType(const char *name)
         [](const T &object) { return DecodeXmlRpcVariant(object.toXmlRpcValue()).toMap(); });
     QMetaType::registerConverter<Map, T>([](const Map &members) { return T(EncodeXmlRpcVariant(members)); });
     return true;
+}
+
+/** The same, and the list of T under \a listName: comparable, and convertible from a list of variants that each hold a T. */
+template <class T>
+bool RegisterTravellingList(const char *name, const char *listName)
+{
+    qRegisterMetaType<QList<T>>(listName);
+    QMetaType::registerEqualsComparator<QList<T>>();
+    QMetaType::registerConverter<QList<QVariant>, QList<T>>([](const QList<QVariant> &variants) {
+        QList<T> objects;
+        objects.reserve(variants.size());
+        for (const QVariant &variant : variants)
+            objects.append(variant.value<T>());
+        return objects;
+    });
+    return RegisterTravellingType<T>(name);
 }

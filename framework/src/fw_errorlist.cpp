@@ -1,8 +1,23 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include <QuvFramework/fw_errorlist.h>
 #include <QuvFramework/fw_exception.h>
+#include <QuvFramework/fw_xmlrpc.h>
 
 #include <algorithm>
+
+namespace {
+
+bool registerType()
+{
+    qRegisterMetaType<FW_ErrorList>("FW_ErrorList");
+    QMetaType::registerEqualsComparator<FW_ErrorList>();
+    return QMetaType::registerConverter<FW_ErrorList, QList<QVariant>>(
+        [](const FW_ErrorList &errors) { return DecodeXmlRpcVariant(errors.toXmlRpcValue()).toList(); });
+}
+
+const bool isRegistered = registerType();
+
+} // namespace
 
 FW_ErrorList::FW_ErrorList(const QList<QVariant> &errors)
 {

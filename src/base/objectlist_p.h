@@ -17,16 +17,7 @@ namespace quv {
 template <class T>
 bool registerTravellingList(const char *name, const char *listName)
 {
-    qRegisterMetaType<QList<T>>(listName);
-    QMetaType::registerEqualsComparator<QList<T>>();
-    QMetaType::registerConverter<QVariantList, QList<T>>([](const QVariantList &variants) {
-        QList<T> objects;
-        objects.reserve(variants.size());
-        for (const QVariant &variant : variants)
-            objects.append(variant.value<T>());
-        return objects;
-    });
-    return RegisterTravellingType<T>(name);
+    return RegisterTravellingList<T>(name, listName);
 }
 
 /** True for a list of T, and for a list of variants of which each holds a T. */

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include <QuvFramework/fw_errorlist.h>
+#include <QuvFramework/fw_xmlrpc.h>
 
 #include "values.h"
 
@@ -305,6 +306,17 @@ TEST(FW_ErrorList, appendsADecodedError)
     list.append(driverErrorValue("DE00005"));
     EXPECT_EQ(summary(list), "1:DE00005");
     EXPECT_EQ(list[0]->timestamp(), noon);
+}
+
+TEST(FW_ErrorList, travelsInAVariant)
+{
+    const QVariant variant = QVariant::fromValue(listOfAllKinds());
+    EXPECT_STREQ(variant.typeName(), "FW_ErrorList");
+    EXPECT_EQ(QMetaType::type("FW_ErrorList"), qMetaTypeId<FW_ErrorList>());
+    EXPECT_TRUE(variant == QVariant::fromValue(listOfAllKinds()));
+    EXPECT_FALSE(variant == QVariant::fromValue(FW_ErrorList()));
+    EXPECT_EQ(variant.value<QVariantList>().size(), 3);
+    EXPECT_TRUE(SameXmlRpcValue(EncodeXmlRpcVariant(variant), listOfAllKinds().toXmlRpcValue()));
 }
 
 TEST(FW_ErrorList, staysAsItWasWhenAnErrorCannotBeDecoded)
