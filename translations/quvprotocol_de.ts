@@ -975,5 +975,13 @@
         <source>Weighing</source>
         <translation>Es wird gewogen</translation>
     </message>
+    <message>
+        <source>Adding stats errors</source>
+        <translation>Fehler werden in die Statistik eingetragen</translation>
+    </message>
+    <message>
+        <source>Reading errors history</source>
+        <translation>Fehlerverlauf wird gelesen</translation>
+    </message>
 </context>
 </TS>

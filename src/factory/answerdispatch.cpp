@@ -17,6 +17,7 @@
 #include "settings/getdriversettingsanswer.h"
 #include "settings/gethostinfoanswer.h"
 #include "setup/getkeycodeanswer.h"
+#include "statistics/getusswaterstatusanswer.h"
 #include "status/getactivedispanswer.h"
 #include "status/geterrorsanswer.h"
 #include "status/mixerdriverstatusanswer.h"
@@ -55,6 +56,7 @@ const std::vector<AnswerRow> &configurationRows()
         answerRow<WeightAnswer>(Cmd::GET_CURRENT_WEIGHT),
         answerRow<GetScaleConfigAnswer>(Cmd::GET_SCALE_CONFIG),
         answerRow<ScaleStatusAnswer>(Cmd::GET_SCALE_STATUS),
+        answerRow<GetUssWaterStatusAnswer>(Cmd::GET_USS_W_STATUS),
     };
     return rows;
 }

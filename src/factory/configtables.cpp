@@ -47,6 +47,10 @@
 #include "setup/setdispidcmd.h"
 #include "setup/setdosingmotordatacmd.h"
 #include "setup/setserialnumbercmd.h"
+#include "statistics/addeventcmd.h"
+#include "statistics/addstatserrorscmd.h"
+#include "statistics/getcolorantusagestatscmd.h"
+#include "statistics/getstatserrorscmd.h"
 #include "status/dispenserdriverstatuscmd.h"
 
 namespace quv {
@@ -101,6 +105,10 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::GET_GRAV_SETTINGS, fromArguments<GetGravSettingsCmd>()},
         {Cmd::SET_GRAV_SETTINGS, fromArguments<SetGravSettingsCmd>()},
         {Cmd::GE_TEST, fromArguments<GETestCmd>()},
+        {Cmd::ADD_EVENT, fromArguments<AddEventCmd>()},
+        {Cmd::ADD_STATS_ERRORS, fromArguments<AddStatsErrorsCmd>()},
+        {Cmd::GET_STATS_ERRORS, fromArguments<GetStatsErrorsCmd>()},
+        {Cmd::GET_COL_USAGE_STATS, fromArguments<GetColorantUsageStatsCmd>()},
     }};
 
 constexpr CommandTable<ConfProtoCommand> dispenserConfigTable{

@@ -36,13 +36,9 @@ const std::vector<PendingCommand> &pendingCommands()
         {Dispatch::Config, BothForms, ProtoCommandList::GET_COLORANT_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_DEVICE_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_CMD_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_STATS_ERRORS, "GetStatsErrorsCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_COLORANT_LIST, "SetColorantListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_CANISTER_LIST, "SetCanisterListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_COL_USAGE_STATS, "GetColorantUsageStatsCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::ADD_EVENT, "AddEventCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::GET_MIXER_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::ADD_STATS_ERRORS, "AddStatsErrorsCmd"},
     };
     return commands;
 }
@@ -50,7 +46,6 @@ const std::vector<PendingCommand> &pendingCommands()
 const std::vector<PendingAnswer> &pendingAnswers()
 {
     static const std::vector<PendingAnswer> answers = {
-        {ConfigurationType, ProtoCommandList::GET_USS_W_STATUS, "GetUssWaterStatusAnswer"},
     };
     return answers;
 }

@@ -75,6 +75,7 @@ TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
         {"driver_version", "3.14.2"},          {"host_name", "shop-1"},
         {"config_file_path", "/etc/nua"},      {"default_calib_file_path", "/usr/nua"},
         {"custom_calib_file_path", "/var/nua"}};
+    const QVariantMap water = {{"timestamp", ""}, {"cleaning_cycles", 120}};
     const AnswerRow rows[] = {
         {"GET_CALIB_PROFILES",
          "GetCalibrationProfilesAnswer",
@@ -107,7 +108,12 @@ TEST(ConfProtoCommand, choosesTheAnswerClassByTheName)
          arrayOf(structOf({{"scale", 0}})),
          {QVariant::fromValue(FW_Scale())}},
         {"GET_SCALE_STATUS", "ScaleStatusAnswer", structOf({{"connected", false}}), {false}},
-        {"GET_USS_W_STATUS", "GetUssWaterStatusAnswer"},
+        {"GET_USS_W_STATUS",
+         "GetUssWaterStatusAnswer",
+         structOf({{"last_water_change_data", valueOf(water)},
+                   {"current_data", valueOf(water)},
+                   {"max_cleaning_cycles", 40}}),
+         {water, water, 40}},
         {"GET_MIXER_STATUS",
          "MixerDriverStatusAnswer",
          structOf({{"driver_status", 0}, {"disp_status", 0}}),

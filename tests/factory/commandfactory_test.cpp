@@ -25,11 +25,13 @@
 #include <QuvFramework/fw_calibrationtest.h>
 #include <QuvFramework/fw_configuration.h>
 #include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_errorlist.h>
 #include <QuvFramework/fw_firmwarefile.h>
 #include <QuvFramework/fw_gravimetricsettings.h>
 #include <QuvFramework/fw_mixer.h>
 #include <QuvFramework/fw_scale.h>
 #include <QuvFramework/fw_serialport.h>
+#include <QuvFramework/fw_statistics.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <QtCore/QDirIterator>
@@ -92,7 +94,11 @@ List argumentsFor(const CommandRow &row, Form form)
         QVariantMap{{"position_id", 3}, {"tolerance", 0.25}, {"max_corrections", 5}};
     const QVariant scale =
         QVariant::fromValue(FW_Scale("Libra 6", FW_SerialPort(), ScaleUtils::Kilogram, 6.5, 3));
+    FW_DriverError pastError("DE00337", "no command");
+    pastError.setTimestamp(QDateTime(QDate(2026, 3, 2), QTime(9, 15, 30, 250), Qt::UTC));
     static const std::map<std::string, List> arguments = {
+        {"ADD_EVENT", {0, QVariant::fromValue(QList<EventStatData>{EventStatData({}, 7, 3, 2.5)})}},
+        {"ADD_STATS_ERRORS", {QVariant::fromValue(FW_ErrorList(List{QVariant::fromValue(pastError)}))}},
         {"AIRPURGE", {circuits}},
         {"AUTOCAP_MOVE", {1}},
         {"AUTOTEST", {7}},
@@ -119,6 +125,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"CLEAR_DISP_INFO", {3}},
         {"CONFIG_PARAM", {3, 1, QVariantMap{{"filling_time", 9.5}}}},
         {"GET_CMD_EST_EXEC_TIME", {"GET_STATUS", 7}},
+        {"GET_COL_USAGE_STATS", {"VT-17", "KX", "dispensed|to", 12}},
         {"GET_CMD_STATUS", {"ticket 7"}},
         {"GET_DISP_INFO", {3}},
         {"GET_CURRENT_WEIGHT", {true}},
@@ -139,6 +146,7 @@ List argumentsFor(const CommandRow &row, Form form)
         {"GET_RECALIB_LIST", {3, true}},
         {"GET_SHELF_POS", {3}},
         {"GET_SENSOR_DATA", {4, 2}},
+        {"GET_STATS_ERRORS", {2, 3, "17"}},
         {"GET_STATUS", {7}},
         {"LOGIN", {3, "till", 2, 4}},
         {"LOGOUT", {"S-7"}},
@@ -224,6 +232,16 @@ List argumentsFor(const CommandRow &row, Form form)
          {QVariantMap{{"config_data", QVariantMap{{"machine_config", dispenser.toMap()},
                                                   {"update_board_config", true},
                                                   {"factory_config", false}}}}}},
+        {"ADD_EVENT",
+         {QVariantMap{
+             {"event_type", 0},
+             {"stat_events",
+              List{QVariantMap{{"timestamp", ""}, {"event_code", 7}, {"position_id", 3}, {"value", 2.5}}}}}}},
+        {"ADD_STATS_ERRORS",
+         {QVariantMap{{"error_list", List{QVariantMap{{"error_type", 1},
+                                                      {"timestamp", "2026-03-02T09:15:30.250Z"},
+                                                      {"code", "DE00337"},
+                                                      {"text", "no command"}}}}}}},
         {"GET_CIRCUITS_STATUS", {QVariantMap{{"circuit_positions", List{2}}}}},
         {"GET_CMD_EST_EXEC_TIME", {QVariantMap{{"command", List{"GET_STATUS", 7}}}}},
         {"GET_QRCODE_CALIB", {QVariantMap{{"qr_code_density", 0}}}},
