@@ -702,6 +702,31 @@ class Series(BatchTest):
         self.series(bad('"name": RESET is no series of commands'), name="RESET", machine="dispenser")
 
 
+class WaterChange(BatchTest):
+    """What a status of the ultrasound cleaning's water says."""
+
+    @staticmethod
+    def status(last, current, maximum):
+        return {"last_water_change_data": {"timestamp": "", "cleaning_cycles": last},
+                "current_data": {"timestamp": "2026-03-02T09:15:30.250Z", "cleaning_cycles": current},
+                "max_cleaning_cycles": maximum}
+
+    def test_cycles(self):
+        for last, current, maximum, needed, remaining in [(120, 150, 40, False, 10), (120, 160, 40, False, 0),
+                                                          (120, 161, 40, True, 0), (120, 161, 0, False, 0),
+                                                          (-2147483648, 2147483647, 2147483647, True, 0),
+                                                          (2147483647, -2147483648, 1, False, 2147483647)]:
+            status = self.status(last, current, maximum)
+            self.expect({"op": "waterchange", "value": status},
+                        {"ok": True, "needWaterChange": needed, "remainingCleaningCycles": remaining, "value": status})
+
+    def test_refusals(self):
+        self.expect({"op": "waterchange", "value": {}},
+                    refused("DE02622", "UssWaterChangeStatus: Errors during xmlrpc decoding",
+                            "UssWaterChangeStatus::UssWaterChangeStatus(const XmlRpc::XmlRpcValue&)"))
+        self.expect({"op": "waterchange"}, bad('"value" is missing'))
+
+
 SERIAL_TOKENS = "SerialProtoAnswer::SerialProtoAnswer(QStringList)"
 
 

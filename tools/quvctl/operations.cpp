@@ -10,6 +10,7 @@
 #include "rowoperations.h"
 #include "seriesoperation.h"
 #include "settingsoperation.h"
+#include "waterchangeoperation.h"
 
 #include "base/cmdstatus.h"
 #include "base/protoanswer.h"
@@ -169,6 +170,7 @@ constexpr Operation operations[] = {
     {"series", seriesOperation},
     {"commands", commandListOperation},
     {"settings", settingsOperation},
+    {"waterchange", waterChangeOperation},
 };
 
 } // namespace
