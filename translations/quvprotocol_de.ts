@@ -204,6 +204,10 @@
         <translation>Ressourcendatei wird gelöscht</translation>
     </message>
     <message>
+        <source>Reading canister levels</source>
+        <translation>Füllstände der Kanister werden gelesen</translation>
+    </message>
+    <message>
         <source>Reading resource files list</source>
         <translation>Liste der Ressourcendateien wird gelesen</translation>
     </message>

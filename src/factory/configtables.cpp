@@ -15,6 +15,7 @@
 #include "dispensing/getformulacircuitscmd.h"
 #include "dispensing/setlevelscmd.h"
 #include "factory/commandtables_p.h"
+#include "masterdata/getdatalistcmd.h"
 #include "processes/stopconfcmd.h"
 #include "scale/getcurrentweightcmd.h"
 #include "scale/getestcmd.h"
@@ -68,6 +69,13 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::GET_KEY, fromArguments<GetKeyCmd>()},
         {Cmd::CERTIFY_SESSION, fromArguments<CertifySessionCmd>()},
         {Cmd::SET_DRIVER_SETTINGS, fromArguments<SetDriverSettingsCmd>()},
+        {Cmd::GET_DISP_LIST, fromNameAndArguments<GetDataListCmd>()},
+        {Cmd::GET_CIRCUIT_LIST, fromNameAndArguments<GetDataListCmd>()},
+        {Cmd::GET_CANISTER_LIST, fromNameAndArguments<GetDataListCmd>()},
+        {Cmd::GET_COLORANT_LIST, fromNameAndArguments<GetDataListCmd>()},
+        {Cmd::GET_DEVICE_LIST, fromNameAndArguments<GetDataListCmd>()},
+        {Cmd::GET_CMD_LIST, fromNameAndArguments<GetDataListCmd>()},
+        {Cmd::GET_MIXER_LIST, fromNameAndArguments<GetDataListCmd>()},
         {Cmd::GET_SW_VERSION, fromArguments<GetSwVersionCmd>()},
         {Cmd::SET_BT_SETTINGS, fromArguments<SetBluetoothSettingsCmd>()},
         {Cmd::GET_BT_SETTINGS, fromArguments<GetBluetoothSettingsCmd>()},

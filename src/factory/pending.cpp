@@ -30,15 +30,8 @@ namespace quv {
 const std::vector<PendingCommand> &pendingCommands()
 {
     static const std::vector<PendingCommand> commands = {
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_DISP_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_CIRCUIT_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_CANISTER_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_COLORANT_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_DEVICE_LIST, "GetDataListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_CMD_LIST, "GetDataListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_COLORANT_LIST, "SetColorantListCmd"},
         {Dispatch::Config, BothForms, ProtoCommandList::SET_CANISTER_LIST, "SetCanisterListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::GET_MIXER_LIST, "GetDataListCmd"},
     };
     return commands;
 }

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "masterdata/getcircuitlistanswer.h"
+
+#include "base/describedanswer_p.h"
+#include "masterdata/circuitdata_p.h"
+#include "masterdata/listedrecords_p.h"
+
+#include <QuvFramework/fw_circuit.h>
+
+namespace quv {
+
+template <>
+const FieldType &fieldType<QList<CircuitData>>()
+{
+    static constexpr FieldType type = listedRecordsType<CircuitData>();
+    return type;
+}
+
+} // namespace quv
+
+namespace {
+
+constexpr quv::Refusal notMade = {"DE03385", "GetCircuitListAnswer: errors during CircuitData creation"};
+constexpr quv::Refusal noCircuit = {
+    "DE03390", "GetCircuitListAnswer decoding failed: invalid QVariant value (expected FW_Circuit)"};
+constexpr quv::Refusal noNumber = {
+    "DE03391", "GetCircuitListAnswer decoding failed: invalid QVariant value (expected int)"};
+
+} // namespace
+
+struct GetCircuitListAnswer::Description
+{
+    using Answer = GetCircuitListAnswer;
+
+    static std::vector<quv::Member<Answer>> members()
+    {
+        return {quv::Member<Answer>(
+                    circuitList_TAG, &Answer::m_circuits,
+                    {"DE03381", "GetCircuitListAnswer: Errors during CircuitData list creation"}, noCircuit)
+                    .unmadeElement(notMade)
+                    .meaning("of each circuit where it is, what feeds it and which motors it has")};
+    }
+};
+
+template class quv::DescribedAnswer<GetCircuitListAnswer, ConfProtoAnswer>;
+
+GetCircuitListAnswer::GetCircuitListAnswer(const QList<CircuitData> &circuits) : m_circuits(circuits) {}
+
+GetCircuitListAnswer::GetCircuitListAnswer(const XmlRpc::XmlRpcValue &value) : DescribedAnswer(value)
+{
+    read(value, Q_FUNC_INFO);
+}
+
+GetCircuitListAnswer::GetCircuitListAnswer(QList<QVariant> &list) : DescribedAnswer(list)
+{
+    for (int i = 0; i < list.size(); i += 2) {
+        const auto circuit = quv::listedPart<FW_Circuit>(list.at(i), noCircuit, notMade, Q_FUNC_INFO);
+        int canister = 0;
+        if (!quv::decodeVariant(list.value(i + 1), canister))
+            quv::throwRefusal(noNumber, Q_FUNC_INFO);
+        m_circuits.append(CircuitData(circuit, canister));
+    }
+}
+
+GetCircuitListAnswer *GetCircuitListAnswer::clone() const
+{
+    return new GetCircuitListAnswer(*this);
+}
