@@ -16,6 +16,8 @@
 #include "dispensing/setlevelscmd.h"
 #include "factory/commandtables_p.h"
 #include "masterdata/getdatalistcmd.h"
+#include "masterdata/setcanisterlistcmd.h"
+#include "masterdata/setcolorantlistcmd.h"
 #include "processes/stopconfcmd.h"
 #include "scale/getcurrentweightcmd.h"
 #include "scale/getestcmd.h"
@@ -76,6 +78,8 @@ constexpr CommandTable<ConfProtoCommand> configTable{
         {Cmd::GET_DEVICE_LIST, fromNameAndArguments<GetDataListCmd>()},
         {Cmd::GET_CMD_LIST, fromNameAndArguments<GetDataListCmd>()},
         {Cmd::GET_MIXER_LIST, fromNameAndArguments<GetDataListCmd>()},
+        {Cmd::SET_COLORANT_LIST, fromArguments<SetColorantListCmd>()},
+        {Cmd::SET_CANISTER_LIST, fromArguments<SetCanisterListCmd>()},
         {Cmd::GET_SW_VERSION, fromArguments<GetSwVersionCmd>()},
         {Cmd::SET_BT_SETTINGS, fromArguments<SetBluetoothSettingsCmd>()},
         {Cmd::GET_BT_SETTINGS, fromArguments<GetBluetoothSettingsCmd>()},

@@ -30,8 +30,6 @@ namespace quv {
 const std::vector<PendingCommand> &pendingCommands()
 {
     static const std::vector<PendingCommand> commands = {
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_COLORANT_LIST, "SetColorantListCmd"},
-        {Dispatch::Config, BothForms, ProtoCommandList::SET_CANISTER_LIST, "SetCanisterListCmd"},
     };
     return commands;
 }

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "masterdata/setcanisterlistcmd.h"
+
+#include "base/describedcommand_p.h"
+#include "base/objectfield_p.h"
+#include "base/record_p.h"
+
+namespace quv {
+
+template <>
+inline constexpr const char *markOf<FW_Canister> = "id";
+
+template <>
+const FieldType &fieldType<QList<FW_Canister>>()
+{
+    static constexpr FieldType type = objectListType<FW_Canister>();
+    return type;
+}
+
+} // namespace quv
+
+namespace {
+
+const bool isComparable = QMetaType::registerEqualsComparator<QList<FW_Canister>>();
+
+constexpr quv::Refusal notDecoded = {"DE02129", "SetCanisterListCmd: xmlrpc decoding failed"};
+constexpr char notMade[] = "SetCanisterListCmd: errors during canister creation";
+constexpr quv::Refusal noCanisters = {"DE02130", notMade};
+constexpr quv::Refusal badCanister = {"DE02131", notMade};
+
+} // namespace
+
+struct SetCanisterListCmd::Description : quv::Description
+{
+    static constexpr auto command = ProtoCommandList::SET_CANISTER_LIST;
+
+    static std::vector<quv::Member<SetCanisterListCmd>> members()
+    {
+        using Cmd = SetCanisterListCmd;
+        return {quv::Member<Cmd>(canisterList_TAG, &Cmd::m_canisters, noCanisters).unmadeElement(badCanister),
+                quv::Member<Cmd>(updateFwConfig_TAG, &Cmd::m_updateFwConfig).otherType(notDecoded)};
+    }
+
+    static const quv::Record<SetCanisterListCmd> &record()
+    {
+        static const quv::Record<SetCanisterListCmd> record(members());
+        return record;
+    }
+
+    static void tellArguments(quv::ArgumentTeller &teller)
+    {
+        teller.argument(
+            {"canisters",
+             "a struct with canister_list, the canisters, and update_fw_config, true when the "
+             "machine's firmware is to have them too (in a list the canisters, and the bool behind "
+             "them)"},
+            "struct");
+        teller.refuse("another type", {notDecoded, noCanisters});
+        teller.refuse("canister_list is missing or no array", {noCanisters, {}});
+        teller.refuse("a canister that cannot be made", {badCanister, {}});
+        teller.refuse("update_fw_config is no bool", {notDecoded, notDecoded});
+    }
+};
+
+template class quv::DescribedCommand<SetCanisterListCmd, ConfProtoCommand>;
+
+SetCanisterListCmd::SetCanisterListCmd(const QList<FW_Canister> &canisters, bool updateFwConfig)
+    : m_canisters(canisters),
+      m_updateFwConfig(updateFwConfig)
+{}
+
+SetCanisterListCmd::SetCanisterListCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value)
+{
+    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(value, 0);
+    if (!request || request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
+        quv::throwRefusal(notDecoded, Q_FUNC_INFO);
+    Description::record().decode(*request, *this, Q_FUNC_INFO);
+}
+
+SetCanisterListCmd::SetCanisterListCmd(QList<QVariant> list) : DescribedCommand(list)
+{
+    if (!quv::fieldType<QList<FW_Canister>>().readVariant(list.value(0), &m_canisters))
+        quv::throwRefusal(noCanisters, Q_FUNC_INFO);
+    if (list.size() > 1 && !quv::decodeVariant(list.at(1), m_updateFwConfig))
+        quv::throwRefusal(notDecoded, Q_FUNC_INFO);
+}
+
+SetCanisterListCmd *SetCanisterListCmd::clone() const
+{
+    return new SetCanisterListCmd(*this);
+}
+
+QList<QVariant> SetCanisterListCmd::parameters() const
+{
+    return {QVariant::fromValue(m_canisters), m_updateFwConfig};
+}
+
+XmlRpc::XmlRpcValue SetCanisterListCmd::xmlrpc_parameters(bool *ok) const
+{
+    if (ok)
+        *ok = true;
+    XmlRpc::XmlRpcValue array;
+    array[0] = Description::record().encode(*this);
+    return array;
+}
