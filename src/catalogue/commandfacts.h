@@ -51,8 +51,7 @@ struct CommandFacts
         className; ///< empty for a plain command, whose arguments are counted and do not travel over XML-RPC
     bool tellsArguments = false; ///< true when \a arguments are all that the command has
     QList<ArgumentFacts> arguments;
-    QString answerClass;       ///< empty for a plain answer
-    bool answerToCome = false; ///< plain only until the answer has its class
+    QString answerClass; ///< empty for a plain answer
     bool tellsMembers = false;
     QList<MemberFacts> members;
     QList<RefusalFacts> answerRefusals; ///< what a failure to make the answer is called

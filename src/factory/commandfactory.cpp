@@ -3,7 +3,6 @@
 
 #include "base/guard_p.h"
 #include "factory/commandtables_p.h"
-#include "factory/pending_p.h"
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
@@ -27,14 +26,8 @@ Command *make(const quv::CommandTable<Command> &table, const CMD_STRUCT *row, co
 {
     if (!row)
         return nullptr;
-    if (const auto maker = table.classOf(*row).template maker<Args>())
-        return maker(name, args, machine);
-    if (!quv::isPending(table.dispatch(), quv::formOf<Args>, row->id))
-        return nullptr;
-    if constexpr (std::is_same_v<Command, ScaleProtoCommand>)
-        return new Command(name, args);
-    else
-        return new Command(name, args, machine);
+    const auto maker = table.classOf(*row).template maker<Args>();
+    return maker ? maker(name, args, machine) : nullptr;
 }
 
 /** What an operation says for any exception but FW_Exception, and the signature that it says it under. */

@@ -4,9 +4,6 @@
 #include "catalogue/commandrows_p.h"
 #include "factory/answertables_p.h"
 #include "factory/commandtables_p.h"
-#include "factory/pending_p.h"
-
-#include <algorithm>
 
 namespace quv {
 
@@ -16,21 +13,16 @@ namespace {
 template <class Command>
 bool tellFrom(const CommandTable<Command> &table, const CMD_STRUCT &row, CommandFacts &facts)
 {
-    if (const auto tell = table.classOf(row).tell) {
+    const auto tell = table.classOf(row).tell;
+    if (tell)
         tell(facts);
-        return true;
-    }
-    return isPending(table.dispatch(), ValueForm, row.id) || isPending(table.dispatch(), ListForm, row.id);
+    return tell != nullptr;
 }
 
-void tellAnswerOf(const AnswerRow *answer, int row, CommandFacts &facts)
+void tellAnswerOf(const AnswerRow *answer, CommandFacts &facts)
 {
     if (answer && facts.answerClass.isEmpty())
         answer->tell(facts);
-    const auto &pending = pendingAnswers();
-    facts.answerToCome = facts.answerClass.isEmpty() &&
-                         std::any_of(pending.begin(), pending.end(),
-                                     [row](const PendingAnswer &come) { return come.command == row; });
 }
 
 // The tables are asked in the order in which the factory asks them.
@@ -67,10 +59,10 @@ CommandFacts commandFacts(const QString &name)
     facts.purpose = QString::fromUtf8(commandPurpose(row->id));
     if (ProtoCommandList::isSerialCommand(name, false)) {
         tellSerial(*row, facts);
-        tellAnswerOf(serialAnswerRow(name), row->id, facts);
+        tellAnswerOf(serialAnswerRow(name), facts);
     } else if (ProtoCommandList::isConfigurationCommand(name, false)) {
         tellConfiguration(*row, facts);
-        tellAnswerOf(configurationAnswerRow(name), row->id, facts);
+        tellAnswerOf(configurationAnswerRow(name), facts);
     } else {
         tellFrom(scaleTable, *row, facts);
     }

@@ -16,7 +16,7 @@ struct ColorantCode
 
 } // namespace quv
 
-Q_DECLARE_METATYPE(quv::ColorantCode)
+Q_DECLARE_METATYPE(quv::ColorantCode) // the teller of arguments asks for it
 
 namespace quv {
 

@@ -13,8 +13,8 @@
 #include "catalogue/commandrows.h"
 #include "dispensing/dispensertesting.h"
 #include "dispensing/pcircuitformula.h"
+#include "factory/commandtables_p.h"
 #include "factory/factoryrows.h"
-#include "factory/pending_p.h"
 #include "firmware/fwresourcedata.h"
 #include "firmware/fwresourcefile.h"
 #include "processes/mixcmd.h"
@@ -34,22 +34,15 @@
 #include <QuvFramework/fw_statistics.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
-#include <QtCore/QDirIterator>
-#include <QtCore/QFile>
-#include <QtCore/QRegularExpression>
-
 #include <xmlrpcpp/XmlRpcException.h>
 
 #include <cxxabi.h>
 
 #include <cstdlib>
 #include <functional>
-#include <iostream>
 #include <map>
 #include <memory>
-#include <set>
 #include <stdexcept>
-#include <tuple>
 #include <typeinfo>
 
 namespace {
@@ -450,7 +443,6 @@ struct Expected
     std::string className; ///< empty: it refuses
     Takes takes = Takes::Name;
     Dispatch madeBy = Dispatch::Serial; ///< the operation whose table has the row
-    bool pending = false;               ///< still a plain command, in place of the class
 };
 
 std::string plainClass(Dispatch operation)
@@ -473,10 +465,8 @@ std::string plainClass(Dispatch operation)
 Expected expectedOf(Dispatch operation, Form form, const CommandRow &command)
 {
     for (const FactoryRow &row : factoryRows) {
-        if (row.operation == operation && (row.forms & form) != 0 && std::string(row.name) == command.name) {
-            const bool pending = quv::isPending(operation, form, command.id);
-            return {pending ? plainClass(operation) : row.className, row.takes, operation, pending};
-        }
+        if (row.operation == operation && (row.forms & form) != 0 && std::string(row.name) == command.name)
+            return {row.className, row.takes, operation};
     }
     switch (operation) {
     case Dispatch::DispenserSerial:
@@ -487,11 +477,11 @@ Expected expectedOf(Dispatch operation, Form form, const CommandRow &command)
         return expectedOf(Dispatch::Config, form, command);
     case Dispatch::Serial:
     case Dispatch::Config:
-        return {plainClass(operation), Takes::Name, operation, false};
+        return {plainClass(operation), Takes::Name, operation};
     case Dispatch::Scale:
         break;
     }
-    return {{}, Takes::Nothing, operation, false};
+    return {{}, Takes::Nothing, operation};
 }
 
 /** The few classes that are not made without the machine that they are for. */
@@ -505,7 +495,7 @@ int expectedMachine(const Expected &expected, bool isDispenser)
 {
     if (expected.madeBy == Dispatch::Config || expected.madeBy == Dispatch::Scale)
         return 0;
-    const bool kept = expected.pending || expected.takes == Takes::ArgumentsAndMachine;
+    const bool kept = expected.takes == Takes::ArgumentsAndMachine;
     return !kept ? 0 : isDispenser ? dispenserID : mixerID;
 }
 
@@ -545,8 +535,7 @@ TEST(CommandFactory, makesTheClassOfEachRowAndPlainCommandsOtherwise)
                 EXPECT_EQ(machineID(command), expectedMachine(expected, !ofMixer));
                 EXPECT_NE(command->machine(), &machines.dispenser) << "the machine is the caller's";
                 EXPECT_NE(command->machine(), &machines.mixer) << "the machine is the caller's";
-                const bool kept =
-                    expected.pending || (expected.takes != Takes::Name && expected.takes != Takes::Nothing);
+                const bool kept = expected.takes != Takes::Name && expected.takes != Takes::Nothing;
                 const bool dropsList = form == ListForm && readsOf(row) == Reads::NothingOfAList;
                 if (!kept || dropsList) {
                     EXPECT_EQ(command->parameters(), List()) << "arguments are dropped";
@@ -586,32 +575,6 @@ TEST(CommandFactory, leavesTheCallersArgumentsAlone)
     List list = {7};
     const CommandPtr ofList(Cmd::getProtoCommand("GET_STATUS", list, nullptr));
     EXPECT_EQ(list, List({7}));
-}
-
-TEST(CommandFactory, countsTheArgumentsOfPlainCommandsThatHaveARowStillToCome)
-{
-    for (const quv::PendingCommand &pending : quv::pendingCommands()) {
-        const CommandRow &row = commandRows[pending.name];
-        for (Form form : forms) {
-            if ((pending.forms & form) == 0 || row.minParams == 0)
-                continue;
-            const QString name = QString::fromLatin1(row.name);
-            const List tooFew = argumentsFor(row, form).mid(1);
-            const QString text =
-                QStringLiteral("%1 command : expected at least %2 parameters, received %3 instead!")
-                    .arg(name)
-                    .arg(row.minParams)
-                    .arg(row.minParams - 1);
-            SCOPED_TRACE(caption(pending.dispatch, form, row.name));
-            try {
-                make(pending.dispatch, form, name, tooFew);
-                ADD_FAILURE() << "too few arguments were taken";
-            } catch (const FW_Exception &refusal) {
-                EXPECT_EQ(refusal.code(), form == ValueForm ? "DE00312" : "DE00313");
-                EXPECT_EQ(refusal.text(), text);
-            }
-        }
-    }
 }
 
 TEST(CommandFactory, hasSixRowsOnlyInTheListFormOfTheDriversCommands)
@@ -826,97 +789,6 @@ TEST(CommandFactory, makesADriversCommandWithoutArguments)
             "DE03010", "Command has no target machine",
             "static ConfProtoCommand* ProtoCommandList::getConfigProtoCommand(QString, const FW_Machine*)",
             [&] { CommandPtr(Cmd::getConfigProtoCommand(QString::fromLatin1(name), &machines.dispenser)); });
-    }
-}
-
-// ---------------------------------------------------------------- what is still to come
-
-/** The names of the classes that the headers of the library declare. */
-std::set<std::string> existingClasses()
-{
-    static const QRegularExpression declaration(
-        "^(?:class|struct)\\s+(?:QUVPROTOCOL_EXPORT\\s+)?(\\w+)[^;]*$", QRegularExpression::MultilineOption);
-    std::set<std::string> classes;
-    QDirIterator headers(QUV_SOURCES, {"*.h"}, QDir::Files, QDirIterator::Subdirectories);
-    while (headers.hasNext()) {
-        QFile file(headers.next());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        auto matches = declaration.globalMatch(QString::fromUtf8(file.readAll()));
-        while (matches.hasNext())
-            classes.insert(matches.next().captured(1).toStdString());
-    }
-    return classes;
-}
-
-TEST(PendingRows, areRowsOfTheFactory)
-{
-    std::set<std::tuple<Dispatch, Form, int>> seen;
-    for (const quv::PendingCommand &pending : quv::pendingCommands()) {
-        const CommandRow &command = commandRows[pending.name];
-        for (Form form : forms) {
-            if ((pending.forms & form) == 0)
-                continue;
-            SCOPED_TRACE(caption(pending.dispatch, form, command.name));
-            EXPECT_TRUE(seen.insert({pending.dispatch, form, command.id}).second) << "listed twice";
-            std::string expected = "no row";
-            for (const FactoryRow &row : factoryRows) {
-                if (row.operation == pending.dispatch && (row.forms & form) != 0 &&
-                    std::string(row.name) == command.name)
-                    expected = row.className;
-            }
-            EXPECT_EQ(pending.className, expected);
-        }
-    }
-}
-
-TEST(PendingRows, areListedUntilTheirClassIsThere)
-{
-    const std::set<std::string> classes = existingClasses();
-    ASSERT_EQ(classes.count("DispenserStatusCmd"), 1U) << "the headers were not found";
-    for (const quv::PendingCommand &pending : quv::pendingCommands())
-        EXPECT_EQ(classes.count(pending.className), 0U) << pending.className << " exists: give it its row";
-    for (const quv::PendingAnswer &pending : quv::pendingAnswers())
-        EXPECT_EQ(classes.count(pending.className), 0U) << pending.className << " exists: dispatch to it";
-}
-
-TEST(PendingRows, onlyGetFewer)
-{
-    const std::size_t commands = quv::pendingCommands().size();
-    const std::size_t answers = quv::pendingAnswers().size();
-    std::cout << commands << " rows of the factory still give plain commands\n"
-              << answers << " answer classes are still plain answers\n";
-    EXPECT_LE(commands, 113U);
-    EXPECT_LE(answers, 17U);
-}
-
-TEST(PendingRows, nameTheAnswersOfCommandsWithoutAClass)
-{
-    const std::set<std::tuple<unsigned, std::string, std::string>> all = {
-        {1, "GET_ERRORS", "GetErrorsAnswer"},
-        {1, "GET_SENSORS_STATUS", "SensorsStatusAnswer"},
-        {1, "GET_TURNTABLE_POSITIONS", "GetTurntablePositionsAnswer"},
-        {1, "GET_KEY_CODE", "GetKeyCodeAnswer"},
-        {1, "ZDR_GET_COMMANDS", "GetZandorCommandsAnswer"},
-        {2, "GET_CALIB_PROFILES", "GetCalibrationProfilesAnswer"},
-        {2, "GET_ACTIVE_DISP", "GetActiveDispAnswer"},
-        {2, "GET_DRIVER_SETTINGS", "GetDriverSettingsAnswer"},
-        {2, "GET_DRIVER_INFO", "GetDriverInfoAnswer"},
-        {2, "GET_CONN_STATUS", "GetConnectionStatusAnswer"},
-        {2, "GET_HOST_INFO", "GetHostInfoAnswer"},
-        {2, "GET_CURRENT_WEIGHT", "WeightAnswer"},
-        {2, "GET_SCALE_CONFIG", "GetScaleConfigAnswer"},
-        {2, "GET_SCALE_STATUS", "ScaleStatusAnswer"},
-        {2, "GET_USS_W_STATUS", "GetUssWaterStatusAnswer"},
-        {2, "GET_MIXER_STATUS", "MixerDriverStatusAnswer"},
-        {2, "GET_DEVICE_PARAMS", "GetDeviceParamsAnswer"},
-        {2, "GET_SHELF_PARAMS", "GetShelfParamsAnswer"},
-    };
-    std::set<std::tuple<unsigned, std::string, std::string>> seen;
-    for (const quv::PendingAnswer &pending : quv::pendingAnswers()) {
-        const std::tuple<unsigned, std::string, std::string> row(
-            pending.kind, commandRows[pending.command].name, pending.className);
-        EXPECT_EQ(all.count(row), 1U) << pending.className;
-        EXPECT_TRUE(seen.insert(row).second) << pending.className << " is listed twice";
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "factory/pending_p.h"
+#include "factory/commandtables_p.h"
 
 /** What a command is made of, beside its name. */
 enum class Takes { Name, Nothing, Arguments, ArgumentsAndMachine };

@@ -87,8 +87,6 @@ QString answerNote(const CommandReference &command)
         return facts.tellsMembers
                    ? facts.answerClass
                    : QStringLiteral("%1, whose members are not told yet").arg(facts.answerClass);
-    if (facts.answerToCome && facts.tellsArguments)
-        return QStringLiteral("a plain one, as long as its class is still to come");
     if (const PlainClass *plain = plainClassOf(facts))
         return QStringLiteral("a plain %1, without members").arg(QLatin1String(plain->answer));
     return facts.tellsArguments ? QStringLiteral("a plain one, without members") : QString();
