@@ -25,11 +25,14 @@ void appendOwnRefusals(QList<RefusalFacts> &refusals, const FieldType &type)
     }
 }
 
-/** A type without a reader of variants is that of a list which the answer reads by its elements. */
+/**
+ * A type without a reader of variants is that of a list which the answer reads by its elements. Where both refusals of one say the same,
+ * the list has its code for both.
+ */
 void appendInList(QList<RefusalFacts> &refusals, const MemberRow &row)
 {
     const bool byElements = row.type && !row.type->readVariant && isGiven(row.inList);
-    if (byElements && !isSame(row.element, row.otherType))
+    if (byElements && !isSame(row.element, row.otherType) && qstrcmp(row.element.text, row.inList.text) != 0)
         appendRefusal(refusals, "list", row.elementWhen, row.element);
     appendRefusal(refusals, "list", byElements ? "an element of another type" : "missing or another type",
                   row.inList);
