@@ -3,25 +3,23 @@
 
 #include "base/describedcommand_p.h"
 #include "base/objectfield_p.h"
-#include "base/record_p.h"
 
 namespace quv {
 
 template <>
 inline constexpr const char *markOf<FW_Canister> = "id";
 
-template <>
-const FieldType &fieldType<QList<FW_Canister>>()
-{
-    static constexpr FieldType type = objectListType<FW_Canister>();
-    return type;
-}
-
 } // namespace quv
 
 namespace {
 
 const bool isComparable = QMetaType::registerEqualsComparator<QList<FW_Canister>>();
+
+const quv::FieldType &canistersType()
+{
+    static constexpr quv::FieldType type = quv::objectListType<FW_Canister>();
+    return type;
+}
 
 constexpr quv::Refusal notDecoded = {"DE02129", "SetCanisterListCmd: xmlrpc decoding failed"};
 constexpr char notMade[] = "SetCanisterListCmd: errors during canister creation";
@@ -33,19 +31,6 @@ constexpr quv::Refusal badCanister = {"DE02131", notMade};
 struct SetCanisterListCmd::Description : quv::Description
 {
     static constexpr auto command = ProtoCommandList::SET_CANISTER_LIST;
-
-    static std::vector<quv::Member<SetCanisterListCmd>> members()
-    {
-        using Cmd = SetCanisterListCmd;
-        return {quv::Member<Cmd>(canisterList_TAG, &Cmd::m_canisters, noCanisters).unmadeElement(badCanister),
-                quv::Member<Cmd>(updateFwConfig_TAG, &Cmd::m_updateFwConfig).otherType(notDecoded)};
-    }
-
-    static const quv::Record<SetCanisterListCmd> &record()
-    {
-        static const quv::Record<SetCanisterListCmd> record(members());
-        return record;
-    }
 
     static void tellArguments(quv::ArgumentTeller &teller)
     {
@@ -74,12 +59,20 @@ SetCanisterListCmd::SetCanisterListCmd(const XmlRpc::XmlRpcValue &value) : Descr
     const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(value, 0);
     if (!request || request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
         quv::throwRefusal(notDecoded, Q_FUNC_INFO);
-    Description::record().decode(*request, *this, Q_FUNC_INFO);
+    const XmlRpc::XmlRpcValue *canisters = FindXmlRpcMember(*request, canisterList_TAG);
+    const auto decoded = canisters ? canistersType().read(*canisters, &m_canisters) : quv::Decoded::OtherType;
+    if (decoded == quv::Decoded::OtherType)
+        quv::throwRefusal(noCanisters, Q_FUNC_INFO);
+    if (decoded == quv::Decoded::BadElement)
+        quv::throwRefusal(badCanister, Q_FUNC_INFO);
+    const XmlRpc::XmlRpcValue *update = FindXmlRpcMember(*request, updateFwConfig_TAG);
+    if (update && !DecodeXmlRpcValue(*update, m_updateFwConfig))
+        quv::throwRefusal(notDecoded, Q_FUNC_INFO);
 }
 
 SetCanisterListCmd::SetCanisterListCmd(QList<QVariant> list) : DescribedCommand(list)
 {
-    if (!quv::fieldType<QList<FW_Canister>>().readVariant(list.value(0), &m_canisters))
+    if (!canistersType().readVariant(list.value(0), &m_canisters))
         quv::throwRefusal(noCanisters, Q_FUNC_INFO);
     if (list.size() > 1 && !quv::decodeVariant(list.at(1), m_updateFwConfig))
         quv::throwRefusal(notDecoded, Q_FUNC_INFO);
@@ -100,6 +93,7 @@ XmlRpc::XmlRpcValue SetCanisterListCmd::xmlrpc_parameters(bool *ok) const
     if (ok)
         *ok = true;
     XmlRpc::XmlRpcValue array;
-    array[0] = Description::record().encode(*this);
+    canistersType().write(&m_canisters, array[0][canisterList_TAG]);
+    array[0][updateFwConfig_TAG] = m_updateFwConfig;
     return array;
 }

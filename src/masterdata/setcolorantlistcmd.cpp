@@ -97,8 +97,11 @@ SetColorantListCmd::SetColorantListCmd(QList<QVariant> list) : DescribedCommand(
     if (fillings.userType() != qMetaTypeId<QList<Filling>>() &&
         fillings.userType() != QMetaType::QVariantList)
         quv::throwRefusal(noColorants, Q_FUNC_INFO);
-    for (const QVariant &filling : fillings.value<QVariantList>())
+    for (const QVariant &filling : fillings.value<QVariantList>()) {
+        if (filling.userType() != qMetaTypeId<Filling>() && filling.userType() != QMetaType::QVariantMap)
+            quv::throwRefusal(badColorant, Q_FUNC_INFO);
         m_colorants.append(fillingOf(EncodeXmlRpcVariant(filling), Q_FUNC_INFO));
+    }
 }
 
 SetColorantListCmd *SetColorantListCmd::clone() const
