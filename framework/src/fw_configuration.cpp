@@ -5,6 +5,7 @@
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace {
@@ -36,6 +37,8 @@ FW_Configuration::FW_Configuration(const XmlRpcValue &value)
     if (!machines || machines->getType() != XmlRpcValue::TypeArray)
         throw FW_Exception("DE03365", "FW_Configuration: expected machines value", Q_FUNC_INFO);
     m_machines.reserve(machines->size());
+    // not looked for in the list: a request may hold very many machines
+    std::set<std::pair<SerialDeviceType, int>> known;
     for (int i = 0; i < machines->size(); ++i) {
         const QString place = QStringLiteral("machines[%1]").arg(i);
         std::unique_ptr<FW_Machine> read = machineOf((*machines)[i], place);
@@ -44,7 +47,7 @@ FW_Configuration::FW_Configuration(const XmlRpcValue &value)
                 "DE03366",
                 QStringLiteral("FW_Configuration: %1 is neither a dispenser nor a mixer").arg(place),
                 Q_FUNC_INFO);
-        if (machine(read->machineType(), read->id()))
+        if (!known.emplace(read->machineType(), read->id()).second)
             throw FW_Exception("DE03367", QStringLiteral("FW_Configuration: %1 is there already").arg(place),
                                Q_FUNC_INFO);
         m_machines.append(std::move(read));

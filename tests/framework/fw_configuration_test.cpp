@@ -6,6 +6,7 @@
 #include <QuvFramework/fw_mixer.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
+#include <ctime>
 #include <memory>
 #include <type_traits>
 
@@ -159,6 +160,20 @@ TEST(FW_Configuration, isAStructOfItsMachines)
     withBoth.setActiveMachine(Kind::Dispenser, 3);
     EXPECT_EQ(FW_Configuration(both), withBoth);
     EXPECT_EQ(FW_Configuration(withBoth.toXmlRpcValue()), withBoth);
+}
+
+TEST(FW_Configuration, readsVeryManyMachinesWithoutComparingEachWithAll)
+{
+    constexpr int count = 40000;
+    constexpr int seconds = 4; // twenty times what it takes
+    XmlRpcValue many = structOf({});
+    many["machines"].setSize(count);
+    for (int i = 0; i < count; ++i)
+        many["machines"][i] = structOf({{"type", "mixer"}, {"id", i}});
+    const std::clock_t begin = std::clock();
+    const FW_Configuration configuration(many);
+    EXPECT_LT(std::clock() - begin, seconds * CLOCKS_PER_SEC);
+    EXPECT_EQ(configuration.machines().size(), count);
 }
 
 TEST(FW_Configuration, refusesWhatHoldsNoMachines)
