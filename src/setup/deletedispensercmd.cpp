@@ -30,7 +30,7 @@ struct DeleteDispenserCmd::Description : quv::Description
                         "struct");
         teller.refuse("another type", {noList, badVariant});
         teller.refuse("disp_id_list is missing or no array", {noList, {}});
-        teller.refuse("an ID of another type", {noID, badVariant});
+        teller.refuse("an element of another type", {noID, badVariant});
     }
 };
 

@@ -428,6 +428,12 @@ TEST(MachineCommands, tellTheirArguments)
                      "  XML-RPC, another type: DE01535", "  list, another type: DE01533",
                      "  XML-RPC, without disp_data: DE01536", "  XML-RPC, disp_data is no struct: DE01537",
                      "  XML-RPC, without a good disp_id: DE01538"}));
+    EXPECT_EQ(argumentsOf("DELETE_DISPENSER"),
+              (Lines{R"(dispensers (struct): "disp_id_list", an array of IDs; in a list that array itself)",
+                     "  XML-RPC, another type: DE01529", "  list, another type: DE01527",
+                     "  XML-RPC, disp_id_list is missing or no array: DE01529",
+                     "  XML-RPC, an element of another type: DE01532",
+                     "  list, an element of another type: DE01527"}));
 }
 
 TEST(MachineCommands, tellTheirAnswers)
