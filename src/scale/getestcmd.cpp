@@ -3,6 +3,7 @@
 
 #include "base/describedcommand_p.h"
 #include "scale/getestanswer.h"
+#include "scale/gravsettingsbase_p.h"
 
 namespace {
 
@@ -28,8 +29,10 @@ struct GETestCmd::Description : quv::Description
             quv::throwRefusal(noStruct, function);
         if (!DecodeXmlRpcValue(*argument, currentScaleWeight_TAG, self.m_currentScaleWeight))
             quv::throwRefusal(noWeight, function);
-        self.m_gravimetricSettings = quv::decodedValue<GravimetricSettings>(
-            FindXmlRpcMember(*argument, gravimetricSettings_TAG), badSettings, function);
+        const XmlRpcValue *settings = FindXmlRpcMember(*argument, gravimetricSettings_TAG);
+        if (!settings)
+            quv::throwRefusal(badSettings, function);
+        self.m_gravimetricSettings = quv::gravSettingsOf(*settings, badSettings, function);
     }
 
     static void tellArguments(quv::ArgumentTeller &teller)
@@ -40,7 +43,7 @@ struct GETestCmd::Description : quv::Description
                         "struct");
         teller.refuse("another type", {noStruct, noStruct});
         teller.refuse("current_scale_weight is missing or of another type", {noWeight, noWeight});
-        teller.refuse("driver_GE_settings cannot be read", {badSettings, badSettings});
+        teller.refuse("driver_GE_settings is missing", {badSettings, badSettings});
     }
 };
 
@@ -58,9 +61,13 @@ GETestCmd::GETestCmd(const XmlRpcValue &value) : DescribedCommand(value)
 
 GETestCmd::GETestCmd(QList<QVariant> list) : DescribedCommand(list)
 {
-    if (list.constFirst().userType() != QMetaType::QVariantMap)
+    const QVariant test = list.value(0);
+    if (test.userType() != QMetaType::QVariantMap)
         quv::throwRefusal(noStruct, Q_FUNC_INFO);
-    const XmlRpcValue argument = EncodeXmlRpcVariant(list.constFirst());
+    // as XML-RPC a weight that is no number at all would read as 0
+    if (!quv::decodeVariant(test.toMap().value(currentScaleWeight_TAG), m_currentScaleWeight))
+        quv::throwRefusal(noWeight, Q_FUNC_INFO);
+    const XmlRpcValue argument = EncodeXmlRpcVariant(test);
     Description::read(*this, &argument, Q_FUNC_INFO);
 }
 

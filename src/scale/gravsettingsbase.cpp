@@ -7,6 +7,21 @@
 
 #include <QuvFramework/fw_dosingmotor.h>
 
+#include <algorithm>
+
+namespace quv {
+
+GravimetricSettings gravSettingsOf(const XmlRpc::XmlRpcValue &value, const Refusal &refusal,
+                                   const char *function)
+{
+    return madeOrRefused(refusal, function, [&value] {
+        const FW_DosingMotor usual;
+        return GravimetricSettings(value, usual.pumpType(), usual.pumpValue());
+    });
+}
+
+} // namespace quv
+
 namespace {
 
 using XmlRpc::XmlRpcValue;
@@ -15,15 +30,12 @@ using Settings = QMap<int, GravimetricSettings>;
 /** The circuits of an array of structs. */
 Settings settingsOf(const XmlRpcValue &array, const quv::Refusal &refusal, const char *function)
 {
-    const FW_DosingMotor usual; // nobody tells the pumps: what a circuit leaves out is that of the usual one
     Settings settings;
     for (int i = 0; i < array.size(); ++i) {
         int position = 0;
         if (!DecodeXmlRpcValue(array[i], GravSettingsBase::positionID_TAG, position))
             quv::throwRefusal(refusal, function);
-        settings[position] = quv::madeOrRefused(refusal, function, [&] {
-            return GravimetricSettings(array[i], usual.pumpType(), usual.pumpValue());
-        });
+        settings[position] = quv::gravSettingsOf(array[i], refusal, function);
     }
     return settings;
 }
@@ -40,9 +52,20 @@ Settings settingsOf(const XmlRpcValue &value, const char *function)
     return settingsOf(*array, quv::badGravSettings, function);
 }
 
+/** A map with a position; as XML-RPC one that is no number at all would read as 0. */
+bool hasPosition(const QVariant &circuit)
+{
+    QVariantMap members;
+    int position = 0;
+    return quv::decodeVariant(circuit, members) &&
+           quv::decodeVariant(members.value(GravSettingsBase::positionID_TAG), position);
+}
+
 Settings settingsOf(const QVariant &variant, const char *function)
 {
-    if (variant.userType() != QMetaType::QVariantList)
+    const QVariantList circuits = variant.toList();
+    if (variant.userType() != QMetaType::QVariantList ||
+        !std::all_of(circuits.begin(), circuits.end(), hasPosition))
         quv::throwRefusal(quv::badGravSettingsInList, function);
     return settingsOf(EncodeXmlRpcVariant(variant), quv::badGravSettingsInList, function);
 }

@@ -3,6 +3,10 @@
 
 #include "base/refusal_p.h"
 
+#include <QuvFramework/fw_gravimetricsettings.h>
+
+#include <xmlrpcpp/XmlRpcValue.h>
+
 namespace quv {
 
 constexpr char gravSettingsNotRead[] = "SetGravSettingsCmd: error in xmlrpc decoding";
@@ -16,5 +20,12 @@ constexpr char tellsGravSettings[] =
     "of each circuit \"position_id\", \"tolerance\" (grams) and \"max_corrections\"";
 constexpr char gravSettingsArgument[] =
     "\"circuits_grav_settings\", as the answer to GET_GRAV_SETTINGS tells it (in a list the array alone)";
+
+/**
+ * The settings of a struct. Nobody tells the pump: what is left out is that of the usual one. Throws \a refusal for what cannot be
+ * read and has no refusal of its own.
+ */
+GravimetricSettings gravSettingsOf(const XmlRpc::XmlRpcValue &value, const Refusal &refusal,
+                                   const char *function);
 
 } // namespace quv

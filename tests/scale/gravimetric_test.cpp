@@ -6,6 +6,8 @@
 #include "scale/gravsettingsanswer.h"
 #include "scale/setgravsettingscmd.h"
 
+#include <QtCore/QPoint>
+
 #include <memory>
 #include <type_traits>
 
@@ -19,6 +21,9 @@ constexpr char notRead[] = "SetGravSettingsCmd: error in xmlrpc decoding";
 constexpr char noVariant[] = "GravSettingsBase decoding failed: invalid QVariant value";
 constexpr char ofValue[] = "GravSettingsBase::GravSettingsBase(const XmlRpc::XmlRpcValue&)";
 constexpr char ofList[] = "GravSettingsBase::GravSettingsBase(QList<QVariant>)";
+
+constexpr char ofSettings[] =
+    "GravimetricSettings::GravimetricSettings(const XmlRpc::XmlRpcValue&, int, int)";
 
 constexpr char none[] = R"([{"circuits_grav_settings": []}])";
 constexpr char dump[] = R"([{"circuits_grav_settings": [)"
@@ -102,8 +107,6 @@ TEST(GravSettingsBase, takesTheUsualSettingsForWhatIsNotTold)
 TEST(GravSettingsBase, passesOnWhatTheSettingsAreRefusedWith)
 {
     constexpr char text[] = "GravimetricSettings: max_corrections must be an integer from 0 to 2147483647";
-    constexpr char ofSettings[] =
-        "GravimetricSettings::GravimetricSettings(const XmlRpc::XmlRpcValue&, int, int)";
     expectRefusal("DE03350", text, ofSettings,
                   [] { GravSettingsBase{request(arrayOf(circuit(3, 0.5, -1)))}; });
     expectRefusal("DE03350", text, ofSettings, [] { GravSettingsBase{listOf(circuitMap(3, 0.5, -1))}; });
@@ -124,8 +127,10 @@ TEST(GravSettingsBase, refusesWhatIsNoSettings)
     for (const QVariant &variant : {QVariant(), QVariant(3), QVariant("x"), QVariant(circuitMap(3, 0.5, 1)),
                                     QVariant::fromValue(GravimetricSettings())})
         expectRefusal("DE02408", noVariant, ofList, [&] { GravSettingsBase{List{variant}}; });
-    for (const QVariant &bad : {QVariant(), QVariant(3), QVariant(QVariantMap()),
-                                QVariant(circuitMap("3", 0.5, 1)), QVariant(circuitMap(true, 0.5, 1))})
+    for (const QVariant &bad :
+         {QVariant(), QVariant(3), QVariant(QVariantMap()), QVariant(circuitMap("3", 0.5, 1)),
+          QVariant(circuitMap(true, 0.5, 1)), QVariant(circuitMap(QVariant(), 0.5, 1)),
+          QVariant(circuitMap(QPoint(3, 4), 0.5, 1))})
         expectRefusal("DE02408", noVariant, ofList, [&] { GravSettingsBase{listOf(bad)}; });
     expectRefusal("DE02408", noVariant, ofList, [] { GravSettingsBase{List()}; });
 }
@@ -402,7 +407,9 @@ TEST(GETestCmd, refusesWhatIsNoTest)
         expectRefusal("DE02231", noWeight, testOfValue, [&] { GETestCmd{arrayOf(argument)}; });
     QVariantMap badMap = testMap(QVariantMap());
     badMap["current_scale_weight"] = true;
-    for (const QVariantMap &argument : {QVariantMap(), badMap})
+    QVariantMap emptyWeight = testMap(QVariantMap());
+    emptyWeight["current_scale_weight"] = QVariant();
+    for (const QVariantMap &argument : {QVariantMap(), badMap, emptyWeight})
         expectRefusal("DE02231", noWeight, testOfList, [&] { GETestCmd(List{argument}); });
 
     const Value onlyWeight = structOf({{"current_scale_weight", 12.5}});
@@ -410,7 +417,25 @@ TEST(GETestCmd, refusesWhatIsNoTest)
     expectRefusal("DE02232", noSettings, testOfList, [] {
         GETestCmd(List{QVariantMap{{"current_scale_weight", 12.5}}});
     });
+    constexpr char noMembers[] = "GravimetricSettings: must be a struct";
+    expectRefusal("DE03350", noMembers, ofSettings, [] {
+        GETestCmd{arrayOf(structOf({{"current_scale_weight", 12.5}, {"driver_GE_settings", 7}}))};
+    });
+    for (const QVariant &settings : {QVariant(), QVariant(7)})
+        expectRefusal("DE03350", noMembers, ofSettings, [&] { GETestCmd(List{testMap(settings)}); });
     static_assert(!std::is_constructible_v<GETestCmd, double>);
+}
+
+TEST(GETestCmd, tellsItsArgument)
+{
+    const Lines lines = argumentsOf("GE_TEST");
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(Lines(lines.begin() + 1, lines.end()),
+              (Lines{"  XML-RPC, another type: DE02230", "  list, another type: DE02230",
+                     "  XML-RPC, current_scale_weight is missing or of another type: DE02231",
+                     "  list, current_scale_weight is missing or of another type: DE02231",
+                     "  XML-RPC, driver_GE_settings is missing: DE02232",
+                     "  list, driver_GE_settings is missing: DE02232"}));
 }
 
 } // namespace
