@@ -28,8 +28,8 @@ struct QUVPROTOCOL_EXPORT CalibrationData
           dosingMotor(motor)
     {}
     /**
-     * Throws std::invalid_argument for a member that is missing or of another type: there is no code to it, the answers and commands
-     * have theirs. Also throws as FW_DosingMotor and FW_Calibration do.
+     * Throws DE03373 without a position, DE03374 without an array of calibrations or for one that is no struct, DE03375 without a
+     * motor, and as FW_Calibration and FW_DosingMotor do. Inside of an answer or a command, theirs stand in place of these three.
      */
     explicit CalibrationData(const XmlRpc::XmlRpcValue &value);
     explicit CalibrationData(bool) = delete; // would be an XML-RPC value, as would the next three

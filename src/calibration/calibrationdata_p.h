@@ -13,4 +13,11 @@ inline constexpr const char *markOf<CalibrationData> = CalibrationData::position
 template <>
 const FieldType &fieldType<QList<CalibrationData>>();
 
+/**
+ * A list that holds calibrations each by itself, or all of them in one variant. Throws \a notMade also for what CalibrationData refuses,
+ * and as the framework does for what is in a motor or a calibration.
+ */
+QList<CalibrationData> calibrationsOf(const QList<QVariant> &list, const Refusal &otherType,
+                                      const Refusal &notMade, const char *function);
+
 } // namespace quv

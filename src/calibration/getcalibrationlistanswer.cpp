@@ -2,7 +2,6 @@
 #include "calibration/getcalibrationlistanswer.h"
 
 #include "base/describedanswer_p.h"
-#include "calibration/calibrationarguments_p.h"
 #include "calibration/calibrationdata_p.h"
 #include "calibration/setcalibrationlistcmd.h"
 
@@ -41,7 +40,7 @@ GetCalibrationListAnswer::GetCalibrationListAnswer(const XmlRpc::XmlRpcValue &va
 
 GetCalibrationListAnswer::GetCalibrationListAnswer(QList<QVariant> &list)
     : DescribedAnswer(list),
-      m_calibrations(quv::objectsOf<CalibrationData>(list, otherVariant, {"DE00858", notMade}, Q_FUNC_INFO))
+      m_calibrations(quv::calibrationsOf(list, otherVariant, {"DE00858", notMade}, Q_FUNC_INFO))
 {}
 
 GetCalibrationListAnswer *GetCalibrationListAnswer::clone() const

@@ -46,7 +46,7 @@ SetCalibrationListCmd::SetCalibrationListCmd(const XmlRpc::XmlRpcValue &value)
 
 SetCalibrationListCmd::SetCalibrationListCmd(QList<QVariant> list)
     : DescribedCommand(list),
-      m_calibrations(quv::objectsOf<CalibrationData>(list, otherVariant, notMadeOfVariant, Q_FUNC_INFO))
+      m_calibrations(quv::calibrationsOf(list, otherVariant, notMadeOfVariant, Q_FUNC_INFO))
 {}
 
 SetCalibrationListCmd *SetCalibrationListCmd::clone() const

@@ -5,8 +5,8 @@
 
 #include <QtCore/QVariant>
 
-#include <stdexcept>
 #include <type_traits>
+#include <vector>
 
 namespace {
 
@@ -15,6 +15,7 @@ using Point = BasicCalibrationPoint;
 using Basic = BasicCalibrationData;
 
 constexpr char ofPoint[] = "BasicCalibrationPoint::BasicCalibrationPoint(const XmlRpc::XmlRpcValue&)";
+constexpr char ofData[] = "CalibrationData::CalibrationData(const XmlRpc::XmlRpcValue&)";
 constexpr char ofBasic[] = "BasicCalibrationData::BasicCalibrationData(const XmlRpc::XmlRpcValue&)";
 
 TEST(BasicCalibrationPoint, isAStructOverXmlRpc)
@@ -130,18 +131,39 @@ TEST(CalibrationData, isAStructOverXmlRpc)
 
 TEST(CalibrationData, isRefusedWithoutAMemberOrWithAnotherType)
 {
+    struct Row
+    {
+        const char *key;
+        const char *code;
+        const char *text;
+        std::vector<Value> others;
+    };
     const Value whole = calibrationStructs()[0];
-    for (const Value &bad : {Value(), Value(7), arrayOf(), structOf({})})
-        EXPECT_THROW(CalibrationData{bad}, std::invalid_argument) << dumped(bad);
-    for (const char *key : {"position_id", "pump_info", "circuit_calibrations"}) {
-        SCOPED_TRACE(key);
-        EXPECT_THROW(CalibrationData{without(whole, key)}, std::invalid_argument);
+    const Row rows[] = {
+        {"position_id", "DE03373", "CalibrationData: expected position id value", {structOf({})}},
+        {"circuit_calibrations",
+         "DE03374",
+         "CalibrationData: errors during FW_Calibration creation",
+         {7, structOf({}), arrayOf(7), arrayOf(structOf({}), arrayOf())}},
+        {"pump_info", "DE03375", "CalibrationData: expected pump info value", {7, arrayOf()}},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.key);
+        std::vector<Value> bad = {without(whole, row.key)};
         for (const Value &other : {Value("3"), Value(3.0), Value(true), Value()})
-            EXPECT_THROW((CalibrationData{with(whole, key, other)}), std::invalid_argument) << dumped(other);
+            bad.push_back(with(whole, row.key, other));
+        for (const Value &other : row.others)
+            bad.push_back(with(whole, row.key, other));
+        for (const Value &value : bad) {
+            SCOPED_TRACE(dumped(value));
+            expectRefusal(row.code, row.text, ofData, [&] { CalibrationData{value}; });
+        }
     }
-    EXPECT_THROW((CalibrationData{with(whole, "pump_info", arrayOf())}), std::invalid_argument);
-    EXPECT_THROW((CalibrationData{with(whole, "circuit_calibrations", arrayOf(7))}), std::invalid_argument);
-    EXPECT_THROW((CalibrationData{with(whole, "circuit_calibrations", structOf({}))}), std::invalid_argument);
+    for (const Value &bad : {Value(), Value(7), arrayOf(), structOf({})})
+        expectRefusal("DE03373", rows[0].text, ofData, [&] { CalibrationData{bad}; });
+    const QVariant map = QVariantMap{{"position_id", 3}};
+    expectRefusal("DE03374", rows[1].text, ofData, [&] { map.value<CalibrationData>(); });
+    expectRefusal("DE03374", rows[1].text, ofData, [&] { outOfMemoryOnce([&] { CalibrationData{whole}; }); });
     static_assert(!std::is_constructible_v<CalibrationData, int>);
     static_assert(!std::is_constructible_v<CalibrationData, const char *>);
 }

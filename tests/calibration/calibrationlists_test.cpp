@@ -9,6 +9,8 @@
 #include "base/outofmemory.h"
 #include "calibration/calibrationtesting.h"
 
+#include <QuvFramework/fw_xmlrpc.h>
+
 #include <memory>
 #include <optional>
 #include <type_traits>
@@ -288,6 +290,52 @@ TEST(SetRecalibrationListCmd, keepsTheCommandContract)
 {
     expectCommandKeepsTheContract<SetRecalibrationListCmd>(
         {"SET_RECALIB_LIST", 147, "", 1}, setRecalibrations(), recalibrations(), recalibrationsDump());
+}
+
+/** A calibration that is refused has the code of who holds it, and what the framework refuses the framework's. */
+template <class Class>
+void expectBadCalibrationsRefused(const Facts &facts)
+{
+    SCOPED_TRACE(facts.className);
+    const std::string ofValue = facts.className + "::" + facts.className + "(const XmlRpc::XmlRpcValue&)";
+    const std::string ofList = facts.className + "::" + facts.className + sourceOfList(null<Class>);
+    const std::string notMade = facts.className + ": errors during CalibrationData creation";
+    const Value good = facts.structs[0];
+    const auto expectRefused = [&](const Value &bad, const char *code, const std::string &text,
+                                   const std::string &function) {
+        SCOPED_TRACE(dumped(bad));
+        const Value list = structOf({{"calibrations_list", arrayOf(good, bad)}});
+        expectRefusal(code, text.c_str(), function.c_str(), [&] { Class{argumentOf(null<Class>, list)}; });
+    };
+    const auto expectMapRefused = [&](const Value &bad, const char *code, const std::string &text,
+                                      const std::string &function) {
+        SCOPED_TRACE(dumped(bad));
+        const QVariant map = DecodeXmlRpcVariant(bad);
+        for (List list : {List{facts.maps[0], map}, List{map}, List{QVariant(List{facts.objects[0], map})}})
+            expectRefusal(code, text.c_str(), function.c_str(), [&] { Class{list}; });
+    };
+    for (const Value &bad : {Value(7), arrayOf(), structOf({}), without(good, "position_id")})
+        expectRefused(bad, facts.notMadeOfValue, notMade, ofValue);
+    for (const Value &bad :
+         {with(good, "position_id", "3"), with(good, "position_id", 3.5), without(good, "pump_info"),
+          with(good, "pump_info", arrayOf()), without(good, "circuit_calibrations"),
+          with(good, "circuit_calibrations", 7), with(good, "circuit_calibrations", arrayOf(7))}) {
+        expectRefused(bad, facts.notMadeOfValue, notMade, ofValue);
+        expectMapRefused(bad, facts.notMadeOfVariant, notMade, ofList);
+    }
+    const Value badMotor = with(good, "pump_info", structOf({{"max_speed", "x"}}));
+    const auto refusesMotor = [&](const auto &expect) {
+        expect(badMotor, "DE03350", "FW_DosingMotor: max_speed must be an integer from 0 to 2147483647",
+               "FW_DosingMotor::FW_DosingMotor(const XmlRpc::XmlRpcValue&)");
+    };
+    refusesMotor(expectRefused);
+    refusesMotor(expectMapRefused);
+}
+
+TEST(CalibrationLists, areRefusedForABadCalibration)
+{
+    expectBadCalibrationsRefused<GetCalibrationListAnswer>(getCalibrations());
+    expectBadCalibrationsRefused<SetCalibrationListCmd>(setCalibrations());
 }
 
 TEST(CalibrationLists, areExplained)
