@@ -74,7 +74,10 @@ SetCalibTestPointsCmd::SetCalibTestPointsCmd(QList<QVariant> list) : DescribedCo
 {
     quv::ListReader reader(list, Q_FUNC_INFO);
     Description::uid(*this, reader);
-    if (!quv::readObjectsVariant<FW_CalibrationTest>(list.value(1), &m_calibrationTests))
+    const bool areTests = quv::madeOrRefused(badTest.list, Q_FUNC_INFO, [&] {
+        return quv::readObjectsVariant<FW_CalibrationTest>(list.value(1), &m_calibrationTests);
+    });
+    if (!areTests)
         quv::throwRefusal(badTest.list, Q_FUNC_INFO);
 }
 

@@ -239,6 +239,13 @@ TEST(SetCalibTestPointsCmd, keepsTheCommandContract)
 {
     EXPECT_STREQ(SetTests::calibrationTests_TAG, "calib_tests");
     expectCommandContract(testsFacts());
+    const Value value = arrayOf("C-17", testsOf(arrayOf(testStruct())));
+    expectRefusal("DE01848", badTests, ofTestsValue, [&] { outOfMemoryOnce([&] { SetTests{value}; }); });
+    for (const QVariant &test :
+         {QVariant(testMap()), QVariant::fromValue(FW_CalibrationTest(2.5, 2.25, 800, 60, 4))}) {
+        const List list = {"C-17", QVariant(List{test})};
+        expectRefusal("DE01850", badTests, ofTestsList, [&] { outOfMemoryOnce([&] { SetTests{list}; }); });
+    }
     static_assert(!std::is_constructible_v<SetTests, int>);
     static_assert(!std::is_constructible_v<SetTests, const char *>);
 }
