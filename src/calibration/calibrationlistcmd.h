@@ -28,7 +28,9 @@ public:
      */
     CalibrationListCmd(const XmlRpc::XmlRpcValue &value, const FW_Dispenser *dispenser);
     CalibrationListCmd(QList<QVariant> list, const FW_Dispenser *dispenser); ///< likewise
-    CalibrationListCmd(int, const FW_Dispenser *) = delete;                  // would be an XML-RPC value
+    explicit CalibrationListCmd(bool) = delete;
+    explicit CalibrationListCmd(double) = delete;
+    CalibrationListCmd(int, const FW_Dispenser *) = delete; // would be an XML-RPC value
 
     QList<QVariant> variant_parameters() const;
     XmlRpc::XmlRpcValue xmlrpc_parameters(bool *ok) const; ///< \a ok, when given, becomes true

@@ -127,6 +127,7 @@ void expectPositionsChecked()
 
 TEST(CalibrationListCmd, asksForACircuitOfTheDispenser)
 {
+    expectPositionsChecked<CalibrationListCmd>();
     expectPositionsChecked<GetCalibrationListCmd>();
     expectPositionsChecked<GetRecalibrationListCmd>();
 }
