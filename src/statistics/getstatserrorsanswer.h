@@ -21,7 +21,10 @@ public:
     explicit GetStatsErrorsAnswer(const QList<DispError> &errors);
     /** Throws DE01384 without the array, and DE01383 for an element that is no DispError. */
     explicit GetStatsErrorsAnswer(const XmlRpc::XmlRpcValue &value);
-    /** Each element an error, or its map. Throws DE01380 for anything else, and DE01379 for a bad map. */
+    /**
+     * Each element an error, or its map, which has "error_code". Throws DE01380 for anything else, and DE01379 for a map that is no
+     * good error.
+     */
     explicit GetStatsErrorsAnswer(QList<QVariant> &list);
 
     GetStatsErrorsAnswer *clone() const override;
