@@ -196,6 +196,7 @@ TEST(AddEventCmd, takesRecordsAsVariantsToo)
     EXPECT_EQ(AddEventCmd(List{0, List{QVariant::fromValue(twoEvents[0]), eventMap()}}).events(), twoEvents);
     EXPECT_EQ(AddEventCmd(List{1LL, List{QVariant::fromValue(oneRefill[0])}}).refills(), oneRefill);
     EXPECT_EQ(AddEventCmd(List{0, List()}).events(), Events());
+    EXPECT_EQ(AddEventCmd(List{0, variantOf(twoEvents), "rest"}).events(), twoEvents);
 }
 
 TEST(AddEventCmd, tellsWhenThereIsNoMemoryForTheRecords)

@@ -263,7 +263,7 @@ TEST(GetColorantUsageStatsAnswer, needsMachinesAndInformationInAList)
     }
     List bad = {List{QVariantMap{{"serial_number", "VT 18"}}}, texts};
     expectRefusal("DE02253", noArray, ofStats, [&] { Answer{bad}; });
-    List variants = {List{one, secondMap()}, List{"purged"}};
+    List variants = {List{one, secondMap()}, List{"purged"}, "rest"};
     EXPECT_EQ(Answer(variants), Answer(twoMachines(), {"purged"}));
     List nothing = {List(), QStringList()};
     EXPECT_EQ(Answer(nothing), Answer());
