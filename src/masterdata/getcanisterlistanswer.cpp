@@ -3,11 +3,11 @@
 
 #include "base/describedanswer_p.h"
 #include "masterdata/canisterdata_p.h"
-#include "masterdata/listedrecords_p.h"
 
 #include <QuvFramework/fw_dispenser.h>
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace quv {
 
@@ -28,19 +28,32 @@ constexpr quv::Refusal noDispenser = {
 constexpr quv::Refusal noNumber = {
     "DE03389", "GetCanisterListAnswer decoding failed: invalid QVariant value (expected qlonglong)"};
 
-/** Null when the dispenser does not have it. */
-const FW_Canister *canisterOf(const FW_Dispenser &dispenser, long long id)
-{
-    const QList<FW_Canister> &canisters = dispenser.canisters();
-    const auto found = std::find_if(canisters.begin(), canisters.end(),
-                                    [id](const FW_Canister &canister) { return canister.id() == id; });
-    return found == canisters.end() ? nullptr : &*found;
-}
-
 int colorantIDOf(const FW_Dispenser &dispenser, const FW_Canister &canister)
 {
     const FW_Colorant *colorant = dispenser.getColorantByColCode(canister.colorantCode());
     return colorant ? colorant->systemColorantID() : 0;
+}
+
+CanisterData canisterOf(const FW_Dispenser &dispenser, long long id)
+{
+    const QList<FW_Canister> &canisters = dispenser.canisters();
+    const auto found = std::find_if(canisters.begin(), canisters.end(),
+                                    [id](const FW_Canister &canister) { return canister.id() == id; });
+    if (found == canisters.end())
+        throw std::invalid_argument("no such canister");
+    return CanisterData(*found, colorantIDOf(dispenser, *found));
+}
+
+/** Of the dispenser at this place of a driver's list, and the number behind it. */
+CanisterData canisterAt(const QList<QVariant> &list, int place, const char *function)
+{
+    const QVariant &dispenser = list.at(place);
+    if (dispenser.userType() != qMetaTypeId<FW_Dispenser>())
+        quv::throwRefusal(noDispenser, function);
+    long long id = 0;
+    if (!quv::decodeVariant(list.value(place + 1), id))
+        quv::throwRefusal(noNumber, function);
+    return canisterOf(dispenser.value<FW_Dispenser>(), id);
 }
 
 } // namespace
@@ -71,16 +84,9 @@ GetCanisterListAnswer::GetCanisterListAnswer(const XmlRpc::XmlRpcValue &value) :
 
 GetCanisterListAnswer::GetCanisterListAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
-    for (int i = 0; i < list.size(); i += 2) {
-        const auto dispenser = quv::listedPart<FW_Dispenser>(list.at(i), noDispenser, notMade, Q_FUNC_INFO);
-        long long id = 0;
-        if (!quv::decodeVariant(list.value(i + 1), id))
-            quv::throwRefusal(noNumber, Q_FUNC_INFO);
-        const FW_Canister *canister = canisterOf(dispenser, id);
-        if (!canister)
-            quv::throwRefusal(notMade, Q_FUNC_INFO);
-        m_canisters.append(CanisterData(*canister, colorantIDOf(dispenser, *canister)));
-    }
+    const char *const function = Q_FUNC_INFO;
+    for (int i = 0; i < list.size(); i += 2)
+        quv::madeOrRefused(notMade, function, [&] { m_canisters.append(canisterAt(list, i, function)); });
 }
 
 GetCanisterListAnswer *GetCanisterListAnswer::clone() const

@@ -3,7 +3,6 @@
 
 #include "base/describedanswer_p.h"
 #include "masterdata/circuitdata_p.h"
-#include "masterdata/listedrecords_p.h"
 
 #include <QuvFramework/fw_circuit.h>
 
@@ -25,6 +24,18 @@ constexpr quv::Refusal noCircuit = {
     "DE03390", "GetCircuitListAnswer decoding failed: invalid QVariant value (expected FW_Circuit)"};
 constexpr quv::Refusal noNumber = {
     "DE03391", "GetCircuitListAnswer decoding failed: invalid QVariant value (expected int)"};
+
+/** Of the circuit at this place of a driver's list, and the number behind it. */
+CircuitData circuitAt(const QList<QVariant> &list, int place, const char *function)
+{
+    const QVariant &circuit = list.at(place);
+    if (circuit.userType() != qMetaTypeId<FW_Circuit>())
+        quv::throwRefusal(noCircuit, function);
+    int canister = 0;
+    if (!quv::decodeVariant(list.value(place + 1), canister))
+        quv::throwRefusal(noNumber, function);
+    return CircuitData(circuit.value<FW_Circuit>(), canister);
+}
 
 } // namespace
 
@@ -53,13 +64,9 @@ GetCircuitListAnswer::GetCircuitListAnswer(const XmlRpc::XmlRpcValue &value) : D
 
 GetCircuitListAnswer::GetCircuitListAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
-    for (int i = 0; i < list.size(); i += 2) {
-        const auto circuit = quv::listedPart<FW_Circuit>(list.at(i), noCircuit, notMade, Q_FUNC_INFO);
-        int canister = 0;
-        if (!quv::decodeVariant(list.value(i + 1), canister))
-            quv::throwRefusal(noNumber, Q_FUNC_INFO);
-        m_circuits.append(CircuitData(circuit, canister));
-    }
+    const char *const function = Q_FUNC_INFO;
+    for (int i = 0; i < list.size(); i += 2)
+        quv::madeOrRefused(notMade, function, [&] { m_circuits.append(circuitAt(list, i, function)); });
 }
 
 GetCircuitListAnswer *GetCircuitListAnswer::clone() const

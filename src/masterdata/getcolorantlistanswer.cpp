@@ -69,8 +69,10 @@ GetColorantListAnswer::GetColorantListAnswer(const XmlRpc::XmlRpcValue &value) :
 
 GetColorantListAnswer::GetColorantListAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
+    const char *const function = Q_FUNC_INFO;
     for (const QVariant &variant : std::as_const(list))
-        m_colorants.append(decodedColorant(variant, Q_FUNC_INFO));
+        quv::madeOrRefused(notMade, function,
+                           [&] { m_colorants.append(decodedColorant(variant, function)); });
 }
 
 GetColorantListAnswer *GetColorantListAnswer::clone() const

@@ -49,8 +49,12 @@ GetDeviceListAnswer::GetDeviceListAnswer(const XmlRpc::XmlRpcValue &value) : Des
 
 GetDeviceListAnswer::GetDeviceListAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
-    for (const QVariant &variant : std::as_const(list))
-        m_devices.append(quv::decodedVariant<DeviceData>(variant, otherVariant, notMade, Q_FUNC_INFO));
+    const char *const function = Q_FUNC_INFO;
+    for (const QVariant &variant : std::as_const(list)) {
+        quv::madeOrRefused(notMade, function, [&] {
+            m_devices.append(quv::decodedVariant<DeviceData>(variant, otherVariant, notMade, function));
+        });
+    }
 }
 
 GetDeviceListAnswer *GetDeviceListAnswer::clone() const

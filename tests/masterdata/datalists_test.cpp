@@ -426,6 +426,13 @@ void expectListRefused(const char *code, const char *text, const char *function,
     expectRefusal(code, text, function, [&] { Answer{list}; });
 }
 
+template <class Answer>
+void expectListUnmade(const char *code, const char *text, const char *function, List list)
+{
+    const Answer good(list);
+    expectRefusal(code, text, function, [&] { outOfMemoryOnce([&] { Answer{list}; }); });
+}
+
 TEST(GetCircuitListAnswer, isAListOfCircuits)
 {
     const GetCircuitListAnswer answer(QList<CircuitData>{circuit()});
@@ -469,6 +476,8 @@ TEST(GetCircuitListAnswer, refusesAListOfOtherThings)
     for (const QVariant &bad :
          {QVariant(), QVariant(3.0), QVariant("3"), QVariant(true), QVariant(2147483648LL), good})
         expectListRefused<GetCircuitListAnswer>("DE03391", noNumber, function, {good, bad});
+    expectListUnmade<GetCircuitListAnswer>(
+        "DE03385", "GetCircuitListAnswer: errors during CircuitData creation", function, {good, 3});
 }
 
 FW_Dispenser dispenser()
@@ -532,6 +541,8 @@ TEST(GetCanisterListAnswer, refusesAListOfOtherThings)
         expectListRefused<GetCanisterListAnswer>("DE03384",
                                                  "GetCanisterListAnswer: errors during CanisterData creation",
                                                  function, {good, unknown});
+    expectListUnmade<GetCanisterListAnswer>(
+        "DE03384", "GetCanisterListAnswer: errors during CanisterData creation", function, {good, 3});
 }
 
 TEST(GetDeviceListAnswer, isAListOfDevices)
@@ -566,6 +577,9 @@ TEST(GetDeviceListAnswer, readsAListOfDevices)
     }
     expectListRefused<GetDeviceListAnswer>("DE00420", "DeviceData: expected enabled value", ofDevice,
                                            {QVariantMap{{"id", 4}}});
+    for (const QVariant &whole : {good, QVariant(good.toMap())})
+        expectListUnmade<GetDeviceListAnswer>(
+            "DE03386", "GetDeviceListAnswer: errors during DeviceData creation", function, {whole});
 }
 
 TEST(GetColorantListAnswer, isAListOfColorants)
@@ -605,6 +619,9 @@ TEST(GetColorantListAnswer, readsColorantsWithAndWithoutTheirMasks)
             "DE03393", "GetColorantListAnswer decoding failed: invalid QVariant value", function,
             {good, bad});
     }
+    for (const QVariant &whole : {good, QVariant::fromValue(colorant("KX")), QVariant(good.toMap())})
+        expectListUnmade<GetColorantListAnswer>(
+            "DE03387", "GetColorantListAnswer: errors during FW_Colorant creation", function, {whole});
 }
 
 } // namespace
