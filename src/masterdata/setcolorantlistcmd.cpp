@@ -54,6 +54,22 @@ Filling fillingOf(const XmlRpcValue &value, const char *function)
     return filling;
 }
 
+/** The pair, or the map that stands for one; what a pair holds may be more than its struct can. */
+Filling fillingOf(const QVariant &variant, const char *function)
+{
+    if (variant.userType() == qMetaTypeId<Filling>())
+        return variant.value<Filling>();
+    if (variant.userType() != QMetaType::QVariantMap)
+        quv::throwRefusal(badColorant, function);
+    return fillingOf(EncodeXmlRpcVariant(variant), function);
+}
+
+template <class Source>
+void append(QList<Filling> &fillings, const Source &source, const char *function)
+{
+    quv::madeOrRefused(badColorant, function, [&] { fillings.append(fillingOf(source, function)); });
+}
+
 } // namespace
 
 struct SetColorantListCmd::Description : quv::Description
@@ -88,20 +104,21 @@ SetColorantListCmd::SetColorantListCmd(const XmlRpcValue &value) : DescribedComm
     if (!fillings || fillings->getType() != XmlRpcValue::TypeArray)
         quv::throwRefusal(noColorants, Q_FUNC_INFO);
     for (int i = 0; i < fillings->size(); ++i)
-        m_colorants.append(fillingOf((*fillings)[i], Q_FUNC_INFO));
+        append(m_colorants, (*fillings)[i], Q_FUNC_INFO);
 }
 
 SetColorantListCmd::SetColorantListCmd(QList<QVariant> list) : DescribedCommand(list)
 {
     const QVariant fillings = list.value(0);
-    if (fillings.userType() != qMetaTypeId<QList<Filling>>() &&
-        fillings.userType() != QMetaType::QVariantList)
-        quv::throwRefusal(noColorants, Q_FUNC_INFO);
-    for (const QVariant &filling : fillings.value<QVariantList>()) {
-        if (filling.userType() != qMetaTypeId<Filling>() && filling.userType() != QMetaType::QVariantMap)
-            quv::throwRefusal(badColorant, Q_FUNC_INFO);
-        m_colorants.append(fillingOf(EncodeXmlRpcVariant(filling), Q_FUNC_INFO));
+    if (fillings.userType() == qMetaTypeId<QList<Filling>>()) {
+        m_colorants = fillings.value<QList<Filling>>();
+        return;
     }
+    if (fillings.userType() != QMetaType::QVariantList)
+        quv::throwRefusal(noColorants, Q_FUNC_INFO);
+    const QVariantList each = fillings.toList();
+    for (const QVariant &filling : each)
+        append(m_colorants, filling, Q_FUNC_INFO);
 }
 
 SetColorantListCmd *SetColorantListCmd::clone() const

@@ -267,6 +267,26 @@ TEST(SetColorantListCmd, refusesAListOfOtherThings)
         expectRefusal("DE03396", noColorant, colorantsOfList, [&] { Cmd(List{QVariant(List{good, bad})}); });
 }
 
+TEST(SetColorantListCmd, keepsThePairsOfAListAsTheyAre)
+{
+    FW_Colorant odd("B");
+    odd.setName(QString(QChar(0xD800))); // half a character, which no struct can hold
+    const Fillings whole = {{3, odd}};
+    for (const QVariant &list : {variantOf(whole), QVariant(List{QVariant::fromValue(whole[0])})})
+        EXPECT_EQ(SetColorantListCmd(List{list}).colorantList(), whole);
+}
+
+TEST(SetColorantListCmd, refusesColorantsThatCannotBeMade)
+{
+    using Cmd = SetColorantListCmd;
+    const QVariant pair = QVariant::fromValue(Filling(3, colorant("B")));
+    const Value value = colorantRequest(arrayOf(filling(3, colorantStruct("B"))));
+    expectRefusal("DE03396", noColorant, colorantsOfValue, [&] { outOfMemoryOnce([&] { Cmd{value}; }); });
+    for (const List &list : {List{QVariant(List{pair})}, List{QVariant(List{pair.toMap()})}})
+        expectRefusal("DE03396", noColorant, colorantsOfList,
+                      [&] { outOfMemoryOnce([&] { const Cmd command(list); }); });
+}
+
 TEST(SetColorantListCmd, tellsItsArgument)
 {
     const Lines lines = argumentsOf("SET_COLORANT_LIST");
