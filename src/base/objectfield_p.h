@@ -103,4 +103,13 @@ constexpr FieldType objectListType()
             ownRefusals<T>.size(), true};
 }
 
+/** The same in an answer which in the list form reads its elements by itself. */
+template <class T>
+constexpr FieldType listedObjectsType()
+{
+    FieldType type = objectListType<T>();
+    type.readVariant = nullptr;
+    return type;
+}
+
 } // namespace quv

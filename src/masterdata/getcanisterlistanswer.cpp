@@ -2,6 +2,7 @@
 #include "masterdata/getcanisterlistanswer.h"
 
 #include "base/describedanswer_p.h"
+#include "base/objectfield_p.h"
 #include "masterdata/canisterdata_p.h"
 
 #include <QuvFramework/fw_dispenser.h>
@@ -14,7 +15,7 @@ namespace quv {
 template <>
 const FieldType &fieldType<QList<CanisterData>>()
 {
-    static constexpr FieldType type = listedRecordsType<CanisterData>();
+    static constexpr FieldType type = listedObjectsType<CanisterData>();
     return type;
 }
 

@@ -2,6 +2,7 @@
 #include "masterdata/getcircuitlistanswer.h"
 
 #include "base/describedanswer_p.h"
+#include "base/objectfield_p.h"
 #include "masterdata/circuitdata_p.h"
 
 #include <QuvFramework/fw_circuit.h>
@@ -11,7 +12,7 @@ namespace quv {
 template <>
 const FieldType &fieldType<QList<CircuitData>>()
 {
-    static constexpr FieldType type = listedRecordsType<CircuitData>();
+    static constexpr FieldType type = listedObjectsType<CircuitData>();
     return type;
 }
 

@@ -2,7 +2,7 @@
 #include "masterdata/getcolorantlistanswer.h"
 
 #include "base/describedanswer_p.h"
-#include "masterdata/listedrecords_p.h"
+#include "base/objectfield_p.h"
 
 namespace quv {
 
@@ -12,7 +12,7 @@ inline constexpr const char *markOf<ColorantsPOSList> = "code";
 template <>
 const FieldType &fieldType<QList<ColorantsPOSList>>()
 {
-    static constexpr FieldType type = listedRecordsType<ColorantsPOSList>();
+    static constexpr FieldType type = listedObjectsType<ColorantsPOSList>();
     return type;
 }
 

@@ -2,7 +2,7 @@
 #include "masterdata/getcommandlistanswer.h"
 
 #include "base/describedanswer_p.h"
-#include "masterdata/listedrecords_p.h"
+#include "base/objectfield_p.h"
 #include "masterdata/protocolcommandinfo_p.h"
 
 namespace quv {
@@ -10,7 +10,7 @@ namespace quv {
 template <>
 const FieldType &fieldType<QList<ProtocolCommandInfo>>()
 {
-    static constexpr FieldType type = listedRecordsType<ProtocolCommandInfo>();
+    static constexpr FieldType type = listedObjectsType<ProtocolCommandInfo>();
     return type;
 }
 

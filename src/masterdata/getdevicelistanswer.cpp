@@ -2,15 +2,15 @@
 #include "masterdata/getdevicelistanswer.h"
 
 #include "base/describedanswer_p.h"
+#include "base/objectfield_p.h"
 #include "masterdata/devicedata_p.h"
-#include "masterdata/listedrecords_p.h"
 
 namespace quv {
 
 template <>
 const FieldType &fieldType<QList<DeviceData>>()
 {
-    static constexpr FieldType type = listedRecordsType<DeviceData>();
+    static constexpr FieldType type = listedObjectsType<DeviceData>();
     return type;
 }
 

@@ -1,18 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "base/objectfield_p.h"
+#include "base/decoding_p.h"
 
 namespace quv {
-
-/** A list of records of an answer, which in the list form reads its elements by itself. */
-template <class Data>
-constexpr FieldType listedRecordsType()
-{
-    FieldType type = objectListType<Data>();
-    type.readVariant = nullptr;
-    return type;
-}
 
 /**
  * The machine, or the part of one, that a variant in a driver's list holds; unlike records, which clients make too, never as a map.

@@ -11,29 +11,17 @@
 
 namespace quv {
 
-namespace {
-
-template <class Status>
-constexpr FieldType statusListType()
-{
-    FieldType type = objectListType<Status>();
-    type.readVariant = nullptr; // a list is read by its elements
-    return type;
-}
-
-} // namespace
-
 template <>
 const FieldType &fieldType<QList<DispenserStatus>>()
 {
-    static constexpr FieldType type = statusListType<DispenserStatus>();
+    static constexpr FieldType type = listedObjectsType<DispenserStatus>();
     return type;
 }
 
 template <>
 const FieldType &fieldType<QList<MixerStatus>>()
 {
-    static constexpr FieldType type = statusListType<MixerStatus>();
+    static constexpr FieldType type = listedObjectsType<MixerStatus>();
     return type;
 }
 
