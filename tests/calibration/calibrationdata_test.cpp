@@ -171,12 +171,12 @@ TEST(CalibrationData, isRefusedWithoutAMemberOrWithAnotherType)
 TEST(CalibrationData, isRefusedAsItsMotorAndItsCalibrationsAre)
 {
     const Value whole = calibrationStructs()[0];
-    expectRefusal("DE03350", "FW_DosingMotor: max_speed must be an integer from 0 to 2147483647",
+    expectRefusal("DE03350", "Machine data: max_speed must be an integer from 0 to 2147483647",
                   "FW_DosingMotor::FW_DosingMotor(const XmlRpc::XmlRpcValue&)", [&] {
                       CalibrationData{with(whole, "pump_info", structOf({{"max_speed", "x"}}))};
                   });
     expectRefusal(
-        "DE03350", "FW_Calibration: points must be an array",
+        "DE03350", "Machine data: points must be an array",
         "FW_Calibration::FW_Calibration(const XmlRpc::XmlRpcValue&)", [&] {
             CalibrationData{with(whole, "circuit_calibrations", arrayOf(structOf({{"points", 7}})))};
         });

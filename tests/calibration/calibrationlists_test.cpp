@@ -325,7 +325,7 @@ void expectBadCalibrationsRefused(const Facts &facts)
     }
     const Value badMotor = with(good, "pump_info", structOf({{"max_speed", "x"}}));
     const auto refusesMotor = [&](const auto &expect) {
-        expect(badMotor, "DE03350", "FW_DosingMotor: max_speed must be an integer from 0 to 2147483647",
+        expect(badMotor, "DE03350", "Machine data: max_speed must be an integer from 0 to 2147483647",
                "FW_DosingMotor::FW_DosingMotor(const XmlRpc::XmlRpcValue&)");
     };
     refusesMotor(expectRefused);

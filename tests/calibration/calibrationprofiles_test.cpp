@@ -38,7 +38,7 @@ std::string profilesDump()
 template <class Work>
 void expectPumpsRefused(Work work)
 {
-    expectRefusal("DE03350", "FW_CalibrationProfiles: pumps must be an array",
+    expectRefusal("DE03350", "Machine data: pumps must be an array",
                   "FW_CalibrationProfiles::FW_CalibrationProfiles(const XmlRpc::XmlRpcValue&)", work);
 }
 

@@ -330,11 +330,11 @@ enum class Reads { All, NotItsOwn, NoList, NothingOfAList };
 Reads readsOf(const CommandRow &row)
 {
     static const std::map<std::string, Reads> others = {
-        {"BOARD_MEMORY", Reads::NothingOfAList},        // is asked for over XML-RPC
-        {"RES_FILE_MNGM", Reads::NotItsOwn},            // a block of a file is written in another shape
-        {"SAVE_MACHINE_CONFIG", Reads::NothingOfAList}, // a list is kept as it is
-        {"SLAVE_JUMP", Reads::NotItsOwn},               // the address of the slave is read, but never written
-        {"WRITE_CONFIG_ROW", Reads::NoList},            // a row comes from a machine or a struct
+        {"BOARD_MEMORY", Reads::NothingOfAList}, // is asked for over XML-RPC
+        {"RES_FILE_MNGM", Reads::NotItsOwn},     // a block of a file is written in another shape
+        {"SAVE_MACHINE_CONFIG", Reads::NoList},  // a machine is saved over XML-RPC
+        {"SLAVE_JUMP", Reads::NotItsOwn},        // the address of the slave is read, but never written
+        {"WRITE_CONFIG_ROW", Reads::NoList},     // a row comes from a machine or a struct
     };
     const auto other = others.find(row.name);
     return other != others.end() ? other->second : Reads::All;

@@ -298,8 +298,8 @@ TEST(CanisterData, passesOnWhatItsLevelSensorRefuses)
 {
     Value value = canister().toXmlRpcValue();
     for (const auto &row :
-         {std::pair(Value(7), "FW_CanisterLevelSensor: must be a struct"),
-          std::pair(structOf({{"enabled", 1}}), "FW_CanisterLevelSensor: enabled must be true or false")}) {
+         {std::pair(Value(7), "Machine data: must be a struct"),
+          std::pair(structOf({{"enabled", 1}}), "Machine data: enabled must be true or false")}) {
         value["level_sensor"] = row.first;
         expectRefusal("DE03350", row.second,
                       "FW_CanisterLevelSensor::FW_CanisterLevelSensor(const XmlRpc::XmlRpcValue&)",
@@ -593,7 +593,7 @@ TEST(GetColorantListAnswer, isAListOfColorants)
                       structOf({{"code", 5}}),
                       {"DE03383", "GetColorantListAnswer: Errors during FW_Colorant list creation"},
                       {"DE03387", "GetColorantListAnswer: errors during FW_Colorant creation"},
-                      {"DE03350", "FW_Colorant: code must be a text"},
+                      {"DE03350", "Machine data: code must be a text"},
                       "FW_Colorant::FW_Colorant(const XmlRpc::XmlRpcValue&)"},
                      answer);
 }

@@ -124,8 +124,8 @@ TEST(SetCanisterListCmd, refusesAValueWithoutCanisters)
         expectRefusal("DE02129", notDecoded, canistersOfValue,
                       [&] { Cmd{canisterRequest(arrayOf(canisterStruct(3)), bad)}; });
     for (const auto &row :
-         {std::pair(Value(3), "FW_Canister: must be a struct"),
-          std::pair(canisterStruct(0), "FW_Canister: id must be an integer from 1 to 2147483647")})
+         {std::pair(Value(3), "Machine data: must be a struct"),
+          std::pair(canisterStruct(0), "Machine data: id must be an integer from 1 to 2147483647")})
         expectRefusal("DE03350", row.second, "FW_Canister::FW_Canister(const XmlRpc::XmlRpcValue&)",
                       [&] { Cmd{canisterRequest(arrayOf(canisterStruct(3), row.first), true)}; });
     const Value whole = canisterRequest(arrayOf(canisterStruct(3)), true);
@@ -249,8 +249,8 @@ TEST(SetColorantListCmd, refusesAValueWithoutColorants)
 TEST(SetColorantListCmd, passesOnWhatAColorantRefuses)
 {
     using Cmd = SetColorantListCmd;
-    for (const auto &row : {std::pair(Value(3), "FW_Colorant: must be a struct"),
-                            std::pair(structOf({{"name", "Blue"}}), "FW_Colorant: code is missing")})
+    for (const auto &row : {std::pair(Value(3), "Machine data: must be a struct"),
+                            std::pair(structOf({{"name", "Blue"}}), "Machine data: code is missing")})
         expectRefusal("DE03350", row.second, "FW_Colorant::FW_Colorant(const XmlRpc::XmlRpcValue&)",
                       [&] { Cmd{colorantRequest(arrayOf(filling(3, row.first)))}; });
 }

@@ -106,7 +106,7 @@ TEST(GravSettingsBase, takesTheUsualSettingsForWhatIsNotTold)
 
 TEST(GravSettingsBase, passesOnWhatTheSettingsAreRefusedWith)
 {
-    constexpr char text[] = "GravimetricSettings: max_corrections must be an integer from 0 to 2147483647";
+    constexpr char text[] = "Machine data: max_corrections must be an integer from 0 to 2147483647";
     expectRefusal("DE03350", text, ofSettings,
                   [] { GravSettingsBase{request(arrayOf(circuit(3, 0.5, -1)))}; });
     expectRefusal("DE03350", text, ofSettings, [] { GravSettingsBase{listOf(circuitMap(3, 0.5, -1))}; });
@@ -417,7 +417,7 @@ TEST(GETestCmd, refusesWhatIsNoTest)
     expectRefusal("DE02232", noSettings, testOfList, [] {
         GETestCmd(List{QVariantMap{{"current_scale_weight", 12.5}}});
     });
-    constexpr char noMembers[] = "GravimetricSettings: must be a struct";
+    constexpr char noMembers[] = "Machine data: must be a struct";
     expectRefusal("DE03350", noMembers, ofSettings, [] {
         GETestCmd{arrayOf(structOf({{"current_scale_weight", 12.5}, {"driver_GE_settings", 7}}))};
     });
