@@ -6,6 +6,7 @@
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <functional>
@@ -35,6 +36,11 @@ struct IsList<QList<T>> : std::true_type
 template <class T>
 struct IsList<QVector<T>> : std::true_type
 {};
+
+/** What has a description of its own. */
+template <class T>
+constexpr bool isDescribed = std::is_class_v<T> && !std::is_same_v<T, QString> &&
+                             !std::is_same_v<T, MachineTime> && !IsOptional<T>::value && !IsList<T>::value;
 
 constexpr char modelMember[] = "machine_model"; // by which a machine's struct tells its kind
 
@@ -220,19 +226,19 @@ public:
 
     Reader(const XmlRpcValue &source, const Place &place, const Keys &keys, T &object)
         : m_place(place),
-          m_object(object),
-          m_members(keys.size())
+          m_object(object)
     {
         if (source.getType() != XmlRpcValue::TypeStruct)
             refuse(m_place, QStringLiteral("must be a struct"));
         auto key = keys.cbegin();
         for (auto member = source.begin(); member != source.end(); ++member) {
-            while (key != keys.cend() && key->first < member->first)
+            int order = -1;
+            while (key != keys.cend() && (order = key->first.compare(member->first)) < 0)
                 ++key;
             if (key == keys.cend())
                 break;
-            if (key->first == member->first)
-                m_members[key->second] = &member->second;
+            if (order == 0)
+                m_members.at((key++)->second) = &member->second;
         }
     }
 
@@ -247,7 +253,7 @@ public:
     template <class Get, class Set>
     void required(const char *key, Get get, Set set, Range range = {})
     {
-        if (!m_members[m_next])
+        if (!m_members.at(m_next))
             refuse({&m_place, key}, QStringLiteral("is missing"));
         optional(key, get, set, range);
     }
@@ -263,7 +269,7 @@ public:
     template <class Get, class Set, class Remove>
     void removable(const char *key, Get get, Set set, Remove remove)
     {
-        const XmlRpcValue *member = m_members[m_next];
+        const XmlRpcValue *member = m_members.at(m_next);
         if (!member || member->getType() != XmlRpcValue::TypeInt || static_cast<const int &>(*member) != 0) {
             optional(key, get, set);
             return;
@@ -284,11 +290,13 @@ public:
     }
 
 private:
-    const XmlRpcValue *take() { return m_members[m_next++]; }
+    const XmlRpcValue *take() { return m_members.at(m_next++); }
 
     const Place &m_place;
     T &m_object;
-    std::vector<const XmlRpcValue *> m_members; ///< in the description's order, null for a missing one
+    static constexpr std::size_t maxMembers = 40;
+    std::array<const XmlRpcValue *, maxMembers>
+        m_members{}; ///< in the description's order, null for a missing one
     std::size_t m_next = 0;
 };
 
@@ -302,7 +310,11 @@ void readObject(const XmlRpcValue &value, const Place &place, T &object)
 long long readInteger(const XmlRpcValue &value, const Place &place, Range range)
 {
     long long number = 0;
-    if (!DecodeXmlRpcValue(value, number) || number < range.min || number > range.max)
+    if (value.getType() == XmlRpcValue::TypeInt)
+        number = static_cast<const int &>(value);
+    else if (!DecodeXmlRpcValue(value, number))
+        number = range.min - 1;
+    if (number < range.min || number > range.max)
         refuse(place, mustBeInteger(range));
     return number;
 }
@@ -349,8 +361,16 @@ List readList(const XmlRpcValue &value, const Place &place, Range range)
         refuse(place, QStringLiteral("must be an array"));
     List list;
     list.reserve(value.size());
-    for (int i = 0; i < value.size(); ++i)
-        list.append(readValue<typename List::value_type>(value[i], {&place, nullptr, i}, range));
+    using Element = typename List::value_type;
+    for (int i = 0; i < value.size(); ++i) {
+        const Place element{&place, nullptr, i};
+        if constexpr (isDescribed<Element>) { // read in its place
+            list.append(Element());
+            readObject(value[i], element, list.last());
+        } else {
+            list.append(readValue<Element>(value[i], element, range));
+        }
+    }
     return list;
 }
 
