@@ -58,7 +58,7 @@ QString classInWords(const CommandFacts &command)
 {
     if (isPlain(command))
         return QStringLiteral("%1, the plain one of its kind").arg(command.className);
-    return command.className.isEmpty() ? QStringLiteral("none of its own yet") : command.className;
+    return command.className;
 }
 
 QString argumentsNote(const CommandReference &command)
@@ -72,12 +72,7 @@ QString argumentsNote(const CommandReference &command)
                 : QStringLiteral("the catalogue tells %1, and ").arg(parametersInWords(*command.row));
         return QStringLiteral("none of its own; %1any that are given are dropped").arg(counted);
     }
-    if (command.row->maxParams == 0)
-        return QStringLiteral("none");
-    const bool travel = !command.facts.className.isEmpty() && !command.facts.tellsArguments;
-    return QStringLiteral("%1, without names yet, and %2")
-        .arg(parametersInWords(*command.row),
-             travel ? QStringLiteral("given by place") : QStringLiteral("not sent"));
+    return QStringLiteral("none");
 }
 
 QString answerNote(const CommandReference &command)
@@ -86,7 +81,7 @@ QString answerNote(const CommandReference &command)
     if (!facts.answerClass.isEmpty())
         return facts.tellsMembers
                    ? facts.answerClass
-                   : QStringLiteral("%1, whose members are not told yet").arg(facts.answerClass);
+                   : QStringLiteral("%1, without members that are told beforehand").arg(facts.answerClass);
     if (const PlainClass *plain = plainClassOf(facts))
         return QStringLiteral("a plain %1, without members").arg(QLatin1String(plain->answer));
     return facts.tellsArguments ? QStringLiteral("a plain one, without members") : QString();

@@ -116,7 +116,7 @@ QString section(const CommandReference &command)
 const char *const introduction = R"(# Commands
 
 `quvctl show --markdown > docs/commands.md` writes this file, out of what the library knows of itself; `quvctl show NAME` tells one
-command. What a class does not tell yet is told as such.
+command.
 
 - Arguments travel by their places, in the order in which they stand here. `quvctl call` and `quvctl encode` take them by place and,
   after those, by name: `position=3`. One with a default may be left out, also before another one. A text that begins like an
