@@ -2,13 +2,13 @@
 #include "base/machineid.h"
 
 #include "base/machineid_p.h"
-#include "base/objectlist_p.h"
 
+#include <QuvFramework/fw_metatype.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
 namespace {
 
-const bool isRegistered = quv::registerTravellingList<MachineID>("MachineID", "QList<MachineID>");
+const bool isRegistered = RegisterTravellingList<MachineID>("MachineID", "QList<MachineID>");
 
 const char *wordOf(SerialDeviceType type)
 {

@@ -3,8 +3,6 @@
 
 #include "base/decoding_p.h"
 
-#include <QuvFramework/fw_metatype.h>
-
 #include <QtCore/QVariantList>
 
 #include <algorithm>
@@ -12,13 +10,6 @@
 // Lists of objects that travel in one variant: as the list that they are, or as a list of variants of which each holds one.
 
 namespace quv {
-
-/** Registers a T, and the list of T under \a listName. Always true, so that a constant can be initialised with it. */
-template <class T>
-bool registerTravellingList(const char *name, const char *listName)
-{
-    return RegisterTravellingList<T>(name, listName);
-}
 
 /** True for a list of T, and for a list of variants of which each holds a T. */
 template <class T>

@@ -4,6 +4,8 @@
 #include "base/record_p.h"
 #include "calibration/basiccalibrationdata_p.h"
 
+#include <QuvFramework/fw_metatype.h>
+
 namespace quv {
 
 template <>
@@ -25,7 +27,7 @@ const FieldType &fieldType<QList<BasicCalibrationData>>()
 namespace {
 
 const bool isRegistered =
-    quv::registerTravellingList<BasicCalibrationData>("BasicCalibrationData", "QList<BasicCalibrationData>");
+    RegisterTravellingList<BasicCalibrationData>("BasicCalibrationData", "QList<BasicCalibrationData>");
 
 const quv::Record<BasicCalibrationData> &record()
 {

@@ -4,6 +4,8 @@
 #include "base/record_p.h"
 #include "calibration/basiccalibrationdata_p.h"
 
+#include <QuvFramework/fw_metatype.h>
+
 namespace {
 
 const bool isRegistered = RegisterTravellingType<BasicCalibrationPoint>("BasicCalibrationPoint");

@@ -4,6 +4,7 @@
 #include "calibration/calibrationarguments_p.h"
 #include "calibration/calibrationdata_p.h"
 
+#include <QuvFramework/fw_metatype.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
 namespace quv {
@@ -63,7 +64,7 @@ namespace {
 using XmlRpc::XmlRpcValue;
 
 const bool isRegistered =
-    quv::registerTravellingList<CalibrationData>("CalibrationData", "QList<CalibrationData>");
+    RegisterTravellingList<CalibrationData>("CalibrationData", "QList<CalibrationData>");
 
 const XmlRpcValue &ofType(XmlRpcValue::Type type, const XmlRpcValue *value, const quv::Refusal &refusal,
                           const char *function)

@@ -7,6 +7,7 @@
 #include "firmware/fwresourcefile_p.h"
 
 #include <QuvFramework/fw_fileutils.h>
+#include <QuvFramework/fw_metatype.h>
 #include <QuvFramework/fw_utils.h>
 
 #include <QtCore/QFile>
@@ -18,8 +19,7 @@
 
 namespace {
 
-const bool isRegistered =
-    quv::registerTravellingList<FwResourceFile>("FwResourceFile", "QList<FwResourceFile>");
+const bool isRegistered = RegisterTravellingList<FwResourceFile>("FwResourceFile", "QList<FwResourceFile>");
 
 struct TypeOfFiles
 {

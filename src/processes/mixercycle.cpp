@@ -4,9 +4,11 @@
 #include "base/record_p.h"
 #include "processes/mixercycle_p.h"
 
+#include <QuvFramework/fw_metatype.h>
+
 namespace {
 
-const bool isRegistered = quv::registerTravellingList<MixerCycle>("MixerCycle", "QList<MixerCycle>");
+const bool isRegistered = RegisterTravellingList<MixerCycle>("MixerCycle", "QList<MixerCycle>");
 
 const quv::Record<MixerCycle> &record()
 {

@@ -3,6 +3,8 @@
 
 #include "base/basetesting.h"
 
+#include <QuvFramework/fw_metatype.h>
+
 #include <stdexcept>
 
 namespace {
@@ -39,7 +41,7 @@ namespace {
 
 using Things = QList<Thing>;
 
-const bool isRegistered = quv::registerTravellingList<Thing>("Thing", "QList<Thing>");
+const bool isRegistered = RegisterTravellingList<Thing>("Thing", "QList<Thing>");
 
 constexpr quv::Refusal expected = {"DE2", "Things expected"};
 constexpr quv::Refusal incorrect = {"DE3", "Incorrect things"};
