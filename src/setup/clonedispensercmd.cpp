@@ -2,8 +2,8 @@
 #include "setup/clonedispensercmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "setup/clonedispenseranswer.h"
-#include "setup/requeststruct_p.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #include "base/describedcommand_p.h"
 #include "base/machineid_p.h"
+#include "base/requeststruct_p.h"
 #include "setup/clonemachineanswer.h"
-#include "setup/requeststruct_p.h"
 
 namespace {
 

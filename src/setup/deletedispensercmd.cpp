@@ -2,7 +2,7 @@
 #include "setup/deletedispensercmd.h"
 
 #include "base/describedcommand_p.h"
-#include "setup/requeststruct_p.h"
+#include "base/requeststruct_p.h"
 
 namespace {
 
@@ -41,7 +41,8 @@ DeleteDispenserCmd::DeleteDispenserCmd(QList<int> dispIDs) : m_dispIDs(std::move
 DeleteDispenserCmd::DeleteDispenserCmd(const XmlRpcValue &value) : DescribedCommand(value)
 {
     const XmlRpcValue &argument = quv::structArgument(value, noList, Q_FUNC_INFO);
-    if (!DecodeXmlRpcValue(quv::arrayMember(argument, dispIDList_TAG, noList, Q_FUNC_INFO), m_dispIDs))
+    if (!DecodeXmlRpcValue(quv::arrayMember(argument, dispIDList_TAG, noList, noList, Q_FUNC_INFO),
+                           m_dispIDs))
         quv::throwRefusal(noID, Q_FUNC_INFO);
 }
 

@@ -4,7 +4,7 @@
 #include "base/describedcommand_p.h"
 #include "base/machineid_p.h"
 #include "base/objectlist_p.h"
-#include "setup/requeststruct_p.h"
+#include "base/requeststruct_p.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ DeleteMachineCmd::DeleteMachineCmd(const QList<MachineID> &machineIDs) : m_machi
 DeleteMachineCmd::DeleteMachineCmd(const XmlRpcValue &value) : DescribedCommand(value)
 {
     const XmlRpcValue &argument = quv::structArgument(value, noList, Q_FUNC_INFO);
-    const XmlRpcValue &list = quv::arrayMember(argument, machineIDList_TAG, noList, Q_FUNC_INFO);
+    const XmlRpcValue &list = quv::arrayMember(argument, machineIDList_TAG, noList, noList, Q_FUNC_INFO);
     m_machineIDs.reserve(list.size());
     for (int i = 0; i < list.size(); ++i)
         m_machineIDs.append(MachineID(list[i]));

@@ -2,8 +2,8 @@
 #include "setup/saveconfigcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "setup/configurationfield_p.h"
-#include "setup/requeststruct_p.h"
 
 namespace {
 
@@ -61,7 +61,7 @@ SaveConfigCmd::SaveConfigCmd(const XmlRpcValue &value) : DescribedCommand(value)
     const XmlRpcValue &configuration =
         quv::structMember(data, configuration_TAG, noConfiguration, badConfiguration, function);
     m_configuration = quv::decodedValue<FW_Configuration>(&configuration, badConfiguration, function);
-    quv::readFlag(data, updateBoardConfig_TAG, m_updateBoard, badFlag, function);
+    quv::readMember(data, updateBoardConfig_TAG, m_updateBoard, badFlag, function);
 }
 
 SaveConfigCmd::SaveConfigCmd(QList<QVariant> list) : DescribedCommand(list)

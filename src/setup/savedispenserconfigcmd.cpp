@@ -2,7 +2,7 @@
 #include "setup/savedispenserconfigcmd.h"
 
 #include "base/describedcommand_p.h"
-#include "setup/requeststruct_p.h"
+#include "base/requeststruct_p.h"
 
 namespace quv {
 
@@ -73,8 +73,8 @@ SaveDispenserConfigCmd::SaveDispenserConfigCmd(const XmlRpcValue &value) : Descr
     const XmlRpcValue &dispenser =
         quv::structMember(data, dispenserConfig_TAG, noDispenser, badDispenser, function);
     m_dispenser = quv::decodedValue<FW_Dispenser>(&dispenser, badDispenser, function);
-    quv::readFlag(data, updateBoardConfig_TAG, m_updateBoard, badFlag, function);
-    quv::readFlag(data, factoryConfig_TAG, m_factory, badFactory, function);
+    quv::readMember(data, updateBoardConfig_TAG, m_updateBoard, badFlag, function);
+    quv::readMember(data, factoryConfig_TAG, m_factory, badFactory, function);
 }
 
 SaveDispenserConfigCmd::SaveDispenserConfigCmd(QList<QVariant> list) : DescribedCommand(list)

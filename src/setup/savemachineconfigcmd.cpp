@@ -3,7 +3,7 @@
 
 #include "base/cloned_p.h"
 #include "base/describedcommand_p.h"
-#include "setup/requeststruct_p.h"
+#include "base/requeststruct_p.h"
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
@@ -79,8 +79,8 @@ SaveMachineConfigCmd::SaveMachineConfigCmd(const XmlRpcValue &value) : Described
         quv::madeOrRefused(notMade, function, [&] { return FW_Machine::fromXmlRpcValue(machine); });
     if (!m_machineConfig)
         quv::throwRefusal(unknownKind, function);
-    quv::readFlag(data, updateBoardConfig_TAG, m_updateBoard, badFlag, function);
-    quv::readFlag(data, factoryConfig_TAG, m_factory, badFactory, function);
+    quv::readMember(data, updateBoardConfig_TAG, m_updateBoard, badFlag, function);
+    quv::readMember(data, factoryConfig_TAG, m_factory, badFactory, function);
 }
 
 SaveMachineConfigCmd::SaveMachineConfigCmd(QList<QVariant> list) : DescribedCommand(list) {}

@@ -7,7 +7,7 @@
 
 #include <xmlrpcpp/XmlRpcValue.h>
 
-// The requests about the setup of machines have one argument, a struct with what they are about.
+// Many requests have one argument, a struct with what they are about.
 
 namespace quv {
 
@@ -33,11 +33,12 @@ inline const XmlRpc::XmlRpcValue &memberOf(const XmlRpc::XmlRpcValue &object, co
 
 /** A member that must be there and be an array. */
 inline const XmlRpc::XmlRpcValue &arrayMember(const XmlRpc::XmlRpcValue &object, const char *key,
-                                              const Refusal &refusal, const char *function)
+                                              const Refusal &missing, const Refusal &otherType,
+                                              const char *function)
 {
-    const XmlRpc::XmlRpcValue &member = memberOf(object, key, refusal, function);
+    const XmlRpc::XmlRpcValue &member = memberOf(object, key, missing, function);
     if (member.getType() != XmlRpc::XmlRpcValue::TypeArray)
-        throwRefusal(refusal, function);
+        throwRefusal(otherType, function);
     return member;
 }
 
@@ -52,12 +53,13 @@ inline const XmlRpc::XmlRpcValue &structMember(const XmlRpc::XmlRpcValue &object
     return member;
 }
 
-/** A member that leaves \a flag alone when it is not there. */
-inline void readFlag(const XmlRpc::XmlRpcValue &object, const char *key, bool &flag, const Refusal &otherType,
-                     const char *function)
+/** A member that leaves \a field alone when it is not there. */
+template <class T>
+void readMember(const XmlRpc::XmlRpcValue &object, const char *key, T &field, const Refusal &otherType,
+                const char *function)
 {
     const XmlRpc::XmlRpcValue *member = FindXmlRpcMember(object, key);
-    if (member && !DecodeXmlRpcValue(*member, flag))
+    if (member && !DecodeXmlRpcValue(*member, field))
         throwRefusal(otherType, function);
 }
 
