@@ -6,12 +6,15 @@
 #include "base/getcmdestimatedexectimeanswer.h"
 #include "base/guard_p.h"
 #include "base/requestarguments_p.h"
+#include "base/requeststruct_p.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
 
 namespace {
 
 constexpr char invalid[] = "Invalid parameters";
+constexpr quv::Refusal noCommand = {"DE01182", invalid};
+constexpr quv::Refusal noArray = {"DE01183", invalid};
 constexpr char decodingFailed[] = "Errors during protocol command parameters decoding";
 
 /** The array of the other command's name and arguments. */
@@ -22,15 +25,11 @@ const XmlRpc::XmlRpcValue &commandAndParams(const XmlRpc::XmlRpcValue &value, co
         throw FW_Exception("DE01193", invalid, function);
     if (request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
         throw FW_Exception("DE01181", invalid, function);
-    const XmlRpc::XmlRpcValue *command =
-        FindXmlRpcMember(*request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS);
-    if (!command)
-        throw FW_Exception("DE01182", invalid, function);
-    if (command->getType() != XmlRpc::XmlRpcValue::TypeArray)
-        throw FW_Exception("DE01183", invalid, function);
-    if (command->size() == 0)
+    const XmlRpc::XmlRpcValue &command = quv::arrayMember(
+        *request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS, noCommand, noArray, function);
+    if (command.size() == 0)
         throw FW_Exception("DE01185", "Invalid parameters: command expected", function);
-    return *command;
+    return command;
 }
 
 std::unique_ptr<ProtoCommand> makeCommand(const XmlRpc::XmlRpcValue &command, const FW_Machine *machine,

@@ -3,6 +3,7 @@
 
 #include "base/cloned_p.h"
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "configuration/confclasses_p.h"
 #include "configuration/confrow_p.h"
 
@@ -13,6 +14,11 @@ namespace {
 constexpr char codeMember[] = "cmd_value";
 constexpr char rowMember[] = "cmd_parameters";
 
+constexpr quv::Refusal noCode = {
+    "DE00169", "Invalid configuration parameters. Expected Int type for attribute 'cmd_value'"};
+constexpr quv::Refusal noRow = {
+    "DE00170", "Invalid configuration parameters. Expected String type for attribute 'cmd_parameters'"};
+
 /** The struct of the row: the value itself, or what stands first in a request's array. */
 const XmlRpc::XmlRpcValue &structIn(const XmlRpc::XmlRpcValue &value, const char *function)
 {
@@ -21,16 +27,6 @@ const XmlRpc::XmlRpcValue &structIn(const XmlRpc::XmlRpcValue &value, const char
     if (members.getType() != XmlRpc::XmlRpcValue::TypeStruct)
         throw FW_Exception("DE00171", "Error decoding xmp-rpc type", function);
     return members;
-}
-
-/** The member in \a out, which stays as it is when there is none. */
-template <class T>
-void readMember(const XmlRpc::XmlRpcValue &members, const char *key, T &out, const char *code,
-                const char *text, const char *function)
-{
-    const XmlRpc::XmlRpcValue *member = FindXmlRpcMember(members, key);
-    if (member && !DecodeXmlRpcValue(*member, out))
-        throw FW_Exception(code, text, function);
 }
 
 } // namespace
@@ -67,11 +63,8 @@ WriteConfigurationParamCmd::WriteConfigurationParamCmd(const XmlRpc::XmlRpcValue
     const XmlRpc::XmlRpcValue &members = structIn(value, Q_FUNC_INFO);
     int code = 0;
     QString text;
-    readMember(members, codeMember, code, "DE00169",
-               "Invalid configuration parameters. Expected Int type for attribute 'cmd_value'", Q_FUNC_INFO);
-    readMember(members, rowMember, text, "DE00170",
-               "Invalid configuration parameters. Expected String type for attribute 'cmd_parameters'",
-               Q_FUNC_INFO);
+    quv::readMember(members, codeMember, code, noCode, Q_FUNC_INFO);
+    quv::readMember(members, rowMember, text, noRow, Q_FUNC_INFO);
     if (code == 0 || text.isEmpty())
         return;
     setCommandCode(code);

@@ -3,6 +3,7 @@
 
 #include "base/describedcommand_p.h"
 #include "base/objectfield_p.h"
+#include "base/requeststruct_p.h"
 
 namespace quv {
 
@@ -56,18 +57,14 @@ SetCanisterListCmd::SetCanisterListCmd(const QList<FW_Canister> &canisters, bool
 
 SetCanisterListCmd::SetCanisterListCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value)
 {
-    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(value, 0);
-    if (!request || request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
-        quv::throwRefusal(notDecoded, Q_FUNC_INFO);
-    const XmlRpc::XmlRpcValue *canisters = FindXmlRpcMember(*request, canisterList_TAG);
-    const auto decoded = canisters ? canistersType().read(*canisters, &m_canisters) : quv::Decoded::OtherType;
+    const XmlRpc::XmlRpcValue &request = quv::structArgument(value, notDecoded, Q_FUNC_INFO);
+    const XmlRpc::XmlRpcValue &canisters = quv::memberOf(request, canisterList_TAG, noCanisters, Q_FUNC_INFO);
+    const auto decoded = canistersType().read(canisters, &m_canisters);
     if (decoded == quv::Decoded::OtherType)
         quv::throwRefusal(noCanisters, Q_FUNC_INFO);
     if (decoded == quv::Decoded::BadElement)
         quv::throwRefusal(badCanister, Q_FUNC_INFO);
-    const XmlRpc::XmlRpcValue *update = FindXmlRpcMember(*request, updateFwConfig_TAG);
-    if (update && !DecodeXmlRpcValue(*update, m_updateFwConfig))
-        quv::throwRefusal(notDecoded, Q_FUNC_INFO);
+    quv::readMember(request, updateFwConfig_TAG, m_updateFwConfig, notDecoded, Q_FUNC_INFO);
 }
 
 SetCanisterListCmd::SetCanisterListCmd(QList<QVariant> list) : DescribedCommand(list)

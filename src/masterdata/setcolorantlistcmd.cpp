@@ -4,6 +4,7 @@
 #include "base/describedcommand_p.h"
 #include "base/objectfield_p.h"
 #include "base/record_p.h"
+#include "base/requeststruct_p.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
 
@@ -97,14 +98,11 @@ SetColorantListCmd::SetColorantListCmd(const QList<QPair<int, FW_Colorant>> &col
 
 SetColorantListCmd::SetColorantListCmd(const XmlRpcValue &value) : DescribedCommand(value)
 {
-    const XmlRpcValue *request = FindXmlRpcElement(value, 0);
-    if (!request || request->getType() != XmlRpcValue::TypeStruct)
-        quv::throwRefusal(notDecoded, Q_FUNC_INFO);
-    const XmlRpcValue *fillings = FindXmlRpcMember(*request, colorantList_TAG);
-    if (!fillings || fillings->getType() != XmlRpcValue::TypeArray)
-        quv::throwRefusal(noColorants, Q_FUNC_INFO);
-    for (int i = 0; i < fillings->size(); ++i)
-        append(m_colorants, (*fillings)[i], Q_FUNC_INFO);
+    const XmlRpcValue &request = quv::structArgument(value, notDecoded, Q_FUNC_INFO);
+    const XmlRpcValue &fillings =
+        quv::arrayMember(request, colorantList_TAG, noColorants, noColorants, Q_FUNC_INFO);
+    for (int i = 0; i < fillings.size(); ++i)
+        append(m_colorants, fillings[i], Q_FUNC_INFO);
 }
 
 SetColorantListCmd::SetColorantListCmd(QList<QVariant> list) : DescribedCommand(list)

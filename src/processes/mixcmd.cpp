@@ -4,6 +4,7 @@
 #include "base/describedcommand_p.h"
 #include "base/digits_p.h"
 #include "base/objectfield_p.h"
+#include "base/requeststruct_p.h"
 #include "base/wire_p.h"
 #include "processes/mixercycle_p.h"
 
@@ -21,15 +22,8 @@ constexpr quv::Refusal noList = {"DE02342", "MixCmd failed: expected MixerCycle 
 /** The array of cycles. */
 const XmlRpc::XmlRpcValue &cyclesIn(const XmlRpc::XmlRpcValue &arguments, const char *function)
 {
-    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(arguments, 0);
-    if (!request || request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
-        quv::throwRefusal(noStruct, function);
-    const XmlRpc::XmlRpcValue *cycles = FindXmlRpcMember(*request, MixCmd::mixerCycles_TAG);
-    if (!cycles)
-        quv::throwRefusal(noCycles, function);
-    if (cycles->getType() != XmlRpc::XmlRpcValue::TypeArray)
-        quv::throwRefusal(noArray, function);
-    return *cycles;
+    const XmlRpc::XmlRpcValue &request = quv::structArgument(arguments, noStruct, function);
+    return quv::arrayMember(request, MixCmd::mixerCycles_TAG, noCycles, noArray, function);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "scale/getestcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "scale/getestanswer.h"
 #include "scale/gravsettingsbase_p.h"
 
@@ -29,10 +30,9 @@ struct GETestCmd::Description : quv::Description
             quv::throwRefusal(noStruct, function);
         if (!DecodeXmlRpcValue(*argument, currentScaleWeight_TAG, self.m_currentScaleWeight))
             quv::throwRefusal(noWeight, function);
-        const XmlRpcValue *settings = FindXmlRpcMember(*argument, gravimetricSettings_TAG);
-        if (!settings)
-            quv::throwRefusal(badSettings, function);
-        self.m_gravimetricSettings = quv::gravSettingsOf(*settings, badSettings, function);
+        const XmlRpcValue &settings =
+            quv::memberOf(*argument, gravimetricSettings_TAG, badSettings, function);
+        self.m_gravimetricSettings = quv::gravSettingsOf(settings, badSettings, function);
     }
 
     static void tellArguments(quv::ArgumentTeller &teller)

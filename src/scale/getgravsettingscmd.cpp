@@ -2,6 +2,7 @@
 #include "scale/getgravsettingscmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "scale/gravsettingsanswer.h"
 
 namespace {
@@ -18,13 +19,10 @@ QList<int> positionsOf(const XmlRpcValue &argument, const char *function)
 {
     if (argument.getType() != XmlRpcValue::TypeStruct)
         quv::throwRefusal(noStruct, function);
-    const XmlRpcValue *array = FindXmlRpcMember(argument, GetGravSettingsCmd::positionsID_TAG);
-    if (!array)
-        quv::throwRefusal(noPositions, function);
-    if (array->getType() != XmlRpcValue::TypeArray)
-        quv::throwRefusal(noArray, function);
+    const XmlRpcValue &array =
+        quv::arrayMember(argument, GetGravSettingsCmd::positionsID_TAG, noPositions, noArray, function);
     QList<int> positions;
-    if (!DecodeXmlRpcValue(*array, positions))
+    if (!DecodeXmlRpcValue(array, positions))
         quv::throwRefusal(badPosition, function);
     return positions;
 }

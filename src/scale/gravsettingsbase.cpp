@@ -3,6 +3,7 @@
 
 #include "base/argumentteller_p.h"
 #include "base/decoding_p.h"
+#include "base/requeststruct_p.h"
 #include "scale/gravsettingsbase_p.h"
 
 #include <QuvFramework/fw_dosingmotor.h>
@@ -46,10 +47,9 @@ Settings settingsOf(const XmlRpcValue &value, const char *function)
     const XmlRpcValue *request = isArray ? FindXmlRpcElement(value, 0) : &value;
     if (!request || request->getType() != XmlRpcValue::TypeStruct)
         quv::throwRefusal(quv::noGravSettingsStruct, function);
-    const XmlRpcValue *array = FindXmlRpcMember(*request, GravSettingsBase::circuitsGravSettings_TAG);
-    if (!array || array->getType() != XmlRpcValue::TypeArray)
-        quv::throwRefusal(quv::noGravSettingsArray, function);
-    return settingsOf(*array, quv::badGravSettings, function);
+    const XmlRpcValue &array = quv::arrayMember(*request, GravSettingsBase::circuitsGravSettings_TAG,
+                                                quv::noGravSettingsArray, quv::noGravSettingsArray, function);
+    return settingsOf(array, quv::badGravSettings, function);
 }
 
 /** A map with a position; as XML-RPC one that is no number at all would read as 0. */

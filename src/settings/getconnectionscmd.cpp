@@ -2,6 +2,7 @@
 #include "settings/getconnectionscmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "settings/getconnectionsanswer.h"
 
 namespace {
@@ -9,14 +10,6 @@ namespace {
 constexpr quv::Refusal noStruct = {"DE03220", "GetConnectionsCmd: expected STRUCT parameter"};
 constexpr quv::Refusal noType = {"DE03221", "Connection type: expected INT parameter"};
 constexpr quv::Refusal noFilter = {"DE03222", "Bluetooth connection filter: expected INT parameter"};
-
-void readMember(const XmlRpc::XmlRpcValue &request, const char *key, int &field, const quv::Refusal &refusal,
-                const char *function)
-{
-    const XmlRpc::XmlRpcValue *member = FindXmlRpcMember(request, key);
-    if (member && !DecodeXmlRpcValue(*member, field))
-        quv::throwRefusal(refusal, function);
-}
 
 } // namespace
 
@@ -58,8 +51,8 @@ GetConnectionsCmd::GetConnectionsCmd(const XmlRpc::XmlRpcValue &value) : Describ
         return;
     if (request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
         quv::throwRefusal(noStruct, Q_FUNC_INFO);
-    readMember(*request, connType_TAG, m_connectionType, noType, Q_FUNC_INFO);
-    readMember(*request, btConnFilter_TAG, m_filter, noFilter, Q_FUNC_INFO);
+    quv::readMember(*request, connType_TAG, m_connectionType, noType, Q_FUNC_INFO);
+    quv::readMember(*request, btConnFilter_TAG, m_filter, noFilter, Q_FUNC_INFO);
 }
 
 GetConnectionsCmd::GetConnectionsCmd(QList<QVariant> list) : DescribedCommand(list)

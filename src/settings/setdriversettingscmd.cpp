@@ -2,6 +2,7 @@
 #include "settings/setdriversettingscmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "settings/driversettings_p.h"
 
 namespace {
@@ -76,10 +77,8 @@ SetDriverSettingsCmd::SetDriverSettingsCmd(const QHash<QString, QVariant> &setti
 
 SetDriverSettingsCmd::SetDriverSettingsCmd(const XmlRpcValue &value) : DescribedCommand(value)
 {
-    const XmlRpcValue *argument = FindXmlRpcElement(value, 0);
-    if (!argument || argument->getType() != XmlRpcValue::TypeStruct)
-        quv::throwRefusal(noStruct, Q_FUNC_INFO);
-    readRequest(*argument, m_settings, m_hash, badSettings, badHash, noSettings, Q_FUNC_INFO);
+    const XmlRpcValue &argument = quv::structArgument(value, noStruct, Q_FUNC_INFO);
+    readRequest(argument, m_settings, m_hash, badSettings, badHash, noSettings, Q_FUNC_INFO);
 }
 
 SetDriverSettingsCmd::SetDriverSettingsCmd(QList<QVariant> list) : DescribedCommand(list)

@@ -4,6 +4,7 @@
 #include "base/describedcommand_p.h"
 #include "base/objectfield_p.h"
 #include "base/objectlist_p.h"
+#include "base/requeststruct_p.h"
 #include "statistics/statrecords_p.h"
 
 namespace {
@@ -53,17 +54,14 @@ AddEventCmd::AddEventCmd(const QList<RefillStatData> &refills) : m_eventType(Ref
 
 AddEventCmd::AddEventCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value)
 {
-    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(value, 0);
-    if (!request || request->getType() != XmlRpc::XmlRpcValue::TypeStruct)
-        quv::throwRefusal(noStruct, Q_FUNC_INFO);
-    if (!DecodeXmlRpcValue(*request, QLatin1String(eventType_TAG), m_eventType) || !isEventType(m_eventType))
+    const XmlRpc::XmlRpcValue &request = quv::structArgument(value, noStruct, Q_FUNC_INFO);
+    if (!DecodeXmlRpcValue(request, QLatin1String(eventType_TAG), m_eventType) || !isEventType(m_eventType))
         quv::throwRefusal(noType, Q_FUNC_INFO);
-    const XmlRpc::XmlRpcValue *records = FindXmlRpcMember(*request, statEvents_TAG);
-    if (!records || records->getType() != XmlRpc::XmlRpcValue::TypeArray)
-        quv::throwRefusal(noArray, Q_FUNC_INFO);
+    const XmlRpc::XmlRpcValue &records =
+        quv::arrayMember(request, statEvents_TAG, noArray, noArray, Q_FUNC_INFO);
     const quv::Decoded decoded = m_eventType == Refills
-                                     ? quv::readObjects<RefillStatData>(*records, &m_refills)
-                                     : quv::readObjects<EventStatData>(*records, &m_events);
+                                     ? quv::readObjects<RefillStatData>(records, &m_refills)
+                                     : quv::readObjects<EventStatData>(records, &m_events);
     if (decoded != quv::Decoded::Good)
         quv::throwRefusal(badRecords, Q_FUNC_INFO);
 }

@@ -2,6 +2,7 @@
 #include "statistics/addstatserrorscmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 
 namespace {
 
@@ -12,12 +13,8 @@ constexpr quv::Refusal noneInList = {"DE02897", noErrors};
 /** The array of errors. */
 const XmlRpc::XmlRpcValue &errorsIn(const XmlRpc::XmlRpcValue &arguments, const char *function)
 {
-    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(arguments, 0);
-    const XmlRpc::XmlRpcValue *errors =
-        request ? FindXmlRpcMember(*request, AddStatsErrorsCmd::errorList_TAG) : nullptr;
-    if (!errors || errors->getType() != XmlRpc::XmlRpcValue::TypeArray)
-        quv::throwRefusal(noneInValue, function);
-    return *errors;
+    const XmlRpc::XmlRpcValue &request = quv::structArgument(arguments, noneInValue, function);
+    return quv::arrayMember(request, AddStatsErrorsCmd::errorList_TAG, noneInValue, noneInValue, function);
 }
 
 FW_ErrorList errorsIn(const QVariant &variant, const char *function)

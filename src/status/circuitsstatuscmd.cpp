@@ -2,6 +2,7 @@
 #include "status/circuitsstatuscmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "status/circuitsstatusanswer.h"
 #include "status/dispenserstatuscmd.h"
 
@@ -32,11 +33,10 @@ QList<int> positionsOf(const XmlRpcValue &argument, const char *function)
         return {position};
     if (argument.getType() != XmlRpcValue::TypeStruct)
         quv::throwRefusal(badForm, function);
-    const XmlRpcValue *array = FindXmlRpcMember(argument, CircuitsStatusCmd::CIRCUIT_POSITIONS);
-    if (!array || array->getType() != XmlRpcValue::TypeArray)
-        quv::throwRefusal(noPositions, function);
+    const XmlRpcValue &array =
+        quv::arrayMember(argument, CircuitsStatusCmd::CIRCUIT_POSITIONS, noPositions, noPositions, function);
     QList<int> positions;
-    if (!DecodeXmlRpcValue(*array, positions))
+    if (!DecodeXmlRpcValue(array, positions))
         quv::throwRefusal(badPosition, function);
     return positions;
 }
