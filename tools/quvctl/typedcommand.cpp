@@ -3,35 +3,24 @@
 
 #include "commandexample.h"
 #include "commandline.h"
+#include "commandreference.h"
 #include "excerpt.h"
 #include "operations.h"
 #include "replies.h"
 #include "words.h"
 
-#include "base/confprotocommand.h"
+#include "base/protocommand.h"
 #include "base/requestarguments_p.h"
-#include "base/scaleprotocommand.h"
-#include "base/serialprotocommand.h"
 #include "catalogue/commandfacts.h"
 
 #include <QuvFramework/fw_machine.h>
 #include <QuvFramework/fw_xmlrpc.h>
-
-#include <typeinfo>
 
 namespace quv {
 
 namespace {
 
 using XmlRpc::XmlRpcValue;
-
-/// Whether a command has no class of its own: it sends no arguments.
-bool isPlain(const ProtoCommand &command)
-{
-    const std::type_info &type = typeid(command);
-    return type == typeid(SerialProtoCommand) || type == typeid(ConfProtoCommand) ||
-           type == typeid(ScaleProtoCommand);
-}
 
 /// What a user typed, and all that comes of it, each made once.
 struct Typed
@@ -156,7 +145,7 @@ QString argumentsInWords(int count)
     return count == 1 ? QStringLiteral("1 argument") : QStringLiteral("%1 arguments").arg(count);
 }
 
-QString whyLost(const ProtoCommand &command, int given, int lost)
+QString whyLost(const CommandFacts &command, int given, int lost)
 {
     if (!isPlain(command) && lost == given)
         return QStringLiteral("would be sent without arguments");
@@ -214,7 +203,7 @@ Typed readTyped(const CommandLine &line, nlohmann::json request)
     if (facts.tellsArguments && lost.size() < words.size() && words.size() <= facts.arguments.size())
         throw UsageError(QStringLiteral("%1 would not send \"%2\" as it is given")
                              .arg(name, excerpt(lost.join(QLatin1Char(' ')))));
-    const QString why = whyLost(*typed.command, words.size(), lost.size());
+    const QString why = whyLost(facts, words.size(), lost.size());
     throw UsageError(
         QStringLiteral("%1 %2; \"%3\" would be lost").arg(name, why, excerpt(lost.join(QLatin1Char(' ')))));
 }
