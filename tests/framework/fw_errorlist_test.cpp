@@ -310,13 +310,14 @@ TEST(FW_ErrorList, appendsADecodedError)
 
 TEST(FW_ErrorList, travelsInAVariant)
 {
-    const QVariant variant = QVariant::fromValue(listOfAllKinds());
+    const FW_ErrorList errors = listOfAllKinds(); // made once, since it tells the time
+    const QVariant variant = QVariant::fromValue(errors);
     EXPECT_STREQ(variant.typeName(), "FW_ErrorList");
     EXPECT_EQ(QMetaType::type("FW_ErrorList"), qMetaTypeId<FW_ErrorList>());
-    EXPECT_TRUE(variant == QVariant::fromValue(listOfAllKinds()));
+    EXPECT_TRUE(variant == QVariant::fromValue(errors));
     EXPECT_FALSE(variant == QVariant::fromValue(FW_ErrorList()));
     EXPECT_EQ(variant.value<QVariantList>().size(), 3);
-    EXPECT_TRUE(SameXmlRpcValue(EncodeXmlRpcVariant(variant), listOfAllKinds().toXmlRpcValue()));
+    EXPECT_TRUE(SameXmlRpcValue(EncodeXmlRpcVariant(variant), errors.toXmlRpcValue()));
 }
 
 TEST(FW_ErrorList, staysAsItWasWhenAnErrorCannotBeDecoded)
