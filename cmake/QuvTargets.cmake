@@ -34,6 +34,31 @@ function(quv_precompile_headers target)
     endif()
 endfunction()
 
+# Compiles the sources of a target several at a time, but for those in ALONE: half of the work of one by itself are templates that
+# headers make for each anew.
+function(quv_join_sources target)
+    cmake_parse_arguments(ARG "" "" "ALONE" ${ARGN})
+    if(NOT QUVPROTOCOL_JOIN_SOURCES)
+        return()
+    endif()
+    find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
+    get_target_property(sources ${target} SOURCES)
+    list(REMOVE_ITEM sources ${ARG_ALONE})
+    list(TRANSFORM sources PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ REGEX "^[^/$]")
+    execute_process(
+        COMMAND ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/cmake/group_sources.py ${sources}
+        OUTPUT_VARIABLE groups OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    string(REPLACE ";" "|" groups "${groups}")
+    string(REPLACE "\n" ";" groups "${groups}")
+    foreach(line IN LISTS groups)
+        string(REPLACE "|" ";" line "${line}")
+        list(GET line 0 source)
+        list(GET line 1 group)
+        set_source_files_properties(${source} TARGET_DIRECTORY ${target} PROPERTIES UNITY_GROUP ${group})
+    endforeach()
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+endfunction()
+
 # Below version 1.0 each minor version may break what was built against another one, so that it is a part of the soname.
 function(quv_version_library target)
     set(soversion ${PROJECT_VERSION_MAJOR})

@@ -17,8 +17,6 @@ namespace quv {
 
 namespace {
 
-using nlohmann::json;
-
 /// The arguments of one command, as they are given one by one.
 class ArgumentPlaces
 {
@@ -58,7 +56,7 @@ public:
 private:
     struct Given
     {
-        json value;
+        nlohmann::json value;
         QString word;
     };
 
@@ -105,7 +103,7 @@ private:
         m_byName = true;
     }
 
-    json defaultAt(int place) const
+    nlohmann::json defaultAt(int place) const
     {
         if (!m_facts.arguments[place].optional)
             refuseMissing(place);
@@ -125,13 +123,13 @@ private:
 
 } // namespace
 
-json argumentFromWord(const QString &word)
+nlohmann::json argumentFromWord(const QString &word)
 {
     // who begins like this means JSON, and wants to hear of a mistake
     static const QRegularExpression start(
         QStringLiteral(R"(^([\[{"]|-?(0|[1-9]\d*)(\.\d+)?([eE][+-]?\d+)?$))"));
     try {
-        json value = parseJson(word.toStdString());
+        nlohmann::json value = parseJson(word.toStdString());
         toXmlRpcValue(value); // which not all of JSON can become
         return value;
     } catch (const JsonError &error) {
