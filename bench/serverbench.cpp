@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "driver.h"
+#include "firmware/simulatedfirmware.h"
 #include "machines.h"
-#include "simulatedfirmware.h"
+#include "requests/driver.h"
 #include "xmlrpcserver.h"
 
 #include <boost/asio/io_context.hpp>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "configurationrow.h"
+#include "firmware/configurationrow.h"
 
 #include <gtest/gtest.h>
 

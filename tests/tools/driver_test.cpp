@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "driver.h"
+#include "requests/driver.h"
 
 #include "drivercalls.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "driver.h"
-#include "simulatedfirmware.h"
+#include "firmware/simulatedfirmware.h"
+#include "requests/driver.h"
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "firmwarestate.h"
+#include "store/firmwarestate.h"
 
 #include <gtest/gtest.h>
 

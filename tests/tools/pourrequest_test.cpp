@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "pourrequest.h"
+#include "firmware/pourrequest.h"
 
 #include <gtest/gtest.h>
 

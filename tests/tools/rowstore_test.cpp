@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "rowstore.h"
+#include "firmware/rowstore.h"
 
 #include "pouringmachine.h"
 

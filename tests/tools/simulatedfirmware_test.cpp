@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "simulatedfirmware.h"
+#include "firmware/simulatedfirmware.h"
 
 #include "pouringmachine.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "statusreplies.h"
+#include "requests/statusreplies.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "refusal.h"
-#include "tickets.h"
+#include "requests/refusal.h"
+#include "requests/tickets.h"
 
 #include "base/xmlrpcanswer.h"
 

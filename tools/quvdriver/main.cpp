@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "driver.h"
-#include "machineconfiguration.h"
-#include "simulatedfirmware.h"
+#include "firmware/simulatedfirmware.h"
+#include "procedures/machineconfiguration.h"
+#include "requests/driver.h"
 
 #include "callthreads.h"
 #include "httpaccess.h"

@@ -3,8 +3,8 @@
 
 #include "excerpt.h"
 #include "jsonvalue.h"
-#include "refusal.h"
-#include "request.h"
+#include "requests/refusal.h"
+#include "requests/request.h"
 #include "unseencharacters.h"
 
 #include "base/xmlrpcanswer.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "firmware.h"
+#include "firmware/firmware.h"
 
 #include "xmlrpccodec.h"
 

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "firmware/pour.h"
+
+#include "firmware/wiredigits.h"
+
+#include <QtCore/QHash>
+
+#include <algorithm>
+
+namespace quv {
+Pour::Pour(int criterion, const std::vector<CircuitPour> &circuits, int parallelism, qint64 begin)
+    : m_criterion(criterion),
+      m_end(double(begin))
+{
+    const int places = std::clamp(parallelism, 1, std::max(static_cast<int>(circuits.size()), 1));
+    std::vector<double> freeFrom(static_cast<std::size_t>(places), double(begin));
+    QHash<int, double> queueFreeFrom;
+    for (const CircuitPour &circuit : circuits) {
+        double &place = *std::min_element(freeFrom.begin(), freeFrom.end());
+        if (circuit.isQueued)
+            place = std::max(place, queueFreeFrom.value(circuit.queue, place));
+        m_courses.push_back({circuit, place + circuit.approach});
+        place += circuit.approach + circuit.duration;
+        if (circuit.isQueued)
+            queueFreeFrom[circuit.queue] = place;
+        m_end = std::max(m_end, place);
+    }
+}
+
+qint64 Pour::Course::pouredBy(double now) const
+{
+    const qint64 limit = std::min(circuit.total, circuit.available);
+    if (now >= begin + circuit.duration)
+        return limit;
+    if (now <= begin)
+        return 0;
+    return std::min(limit, static_cast<qint64>(double(circuit.total) * ((now - begin) / circuit.duration)));
+}
+
+QList<int> Pour::report(qint64 now) const
+{
+    QList<int> numbers{m_criterion, static_cast<int>(m_courses.size())};
+    for (const Course &course : m_courses) {
+        numbers.append(course.circuit.position);
+        numbers.append(course.circuit.queue);
+        appendWireNumber(numbers, course.circuit.total);
+        appendWireNumber(numbers, course.pouredBy(double(now)));
+    }
+    return numbers;
+}
+
+} // namespace quv

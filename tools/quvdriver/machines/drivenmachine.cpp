@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "machines/drivenmachine.h"
+
+#include <QuvFramework/fw_turntable.h>
+
+#include <utility>
+
+namespace quv {
+namespace {
+
+using Lock = std::lock_guard<std::mutex>;
+
+int familyOf(const FW_Machine &machine)
+{
+    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(&machine);
+    return dispenser ? dispenser->commandFamily() : FW_Dispenser::CommandFamily1;
+}
+
+int firstTablePosition(const FW_Machine &machine)
+{
+    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(&machine);
+    const FW_Device *device = dispenser ? dispenser->getDevice(FW_Device::Turntable) : nullptr;
+    const auto *table = dynamic_cast<const FW_Turntable *>(device);
+    return table ? table->positions().value(0) : 0;
+}
+
+} // namespace
+
+DrivenMachine::DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware)
+    : m_type(machine->machineType()),
+      m_family(familyOf(*machine)),
+      m_speed(firmware->speed()),
+      m_firmware(std::move(firmware)),
+      m_machine(std::move(machine)),
+      m_tablePosition(firstTablePosition(*m_machine))
+{}
+
+FirmwareReply DrivenMachine::exchange(const QString &code, int module, const QList<int> &parameters)
+{
+    const Lock lock(m_exchange);
+    return m_firmware->execute(code, module, parameters);
+}
+
+void DrivenMachine::canisterFilled(int canisterID, double quantity)
+{
+    const Lock lock(m_exchange);
+    m_firmware->canisterFilled(canisterID, quantity);
+}
+
+std::unique_ptr<FW_Machine> DrivenMachine::copy() const
+{
+    const Lock lock(m_state);
+    return std::unique_ptr<FW_Machine>(m_machine->clone());
+}
+
+void DrivenMachine::change(const std::function<void(FW_Dispenser &)> &changes)
+{
+    const Lock lock(m_state);
+    if (auto *dispenser = dynamic_cast<FW_Dispenser *>(m_machine.get()))
+        changes(*dispenser);
+}
+
+void DrivenMachine::rowWritten(const RowKey &key)
+{
+    const Lock lock(m_state);
+    m_writtenRows.insert(key);
+}
+
+RowKeys DrivenMachine::takeWrittenRows()
+{
+    const Lock lock(m_state);
+    return std::exchange(m_writtenRows, {});
+}
+
+void DrivenMachine::configure(const std::function<void(FW_Machine &)> &changes)
+{
+    const Lock lock(m_state);
+    std::unique_ptr<FW_Machine> changed(m_machine->clone());
+    changes(*changed);
+    m_machine = std::move(changed);
+}
+
+int DrivenMachine::tablePosition() const
+{
+    const Lock lock(m_state);
+    return m_tablePosition;
+}
+
+void DrivenMachine::setTablePosition(int position)
+{
+    const Lock lock(m_state);
+    m_tablePosition = position;
+}
+
+std::shared_ptr<void> DrivenMachine::claimPour()
+{
+    const Lock lock(m_state);
+    if (!m_claim.expired())
+        return nullptr;
+    auto claim = std::make_shared<int>(0);
+    m_claim = claim;
+    m_pour = {};
+    return claim;
+}
+
+void DrivenMachine::setRunningPour(const std::shared_ptr<void> &claim, const RunningPour &pour)
+{
+    const Lock lock(m_state);
+    if (m_claim.lock() == claim)
+        m_pour = pour;
+}
+
+std::unique_ptr<RunningPour> DrivenMachine::runningPour() const
+{
+    const Lock lock(m_state);
+    return m_claim.expired() || m_pour.command.isEmpty() ? nullptr : std::make_unique<RunningPour>(m_pour);
+}
+
+} // namespace quv

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "firmware/firmware.h"
+#include "firmware/rowstore.h"
+#include "requests/progress.h"
+
+#include <QuvFramework/formula.h>
+#include <QuvFramework/fw_dispenser.h>
+
+#include <functional>
+#include <memory>
+#include <mutex>
+
+namespace quv {
+
+/// A pour that a machine is at.
+struct RunningPour
+{
+    QString command{};
+    Progress progress{};
+    int channel = 1;   ///< the head
+    Formula formula{}; ///< as the client gave it; empty for a command without one
+};
+
+/**
+ * A machine that the driver owns: what is known of it, and the way to its firmware. Any number of threads may use it.
+ */
+class DrivenMachine
+{
+public:
+    DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware);
+
+    SerialDeviceType type() const { return m_type; }
+    int family() const { return m_family; } ///< mixers speak the codes of family 1
+    double speed() const { return m_speed; }
+
+    /// One exchange with the firmware; nobody else has one meanwhile. \throws what Firmware::execute throws
+    FirmwareReply exchange(const QString &code, int module, const QList<int> &parameters);
+    /// Tells the firmware's machine; see Firmware.
+    void canisterFilled(int canisterID, double quantity);
+
+    /// The machine as it is now. Commands get copies, since it changes with every pour.
+    std::unique_ptr<FW_Machine> copy() const;
+    /// Changes the machine's dispenser while nobody copies it; does nothing on a mixer.
+    void change(const std::function<void(FW_Dispenser &)> &changes);
+
+    /// Notes a row of the configuration that was written to the firmware.
+    void rowWritten(const RowKey &key);
+    /// Those noted since the last call.
+    RowKeys takeWrittenRows();
+    /// Changes the machine as a whole; when \a changes throws, it stays as it is.
+    void configure(const std::function<void(FW_Machine &)> &changes);
+
+    /// The circuit at the dosing point of a machine with a turntable: the table's first, later the one poured last.
+    int tablePosition() const;
+    void setTablePosition(int position);
+
+    /// Takes the right to pour, which is the owner's until the result is gone; null while another one has it.
+    std::shared_ptr<void> claimPour();
+    /// Tells everybody what is being poured, for as long as the claim lasts.
+    void setRunningPour(const std::shared_ptr<void> &claim, const RunningPour &pour);
+    /// Null when nothing is.
+    std::unique_ptr<RunningPour> runningPour() const;
+
+private:
+    const SerialDeviceType m_type;
+    const int m_family;
+    const double m_speed;
+
+    std::mutex m_exchange{}; ///< held for one exchange, never for a whole process
+    std::unique_ptr<Firmware> m_firmware{};
+
+    mutable std::mutex m_state{}; ///< guards what follows
+    std::unique_ptr<FW_Machine> m_machine{};
+    int m_tablePosition = 0;
+    std::weak_ptr<void> m_claim{};
+    RunningPour m_pour{};
+    RowKeys m_writtenRows{};
+};
+
+} // namespace quv

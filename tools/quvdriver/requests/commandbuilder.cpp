@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "requests/commandbuilder.h"
+
+#include "machines/drivenmachine.h"
+#include "requests/amounts.h"
+#include "requests/lowlevels.h"
+#include "requests/refusal.h"
+
+#include "base/getcmdestimatedexectimecmd.h"
+#include "catalogue/protocommandlist.h"
+#include "dispensing/turntablepurgeformulacmd.h"
+#include "dispensing/turntabletintcmd.h"
+
+#include <QuvFramework/fw_exception.h>
+#include <QuvFramework/fw_xmlrpc.h>
+
+#include <cmath>
+
+namespace quv {
+namespace {
+
+using Catalogue = ProtoCommandList;
+
+bool isNamed(const QString &name, Catalogue::CommandListValue value)
+{
+    return name == Catalogue::cmdStr(value);
+}
+
+std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcValue arguments,
+                                          const DrivenMachine *machine)
+{
+    if (isNamed(name, Catalogue::TINT2)) {
+        auto command = makeCommand(Catalogue::cmdStr(Catalogue::TINT), arguments, machine);
+        command->setCommand(name);
+        return command;
+    }
+    const std::unique_ptr<FW_Machine> copy = machine ? machine->copy() : nullptr;
+    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(copy.get());
+    if (dispenser && dispenser->acceptCommands(FW_Device::Turntable)) {
+        if (isNamed(name, Catalogue::TINT))
+            return std::make_unique<TurntableTintCmd>(arguments, machine->tablePosition(), dispenser);
+        if (isNamed(name, Catalogue::PURGE))
+            return std::make_unique<TurntablePurgeFormulaCmd>(arguments, machine->tablePosition(), dispenser);
+    }
+    return std::unique_ptr<ProtoCommand>(Catalogue::getProtoCommand(name, arguments, copy.get()));
+}
+
+/// The canisters that would fall too low by a pour, or by that of which the time is asked for.
+FW_ErrorList lowLevelsOf(const QString &name, const XmlRpc::XmlRpcValue &arguments,
+                         const DrivenMachine *machine)
+{
+    if (Catalogue::erogationCommand(name))
+        return lowLevels(arguments, machine);
+    if (!isNamed(name, Catalogue::GET_CMD_EST_EXEC_TIME))
+        return {};
+    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(arguments, 0);
+    const XmlRpc::XmlRpcValue *asked =
+        request ? FindXmlRpcMember(*request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS) : nullptr;
+    QString pour;
+    return asked && DecodeXmlRpcValue(*asked, 0, pour) && Catalogue::erogationCommand(pour)
+               ? lowLevels(*asked, machine)
+               : FW_ErrorList();
+}
+
+} // namespace
+
+std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
+                                           const DrivenMachine *machine)
+{
+    try {
+        auto command = makeCommand(name, arguments, machine);
+        requirePourableAmounts(*command);
+        return command;
+    } catch (const FW_Exception &error) {
+        const FW_ErrorList canisters = lowLevelsOf(name, arguments, machine);
+        if (canisters.isEmpty())
+            throw;
+        FW_ErrorList errors;
+        errors.append(error);
+        errors.append(canisters);
+        throw CallRefusal(InvalidRequest, errors);
+    }
+}
+
+qint64 estimatedTime(const ProtoCommand &command, const DrivenMachine *machine)
+{
+    const std::unique_ptr<FW_Machine> copy = machine ? machine->copy() : nullptr;
+    const qint64 time = command.getCmdEstimatedExecutionTime(copy.get());
+    return machine && time > 0 ? std::llround(double(time) / machine->speed()) : time;
+}
+
+} // namespace quv
