@@ -6,14 +6,14 @@
 namespace quv {
 namespace {
 
-struct Reason
+struct MaskBit
 {
     int mask; ///< the first or the second
     unsigned bit;
     const char *text;
 };
 
-constexpr Reason reasons[] = {
+constexpr MaskBit reasons[] = {
     {1, 0, "a field is out of range"},
     {1, 1, "no end character"},
     {1, 2, "bad checksum"},
@@ -27,7 +27,7 @@ constexpr Reason reasons[] = {
     {2, 4, "wrong working mode"},
 };
 
-bool isSet(const FirmwareReply &refusal, const Reason &reason)
+bool isSet(const FirmwareReply &refusal, const MaskBit &reason)
 {
     return ((refusal.tokens.value(reason.mask).toUInt(nullptr, 16) >> reason.bit) & 1U) != 0;
 }
@@ -36,14 +36,14 @@ bool isSet(const FirmwareReply &refusal, const Reason &reason)
 
 bool isUnknownCode(const FirmwareReply &refusal)
 {
-    constexpr Reason unknownCode = reasons[3];
+    constexpr MaskBit unknownCode = reasons[3];
     return isSet(refusal, unknownCode);
 }
 
 QString reasonsInWords(const FirmwareReply &refusal)
 {
     QStringList words;
-    for (const Reason &reason : reasons)
+    for (const MaskBit &reason : reasons)
         if (isSet(refusal, reason))
             words.append(QLatin1String(reason.text));
     if (words.isEmpty())

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "firmware/parts/dosing.h"
+
+#include "firmware/wirereply.h"
+
+#include <algorithm>
+
+namespace quv {
+namespace {
+
+constexpr int StrokesCriterion = 3;  // of a tint's code: the amounts are strokes
+constexpr int UnqueuedCriterion = 1; // all circuits as they come, whatever their queues
+constexpr int PurgeMark = 64;
+
+/// Milliseconds of so many steps.
+double motorTime(const FW_DosingMotor &motor, qint64 steps, int turnsPerMinute)
+{
+    constexpr double MillisecondsPerMinute = 60000;
+    return double(steps) * MillisecondsPerMinute / (double(turnsPerMinute) * std::max(motor.resolution(), 1));
+}
+
+} // namespace
+
+Dosing::Dosing(SimulatedMachine &machine) : m_machine(machine)
+{
+    if (const FW_Turntable *table = machine.turntable())
+        m_tablePosition = table->positions().value(0);
+}
+
+std::vector<FirmwareCode> Dosing::codes()
+{
+    using Numbers = QList<int>;
+    return {
+        {QStringLiteral("0017"), {}, [this](int, const Numbers &numbers) { return tint(numbers); }, true},
+        {QStringLiteral("0023"),
+         {},
+         [this](int, const Numbers &numbers) { return strokes(numbers, Movement::IdleStrokes); },
+         true},
+        {QStringLiteral("0024"),
+         {},
+         [this](int, const Numbers &numbers) { return strokes(numbers, Movement::PouredStrokes); },
+         true},
+        {QStringLiteral("0035"),
+         {},
+         [this](int, const Numbers &numbers) {
+             return begin(readPourRequest(PourLayout::Tint2, numbers), Movement::Steps);
+         },
+         true},
+        {QStringLiteral("0074"),
+         {},
+         [this](int, const Numbers &) { return replied(m_pour.report(m_machine.now())); }},
+    };
+}
+
+void Dosing::tellStatus(StatusWords &status, int /*module*/) const
+{
+    status.words.set(1, 2, !atWork().isEmpty());
+}
+
+ProcessSet Dosing::atWork() const
+{
+    return m_pour.isRunning(m_machine.now()) ? ProcessSet{Process::Pouring} : ProcessSet();
+}
+
+FirmwareReply Dosing::tint(const QList<int> &parameters)
+{
+    const auto request = readPourRequest(PourLayout::Tint, parameters);
+    const bool areStrokes = request && request->criterion == StrokesCriterion;
+    return begin(request, areStrokes ? Movement::StrokesOrPack : Movement::Steps);
+}
+
+FirmwareReply Dosing::strokes(const QList<int> &parameters, Movement movement)
+{
+    const auto isThere = [this](int position) { return m_machine.circuitAt(position) != nullptr; };
+    return begin(readPourRequest(PourLayout::Strokes, parameters, isThere), movement);
+}
+
+FirmwareReply Dosing::begin(const std::optional<PourRequest> &request, Movement movement)
+{
+    if (!m_machine.mayBegin(Process::Pouring))
+        return refused(Reason::NotAvailable);
+    if (!request)
+        return refused(Reason::WrongParameters);
+    for (const PourPart &part : request->parts) {
+        const FW_Circuit *circuit = m_machine.circuitAt(part.position);
+        if (!circuit)
+            return refused(Reason::WrongModule);
+        if (pours(part, movement) && movement != Movement::Steps &&
+            circuit->dosingMotor().stepsPerStroke() <= 0)
+            return refused(Reason::WrongParameters);
+    }
+    std::vector<CircuitPour> circuits;
+    for (const PourPart &part : request->parts) {
+        circuits.push_back(plan(part, movement));
+        circuits.back().isQueued = part.queue != 0 && request->criterion != UnqueuedCriterion;
+    }
+    const int parallelism = m_machine.turntable() ? 1 : m_machine.dispenser().tintingParallelism();
+    m_pour =
+        Pour(request->criterion | (request->isPurge ? PurgeMark : 0), circuits, parallelism, m_machine.now());
+    return begun();
+}
+
+/// A tint's code with strokes is a pack or an unpack when the number is one of these two movements.
+bool Dosing::pours(const PourPart &part, Movement movement)
+{
+    return movement != Movement::IdleStrokes && !(movement == Movement::StrokesOrPack && part.amount <= 1);
+}
+
+/// What the circuit will do. It takes from the canister what it will pour.
+CircuitPour Dosing::plan(const PourPart &part, Movement movement)
+{
+    const FW_Circuit &circuit = *m_machine.circuitAt(part.position);
+    const bool isPoured = pours(part, movement);
+    qint64 steps = part.amount;
+    if (movement != Movement::Steps) // a pump goes to its packed position in one stroke
+        steps = std::max(part.amount, qint64(isPoured ? 0 : 1)) * circuit.dosingMotor().stepsPerStroke();
+    CircuitPour pour;
+    pour.position = part.position;
+    pour.queue = part.queue;
+    pour.total = isPoured ? steps : 0;
+    pour.available = m_machine.takeFromCanister(circuit, pour.total);
+    pour.approach = moveTable(part.position) / m_machine.speed();
+    pour.duration = motorTime(circuit.dosingMotor(), steps, part.speed) / m_machine.speed();
+    return pour;
+}
+
+/// Milliseconds until the circuit stands at the dosing point; 0 without a turntable.
+double Dosing::moveTable(int position)
+{
+    const FW_Turntable *table = m_machine.turntable();
+    if (!table)
+        return 0;
+    const int steps = table->distance(m_tablePosition, position);
+    m_tablePosition = position;
+    return double(steps) * table->stepTime();
+}
+
+} // namespace quv

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "firmware/simulatedmachine.h"
+
+namespace quv {
+
+/// The search for the origins of all that moves (code 0001).
+class Resetting final : public FirmwarePart
+{
+public:
+    explicit Resetting(SimulatedMachine &machine) : m_machine(machine), m_end(machine.now()) {}
+
+    std::vector<FirmwareCode> codes() override;
+    void tellStatus(StatusWords &status, int module) const override;
+    ProcessSet atWork() const override;
+
+private:
+    FirmwareReply begin();
+
+    SimulatedMachine &m_machine;
+    qint64 m_end = 0;
+};
+
+} // namespace quv

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <bitset>
+#include <initializer_list>
+
+namespace quv {
+
+/// What a machine can be at.
+enum class Process {
+    Resetting,
+    Finalising, ///< the configuration is being written
+    Pouring,
+    Stirring,
+    Recirculating,
+    Cleaning,
+    MovingShelf,
+    MovingTurntable,
+    MovingCap,
+    MovingStation, ///< the capping station
+    MovingPlates,  ///< of a mixer
+    Mixing,
+    UpdatingBoards,
+};
+
+/// Any number of processes.
+class ProcessSet
+{
+public:
+    ProcessSet() = default;
+    ProcessSet(std::initializer_list<Process> processes)
+    {
+        for (const Process process : processes)
+            m_bits.set(static_cast<std::size_t>(process));
+    }
+    static ProcessSet all()
+    {
+        ProcessSet set;
+        set.m_bits.set();
+        return set;
+    }
+
+    bool isEmpty() const { return m_bits.none(); }
+    bool has(Process process) const { return m_bits.test(static_cast<std::size_t>(process)); }
+    ProcessSet without(ProcessSet others) const
+    {
+        ProcessSet set = *this;
+        set.m_bits &= ~others.m_bits;
+        return set;
+    }
+
+private:
+    std::bitset<static_cast<std::size_t>(Process::UpdatingBoards) + 1> m_bits{};
+};
+
+} // namespace quv

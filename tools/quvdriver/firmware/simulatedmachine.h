@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "firmware/part.h"
+
+#include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_turntable.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QSet>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace quv {
+
+/// Something that a machine's firmware keeps in its buffer of errors.
+struct RaisedError
+{
+    enum class Kind { Hardware = 1, Configuration = 2 };
+
+    int code = 0;
+    int module = 0; ///< the address of the board; 0 for the machine's own
+    Kind kind = Kind::Hardware;
+    int value = 0; ///< 0 to 31, what the error is about
+};
+
+/// What is wrong with a machine, or has been done to it by a hand.
+struct MachineFaults
+{
+    bool emergencyPressed = false;
+    bool offlinePressed = false;
+    bool doorOpen = false;
+    bool canPresent = false;
+    QSet<int> blockedCircuits{}; ///< by position: their motors turn and nothing leaves the nozzle
+};
+
+/**
+ * What the parts of a simulated machine have in common: its clock, the machine that it is made of, what its canisters really hold,
+ * its errors and faults. It knows its parts, so that one that would begin something learns whether another is in its way.
+ */
+class SimulatedMachine
+{
+public:
+    /// Milliseconds that never go back, from any origin.
+    using Clock = std::function<qint64()>;
+
+    /// \a speed is above 0: how many times faster than real all goes on.
+    SimulatedMachine(const FW_Machine &machine, double speed, Clock clock);
+    SimulatedMachine(const SimulatedMachine &) = delete;
+    SimulatedMachine &operator=(const SimulatedMachine &) = delete;
+
+    void add(std::unique_ptr<FirmwarePart> part) { m_parts.push_back(std::move(part)); }
+    const std::vector<std::unique_ptr<FirmwarePart>> &parts() const { return m_parts; }
+
+    SerialDeviceType type() const { return m_type; }
+    qint64 now() const { return m_clock(); }
+    double speed() const { return m_speed; }
+    /// When something ends that begins now and takes so many milliseconds on a machine that is not simulated.
+    qint64 endOf(double milliseconds) const;
+
+    /// Without circuits for a mixer.
+    const FW_Dispenser &dispenser() const { return m_dispenser; }
+    FW_Dispenser &dispenser() { return m_dispenser; }
+    const FW_Turntable *turntable() const;
+    /// Null for one that there is not, or that is disabled.
+    const FW_Circuit *circuitAt(int position) const;
+
+    /// What all parts tell together, of the machine or of the circuit at the position \a module.
+    StatusWords status(int module) const;
+
+    /// Whether nothing that a part is at excludes it, and nobody has pressed a button against it.
+    bool mayBegin(Process process) const;
+
+    /// Takes what so many steps of the circuit pour from its canister, and gives the steps that it still held. What a circuit
+    /// without a calibration takes is known to nobody.
+    qint64 takeFromCanister(const FW_Circuit &circuit, qint64 steps);
+    /// Gives back what so many steps would have poured.
+    void putIntoCanister(const FW_Circuit &circuit, qint64 steps);
+    double content(int canisterID) const { return m_contents.value(canisterID); }
+    void setContent(int canisterID, double quantity) { m_contents[canisterID] = quantity; }
+
+    void raise(const RaisedError &error) { m_errors.append(error); }
+    const QList<RaisedError> &errors() const { return m_errors; }
+    void clearErrors() { m_errors.clear(); }
+
+    const MachineFaults &faults() const { return m_faults; }
+    MachineFaults &faults() { return m_faults; }
+
+private:
+    FW_Dispenser m_dispenser{};
+    const SerialDeviceType m_type;
+    const double m_speed;
+    const Clock m_clock;
+    QHash<int, double> m_contents{}; ///< by the canisters' IDs
+    QList<RaisedError> m_errors{};
+    MachineFaults m_faults{};
+    std::vector<std::unique_ptr<FirmwarePart>> m_parts{};
+};
+
+} // namespace quv
