@@ -145,12 +145,19 @@ void print(const QString &code, const Explanations &found)
 
 ExitStatus run(const CommandLine &line)
 {
-    const QString code = codeOf(line.words().first());
-    const Explanations found = explanationsOf(code);
-    if (line.isSet("json"))
-        printJson(inJson(code, found));
-    else
-        print(code, found);
+    QStringList codes;
+    for (const QString &word : line.words())
+        codes.append(codeOf(word));
+    for (int i = 0; i < codes.size(); ++i) {
+        const Explanations found = explanationsOf(codes.at(i));
+        if (line.isSet("json")) {
+            printJson(inJson(codes.at(i), found));
+            continue;
+        }
+        if (i > 0)
+            printLine(QString());
+        print(codes.at(i), found);
+    }
     return Done;
 }
 
@@ -158,15 +165,15 @@ ExitStatus run(const CommandLine &line)
 
 const Subcommand explainSubcommand = {
     "explain",
-    "CODE",
+    "CODE [CODE...]",
     "what a refusal's code means, and who refuses with it",
     "Shows the texts of a code such as DE00060 (or 60), and for each the class that refuses with it, the "
     "form\n"
     "in which it got what it refused, when it does, and where. An ellipsis stands for what only the refused\n"
     "thing itself tells.",
     1,
-    1,
-    {{"json", nullptr, "one JSON object"}},
+    -1,
+    {{"json", nullptr, "one JSON object a line, one a code"}},
     run};
 
 } // namespace quv
