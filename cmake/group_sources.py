@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """Says which sources of a target can be compiled joined, a line "path;group" for each. Usage: group_sources.py SOURCE...
 
-Up to eight of a folder are a group. Apart stay two sources that declare the same name in their unnamed namespaces, and one that
-uses another's class or sees other templates: a description that makes a class is known in the source of that class only. What is
-not recognised here is told by the compiler.
+Up to eight of a folder are a group. Apart stay two sources of which one has in its unnamed namespace a name that the other one
+speaks of, and one that uses another's class or sees other templates: a description that makes a class is known in the source of
+that class only. What is not recognised here is told by the compiler.
 """
 import functools
 import re
@@ -46,7 +46,7 @@ def own_names(text):
             inside = True
         elif line == "} // namespace":
             inside = False
-        elif inside and re.match(r"\w", line) and not SHARED.match(line):
+        elif inside and re.match(r"\w|\[\[", line) and not SHARED.match(line):
             before_body = re.split(r"=(?!=)", line, maxsplit=1)[0] + " ="
             names |= set(DECLARED.findall(before_body)) | set(re.findall(r"^(?:struct|class|enum|enum class) (\w+)", line))
     return names
@@ -57,15 +57,18 @@ class Group:
         self.folder = folder
         self.templates = templates
         self.names = set()
+        self.words = set()
         self.sources = set()
         self.used = set()
 
-    def takes(self, path, names, used):
+    def takes(self, path, names, words, used):
         room = self.folder == path.parent and self.templates == seen_templates(path) and len(self.sources) < MOST
-        return room and not self.names & names and not self.sources & used and path.stem not in self.used
+        strangers = not self.names & words and not names & self.words
+        return room and strangers and not self.sources & used and path.stem not in self.used
 
-    def add(self, path, names, used):
+    def add(self, path, names, words, used):
         self.names |= names
+        self.words |= words
         self.sources.add(path.stem)
         self.used |= used
 
@@ -75,13 +78,13 @@ def main(paths):
     for path in map(Path, paths):
         if path.suffix != ".cpp" or not path.exists():
             continue
-        names = own_names(path.read_text(encoding="utf-8"))
-        used = used_headers(path)
-        group = next((group for group in groups if group.takes(path, names, used)), None)
+        text = path.read_text(encoding="utf-8")
+        names, words, used = own_names(text), set(re.findall(r"\w+", text)), used_headers(path)
+        group = next((group for group in groups if group.takes(path, names, words, used)), None)
         if not group:
             group = Group(path.parent, seen_templates(path))
             groups.append(group)
-        group.add(path, names, used)
+        group.add(path, names, words, used)
         print(f"{path};{groups.index(group)}")
 
 
