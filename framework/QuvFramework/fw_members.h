@@ -29,6 +29,7 @@
 #include <functional>
 #include <limits>
 #include <optional>
+#include <type_traits>
 
 // What a machine holds, a line a member. This one description is what machine files, the structs of XML-RPC and comparison are made
 // of: each is an archive that runs it.
@@ -91,6 +92,27 @@ inline QString elementPath(const QString &list, int index)
 QUVFRAMEWORK_EXPORT QString mustBeInteger(Range range);
 QUVFRAMEWORK_EXPORT QString mustBeNumber(Range range);
 QUVFRAMEWORK_EXPORT QString mustBeTime();
+QUVFRAMEWORK_EXPORT QString mustBeText();
+QUVFRAMEWORK_EXPORT QString mustBeFlag();
+QUVFRAMEWORK_EXPORT QString mustBeArray();
+
+// By which archives tell how a member is read and written.
+template <class T>
+struct IsOptional : std::false_type
+{};
+template <class T>
+struct IsOptional<std::optional<T>> : std::true_type
+{};
+
+template <class T>
+struct IsList : std::false_type
+{};
+template <class T>
+struct IsList<QList<T>> : std::true_type
+{};
+template <class T>
+struct IsList<QVector<T>> : std::true_type
+{};
 
 /// How a machine tells that a canister has fallen to its reserve, FW_Dispenser::setReserveSensorTypeAndPolicyMask.
 struct ReserveSensor

@@ -50,4 +50,19 @@ QString mustBeTime()
     return QStringLiteral("must be a time, as \"30 min\", \"90 s\" or \"1500 ms\"");
 }
 
+QString mustBeText()
+{
+    return QStringLiteral("must be a text");
+}
+
+QString mustBeFlag()
+{
+    return QStringLiteral("must be true or false");
+}
+
+QString mustBeArray()
+{
+    return QStringLiteral("must be an array");
+}
+
 } // namespace quv

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -19,23 +18,6 @@ namespace quv {
 namespace {
 
 using XmlRpc::XmlRpcValue;
-
-template <class T>
-struct IsOptional : std::false_type
-{};
-template <class T>
-struct IsOptional<std::optional<T>> : std::true_type
-{};
-
-template <class T>
-struct IsList : std::false_type
-{};
-template <class T>
-struct IsList<QList<T>> : std::true_type
-{};
-template <class T>
-struct IsList<QVector<T>> : std::true_type
-{};
 
 /** What has a description of its own. */
 template <class T>
@@ -94,7 +76,7 @@ public:
         Writer writer(m_object, members);
         describeGroup(writer);
         if (members.valid()) // nor can an empty struct
-            std::swap(m_written[key], members);
+            m_written[key] = members;
     }
 
 private:
@@ -199,9 +181,9 @@ struct Place
 
     QString path() const
     {
-        const QString object = outer ? outer->path() : QString();
         if (!outer)
-            return object;
+            return {};
+        const QString object = outer->path();
         return key ? memberPath(object, QLatin1String(key)) : elementPath(object, index);
     }
 };
@@ -332,7 +314,7 @@ QString readText(const XmlRpcValue &value, const Place &place)
 {
     QString text;
     if (!DecodeXmlRpcValue(value, text))
-        refuse(place, QStringLiteral("must be a text"));
+        refuse(place, mustBeText());
     return text;
 }
 
@@ -340,7 +322,7 @@ bool readFlag(const XmlRpcValue &value, const Place &place)
 {
     bool flag = false;
     if (!DecodeXmlRpcValue(value, flag))
-        refuse(place, QStringLiteral("must be true or false"));
+        refuse(place, mustBeFlag());
     return flag;
 }
 
@@ -358,7 +340,7 @@ template <class List>
 List readList(const XmlRpcValue &value, const Place &place, Range range)
 {
     if (value.getType() != XmlRpcValue::TypeArray)
-        refuse(place, QStringLiteral("must be an array"));
+        refuse(place, mustBeArray());
     List list;
     list.reserve(value.size());
     using Element = typename List::value_type;

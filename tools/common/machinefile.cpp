@@ -28,23 +28,6 @@ using nlohmann::json;
 }
 
 template <class T>
-struct IsOptional : std::false_type
-{};
-template <class T>
-struct IsOptional<std::optional<T>> : std::true_type
-{};
-
-template <class T>
-struct IsList : std::false_type
-{};
-template <class T>
-struct IsList<QList<T>> : std::true_type
-{};
-template <class T>
-struct IsList<QVector<T>> : std::true_type
-{};
-
-template <class T>
 T readValue(const json &value, const QString &path, Range range);
 template <class T>
 OrderedJson writtenValue(const T &value);
@@ -213,14 +196,14 @@ MachineTime readTime(const json &value, const QString &path)
 QString readText(const json &value, const QString &path)
 {
     if (!value.is_string())
-        refuse(path, QStringLiteral("must be a text"));
+        refuse(path, mustBeText());
     return QString::fromStdString(value.get_ref<const std::string &>());
 }
 
 bool readFlag(const json &value, const QString &path)
 {
     if (!value.is_boolean())
-        refuse(path, QStringLiteral("must be true or false"));
+        refuse(path, mustBeFlag());
     return value.get<bool>();
 }
 
@@ -228,7 +211,7 @@ template <class List>
 List readList(const json &value, const QString &path, Range range)
 {
     if (!value.is_array())
-        refuse(path, QStringLiteral("must be an array"));
+        refuse(path, mustBeArray());
     List list;
     for (const json &element : value)
         list.append(readValue<typename List::value_type>(element, elementPath(path, list.size()), range));
