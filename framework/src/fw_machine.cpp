@@ -34,15 +34,16 @@ int FW_Machine::getMachineType(MachineModel model)
 
 MachineModel FW_Machine::getMachineModelFromXmlRpcValue(const XmlRpc::XmlRpcValue &value)
 {
-    int model = static_cast<int>(MachineModel::None);
+    if (const XmlRpc::XmlRpcValue *member = FindXmlRpcMember(value, "machine_model")) {
+        auto model = static_cast<int>(MachineModel::None);
+        DecodeXmlRpcValue(*member, model);
+        return static_cast<MachineModel>(model);
+    }
     QString type;
-    if (FindXmlRpcMember(value, "machine_model"))
-        DecodeXmlRpcValue(value, "machine_model", model);
-    else if (DecodeXmlRpcValue(value, "type", type) && type == QLatin1String("dispenser"))
+    DecodeXmlRpcValue(value, "type", type);
+    if (type == QLatin1String("dispenser"))
         return MachineModel::GenericDispenser;
-    else if (type == QLatin1String("mixer"))
-        return MachineModel::GenericMixer;
-    return static_cast<MachineModel>(model);
+    return type == QLatin1String("mixer") ? MachineModel::GenericMixer : MachineModel::None;
 }
 
 std::unique_ptr<FW_Machine> FW_Machine::fromXmlRpcValue(const XmlRpc::XmlRpcValue &value)

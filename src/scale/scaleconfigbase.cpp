@@ -27,9 +27,9 @@ bool isNone(const XmlRpcValue &scale)
 /** Null when the value says that there is none. */
 std::unique_ptr<FW_Scale> scaleOf(const XmlRpcValue &value, const char *function)
 {
-    const XmlRpcValue *scale = FindXmlRpcElement(value, 0);
-    if (scale && FindXmlRpcMember(*scale, ScaleConfigBase::scale_TAG))
-        scale = FindXmlRpcMember(*scale, ScaleConfigBase::scale_TAG);
+    const XmlRpcValue *argument = FindXmlRpcElement(value, 0);
+    const XmlRpcValue *member = argument ? FindXmlRpcMember(*argument, ScaleConfigBase::scale_TAG) : nullptr;
+    const XmlRpcValue *scale = member ? member : argument;
     if (scale && isNone(*scale))
         return nullptr;
     return std::make_unique<FW_Scale>(quv::decodedValue<FW_Scale>(scale, quv::noScale, function));
