@@ -7,20 +7,11 @@
 
 #include "base/protocommand.h"
 
+#include <QuvFramework/fw_machine.h>
+
 namespace quv {
 
 namespace {
-
-nlohmann::json requestOf(const CommandLine &line)
-{
-    nlohmann::json request = commandRequest(line);
-    request["op"] = "encode";
-    request["family"] = line.number("family", 1, 1, 2);
-    request["form"] =
-        line.choice("form", QStringLiteral("value"), {QStringLiteral("value"), QStringLiteral("list")})
-            .toStdString();
-    return request;
-}
 
 /// A text as it is, anything else as JSON.
 QString cell(const OrderedJson &value)
@@ -49,9 +40,13 @@ void print(const OrderedJson &reply)
 
 ExitStatus run(const CommandLine &line)
 {
-    const nlohmann::json request = requestOf(line);
-    typedCommand(line, request); // refuses what would be lost
-    const OrderedJson reply = runOperation(Request(request));
+    nlohmann::json request = commandRequest(line);
+    const int family = line.number("family", 1, 1, 2);
+    request["form"] =
+        line.choice("form", QStringLiteral("value"), {QStringLiteral("value"), QStringLiteral("list")})
+            .toStdString();
+    const TypedCommand typed = typedCommand(line, std::move(request)); // refuses what would be lost
+    const OrderedJson reply = encodedReply(*typed.command, typed.machine.get(), family);
     if (line.isSet("json"))
         printJson(reply);
     else

@@ -59,20 +59,7 @@ OrderedJson encode(const Request &request)
     const auto command = makeCommand(request, machine.get());
     if (request.has("as"))
         rename(*command, request.text("as"));
-    OrderedJson reply = success();
-    reply["class"] = className(*command);
-    reply["request"] = toJson(command->toXmlRpcValue(QString()));
-    reply["parameters"] = toJson(QVariant(command->parameters()));
-    if (const auto *serial = dynamic_cast<const SerialProtoCommand *>(command.get())) {
-        reply["code"] = toJson(ProtoCommandList::cmdCode(command->command(), family));
-        reply["module"] = serial->moduleID();
-        reply["serial"] = numbers(serial->serialParameters(family));
-    }
-    reply["estimated_ms"] = command->getCmdEstimatedExecutionTime(machine.get());
-    reply["command"] = toJson(command->commandString());
-    reply["action"] = toJson(command->actionString(false).m_translated);
-    reply["action_detailed"] = toJson(command->actionString(true).m_translated);
-    return reply;
+    return encodedReply(*command, machine.get(), family);
 }
 
 void addAnswer(OrderedJson &reply, const ProtoAnswer &answer)
@@ -199,6 +186,24 @@ std::unique_ptr<ProtoCommand> makeCommand(const Request &request)
 {
     const auto machine = machineOf(request);
     return makeCommand(request, machine.get());
+}
+
+OrderedJson encodedReply(const ProtoCommand &command, const FW_Machine *machine, int family)
+{
+    OrderedJson reply = success();
+    reply["class"] = className(command);
+    reply["request"] = toJson(command.toXmlRpcValue(QString()));
+    reply["parameters"] = toJson(QVariant(command.parameters()));
+    if (const auto *serial = dynamic_cast<const SerialProtoCommand *>(&command)) {
+        reply["code"] = toJson(ProtoCommandList::cmdCode(command.command(), family));
+        reply["module"] = serial->moduleID();
+        reply["serial"] = numbers(serial->serialParameters(family));
+    }
+    reply["estimated_ms"] = command.getCmdEstimatedExecutionTime(machine);
+    reply["command"] = toJson(command.commandString());
+    reply["action"] = toJson(command.actionString(false).m_translated);
+    reply["action_detailed"] = toJson(command.actionString(true).m_translated);
+    return reply;
 }
 
 std::unique_ptr<ProtoCommand> decodedCommand(const Request &request)

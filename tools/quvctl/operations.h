@@ -25,6 +25,9 @@ std::unique_ptr<ProtoCommand> makeCommand(const Request &request);
 /// The same for a machine that was read before.
 std::unique_ptr<ProtoCommand> makeCommand(const Request &request, const FW_Machine *machine);
 
+/// What a command sends, and to a firmware of \a family, and what people are told of it; \a machine is null for none.
+OrderedJson encodedReply(const ProtoCommand &command, const FW_Machine *machine, int family);
+
 /// The same, holding the answer that it made of "tokens". \throws as runOperation
 std::unique_ptr<ProtoCommand> decodedCommand(const Request &request);
 

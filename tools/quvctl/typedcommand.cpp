@@ -217,9 +217,10 @@ std::unique_ptr<ProtoCommand> calledCommand(const CommandLine &line)
     return std::move(typed.command);
 }
 
-std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request)
+TypedCommand typedCommand(const CommandLine &line, nlohmann::json request)
 {
-    return std::move(readTyped(line, request).command);
+    Typed typed = readTyped(line, std::move(request));
+    return {std::move(typed.machine), std::move(typed.command)};
 }
 
 } // namespace quv

@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class FW_Machine;
 class ProtoCommand;
 
 namespace quv {
@@ -29,11 +30,18 @@ auto withCommandName(const QString &name, Work work) -> decltype(work())
     }
 }
 
+/// A command, and the machine that it is for, null for none.
+struct TypedCommand
+{
+    std::unique_ptr<FW_Machine> machine;
+    std::unique_ptr<ProtoCommand> command;
+};
+
 /**
- * The command that \a request makes of the words that a user typed.
+ * What \a request makes of the words that a user typed.
  * \throws UsageError when its XML-RPC request would lack an argument that the user gave, and as makeCommand
  */
-std::unique_ptr<ProtoCommand> typedCommand(const CommandLine &line, const nlohmann::json &request);
+TypedCommand typedCommand(const CommandLine &line, nlohmann::json request);
 
 /**
  * The command that a user typed, to be sent.
