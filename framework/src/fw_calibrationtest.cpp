@@ -9,14 +9,8 @@ namespace {
 
 using XmlRpc::XmlRpcValue;
 
-bool registerTypes()
-{
-    qRegisterMetaType<QList<FW_CalibrationTest>>("QList<FW_CalibrationTest>");
-    QMetaType::registerEqualsComparator<QList<FW_CalibrationTest>>();
-    return RegisterTravellingType<FW_CalibrationTest>("FW_CalibrationTest");
-}
-
-const bool areRegistered = registerTypes();
+const bool areRegistered =
+    RegisterTravellingList<FW_CalibrationTest>("FW_CalibrationTest", "QList<FW_CalibrationTest>");
 
 template <class T>
 T required(const XmlRpcValue &value, const char *key)

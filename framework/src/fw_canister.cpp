@@ -6,7 +6,7 @@
 
 namespace {
 
-const bool isCanisterRegistered = RegisterTravellingType<FW_Canister>("FW_Canister");
+const bool isCanisterRegistered = RegisterTravellingList<FW_Canister>("FW_Canister", "QList<FW_Canister>");
 const bool isCanisterLevelSensorRegistered =
     RegisterTravellingType<FW_CanisterLevelSensor>("FW_CanisterLevelSensor");
 

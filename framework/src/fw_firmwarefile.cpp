@@ -15,14 +15,7 @@ constexpr int circuitBoard = 2;
 constexpr int circuitBoards = 200;
 constexpr int boardTypes = 15;
 
-bool registerTypes()
-{
-    qRegisterMetaType<FirmwareFiles>("FirmwareFiles");
-    QMetaType::registerEqualsComparator<FirmwareFiles>();
-    return RegisterTravellingType<FirmwareFile>("FirmwareFile");
-}
-
-const bool areRegistered = registerTypes();
+const bool areRegistered = RegisterTravellingList<FirmwareFile>("FirmwareFile", "FirmwareFiles");
 
 template <class T>
 T required(const XmlRpcValue &value, const char *key)

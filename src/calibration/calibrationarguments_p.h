@@ -10,29 +10,6 @@ namespace quv {
 
 // Over XML-RPC most arguments of these commands are the one member of a struct; in a list they stand for themselves.
 
-/** Throws \a absent when there is no such argument, member or type, and \a notMade for what cannot be made. */
-template <class T>
-T memberArgument(const XmlRpc::XmlRpcValue &arguments, int index, const char *key, const Refusal &absent,
-                 const Refusal &notMade, const char *function)
-{
-    return madeOrRefused(notMade, function, [&] {
-        T field{};
-        const XmlRpc::XmlRpcValue *argument = FindXmlRpcElement(arguments, index);
-        const XmlRpc::XmlRpcValue *member = argument ? FindXmlRpcMember(*argument, key) : nullptr;
-        const Decoded decoded = member ? fieldType<T>().read(*member, &field) : Decoded::OtherType;
-        if (decoded != Decoded::Good)
-            throwRefusal(decoded == Decoded::BadElement ? notMade : absent, function);
-        return field;
-    });
-}
-
-template <class T>
-T memberArgument(const XmlRpc::XmlRpcValue &arguments, int index, const char *key, const Refusal &refusal,
-                 const char *function)
-{
-    return memberArgument<T>(arguments, index, key, refusal, refusal, function);
-}
-
 /** Makes \a argument the struct. */
 template <class T>
 void writeMemberArgument(XmlRpc::XmlRpcValue &argument, const char *key, const T &field)

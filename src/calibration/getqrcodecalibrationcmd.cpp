@@ -2,6 +2,7 @@
 #include "calibration/getqrcodecalibrationcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "calibration/calibrationarguments_p.h"
 #include "calibration/getqrcodecalibrationanswer.h"
 
@@ -47,7 +48,7 @@ GetQRCodeCalibrationCmd::GetQRCodeCalibrationCmd(const XmlRpc::XmlRpcValue &valu
 {
     if (value.size() > 0)
         m_density = static_cast<QRCodeDensity>(
-            quv::memberArgument<int>(value, 0, QRCodeDensity_TAG, noDensity, Q_FUNC_INFO));
+            quv::memberArgument<int>(value, 0, QRCodeDensity_TAG, noDensity, noDensity, Q_FUNC_INFO));
 }
 
 GetQRCodeCalibrationCmd::GetQRCodeCalibrationCmd(QList<QVariant> list) : DescribedCommand(list)

@@ -2,6 +2,7 @@
 #include "calibration/setcalibrationlistcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "calibration/calibrationarguments_p.h"
 #include "calibration/calibrationdata_p.h"
 

@@ -3,6 +3,7 @@
 
 #include "base/describedcommand_p.h"
 #include "base/objectfield_p.h"
+#include "base/requeststruct_p.h"
 #include "calibration/calibrationarguments_p.h"
 
 #include <utility>

@@ -2,6 +2,7 @@
 #include "calibration/setqrcodecalibrationcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "calibration/calibrationarguments_p.h"
 
 namespace {
@@ -33,7 +34,8 @@ SetQRCodeCalibrationCmd::SetQRCodeCalibrationCmd(const QString &calibration) : m
 
 SetQRCodeCalibrationCmd::SetQRCodeCalibrationCmd(const XmlRpc::XmlRpcValue &value)
     : DescribedCommand(value),
-      m_calibration(quv::memberArgument<QString>(value, 0, QRCodeCalibration_TAG, noText, Q_FUNC_INFO))
+      m_calibration(
+          quv::memberArgument<QString>(value, 0, QRCodeCalibration_TAG, noText, noText, Q_FUNC_INFO))
 {}
 
 SetQRCodeCalibrationCmd::SetQRCodeCalibrationCmd(QList<QVariant> list) : DescribedCommand(list)

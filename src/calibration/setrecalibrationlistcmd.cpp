@@ -2,6 +2,7 @@
 #include "calibration/setrecalibrationlistcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/requeststruct_p.h"
 #include "calibration/basiccalibrationdata_p.h"
 #include "calibration/calibrationarguments_p.h"
 #include "calibration/setcalibrationlistcmd.h"

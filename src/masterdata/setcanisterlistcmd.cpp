@@ -10,17 +10,16 @@ namespace quv {
 template <>
 inline constexpr const char *markOf<FW_Canister> = "id";
 
+template <>
+const FieldType &fieldType<QList<FW_Canister>>()
+{
+    static constexpr FieldType type = objectListType<FW_Canister>();
+    return type;
+}
+
 } // namespace quv
 
 namespace {
-
-const bool isComparable = QMetaType::registerEqualsComparator<QList<FW_Canister>>();
-
-const quv::FieldType &canistersType()
-{
-    static constexpr quv::FieldType type = quv::objectListType<FW_Canister>();
-    return type;
-}
 
 constexpr quv::Refusal notDecoded = {"DE02129", "SetCanisterListCmd: xmlrpc decoding failed"};
 constexpr char notMade[] = "SetCanisterListCmd: errors during canister creation";
@@ -58,18 +57,14 @@ SetCanisterListCmd::SetCanisterListCmd(const QList<FW_Canister> &canisters, bool
 SetCanisterListCmd::SetCanisterListCmd(const XmlRpc::XmlRpcValue &value) : DescribedCommand(value)
 {
     const XmlRpc::XmlRpcValue &request = quv::structArgument(value, notDecoded, Q_FUNC_INFO);
-    const XmlRpc::XmlRpcValue &canisters = quv::memberOf(request, canisterList_TAG, noCanisters, Q_FUNC_INFO);
-    const auto decoded = canistersType().read(canisters, &m_canisters);
-    if (decoded == quv::Decoded::OtherType)
-        quv::throwRefusal(noCanisters, Q_FUNC_INFO);
-    if (decoded == quv::Decoded::BadElement)
-        quv::throwRefusal(badCanister, Q_FUNC_INFO);
+    m_canisters = quv::typedMember<QList<FW_Canister>>(request, canisterList_TAG, noCanisters, badCanister,
+                                                       Q_FUNC_INFO);
     quv::readMember(request, updateFwConfig_TAG, m_updateFwConfig, notDecoded, Q_FUNC_INFO);
 }
 
 SetCanisterListCmd::SetCanisterListCmd(QList<QVariant> list) : DescribedCommand(list)
 {
-    if (!canistersType().readVariant(list.value(0), &m_canisters))
+    if (!quv::readObjectsVariant<FW_Canister>(list.value(0), &m_canisters))
         quv::throwRefusal(noCanisters, Q_FUNC_INFO);
     if (list.size() > 1 && !quv::decodeVariant(list.at(1), m_updateFwConfig))
         quv::throwRefusal(notDecoded, Q_FUNC_INFO);
@@ -90,7 +85,7 @@ XmlRpc::XmlRpcValue SetCanisterListCmd::xmlrpc_parameters(bool *ok) const
     if (ok)
         *ok = true;
     XmlRpc::XmlRpcValue array;
-    canistersType().write(&m_canisters, array[0][canisterList_TAG]);
+    quv::writeObjects<FW_Canister>(&m_canisters, array[0][canisterList_TAG]);
     array[0][updateFwConfig_TAG] = m_updateFwConfig;
     return array;
 }

@@ -18,8 +18,7 @@ using Positions = std::optional<QList<int>>; ///< none for an item that is refus
 
 constexpr char badParameter[] = "Bad command parameter";
 
-const bool isRegistered = RegisterTravellingType<StirItem>("StirItem");
-const bool areComparable = QMetaType::registerEqualsComparator<QList<StirItem>>();
+const bool isRegistered = RegisterTravellingList<StirItem>("StirItem", "QList<StirItem>");
 
 /** That of a circuit that is not enabled, too. */
 Positions positionOfCircuit(int id, const FW_Dispenser &dispenser)

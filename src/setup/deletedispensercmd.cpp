@@ -38,13 +38,10 @@ template class quv::DescribedCommand<DeleteDispenserCmd, ConfProtoCommand>;
 
 DeleteDispenserCmd::DeleteDispenserCmd(QList<int> dispIDs) : m_dispIDs(std::move(dispIDs)) {}
 
-DeleteDispenserCmd::DeleteDispenserCmd(const XmlRpcValue &value) : DescribedCommand(value)
-{
-    const XmlRpcValue &argument = quv::structArgument(value, noList, Q_FUNC_INFO);
-    if (!DecodeXmlRpcValue(quv::arrayMember(argument, dispIDList_TAG, noList, noList, Q_FUNC_INFO),
-                           m_dispIDs))
-        quv::throwRefusal(noID, Q_FUNC_INFO);
-}
+DeleteDispenserCmd::DeleteDispenserCmd(const XmlRpcValue &value)
+    : DescribedCommand(value),
+      m_dispIDs(quv::memberArgument<QList<int>>(value, 0, dispIDList_TAG, noList, noID, Q_FUNC_INFO))
+{}
 
 DeleteDispenserCmd::DeleteDispenserCmd(QList<QVariant> list) : DescribedCommand(list)
 {

@@ -33,12 +33,8 @@ QList<int> positionsOf(const XmlRpcValue &argument, const char *function)
         return {position};
     if (argument.getType() != XmlRpcValue::TypeStruct)
         quv::throwRefusal(badForm, function);
-    const XmlRpcValue &array =
-        quv::arrayMember(argument, CircuitsStatusCmd::CIRCUIT_POSITIONS, noPositions, noPositions, function);
-    QList<int> positions;
-    if (!DecodeXmlRpcValue(array, positions))
-        quv::throwRefusal(badPosition, function);
-    return positions;
+    return quv::typedMember<QList<int>>(argument, CircuitsStatusCmd::CIRCUIT_POSITIONS, noPositions,
+                                        badPosition, function);
 }
 
 QList<int> positionsOf(const QList<QVariant> &list, const char *function)
