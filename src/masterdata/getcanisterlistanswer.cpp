@@ -7,7 +7,6 @@
 
 #include <QuvFramework/fw_dispenser.h>
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace quv {
@@ -37,12 +36,11 @@ int colorantIDOf(const FW_Dispenser &dispenser, const FW_Canister &canister)
 
 CanisterData canisterOf(const FW_Dispenser &dispenser, long long id)
 {
-    const QList<FW_Canister> &canisters = dispenser.canisters();
-    const auto found = std::find_if(canisters.begin(), canisters.end(),
-                                    [id](const FW_Canister &canister) { return canister.id() == id; });
-    if (found == canisters.end())
+    const auto canisterID = static_cast<int>(id);
+    const FW_Canister *canister = canisterID == id ? dispenser.getCanisterById(canisterID) : nullptr;
+    if (!canister)
         throw std::invalid_argument("no such canister");
-    return CanisterData(*found, colorantIDOf(dispenser, *found));
+    return CanisterData(*canister, colorantIDOf(dispenser, *canister));
 }
 
 /** Of the dispenser at this place of a driver's list, and the number behind it. */
