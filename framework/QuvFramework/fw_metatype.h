@@ -22,7 +22,7 @@ bool RegisterTravellingType(const char *name)
     QMetaType::registerEqualsComparator<T>();
     QMetaType::registerConverter<T, Map>(
         [](const T &object) { return DecodeXmlRpcVariant(object.toXmlRpcValue()).toMap(); });
-    QMetaType::registerConverter<Map, T>([](const Map &members) { return T(EncodeXmlRpcVariant(members)); });
+    QMetaType::registerConverter<Map, T>([](const Map &members) { return T(EncodeXmlRpcObject(members)); });
     return true;
 }
 

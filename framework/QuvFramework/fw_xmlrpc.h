@@ -99,6 +99,11 @@ QUVFRAMEWORK_EXPORT QVariant DecodeXmlRpcVariant(const XmlRpc::XmlRpcValue &valu
  * empty value cannot be read back from a document.
  */
 QUVFRAMEWORK_EXPORT XmlRpc::XmlRpcValue EncodeXmlRpcVariant(const QVariant &variant);
+/**
+ * The same for a variant that is read at once, as a map that stands for an object: what XML-RPC cannot hold stays an empty value, which
+ * is of no type, so that nobody reads a 0 that nobody wrote.
+ */
+QUVFRAMEWORK_EXPORT XmlRpc::XmlRpcValue EncodeXmlRpcObject(const QVariant &variant);
 
 /** Makes \a value a struct, if it is none yet, and sets the member \a key. Texts are written as UTF-8. */
 QUVFRAMEWORK_EXPORT void EncodeXmlRpcValue(XmlRpc::XmlRpcValue &value, const QString &key, bool member);

@@ -112,18 +112,21 @@ XmlRpcValue arrayOf(const List &list, Convert convert)
     return array;
 }
 
+/** \a nothing stands for what XML-RPC cannot hold. */
+XmlRpcValue encoded(const QVariant &variant, const XmlRpcValue &nothing);
+
 template <class Map>
-void encodeMembers(XmlRpcValue &value, const Map &map)
+void encodeMembers(XmlRpcValue &value, const Map &map, const XmlRpcValue &nothing = XmlRpcValue(0))
 {
     for (auto it = map.cbegin(); it != map.cend(); ++it)
-        value[EncodeXmlRpcText(it.key())] = EncodeXmlRpcVariant(it.value());
+        value[EncodeXmlRpcText(it.key())] = encoded(it.value(), nothing);
 }
 
 template <class Map>
-XmlRpcValue structOf(const Map &map)
+XmlRpcValue structOf(const Map &map, const XmlRpcValue &nothing = XmlRpcValue(0))
 {
     XmlRpcValue value = emptyStruct();
-    encodeMembers(value, map);
+    encodeMembers(value, map, nothing);
     return value;
 }
 
@@ -187,6 +190,64 @@ const QVariant *elementOfType(const QList<QVariant> &list, int index, std::initi
             return &element;
     }
     return nullptr;
+}
+
+XmlRpcValue encoded(const QVariant &variant, const XmlRpcValue &nothing)
+{
+    const auto elementOf = [&](const QVariant &element) { return encoded(element, nothing); };
+    switch (variant.userType()) {
+    case QMetaType::Bool:
+        return XmlRpcValue(variant.toBool());
+    case QMetaType::Int:
+        return XmlRpcValue(variant.toInt());
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::LongLong:
+        return wholeNumber(variant.toLongLong());
+    case QMetaType::ULong:
+    case QMetaType::ULongLong:
+        return variant.toULongLong() <= static_cast<qulonglong>(std::numeric_limits<int>::max())
+                   ? XmlRpcValue(variant.toInt())
+                   : XmlRpcValue(static_cast<double>(variant.toULongLong()));
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return XmlRpcValue(variant.toDouble());
+    case QMetaType::QChar:
+    case QMetaType::QString:
+        return XmlRpcValue(EncodeXmlRpcText(variant.toString()));
+    case QMetaType::QByteArray:
+        return binary(variant.toByteArray());
+    case QMetaType::QDateTime: {
+        const QDateTime dateTime = variant.toDateTime().toLocalTime();
+        if (!dateTime.isValid())
+            break;
+        std::tm time = toBrokenDownTime(dateTime);
+        return XmlRpcValue(&time);
+    }
+    case QMetaType::QStringList:
+        return arrayOf(variant.toStringList(),
+                       [](const QString &text) { return XmlRpcValue(EncodeXmlRpcText(text)); });
+    case QMetaType::QVariantList:
+        return arrayOf(variant.toList(), elementOf);
+    case QMetaType::QVariantMap:
+        return structOf(variant.toMap(), nothing);
+    case QMetaType::QVariantHash:
+        return structOf(variant.toHash(), nothing);
+    default:
+        break;
+    }
+    if (variant.userType() == qMetaTypeId<QList<int>>())
+        return arrayOf(variant.value<QList<int>>(), [](int number) { return XmlRpcValue(number); });
+    if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantMap>())
+        return structOf(variant.value<QVariantMap>(), nothing);
+    if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantList>())
+        return arrayOf(variant.value<QVariantList>(), elementOf);
+    return nothing;
 }
 
 constexpr std::initializer_list<int> wholeNumberTypes = {QMetaType::Int, QMetaType::UInt, QMetaType::LongLong,
@@ -393,61 +454,12 @@ QVariant DecodeXmlRpcVariant(const XmlRpcValue &value)
 
 XmlRpcValue EncodeXmlRpcVariant(const QVariant &variant)
 {
-    switch (variant.userType()) {
-    case QMetaType::Bool:
-        return XmlRpcValue(variant.toBool());
-    case QMetaType::Int:
-        return XmlRpcValue(variant.toInt());
-    case QMetaType::Char:
-    case QMetaType::SChar:
-    case QMetaType::UChar:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::UInt:
-    case QMetaType::Long:
-    case QMetaType::LongLong:
-        return wholeNumber(variant.toLongLong());
-    case QMetaType::ULong:
-    case QMetaType::ULongLong:
-        return variant.toULongLong() <= static_cast<qulonglong>(std::numeric_limits<int>::max())
-                   ? XmlRpcValue(variant.toInt())
-                   : XmlRpcValue(static_cast<double>(variant.toULongLong()));
-    case QMetaType::Float:
-    case QMetaType::Double:
-        return XmlRpcValue(variant.toDouble());
-    case QMetaType::QChar:
-    case QMetaType::QString:
-        return XmlRpcValue(EncodeXmlRpcText(variant.toString()));
-    case QMetaType::QByteArray:
-        return binary(variant.toByteArray());
-    case QMetaType::QDateTime: {
-        const QDateTime dateTime = variant.toDateTime().toLocalTime();
-        if (!dateTime.isValid())
-            break;
-        std::tm time = toBrokenDownTime(dateTime);
-        return XmlRpcValue(&time);
-    }
-    case QMetaType::QStringList:
-        return arrayOf(variant.toStringList(),
-                       [](const QString &text) { return XmlRpcValue(EncodeXmlRpcText(text)); });
-    case QMetaType::QVariantList:
-        return arrayOf(variant.toList(),
-                       [](const QVariant &element) { return EncodeXmlRpcVariant(element); });
-    case QMetaType::QVariantMap:
-        return structOf(variant.toMap());
-    case QMetaType::QVariantHash:
-        return structOf(variant.toHash());
-    default:
-        break;
-    }
-    if (variant.userType() == qMetaTypeId<QList<int>>())
-        return arrayOf(variant.value<QList<int>>(), [](int number) { return XmlRpcValue(number); });
-    if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantMap>())
-        return structOf(variant.value<QVariantMap>());
-    if (variant.userType() >= QMetaType::User && variant.canConvert<QVariantList>())
-        return arrayOf(variant.value<QVariantList>(),
-                       [](const QVariant &element) { return EncodeXmlRpcVariant(element); });
-    return XmlRpcValue(0);
+    return encoded(variant, XmlRpcValue(0));
+}
+
+XmlRpcValue EncodeXmlRpcObject(const QVariant &variant)
+{
+    return encoded(variant, XmlRpcValue());
 }
 
 void EncodeXmlRpcValue(XmlRpcValue &value, const QString &key, bool member)

@@ -27,7 +27,7 @@ bool registerType()
     QMetaType::registerEqualsComparator<FwResourceData>();
     // one way only: what a block writes is no struct
     QMetaType::registerConverter<Map, FwResourceData>(
-        [](const Map &members) { return FwResourceData(EncodeXmlRpcVariant(members)); });
+        [](const Map &members) { return FwResourceData(EncodeXmlRpcObject(members)); });
     return true;
 }
 

@@ -62,7 +62,7 @@ Filling fillingOf(const QVariant &variant, const char *function)
         return variant.value<Filling>();
     if (variant.userType() != QMetaType::QVariantMap)
         quv::throwRefusal(badColorant, function);
-    return fillingOf(EncodeXmlRpcVariant(variant), function);
+    return fillingOf(EncodeXmlRpcObject(variant), function);
 }
 
 template <class Source>

@@ -64,14 +64,13 @@ GETestCmd::GETestCmd(QList<QVariant> list) : DescribedCommand(list)
     const QVariant test = list.value(0);
     if (test.userType() != QMetaType::QVariantMap)
         quv::throwRefusal(noStruct, Q_FUNC_INFO);
-    // as XML-RPC a weight that is no number at all would read as 0
     const QVariantMap members = test.toMap();
     if (!quv::decodeVariant(members.value(currentScaleWeight_TAG), m_currentScaleWeight))
         quv::throwRefusal(noWeight, Q_FUNC_INFO);
     if (!members.contains(gravimetricSettings_TAG))
         quv::throwRefusal(badSettings, Q_FUNC_INFO);
-    const XmlRpcValue argument = EncodeXmlRpcVariant(test);
-    Description::read(*this, &argument, Q_FUNC_INFO);
+    const XmlRpcValue settings = EncodeXmlRpcObject(members.value(gravimetricSettings_TAG));
+    m_gravimetricSettings = quv::gravSettingsOf(settings, badSettings, Q_FUNC_INFO);
 }
 
 GETestCmd *GETestCmd::clone() const

@@ -8,8 +8,6 @@
 
 #include <QuvFramework/fw_dosingmotor.h>
 
-#include <algorithm>
-
 namespace quv {
 
 GravimetricSettings gravSettingsOf(const XmlRpc::XmlRpcValue &value, const Refusal &refusal,
@@ -52,22 +50,11 @@ Settings settingsOf(const XmlRpcValue &value, const char *function)
     return settingsOf(array, quv::badGravSettings, function);
 }
 
-/** A map with a position; as XML-RPC one that is no number at all would read as 0. */
-bool hasPosition(const QVariant &circuit)
-{
-    QVariantMap members;
-    int position = 0;
-    return quv::decodeVariant(circuit, members) &&
-           quv::decodeVariant(members.value(GravSettingsBase::positionID_TAG), position);
-}
-
 Settings settingsOf(const QVariant &variant, const char *function)
 {
-    const QVariantList circuits = variant.toList();
-    if (variant.userType() != QMetaType::QVariantList ||
-        !std::all_of(circuits.begin(), circuits.end(), hasPosition))
+    if (variant.userType() != QMetaType::QVariantList)
         quv::throwRefusal(quv::badGravSettingsInList, function);
-    return settingsOf(EncodeXmlRpcVariant(variant), quv::badGravSettingsInList, function);
+    return settingsOf(EncodeXmlRpcObject(variant), quv::badGravSettingsInList, function);
 }
 
 XmlRpcValue arrayOf(const Settings &settings)

@@ -44,7 +44,7 @@ Info infoOf(const QVariant &variant)
     if (type == qMetaTypeId<MachineInfo>())
         return Info(variant.value<MachineInfo>().clone());
     if (quv::holds<MachineInfo>(variant))
-        return infoOf(EncodeXmlRpcVariant(variant));
+        return infoOf(EncodeXmlRpcObject(variant));
     return {};
 }
 

@@ -91,7 +91,7 @@ SetDriverSettingsCmd::SetDriverSettingsCmd(QList<QVariant> list) : DescribedComm
     else if (quv::holds<DriverSettings>(settings))
         m_settings = quv::decodedVariant<DriverSettings>(settings, badVariant, badVariant, Q_FUNC_INFO);
     else
-        readRequest(EncodeXmlRpcVariant(settings), m_settings, m_hash, badVariant, badVariant, badVariant,
+        readRequest(EncodeXmlRpcObject(settings), m_settings, m_hash, badVariant, badVariant, badVariant,
                     Q_FUNC_INFO);
 }
 

@@ -790,6 +790,32 @@ TEST(EncodeXmlRpcVariant, writesZeroForWhatXmlRpcCannotHold)
     }
 }
 
+TEST(EncodeXmlRpcObject, isTheSameButForWhatXmlRpcCannotHold)
+{
+    const QVariantMap whole = {
+        {"a", 1}, {"b", 2.5}, {"c", "x"}, {"d", QVariantList{1, QVariantMap{{"e", true}}}}};
+    EXPECT_TRUE(same(EncodeXmlRpcObject(whole), EncodeXmlRpcVariant(whole)));
+    EXPECT_FALSE(EncodeXmlRpcObject(QVariant()).valid());
+
+    const QVariantMap gaps = {{"a", QVariant()},
+                              {"b", QVariant(QDateTime())},
+                              {"c", QVariantList{1, QVariant()}},
+                              {"d", QVariantMap{{"e", QVariant()}}},
+                              {"f", QVariantHash{{"g", QVariant()}}},
+                              {"h", 0}};
+    const XmlRpcValue value = EncodeXmlRpcObject(gaps);
+    ASSERT_EQ(value.size(), 6);
+    EXPECT_FALSE(value["a"].valid());
+    EXPECT_FALSE(value["b"].valid());
+    EXPECT_EQ(stored<int>(value["c"][0]), 1);
+    EXPECT_FALSE(value["c"][1].valid());
+    ASSERT_TRUE(value["d"].hasMember("e"));
+    EXPECT_FALSE(value["d"]["e"].valid());
+    ASSERT_TRUE(value["f"].hasMember("g"));
+    EXPECT_FALSE(value["f"]["g"].valid());
+    EXPECT_EQ(stored<int>(value["h"]), 0);
+}
+
 const QList<QVariant> &everyVariant()
 {
     static const QList<QVariant> variants = {

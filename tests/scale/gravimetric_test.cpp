@@ -110,6 +110,9 @@ TEST(GravSettingsBase, passesOnWhatTheSettingsAreRefusedWith)
     expectRefusal("DE03350", text, ofSettings,
                   [] { GravSettingsBase{request(arrayOf(circuit(3, 0.5, -1)))}; });
     expectRefusal("DE03350", text, ofSettings, [] { GravSettingsBase{listOf(circuitMap(3, 0.5, -1))}; });
+    QVariantMap empty = circuitMap(3, 0.5, 1); // without a value, which is not 0
+    empty["max_corrections"] = QVariant();
+    expectRefusal("DE03350", text, ofSettings, [&] { GravSettingsBase{listOf(empty)}; });
 }
 
 TEST(GravSettingsBase, refusesWhatIsNoSettings)
@@ -423,6 +426,9 @@ TEST(GETestCmd, refusesWhatIsNoTest)
     });
     for (const QVariant &settings : {QVariant(), QVariant(7)})
         expectRefusal("DE03350", noMembers, ofSettings, [&] { GETestCmd(List{testMap(settings)}); });
+    expectRefusal("DE03350", "Machine data: tolerance must be a number from 0 to 1000000000", ofSettings, [] {
+        GETestCmd(List{testMap(QVariantMap{{"tolerance", QVariant()}})});
+    });
     static_assert(!std::is_constructible_v<GETestCmd, double>);
 }
 

@@ -291,6 +291,10 @@ TEST(DeleteMachineCmd, refusesWhatIsNoListOfMachines)
         {QVariant(), 7, "7", QVariant::fromValue(mixer7), QVariant(List{QVariant::fromValue(mixer7), 7})});
     expectListsRefused<DeleteMachineCmd>("DE02680", badMachine, ofMachine,
                                          {QVariant(List{QVariantMap{{"id", 7}}})});
+    // an ID without a value is not that of machine 0
+    expectListsRefused<DeleteMachineCmd>("DE02679", badMachine, ofMachine,
+                                         {QVariant(List{QVariantMap{{"id", QVariant()}, {"machine", 4}}}),
+                                          QVariant(List{QVariantMap{{"id", QDateTime()}, {"machine", 4}}})});
 }
 
 // ---------------------------------------------------------------- SET_ACTIVE_DISP
