@@ -39,6 +39,8 @@ public:
     void append(const QList<FW_HwError> &errors);
     void append(const QList<FW_ConfError> &errors);
     void append(const XmlRpc::XmlRpcValue &value); ///< decodes one error; throws FW_Exception
+    /** Adds what the variant holds, an error of any kind or another list; false when there is no error in it. */
+    bool appendHeld(const QVariant &variant);
 
     /** The error at \a index, owned by the list; null when there is none. */
     const FW_Error *operator[](int index) const;

@@ -21,16 +21,8 @@ const bool isRegistered = registerType();
 
 FW_ErrorList::FW_ErrorList(const QList<QVariant> &errors)
 {
-    for (const QVariant &error : errors) {
-        if (error.canConvert<FW_DriverError>())
-            append(error.value<FW_DriverError>());
-        else if (error.canConvert<FW_HwError>())
-            append(QList<FW_HwError>{error.value<FW_HwError>()});
-        else if (error.canConvert<FW_ConfError>())
-            append(QList<FW_ConfError>{error.value<FW_ConfError>()});
-        else if (error.canConvert<FW_ErrorList>())
-            append(error.value<FW_ErrorList>());
-    }
+    for (const QVariant &error : errors)
+        appendHeld(error);
 }
 
 FW_ErrorList::FW_ErrorList(const QList<FW_Error *> &errors)
@@ -101,6 +93,20 @@ void FW_ErrorList::append(const QList<FW_ConfError> &errors)
 void FW_ErrorList::append(const XmlRpc::XmlRpcValue &value)
 {
     m_errors.emplace_back(FW_Error::fromXmlRpcValue(value));
+}
+
+bool FW_ErrorList::appendHeld(const QVariant &variant)
+{
+    const int before = size();
+    if (variant.canConvert<FW_DriverError>())
+        append(variant.value<FW_DriverError>());
+    else if (variant.canConvert<FW_HwError>())
+        append(QList<FW_HwError>{variant.value<FW_HwError>()});
+    else if (variant.canConvert<FW_ConfError>())
+        append(QList<FW_ConfError>{variant.value<FW_ConfError>()});
+    else if (variant.canConvert<FW_ErrorList>())
+        append(variant.value<FW_ErrorList>());
+    return size() > before;
 }
 
 const FW_Error *FW_ErrorList::operator[](int index) const

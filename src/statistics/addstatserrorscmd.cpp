@@ -25,12 +25,9 @@ FW_ErrorList errorsIn(const QVariant &variant, const char *function)
         quv::throwRefusal(noneInList, function);
     FW_ErrorList errors;
     for (const QVariant &element : variant.toList()) {
-        const int before = errors.size();
         if (element.userType() == QMetaType::QVariantMap)
-            errors.append(EncodeXmlRpcVariant(element));
-        else
-            errors.append(FW_ErrorList(QList<QVariant>{element}));
-        if (errors.size() == before)
+            errors.append(EncodeXmlRpcObject(element));
+        else if (!errors.appendHeld(element))
             quv::throwRefusal(noneInList, function);
     }
     return errors;

@@ -308,6 +308,22 @@ TEST(FW_ErrorList, appendsADecodedError)
     EXPECT_EQ(list[0]->timestamp(), noon);
 }
 
+TEST(FW_ErrorList, appendsWhatAVariantHoldsAndTellsWhetherThereWasAnError)
+{
+    FW_ErrorList list;
+    EXPECT_TRUE(list.appendHeld(QVariant::fromValue(FW_ConfError(99, 0, 0, false))));
+    EXPECT_TRUE(list.appendHeld(QVariant::fromValue(listOfAllKinds())));
+    EXPECT_TRUE(list.appendHeld(QVariant::fromValue(FW_DriverError("DE00007", "late"))));
+    EXPECT_TRUE(
+        list.appendHeld(QVariant::fromValue(FW_HwError(1235, 0, 0, false, SerialDeviceType::Dispenser))));
+    const std::string whole = "3:99 1:DE00001 2:1234 3:99 1:DE00007 2:1235";
+    EXPECT_EQ(summary(list), whole);
+    for (const QVariant &other :
+         {QVariant(), QVariant(5), QVariant("DE00001"), QVariant::fromValue(FW_ErrorList())})
+        EXPECT_FALSE(list.appendHeld(other)) << other.typeName();
+    EXPECT_EQ(summary(list), whole);
+}
+
 TEST(FW_ErrorList, travelsInAVariant)
 {
     const FW_ErrorList errors = listOfAllKinds(); // made once, since it tells the time
