@@ -36,6 +36,7 @@ void appendInList(QList<RefusalFacts> &refusals, const MemberRow &row)
         appendRefusal(refusals, "list", row.elementWhen, row.element);
     appendRefusal(refusals, "list", byElements ? "an element of another type" : "missing or another type",
                   row.inList);
+    appendRefusal(refusals, "list", row.alsoInListWhen, row.alsoInList);
 }
 
 MemberFacts factsOf(const MemberRow &row)

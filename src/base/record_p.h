@@ -33,6 +33,8 @@ struct MemberRow
         nullptr; ///< given where the member is written only when its field is filled
     const char *otherWhen = "another type";                 ///< when otherType refuses, in words
     const char *elementWhen = "an element of another type"; ///< when element refuses, in words
+    Refusal alsoInList = {}; ///< another of the list, which its class raises by itself
+    const char *alsoInListWhen = "";
 };
 
 /** Where a field lies in its object: what a pointer to a data member holds, with the compilers for Linux. */
@@ -107,6 +109,13 @@ public:
     {
         m_row.elementWhen = "an element that cannot be made";
         return element(refusal);
+    }
+    /** Another refusal of the list form, which the class raises by itself, and when, in words. */
+    Member &alsoInList(const char *when, const Refusal &refusal)
+    {
+        m_row.alsoInListWhen = when;
+        m_row.alsoInList = refusal;
+        return *this;
     }
     Member &as(const FieldType &type)
     {

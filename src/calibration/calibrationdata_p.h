@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/frameworkrefusals_p.h"
 #include "base/objectfield_p.h"
 #include "base/objectlist_p.h"
 #include "calibration/calibrationdata.h"
@@ -9,6 +10,10 @@ namespace quv {
 
 template <>
 inline constexpr const char *markOf<CalibrationData> = CalibrationData::positionID_TAG;
+
+/** Of its motor and its calibrations; for its own there are codes of those who hold it. */
+template <>
+inline constexpr auto ownRefusals<CalibrationData> = machineDataRefusals;
 
 template <>
 const FieldType &fieldType<QList<CalibrationData>>();

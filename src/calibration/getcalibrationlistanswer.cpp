@@ -8,6 +8,7 @@
 namespace {
 
 constexpr char notMade[] = "GetCalibrationListAnswer: errors during CalibrationData creation";
+constexpr quv::Refusal notMadeOfVariant = {"DE00858", notMade};
 constexpr quv::Refusal otherVariant = {"DE00871",
                                        "GetCalibrationListAnswer decoding failed: invalid QVariant value"};
 
@@ -23,6 +24,7 @@ struct GetCalibrationListAnswer::Description
                     SetCalibrationListCmd::calibrationList_TAG, &Answer::m_calibrations,
                     {"DE00875", "GetCalibrationListAnswer: cannot find calibrations list tag"}, otherVariant)
                     .element({"DE00874", notMade})
+                    .alsoInList("an element that cannot be made", notMadeOfVariant)
                     .meaning("of each circuit its position, its motor and its calibrations")};
     }
 };
@@ -40,7 +42,7 @@ GetCalibrationListAnswer::GetCalibrationListAnswer(const XmlRpc::XmlRpcValue &va
 
 GetCalibrationListAnswer::GetCalibrationListAnswer(QList<QVariant> &list)
     : DescribedAnswer(list),
-      m_calibrations(quv::calibrationsOf(list, otherVariant, {"DE00858", notMade}, Q_FUNC_INFO))
+      m_calibrations(quv::calibrationsOf(list, otherVariant, notMadeOfVariant, Q_FUNC_INFO))
 {}
 
 GetCalibrationListAnswer *GetCalibrationListAnswer::clone() const

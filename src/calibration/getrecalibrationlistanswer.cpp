@@ -9,6 +9,7 @@
 namespace {
 
 constexpr char notMade[] = "GetRecalibrationListAnswer: errors during BasicCalibrationData creation";
+constexpr quv::Refusal notMadeOfVariant = {"DE02637", notMade};
 constexpr quv::Refusal otherVariant = {"DE02638",
                                        "GetRecalibrationListAnswer decoding failed: invalid QVariant value"};
 
@@ -25,6 +26,7 @@ struct GetRecalibrationListAnswer::Description
                                 {"DE02640", "GetRecalibrationListAnswer: cannot find calibrations list tag"},
                                 otherVariant)
                 .unmadeElement({"DE02639", notMade})
+                .alsoInList("an element that cannot be made", notMadeOfVariant)
                 .meaning("of each circuit its position and its measured points")};
     }
 };
@@ -43,8 +45,7 @@ GetRecalibrationListAnswer::GetRecalibrationListAnswer(const XmlRpc::XmlRpcValue
 
 GetRecalibrationListAnswer::GetRecalibrationListAnswer(QList<QVariant> &list)
     : DescribedAnswer(list),
-      m_calibrations(
-          quv::objectsOf<BasicCalibrationData>(list, otherVariant, {"DE02637", notMade}, Q_FUNC_INFO))
+      m_calibrations(quv::objectsOf<BasicCalibrationData>(list, otherVariant, notMadeOfVariant, Q_FUNC_INFO))
 {}
 
 GetRecalibrationListAnswer *GetRecalibrationListAnswer::clone() const

@@ -2,6 +2,7 @@
 #include "calibration/setcalibrationlistcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/requeststruct_p.h"
 #include "calibration/calibrationarguments_p.h"
 #include "calibration/calibrationdata_p.h"
@@ -30,6 +31,7 @@ struct SetCalibrationListCmd::Description : quv::Description
         teller.refuse("without calibrations_list, or no array there", {noList, {}});
         teller.refuse("another type", {{}, otherVariant});
         teller.refuse("with a bad calibration", {notMadeOfValue, notMadeOfVariant});
+        teller.refuse("a motor or a calibration with a wrong member", {quv::toldOfMachineData, {}});
     }
 };
 

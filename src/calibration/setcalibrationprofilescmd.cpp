@@ -2,6 +2,7 @@
 #include "calibration/setcalibrationprofilescmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "calibration/calibrationprofiles_p.h"
 
 #include <utility>
@@ -33,6 +34,7 @@ struct SetCalibrationProfilesCmd::Description : quv::Description
         teller.argument({"profiles", "member \"pumps\": the motors of pumps, each with its calibration"},
                         "struct");
         teller.refuse("another type", {noStruct, noStruct});
+        teller.refuse("with a wrong member", {quv::toldOfMachineData, {}});
         teller.refuse("cannot be made", {notMade, notMade});
         options(SetCalibrationProfilesCmd(), teller);
     }

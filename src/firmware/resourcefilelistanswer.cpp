@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr quv::Refusal tooFew = {"DE02756", "Too few parameters received"};
 constexpr quv::Refusal noFile = {"DE02759", "ResourceFileListAnswer: no FwResourceFile found"};
 
 } // namespace
@@ -22,6 +23,7 @@ struct ResourceFileListAnswer::Description
                                 {"DE03260", "ResourceFileListAnswer: expected res_file_list value"},
                                 {"DE02757", "ResourceFileWriteCmd: expected FwResourceFile type parameter"})
                 .unmadeElement({"DE02758", "ResourceFileListAnswer: invalid FwResourceFile parameter"})
+                .alsoInList("the list is empty", tooFew)
                 .meaning("of each file res_data_stream (base64), res_name, res_type and res_index")};
     }
 };
@@ -40,7 +42,7 @@ ResourceFileListAnswer::ResourceFileListAnswer(const XmlRpc::XmlRpcValue &value)
 ResourceFileListAnswer::ResourceFileListAnswer(QList<QVariant> &list) : DescribedAnswer(list)
 {
     if (list.isEmpty())
-        throw FW_Exception("DE02756", "Too few parameters received", Q_FUNC_INFO);
+        quv::throwRefusal(tooFew, Q_FUNC_INFO);
     read(list, Q_FUNC_INFO);
 }
 

@@ -68,6 +68,7 @@ struct GetCanisterListAnswer::Description
                     {"DE03380", "GetCanisterListAnswer: Errors during CanisterData list creation"},
                     noDispenser)
                     .unmadeElement(notMade)
+                    .alsoInList("an element without a canister's ID behind it", noNumber)
                     .meaning("of each canister its levels, its colorant and the circuits that it feeds")};
     }
 };

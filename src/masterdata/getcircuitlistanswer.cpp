@@ -50,6 +50,7 @@ struct GetCircuitListAnswer::Description
                     circuitList_TAG, &Answer::m_circuits,
                     {"DE03381", "GetCircuitListAnswer: Errors during CircuitData list creation"}, noCircuit)
                     .unmadeElement(notMade)
+                    .alsoInList("an element without a canister's ID behind it", noNumber)
                     .meaning("of each circuit where it is, what feeds it and which motors it has")};
     }
 };

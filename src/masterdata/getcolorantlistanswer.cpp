@@ -2,12 +2,15 @@
 #include "masterdata/getcolorantlistanswer.h"
 
 #include "base/describedanswer_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/objectfield_p.h"
 
 namespace quv {
 
 template <>
 inline constexpr const char *markOf<ColorantsPOSList> = "code";
+template <>
+inline constexpr auto ownRefusals<ColorantsPOSList> = machineDataRefusals;
 
 template <>
 const FieldType &fieldType<QList<ColorantsPOSList>>()

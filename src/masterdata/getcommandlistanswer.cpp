@@ -36,6 +36,7 @@ struct GetCommandListAnswer::Description
                     {"DE00433", "GetCommandListAnswer: Errors during ProtocolCommandInfo list creation"},
                     otherVariant)
                     .unmadeElement({"DE00432", noCommand})
+                    .alsoInList("an element without a value", invalidVariant)
                     .meaning("of each command its row of the catalogue, and what the machine makes of it")};
     }
 };

@@ -2,6 +2,7 @@
 #include "masterdata/setcanisterlistcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/objectfield_p.h"
 #include "base/requeststruct_p.h"
 
@@ -42,6 +43,7 @@ struct SetCanisterListCmd::Description : quv::Description
             "struct");
         teller.refuse("another type", {notDecoded, noCanisters});
         teller.refuse("canister_list is missing or no array", {noCanisters, {}});
+        teller.refuse("a canister with a wrong member", {quv::toldOfMachineData, {}});
         teller.refuse("a canister that cannot be made", {badCanister, {}});
         teller.refuse("update_fw_config is no bool", {notDecoded, notDecoded});
     }

@@ -2,6 +2,7 @@
 #include "masterdata/setcolorantlistcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/objectfield_p.h"
 #include "base/record_p.h"
 #include "base/requeststruct_p.h"
@@ -87,6 +88,7 @@ struct SetColorantListCmd::Description : quv::Description
         teller.refuse("another type", {notDecoded, noColorants});
         teller.refuse("colorant_list is missing or no array", {noColorants, {}});
         teller.refuse("an element without a good canister_id or colorant", {badColorant, badColorant});
+        teller.refuse("a colorant with a wrong member", {quv::toldOfMachineData, {}});
     }
 };
 

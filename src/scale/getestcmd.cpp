@@ -2,6 +2,7 @@
 #include "scale/getestcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/requeststruct_p.h"
 #include "scale/getestanswer.h"
 #include "scale/gravsettingsbase_p.h"
@@ -44,6 +45,7 @@ struct GETestCmd::Description : quv::Description
         teller.refuse("another type", {noStruct, noStruct});
         teller.refuse("current_scale_weight is missing or of another type", {noWeight, noWeight});
         teller.refuse("driver_GE_settings is missing", {badSettings, badSettings});
+        teller.refuse("driver_GE_settings is wrong", {quv::toldOfMachineData, {}});
     }
 };
 

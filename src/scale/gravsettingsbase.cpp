@@ -3,6 +3,7 @@
 
 #include "base/argumentteller_p.h"
 #include "base/decoding_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/requeststruct_p.h"
 #include "scale/gravsettingsbase_p.h"
 
@@ -98,6 +99,8 @@ QList<quv::MemberFacts> GravSettingsBase::memberFacts()
     quv::appendRefusal(settings.refusals, "XML-RPC", "no struct", quv::noGravSettingsStruct);
     quv::appendRefusal(settings.refusals, "XML-RPC", "missing or another type", quv::noGravSettingsArray);
     quv::appendRefusal(settings.refusals, "XML-RPC", "an element of another type", quv::badGravSettings);
+    quv::appendRefusal(settings.refusals, "XML-RPC", "an element with a wrong member",
+                       quv::toldOfMachineData);
     quv::appendRefusal(settings.refusals, "list", "missing or another type", quv::badGravSettingsInList);
     return {settings};
 }

@@ -2,6 +2,7 @@
 #include "scale/setgravsettingscmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "scale/gravsettingsbase_p.h"
 
 struct SetGravSettingsCmd::Description : quv::Description
@@ -16,6 +17,7 @@ struct SetGravSettingsCmd::Description : quv::Description
         teller.refuse("another type", {quv::noGravSettingsStruct, quv::badGravSettingsInList});
         teller.refuse("circuits_grav_settings is missing or of another type", {quv::noGravSettingsArray, {}});
         teller.refuse("a circuit without a position", {quv::badGravSettings, quv::badGravSettingsInList});
+        teller.refuse("a circuit with a wrong member", {quv::toldOfMachineData, {}});
     }
 };
 

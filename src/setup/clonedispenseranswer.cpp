@@ -17,6 +17,7 @@ struct CloneDispenserAnswer::Description
     {
         return {quv::Member<CloneDispenserAnswer>(dispID_TAG, &CloneDispenserAnswer::m_dispID,
                                                   {"DE01481", noID}, {"DE01475", noID})
+                    .alsoInList("the list is empty", emptyList)
                     .meaning("of the copy")};
     }
 };

@@ -17,6 +17,7 @@ struct CloneMachineAnswer::Description
         return {quv::Member<CloneMachineAnswer>(machineID_TAG, &CloneMachineAnswer::m_machineID,
                                                 {"DE03364", "CloneMachineAnswer: expected machine_id value"},
                                                 {"DE02691", "CloneMachineCmd: Failed to parse machine ID"})
+                    .alsoInList("the list is empty", emptyList)
                     .meaning("of the copy: \"id\" and \"machine\" (1 dispenser, 4 mixer)")};
     }
 };

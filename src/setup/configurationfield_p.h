@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "base/frameworkrefusals_p.h"
 #include "base/objectfield_p.h"
 
 #include <QuvFramework/fw_configuration.h>
@@ -11,6 +12,8 @@ template <>
 inline constexpr const char *markOf<FW_Configuration> = FW_Configuration::MACHINES;
 template <>
 inline constexpr const char *nameOf<FW_Configuration> = "configuration";
+template <>
+inline constexpr auto ownRefusals<FW_Configuration> = configurationRefusals;
 
 template <>
 inline const FieldType &fieldType<FW_Configuration>()

@@ -41,6 +41,8 @@ struct SaveConfigCmd::Description : quv::Description
         teller.refuse("config_data is missing or no struct", {noData, {}});
         teller.refuse("without configuration", {noConfiguration, {}});
         teller.refuse("configuration is no struct", {badConfiguration, {}});
+        for (const auto &[when, refusal] : quv::configurationRefusals)
+            teller.refuse(when, {refusal, {}});
         teller.refuse("update_board_config is of another type", {badFlag, {}});
         teller.refuse("the flag is missing or of another type", {{}, noFlag});
     }

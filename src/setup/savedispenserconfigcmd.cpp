@@ -2,6 +2,7 @@
 #include "setup/savedispenserconfigcmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/requeststruct_p.h"
 
 namespace quv {
@@ -51,6 +52,7 @@ struct SaveDispenserConfigCmd::Description : quv::Description
         teller.refuse("disp_data is no struct", {badData, {}});
         teller.refuse("without dispenser_config", {noDispenser, {}});
         teller.refuse("dispenser_config is no struct", {badDispenser, {}});
+        teller.refuse("the dispenser has a wrong member", {quv::toldOfMachineData, {}});
         teller.refuse("update_board_config is of another type", {badFlag, {}});
         teller.refuse("the flag of the boards is missing or of another type", {{}, noFlag});
         teller.refuse("the flag of the factory is of another type", {badFactory, badFactory});

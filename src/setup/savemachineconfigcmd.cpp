@@ -3,6 +3,7 @@
 
 #include "base/cloned_p.h"
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/requeststruct_p.h"
 
 #include <QuvFramework/fw_dispenser.h>
@@ -55,6 +56,7 @@ struct SaveMachineConfigCmd::Description : quv::Description
         teller.refuse("config_data is no struct", {badData, {}});
         teller.refuse("without machine_config", {noMachine, {}});
         teller.refuse("machine_config is neither a dispenser nor a mixer", {unknownKind, {}});
+        teller.refuse("machine_config has a wrong member", {quv::toldOfMachineData, {}});
         teller.refuse("machine_config cannot be made", {notMade, {}});
         teller.refuse("update_board_config is of another type", {badFlag, {}});
         teller.refuse("factory_config is of another type", {badFactory, {}});

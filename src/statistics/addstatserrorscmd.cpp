@@ -2,6 +2,7 @@
 #include "statistics/addstatserrorscmd.h"
 
 #include "base/describedcommand_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/requeststruct_p.h"
 
 namespace {
@@ -50,6 +51,8 @@ struct AddStatsErrorsCmd::Description : quv::Description
         teller.refuse("another type", {noneInValue, noneInList});
         teller.refuse("without an array as error_list", {noneInValue, {}});
         teller.refuse("an element of another type", {{}, noneInList});
+        for (const auto &[when, refusal] : quv::errorRefusals)
+            teller.refuse(when, {refusal, {}});
     }
 };
 

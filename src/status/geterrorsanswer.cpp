@@ -2,6 +2,7 @@
 #include "status/geterrorsanswer.h"
 
 #include "base/describedanswer_p.h"
+#include "base/frameworkrefusals_p.h"
 #include "base/objectfield_p.h"
 #include "status/fwerroranswer.h"
 
@@ -13,6 +14,9 @@ template <>
 inline constexpr const char *nameOf<FW_ErrorList> = "array of errors";
 
 template <>
+inline constexpr auto ownRefusals<FW_ErrorList> = errorRefusals;
+
+template <>
 const FieldType &fieldType<FW_ErrorList>()
 {
     static constexpr FieldType type = objectType<FW_ErrorList>();
@@ -20,6 +24,13 @@ const FieldType &fieldType<FW_ErrorList>()
 }
 
 } // namespace quv
+
+namespace {
+
+constexpr quv::Refusal notMadeOfVariants = {
+    "DE00467", "GetErrorsAnswer: errors during FW_ErrorList creation (QVariant)"};
+
+} // namespace
 
 struct GetErrorsAnswer::Description
 {
@@ -30,6 +41,7 @@ struct GetErrorsAnswer::Description
                 FwErrorAnswer::XR_FW_ERROR_LIST, &GetErrorsAnswer::m_errors,
                 {"DE00471", "GetErrorsAnswer: Errors during FW_ErrorList list creation (XmlRpcValue)"})
                 .otherType({"DE00470", "GetErrorsAnswer: errors during FW_ErrorList creation (XmlRpcValue)"})
+                .alsoInList("cannot be made", notMadeOfVariants)
                 .meaning("errors of all kinds, in the order in which they came")};
     }
 };
@@ -42,9 +54,7 @@ GetErrorsAnswer::GetErrorsAnswer(QStringList tokens) : DescribedAnswer(std::move
 
 GetErrorsAnswer::GetErrorsAnswer(QList<QVariant> &list)
     : DescribedAnswer(list),
-      m_errors(
-          quv::madeOrRefused({"DE00467", "GetErrorsAnswer: errors during FW_ErrorList creation (QVariant)"},
-                             Q_FUNC_INFO, [&list] { return FW_ErrorList(list); }))
+      m_errors(quv::madeOrRefused(notMadeOfVariants, Q_FUNC_INFO, [&list] { return FW_ErrorList(list); }))
 {}
 
 GetErrorsAnswer::GetErrorsAnswer(const XmlRpc::XmlRpcValue &value)

@@ -397,15 +397,16 @@ TEST(FieldType, ofObjectsIsToldWithTheirOwnRefusals)
         QList<Nozzle> nozzles;
     };
     const quv::Record<Rail> record({quv::Member<Rail>("nozzles", &Rail::nozzles, {"DE2", "No nozzles"})
-                                        .unmadeElement({"DE3", "Nozzle unmade"}),
+                                        .unmadeElement({"DE3", "Nozzle unmade"})
+                                        .alsoInList("the list is odd", {"DE4", "Odd"}),
                                     quv::Member<Rail>("spares", &Rail::nozzles, {"DE2", "No nozzles"})});
     const QList<quv::MemberFacts> members = quv::factsOf(record.rows());
     Lines nozzles;
     appendRefusals(nozzles, members.at(0).refusals);
-    EXPECT_EQ(
-        nozzles,
-        (Lines{"  XML-RPC, missing or another type: DE2", "  XML-RPC, an element of another type: DE0",
-               "  XML-RPC, an element turned back: DE1", "  XML-RPC, an element that cannot be made: DE3"}));
+    EXPECT_EQ(nozzles,
+              (Lines{"  XML-RPC, missing or another type: DE2", "  XML-RPC, an element of another type: DE0",
+                     "  XML-RPC, an element turned back: DE1",
+                     "  XML-RPC, an element that cannot be made: DE3", "  list, the list is odd: DE4"}));
     Lines spares;
     appendRefusals(spares, members.at(1).refusals);
     EXPECT_EQ(spares,

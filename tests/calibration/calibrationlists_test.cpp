@@ -345,15 +345,18 @@ TEST(CalibrationLists, areExplained)
                      "\"position_id\", \"pump_info\" (the motor) and \"circuit_calibrations\"",
                      "  XML-RPC, without calibrations_list, or no array there: DE00887",
                      "  list, another type: DE00893", "  XML-RPC, with a bad calibration: DE00886",
-                     "  list, with a bad calibration: DE00892"}));
+                     "  list, with a bad calibration: DE00892",
+                     "  XML-RPC, a motor or a calibration with a wrong member: DE03350"}));
     EXPECT_EQ(
         membersOf("GET_CALIB_LIST"),
         (Lines{"GetCalibrationListAnswer",
                "calibrations_list (array of structs): of each circuit its position, its motor and its "
                "calibrations",
                "  XML-RPC, missing or another type: DE00875",
+               "  XML-RPC, an element with a wrong member: DE03350",
                "  XML-RPC, an element of another type: DE00874", "  list, missing or another type: DE00871",
-               "  XML-RPC, : DE01297", "  list, : DE00346"}));
+               "  list, an element that cannot be made: DE00858", "  XML-RPC, : DE01297",
+               "  list, : DE00346"}));
     const Lines recalibration = membersOf("GET_RECALIB_LIST");
     EXPECT_EQ(recalibration[0], "GetRecalibrationListAnswer");
     EXPECT_EQ(recalibration[3], "  XML-RPC, an element without a good position_id: DE02641");

@@ -255,10 +255,11 @@ TEST(CalibrationProfiles, areExplained)
     EXPECT_EQ(argumentsOf("SET_CALIB_PROFILES"),
               (Lines{"profiles (struct): member \"pumps\": the motors of pumps, each with its calibration",
                      "  XML-RPC, another type: DE00640", "  list, another type: DE00640",
-                     "  XML-RPC, cannot be made: DE00642", "  list, cannot be made: DE00642",
-                     "option (bool): which the driver reads", "  XML-RPC, another type: DE00643",
-                     "  list, another type: DE00643", "second_option (bool): likewise",
-                     "  XML-RPC, another type: DE03370", "  list, another type: DE03370"}));
+                     "  XML-RPC, with a wrong member: DE03350", "  XML-RPC, cannot be made: DE00642",
+                     "  list, cannot be made: DE00642", "option (bool): which the driver reads",
+                     "  XML-RPC, another type: DE00643", "  list, another type: DE00643",
+                     "second_option (bool): likewise", "  XML-RPC, another type: DE03370",
+                     "  list, another type: DE03370"}));
     EXPECT_EQ(argumentsOf("SET_CALIB_TEST_POINTS"),
               (Lines{"calibration_uid (string): by which the driver knows the calibration",
                      "  XML-RPC, another type: DE01816", "  list, another type: DE01849",
@@ -272,7 +273,7 @@ TEST(CalibrationProfiles, areExplained)
                      "calibration_profiles (struct): member \"pumps\": the motors of pumps, each with its "
                      "calibration",
                      "  XML-RPC, missing: DE00638", "  XML-RPC, another type: DE00639",
-                     "  list, missing or another type: DE00635"}));
+                     "  XML-RPC, with a wrong member: DE03350", "  list, missing or another type: DE00635"}));
 }
 
 } // namespace

@@ -120,7 +120,8 @@ TEST(ResourceFileListAnswer, isExplained)
             "  XML-RPC, an element without an int as res_type: DE02721",
             "  XML-RPC, an element without an int as res_index: DE02782",
             "  XML-RPC, an element that cannot be made: DE02758", "  list, missing or another type: DE02757",
-            "  XML-RPC, empty: DE02759", "  XML-RPC, : DE02771", "  list, : DE02772"}));
+            "  list, the list is empty: DE02756", "  XML-RPC, empty: DE02759", "  XML-RPC, : DE02771",
+            "  list, : DE02772"}));
 }
 
 } // namespace

@@ -241,11 +241,12 @@ TEST(GetDataListCmd, tellsItsArgumentAndItsAnswer)
                "  list, an element that cannot be made: DE03386",
                "  list, an element of another type: DE03392", "  XML-RPC, : DE01287", "  list, : DE01287"}));
     const Lines ofCommands = membersOf("GET_CMD_LIST");
-    ASSERT_GT(ofCommands.size(), 4U);
+    ASSERT_GT(ofCommands.size(), 5U);
     EXPECT_EQ(
-        Lines(ofCommands.end() - 4, ofCommands.end()),
+        Lines(ofCommands.end() - 5, ofCommands.end()),
         (Lines{"  XML-RPC, an element that cannot be made: DE00432",
-               "  list, an element of another type: DE00429", "  XML-RPC, : DE01287", "  list, : DE01287"}));
+               "  list, an element of another type: DE00429", "  list, an element without a value: DE00430",
+               "  XML-RPC, : DE01287", "  list, : DE01287"}));
     for (const NamedList &list : namedLists())
         EXPECT_EQ(quv::commandFacts(list.name).answerClass, list.answerClass) << list.name;
 }

@@ -147,11 +147,12 @@ TEST(SetCanisterListCmd, refusesAListOfOtherThings)
 TEST(SetCanisterListCmd, tellsItsArgument)
 {
     const Lines lines = argumentsOf("SET_CANISTER_LIST");
-    ASSERT_EQ(lines.size(), 7U);
+    ASSERT_EQ(lines.size(), 8U);
     EXPECT_EQ(lines.at(0).rfind("canisters (struct): a struct with canister_list", 0), 0U) << lines.at(0);
     EXPECT_EQ(Lines(lines.begin() + 1, lines.end()),
               (Lines{"  XML-RPC, another type: DE02129", "  list, another type: DE02130",
                      "  XML-RPC, canister_list is missing or no array: DE02130",
+                     "  XML-RPC, a canister with a wrong member: DE03350",
                      "  XML-RPC, a canister that cannot be made: DE02131",
                      "  XML-RPC, update_fw_config is no bool: DE02129",
                      "  list, update_fw_config is no bool: DE02129"}));
@@ -290,13 +291,14 @@ TEST(SetColorantListCmd, refusesColorantsThatCannotBeMade)
 TEST(SetColorantListCmd, tellsItsArgument)
 {
     const Lines lines = argumentsOf("SET_COLORANT_LIST");
-    ASSERT_EQ(lines.size(), 6U);
+    ASSERT_EQ(lines.size(), 7U);
     EXPECT_EQ(lines.at(0).rfind("colorants (struct): a struct with colorant_list", 0), 0U) << lines.at(0);
     EXPECT_EQ(Lines(lines.begin() + 1, lines.end()),
               (Lines{"  XML-RPC, another type: DE03394", "  list, another type: DE03395",
                      "  XML-RPC, colorant_list is missing or no array: DE03395",
                      "  XML-RPC, an element without a good canister_id or colorant: DE03396",
-                     "  list, an element without a good canister_id or colorant: DE03396"}));
+                     "  list, an element without a good canister_id or colorant: DE03396",
+                     "  XML-RPC, a colorant with a wrong member: DE03350"}));
 }
 
 TEST(SetDataLists, takeNoNumberAlone)

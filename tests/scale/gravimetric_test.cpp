@@ -277,8 +277,9 @@ TEST(GetGravSettingsCmd, tellsItselfAndItsAnswer)
                "circuits_grav_settings (array of structs): of each circuit \"position_id\", \"tolerance\" "
                "(grams) and \"max_corrections\"",
                "  XML-RPC, no struct: DE02405", "  XML-RPC, missing or another type: DE02406",
-               "  XML-RPC, an element of another type: DE02407", "  list, missing or another type: DE02408",
-               "  XML-RPC, : DE03325", "  list, : DE03326"}));
+               "  XML-RPC, an element of another type: DE02407",
+               "  XML-RPC, an element with a wrong member: DE03350",
+               "  list, missing or another type: DE02408", "  XML-RPC, : DE03325", "  list, : DE03326"}));
 }
 
 // ---------------------------------------------------------------- SET_GRAV_SETTINGS
@@ -441,7 +442,8 @@ TEST(GETestCmd, tellsItsArgument)
                      "  XML-RPC, current_scale_weight is missing or of another type: DE02231",
                      "  list, current_scale_weight is missing or of another type: DE02231",
                      "  XML-RPC, driver_GE_settings is missing: DE02232",
-                     "  list, driver_GE_settings is missing: DE02232"}));
+                     "  list, driver_GE_settings is missing: DE02232",
+                     "  XML-RPC, driver_GE_settings is wrong: DE03350"}));
 }
 
 } // namespace

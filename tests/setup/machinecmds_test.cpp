@@ -442,10 +442,11 @@ TEST(MachineCommands, tellTheirArguments)
 
 TEST(MachineCommands, tellTheirAnswers)
 {
-    EXPECT_EQ(membersOf("CLONE_DISPENSER"), (Lines{"CloneDispenserAnswer", "disp_id (int): of the copy",
-                                                   "  XML-RPC, missing or another type: DE01481",
-                                                   "  list, missing or another type: DE01475",
-                                                   "  XML-RPC, : DE01540", "  list, : DE01540"}));
+    EXPECT_EQ(
+        membersOf("CLONE_DISPENSER"),
+        (Lines{"CloneDispenserAnswer", "disp_id (int): of the copy",
+               "  XML-RPC, missing or another type: DE01481", "  list, missing or another type: DE01475",
+               "  list, the list is empty: DE01476", "  XML-RPC, : DE01540", "  list, : DE01540"}));
 }
 
 TEST(MachineCommands, takeNothingThatWouldBeAnotherArgument)

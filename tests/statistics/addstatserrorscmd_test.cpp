@@ -136,7 +136,13 @@ TEST(AddStatsErrorsCmd, isTold)
                "GET_ERRORS; in a list the errors alone",
                "  XML-RPC, another type: DE02896", "  list, another type: DE02897",
                "  XML-RPC, without an array as error_list: DE02896",
-               "  list, an element of another type: DE02897"}));
+               "  list, an element of another type: DE02897",
+               "  XML-RPC, an element without a good error_type or timestamp: DE03001",
+               "  XML-RPC, an element of no known error_type: DE03007",
+               "  XML-RPC, an element that is an error of the driver without a good code: DE03002",
+               "  XML-RPC, an element that is an error of the driver without a good text: DE03003",
+               "  XML-RPC, an element that is an error of the hardware without its numbers: DE03004",
+               "  XML-RPC, an element that is an error of the configuration without its numbers: DE03005"}));
 }
 
 } // namespace

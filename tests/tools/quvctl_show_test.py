@@ -119,6 +119,36 @@ Delivers colorant    no
         self.assertIn('\n  DE00171  XML-RPC  the arguments are no array: "Error decoding xmp-rpc type"\n', text)
         self.assertNotIn("DE00311", text)
 
+    def test_refusals_of_the_objects_in_it(self):
+        def shown(name):
+            return self.done("show", name)
+
+        of_machines = {"SAVE_CONFIG", "SAVE_DISP_CONFIG", "SAVE_MACHINE_CONFIG", "GET_CONFIG", "SET_CANISTER_LIST",
+                      "SET_COLORANT_LIST", "GET_COLORANT_LIST", "SET_CALIB_LIST", "GET_CALIB_LIST", "SET_CALIB_PROFILES",
+                      "GET_CALIB_PROFILES", "SET_GRAV_SETTINGS", "GET_GRAV_SETTINGS", "GE_TEST"}
+        self.assertEqual({name for name in self.names() if "DE03350" in shown(name)}, of_machines)
+        self.assertIn('  DE03350  XML-RPC        canisters: a canister with a wrong member: "Machine data: \u2026"\n',
+                      shown("SET_CANISTER_LIST"))
+        for name in ["SAVE_CONFIG", "GET_CONFIG"]:
+            for code in ["DE03365", "DE03366", "DE03367", "DE03368"]:
+                self.assertIn(code, shown(name))
+        for name in ["ADD_STATS_ERRORS", "GET_ERRORS"]:
+            for code in ["DE03001", "DE03002", "DE03003", "DE03004", "DE03005", "DE03007"]:
+                self.assertIn(code, shown(name))
+
+    def test_all_refusals_of_a_list(self):
+        for name, code, when in [
+                ("CLONE_DISPENSER", "DE01476", "disp_id: the list is empty"),
+                ("CLONE_MACHINE", "DE02692", "machine_id: the list is empty"),
+                ("GET_CALIB_LIST", "DE00858", "calibrations_list has an element that cannot be made"),
+                ("GET_RECALIB_LIST", "DE02637", "calibrations_list has an element that cannot be made"),
+                ("GET_CANISTER_LIST", "DE03389", "canister_list has an element without a canister's ID behind it"),
+                ("GET_CIRCUIT_LIST", "DE03391", "circuit_list has an element without a canister's ID behind it"),
+                ("GET_CMD_LIST", "DE00430", "command_list has an element without a value"),
+                ("GET_ERRORS", "DE00467", "fw_errors cannot be made"),
+                ("RES_FILE_LIST", "DE02756", "res_file_list: the list is empty")]:
+            self.assertRegex(self.done("show", name), rf"(?m)^  {code}  list +{re.escape(when)}: ", name)
+
     def test_plain_command(self):
         self.assertEqual(self.done("show", "CHECK_BUSY").split("\n\nRow ")[0], """\
 Name     CHECK_BUSY

@@ -79,6 +79,13 @@ class Literals(Collected):
             }
             '''), [])
 
+    def test_nothing_that_is_only_told(self):
+        self.assertEqual(self.raised('''
+            constexpr Refusal toldOfParts = {"DE00001", "raised elsewhere"};
+            constexpr Refusal noParts = {"DE00002", "no parts"};
+            FooCmd::FooCmd(int x) { throw FW_Exception(noParts.code, noParts.text, told(toldOfParts)); }
+            ''', base=REFUSAL), [("DE00002", "no parts", "FooCmd", "typed", "")])
+
     def test_unbalanced_brackets_do_not_stop_it(self):
         self.assertEqual([type(node).__name__ for node in walk(read("a ( b } c"))], ["Token", "Group", "Token", "Token"])
 
@@ -516,7 +523,8 @@ class Described(Collected):
                             {"rest", &Answer::m_rest, {"DE00006", "no"}, {"DE00007", "no"}},
                             quv::Member<Answer>::writtenWhenFilled("masks", &Answer::m_masks, {"DE00008", "no"},
                                                                    {"DE00009", "no"}).meaning("of each"),
-                            quv::Member<Answer>("pins", &Answer::m_pins).unmadeElement({"DE00010", "bad"})};
+                            quv::Member<Answer>("pins", &Answer::m_pins).unmadeElement({"DE00010", "bad"})
+                                .alsoInList("an element without a value", {"DE00011", "bad"}).meaning("of each")};
                 }
             };
             ''', record=REFUSAL + '''
@@ -531,6 +539,7 @@ class Described(Collected):
                 Member &otherType(const Refusal &refusal) { return *this; }
                 Member &element(const Refusal &refusal) { return *this; }
                 Member &unmadeElement(const Refusal &refusal) { return *this; }
+                Member &alsoInList(const char *when, const Refusal &refusal) { return *this; }
             private:
                 MemberRow m_row;
             };
@@ -544,7 +553,8 @@ class Described(Collected):
              ("DE00007", "list", "rest", "missing or another type", made),
              ("DE00008", "XML-RPC value", "masks", "another type", made),
              ("DE00009", "list", "masks", "missing or another type", made),
-             ("DE00010", "XML-RPC value", "pins", "an element that cannot be made", made)])
+             ("DE00010", "XML-RPC value", "pins", "an element that cannot be made", made),
+             ("DE00011", "list", "pins", "an element without a value", made)])
 
     def test_member_that_is_also_refused_by_hand(self):
         self.assertEqual(self.places('''

@@ -22,6 +22,7 @@ MEMBER = "Member"
 MAY_BE_MISSING = "writtenWhenFilled"  # what makes a member that nothing refuses when it is missing
 MEMBER_WORDS = {"otherType": "another type", "unmade": "cannot be made", "element": "an element of another type",
                 "unmadeElement": "an element that cannot be made"}  # operations on a member
+IN_LIST_TOO = "alsoInList"  # a refusal of the list form behind when it comes, in words
 THE_ANSWER = "the answer"
 
 
@@ -73,6 +74,8 @@ class Descriptions:
         """Of a member of an answer, or of an operation on it; None when the group is none."""
         parameter = self.parameter_of(group, index, "members")
         operation = callee_of(group) if is_group(group, "(") else None
+        if operation == IN_LIST_TOO and parameter:
+            return self.raised_by_constructors(group, LIST, self.name_in(member_of(group)), self.name_in(group))
         if operation in MEMBER_WORDS and parameter:
             return self.raised_by_constructors(group, VALUE, self.name_in(member_of(group)), MEMBER_WORDS[operation])
         if parameter == "missing":  # what refuses each flag of a table
