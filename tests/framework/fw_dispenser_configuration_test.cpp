@@ -437,6 +437,12 @@ TEST(FW_CircuitConfiguration, aNewDosingMotorMayKeepTheReferences)
     EXPECT_EQ(circuit.dosingMotor().rampConfigRef(), 5);
     EXPECT_EQ(circuit.dosingMotor().singleTransmissionConfigRef(), 0);
     EXPECT_EQ(circuit.dosingMotor().flowCorrectionConfigRef(), 7);
+
+    circuit.setDosingMotor(motorOf(0, 0, 7), FW_Circuit::ReplaceAll);
+    circuit.setDosingMotor(motorOf(2, 3, 0), FW_Circuit::KeepReferences);
+    EXPECT_EQ(circuit.dosingMotor().rampConfigRef(), 0);
+    EXPECT_EQ(circuit.dosingMotor().singleTransmissionConfigRef(), 0);
+    EXPECT_EQ(circuit.dosingMotor().flowCorrectionConfigRef(), 7);
 }
 
 TEST(FW_CircuitConfiguration, valvesByTheirId)

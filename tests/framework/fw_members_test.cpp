@@ -93,6 +93,64 @@ TEST(MachineMembers, aCircuitWithoutItsDosingMotorSaysZero)
               "Machine data: dosing_motor must be a struct");
 }
 
+TEST(MachineMembers, motorsAreStructsOfTheirOwn)
+{
+    const XmlRpcValue stirring = structOf({{"id", 3},
+                                           {"resolution", 200},
+                                           {"supplying_current", 16},
+                                           {"enabled", XmlRpcValue(false)},
+                                           {"activity", 61},
+                                           {"pause", "90 s"},
+                                           {"policy", 2},
+                                           {"speed", 90},
+                                           {"wire_board", 4},
+                                           {"wire_connectors_mask", 6}});
+    const FW_StirringMotor stirs(stirring);
+    EXPECT_EQ(stirs.stirringActivity(), 61);
+    EXPECT_EQ(stirs.stirringPause(1), 90);
+    EXPECT_TRUE(SameXmlRpcValue(stirs.toXmlRpcValue(), stirring)) << stirs.toXmlRpcValue().toXml();
+
+    const XmlRpcValue recirculation = structOf({{"id", 4},
+                                                {"resolution", 200},
+                                                {"supplying_current", 17},
+                                                {"enabled", XmlRpcValue(false)},
+                                                {"speed", 40},
+                                                {"suction_speed", 90},
+                                                {"activity", 60},
+                                                {"pause", "45 min"}});
+    const FW_RecirculationMotor recirculates(recirculation);
+    EXPECT_EQ(recirculates.suctionSpeed(), 90);
+    EXPECT_EQ(recirculates.recirculationPause(2), 45);
+    EXPECT_TRUE(SameXmlRpcValue(recirculates.toXmlRpcValue(), recirculation))
+        << recirculates.toXmlRpcValue().toXml();
+
+    const XmlRpcValue cleaning = structOf({{"id", 5},
+                                           {"resolution", 400},
+                                           {"supplying_current", 12},
+                                           {"cleaning_enabled", XmlRpcValue(false)},
+                                           {"timeout", "1500 ms"},
+                                           {"turntable_speed", 40},
+                                           {"schedule_mask", 8},
+                                           {"duration", 31},
+                                           {"brush_type", 2},
+                                           {"target", 1},
+                                           {"process", 2}});
+    const FW_CleaningMotor cleans(cleaning);
+    EXPECT_EQ(cleans.duration(), 31);
+    EXPECT_EQ(cleans.timeout(0), 1500);
+    EXPECT_TRUE(SameXmlRpcValue(cleans.toXmlRpcValue(), cleaning)) << cleans.toXmlRpcValue().toXml();
+
+    EXPECT_EQ(refusalOf<FW_StirringMotor>(structOf({{"speed", "90"}}),
+                                          "FW_StirringMotor::FW_StirringMotor(const XmlRpc::XmlRpcValue&)"),
+              "Machine data: speed must be an integer from 0 to 2147483647");
+    EXPECT_EQ(refusalOf<FW_RecirculationMotor>(
+                  arrayOf({}), "FW_RecirculationMotor::FW_RecirculationMotor(const XmlRpc::XmlRpcValue&)"),
+              "Machine data: must be a struct");
+    EXPECT_EQ(refusalOf<FW_CleaningMotor>(structOf({{"timeout", 3}}),
+                                          "FW_CleaningMotor::FW_CleaningMotor(const XmlRpc::XmlRpcValue&)"),
+              "Machine data: timeout must be a time, as \"30 min\", \"90 s\" or \"1500 ms\"");
+}
+
 TEST(MachineMembers, devicesStandInAStructOfTheirOwnWhenThereAreAny)
 {
     FW_Dispenser dispenser;

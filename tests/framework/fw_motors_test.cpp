@@ -133,6 +133,34 @@ TEST(FW_DosingMotor, fields)
     expectField<FW_DosingMotor>("motorID", &FW_DosingMotor::motorID, &FW_DosingMotor::setMotorId, 0, 9);
 }
 
+TEST(FW_Motor, comparesWhatAllMotorsHave)
+{
+    for (const auto set : {&FW_Motor::setMotorId, &FW_Motor::setResolution, &FW_Motor::setSupplyingCurrent}) {
+        FW_StirringMotor motor;
+        motor.setSpeed(99); // of its own
+        const FW_Motor &base = motor;
+        EXPECT_TRUE(base == FW_StirringMotor());
+        (motor.*set)(77);
+        EXPECT_FALSE(base == FW_StirringMotor());
+    }
+}
+
+TEST(FW_CleanJob, anyChangeMakesItAnother)
+{
+    EXPECT_TRUE(FW_CleanJob() == FW_CleanJob());
+    FW_CleanJob disabled;
+    disabled.setCleaningEnabled(false);
+    EXPECT_FALSE(disabled == FW_CleanJob());
+    FW_CleanJob longer;
+    longer.setTimeout(61, 2);
+    EXPECT_FALSE(longer == FW_CleanJob());
+    for (const auto set : {&FW_CleanJob::setTurntableSpeed, &FW_CleanJob::setScheduleMask}) {
+        FW_CleanJob job;
+        (job.*set)(77);
+        EXPECT_FALSE(job == FW_CleanJob());
+    }
+}
+
 TEST(FW_Motor, defaultsByKind)
 {
     EXPECT_EQ(FW_Motor::defaultResolution(0), 200);

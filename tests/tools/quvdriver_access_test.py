@@ -42,7 +42,7 @@ class WebPageTest(unittest.TestCase):
 
     @classmethod
     def tearDownClass(cls):
-        cls.driver.kill()
+        cls.driver.end()
 
     def status(self, headers, body=CALL):
         return ask(self.driver.port, headers, body)[0]
