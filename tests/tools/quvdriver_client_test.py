@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """The driver, called by a client that knows nothing of it but XML-RPC: Python's own."""
 
+import datetime
 import re
 import signal
 import threading
@@ -39,7 +40,7 @@ def formula(quantities, **others):
 class ClientTest(unittest.TestCase):
     def setUp(self):
         self.driver = Driver("--speed", "3")
-        self.addCleanup(self.driver.kill)
+        self.addCleanup(self.driver.end)
         self.client = self.driver.client()
         self.addCleanup(self.client("close"))
 
@@ -117,6 +118,12 @@ class ClientTest(unittest.TestCase):
             text = self.client.EXEC_B(number)["errors"][0]["text"]
             self.assertEqual(text, f"The command name must be a text, not the integer {number}")
 
+    def test_what_is_no_command_name(self):
+        for name, words in (({"a": 1}, "a struct"), (b"RESET", "binary data"),
+                            (datetime.datetime(2026, 3, 2, 9, 15), "a time")):
+            text = self.client.EXEC_B(name)["errors"][0]["text"]
+            self.assertEqual(text, f"The command name must be a text, not {words}")
+
     def test_integers_beyond_32_bits_are_refused(self):
         for value in ("<i4>2147483648</i4>", "<int>-2147483649</int>", "<i4>4294967297</i4>",
                       "<i8>5</i8>", "<i8>9223372036854775807</i8>", "<int>99999999999999999999</int>",
@@ -159,7 +166,7 @@ class PourTest(unittest.TestCase):
 
     def setUp(self):
         self.driver = Driver("--machine", "dispenser", "--speed", "10")
-        self.addCleanup(self.driver.kill)
+        self.addCleanup(self.driver.end)
         self.client = self.driver.client()
         self.addCleanup(self.client("close"))
 
@@ -172,6 +179,16 @@ class PourTest(unittest.TestCase):
         """What the driver believes a canister to hold, out of the words in which it refuses to raise it."""
         text = self.client.EXEC_B("SET_LEVELS", True, formula({colorant: 100000}))["errors"][0]["text"]
         return float(re.fullmatch(r"Canister \d+ cannot hold (.*); it holds 0 to 3000", text).group(1)) - 100000
+
+    def test_the_time_of_a_pour_beyond_the_levels(self):
+        too_much = formula({"B": 2500, "F": 1}, levels_policy=2)
+        for envelope in (self.client.EXEC_B("TINT", too_much),
+                         self.client.EXEC_B("GET_CMD_EST_EXEC_TIME", {"command": ["TINT", too_much]})):
+            self.assertEqual(envelope["ret_code"], 1)
+            self.assertEqual(
+                [(error["code"], error["text"]) for error in envelope["errors"]],
+                [("DE00061", "Formula interrupted because the current amount would go below zero"),
+                 ("DE03144", 'Canister 2 ("B") holds 2000; without 2500 it would fall below its critical level of 150')])
 
     def dispensed(self):
         report = self.call("GET_DISPENSED_FORMULA", 1, 1)

@@ -143,7 +143,7 @@ class HostileTest(unittest.TestCase):
 
     def test_many_large_requests_at_once(self):
         driver = Driver()
-        self.addCleanup(driver.kill)
+        self.addCleanup(driver.end)
         size = 1000 * 1000
         connections = []
         for _ in range(300):

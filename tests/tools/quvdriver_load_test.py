@@ -31,7 +31,7 @@ def wait_for_change(status):
 class LoadTest(unittest.TestCase):
     def setUp(self):
         self.driver = Driver("--speed", "10")
-        self.addCleanup(self.driver.kill)
+        self.addCleanup(self.driver.end)
         self.client = self.driver.client()
         self.addCleanup(self.client("close"))
         self.status = self.client.EXEC_B("GET_STATUS")["ret_value"]

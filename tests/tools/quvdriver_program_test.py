@@ -101,6 +101,7 @@ class ProgramTest(unittest.TestCase):
                               (["--speed", "0"], "--speed must be a number from 0.01 to 10000"),
                               (["--speed", "nan"], "--speed must be a number from 0.01 to 10000"),
                               (["--machine", "mixer", "--machine", "mixer"], "one dispenser and one mixer"),
+                              (["--state", ""], "--state must be a file"),
                               (["--trace=xml"], "--trace stands alone, or as --trace=json"),
                               (["--nothing"], "nothing"),
                               (["--help-all"], "help-all"),

@@ -16,7 +16,7 @@ CLIENT = ""
 class ClientTest(unittest.TestCase):
     def setUp(self):
         self.driver = Driver("--machine", "dispenser", "--speed", "10")
-        self.addCleanup(self.driver.kill)
+        self.addCleanup(self.driver.end)
 
     def run_client(self, *words, port=None):
         result = subprocess.run([CLIENT, "127.0.0.1", str(port or self.driver.port), *words],
