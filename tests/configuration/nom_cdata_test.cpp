@@ -121,6 +121,10 @@ TEST(NOM_cdata, copiesAndClearsItsName)
 {
     NOM_cdata row(QStringLiteral("1,Line 7"));
     const std::unique_ptr<const NOM_cdata> copy(row.clone());
+    QString error;
+    EXPECT_TRUE(row.updateLocalData(&error)); // nothing to move
+    EXPECT_EQ(error, QString());
+    EXPECT_EQ(row.structureName(), copy->structureName());
     row.clear();
     EXPECT_EQ(row.structureName(), QString());
     EXPECT_EQ(copy->structureName(), QStringLiteral("Line 7"));
