@@ -147,6 +147,17 @@ Priming2Cmd  XML-RPC value  circuits is missing or of another type  Priming2Cmd:
         self.assertIn("hw_error", told[("MachineStatusAnswer", "MachineStatusAnswer: expected \u2026 value")])
         self.assertEqual(told[("MachineStatusAnswer", "DispenserStatusAnswer: expected \u2026 value")], ["can_present"])
 
+    def test_what_an_ellipsis_stands_for(self):
+        code, out, err = run("explain", "DE00026")
+        self.assertEqual((code, err), (0, ""))
+        texts = out.split("\n\n")
+        self.assertEqual(texts[0].split("\n")[-2:], [
+            "DispenserStatusAnswer: … is one of tinting, recirculating, stirring, valve_on, cap_open, bellow_up, no_24_voltage, "
+            "no_48_voltage, punching",
+            "MachineStatusAnswer: … is can_present"])
+        self.assertEqual(texts[-1].split("\n")[0], "DE00026: …: expected … value")
+        self.assertEqual(len(texts[-1].rstrip("\n").split("\n")), 3)  # of any member: none is named
+
     def test_members_of_a_described_answer(self):
         for code, owner, form, when in [
                 ("DE01178", "GetCmdEstimatedExecTimeAnswer", "list", "exec_time is missing or of another type"),

@@ -442,15 +442,17 @@ class LongCalls(unittest.TestCase):
         self.assertNotIn("executed successfully", out)
 
     def test_the_driver_goes(self):
-        driver = ScriptedDriver(tickets=[ticket(1, percentage=45, time_left=11500)])
-        with start("call", "TINT", self.FORMULA, "--port", str(driver.port)) as process:
-            process.stdout.readline()
-            process.stdout.readline()  # it waits
-            driver.close()
-            _, err = process.communicate(timeout=30)
-        self.assertEqual(process.returncode, 1)
-        self.assertEqual(err.split("\n")[0],
-                         f"the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}")
+        for ticket_id, word in (("T-1", "T-1"), ("it's", r"'it'\''s'"), ("it's\u200e\\", r"$'it\'s\U0000200e\\'")):
+            driver = ScriptedDriver(start=envelope({"ticket_id": ticket_id}),
+                                    tickets=[ticket(1, percentage=45, time_left=11500)])
+            with start("call", "TINT", self.FORMULA, "--port", str(driver.port)) as process:
+                process.stdout.readline()
+                process.stdout.readline()  # it waits
+                driver.close()
+                _, err = process.communicate(timeout=30)
+            self.assertEqual(process.returncode, 1)
+            self.assertEqual(err.split("\n")[0],
+                             f"the machine goes on; look again with: quvctl ticket {word} --port {driver.port}")
 
     def test_the_ticket_of_what_fails_is_told(self):
         for words in [("tint", "B=12.5", "--interval", "0.01"), ("call", "TINT", self.FORMULA)]:
