@@ -206,7 +206,7 @@ TEST_F(DriverTest, aCodeThatTheFirmwareDoesNotKnow)
     const Envelope envelope = call("EXEC_B", "RESET");
     EXPECT_EQ(envelope.retCode, 3);
     EXPECT_EQ(envelope.error(),
-              "DE03106 The firmware refused the code 0001: unknown code (masks 0x8 and 0x0)");
+              "DE03106 The firmware refused the code 0001: Unknown command code (masks 0x8 and 0x0)");
 }
 
 TEST_F(DriverTest, aCommandThatTheFirmwareRefuses)
@@ -214,8 +214,8 @@ TEST_F(DriverTest, aCommandThatTheFirmwareRefuses)
     addDispenser(QStringLiteral("6 10 1 0 0 0 0").split(QLatin1Char(' ')), true);
     const Envelope envelope = call("EXEC_B", "GET_STATUS");
     EXPECT_EQ(envelope.retCode, 4);
-    EXPECT_EQ(envelope.error(), "DE03106 The firmware refused the code 0006: wrong position, errors are "
-                                "present (masks 0x10 and 0x1)");
+    EXPECT_EQ(envelope.error(), "DE03106 The firmware refused the code 0006: Wrong position ID, Command "
+                                "refused because of errors (masks 0x10 and 0x1)");
     EXPECT_EQ(envelope.info,
               QStringLiteral("GET_STATUS : Failed! Command not executed due to errors on firmware."));
 }

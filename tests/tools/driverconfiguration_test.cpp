@@ -78,9 +78,9 @@ TEST_F(DriverConfigurationTest, whatTheFirmwareRefuses)
     const Envelope longer = write(7, "1,300,11,41,1");
     EXPECT_EQ(longer.retCode, 4);
     EXPECT_EQ(longer.error(),
-              "DE03106 The firmware refused the code 0065: bad parameters (masks 0x20 and 0x0)");
+              "DE03106 The firmware refused the code 0065: Bad command parameters (masks 0x20 and 0x0)");
     EXPECT_EQ(write(7, "3,300,11,41").error(),
-              "DE03106 The firmware refused the code 0065: a field is out of range (masks 0x1 and 0x0)");
+              "DE03106 The firmware refused the code 0065: One or more fields contain values out of range (masks 0x1 and 0x0)");
     EXPECT_EQ(call("EXEC_B", "READ_CONFIG_ROW", 12, 1).retCode, 4);
     EXPECT_EQ(call("EXEC_B", "WRITE_CONFIG_ROW", row(0, "")).retCode, 4); // a command without a row
 }
@@ -161,7 +161,7 @@ TEST_F(DriverConfigurationTest, aTicketTellsTheEnd)
     while (!call("EXEC_B", "GET_STATUS").flag("conf_writing"))
         ASSERT_LT(std::chrono::steady_clock::now(), until);
     EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 1}})).error(),
-              "DE03106 The firmware refused the code 0017: the machine is not available (masks 0x0 and 0x8)");
+              "DE03106 The firmware refused the code 0017: Machine not available (masks 0x0 and 0x8)");
     EXPECT_EQ(write(7, "1,300,11,41").retCode, 4);
     EXPECT_EQ(read(3).substr(0, 16), "1,1,1,1,2,1,1,60");
     const std::string id = begun.text("ticket_id");

@@ -137,7 +137,7 @@ TEST_F(DriverPourTest, aCommandThatTheFirmwareRefusesEndsItsTicketInErrors)
     EXPECT_EQ(ticket(id).number("status"), -1);
     EXPECT_EQ(result.retCode, 4);
     EXPECT_EQ(result.error(),
-              "DE03106 The firmware refused the code 0001: the machine is not available (masks 0x0 and 0x8)");
+              "DE03106 The firmware refused the code 0001: Machine not available (masks 0x0 and 0x8)");
 }
 
 TEST_F(DriverPourTest, anUnknownTicket)

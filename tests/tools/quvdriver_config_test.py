@@ -151,7 +151,7 @@ class ConfigTest(unittest.TestCase):
             refused = client.EXEC_B("FINALIZE_CONFIG")
             self.assertEqual(refused["ret_code"], 4)
             self.assertEqual(refused["errors"][0]["text"],
-                             "The firmware refused the code 0067: writing the configuration failed (masks 0x0 and 0x2); "
+                             "The firmware refused the code 0067: Configuration writing error (masks 0x0 and 0x2); "
                              f'State file "{state}": No such file or directory')
             self.assertEqual(self.row(client, 7), "1,61,11,41")
 
@@ -173,7 +173,7 @@ class ConfigTest(unittest.TestCase):
         reason = f'State file "{self.state}": File too large'
         self.assertEqual(refused["ret_code"], 4)
         self.assertEqual(refused["errors"][0]["text"],
-                         "The firmware refused the code 0067: writing the configuration failed (masks 0x0 and 0x2); "
+                         "The firmware refused the code 0067: Configuration writing error (masks 0x0 and 0x2); "
                          + reason)
         self.assertIn(f"quvdriver: {reason}\n", log)
         with open(self.state, encoding="utf-8") as file:

@@ -2,13 +2,13 @@
 #include "requests/driver.h"
 
 #include "excerpt.h"
-#include "firmware/refusalreasons.h"
 #include "procedures/machineconfiguration.h"
 #include "procedures/pouring.h"
 #include "procedures/waiting.h"
 #include "requests/commandbuilder.h"
 #include "requests/dispensedformula.h"
 #include "requests/driverqueries.h"
+#include "requests/firmwarerefusal.h"
 #include "requests/refusal.h"
 #include "requests/request.h"
 
@@ -340,10 +340,7 @@ FirmwareReply Driver::askFirmware(const SerialProtoCommand &command, const Task 
     const QString code = ProtoCommandList::cmdCode(task.name, family);
     FirmwareReply reply = task.machine->exchange(code, command.moduleID(), command.serialParameters(family));
     if (reply.refused)
-        refuse(isUnknownCode(reply) ? UnknownToFirmware : RefusedByFirmware, "DE03106",
-               QStringLiteral("The firmware refused the code %1: %2%3")
-                   .arg(code, reasonsInWords(reply),
-                        reply.reason.isEmpty() ? QString() : QStringLiteral("; ") + reply.reason));
+        refuseAsFirmware(code, reply);
     return reply;
 }
 
