@@ -696,6 +696,25 @@ TEST(MachineFile, keepsEachValueByItself)
     }
 }
 
+TEST(MachineFile, theVersionOfTheFirmwareStandsBesideTheMachine)
+{
+    const quv::DescribedMachine described = quv::readDescribedMachine(
+        R"({"type": "mixer", "id": 3, "firmware_version": [63, 0, 245, 3, 4, 41]})");
+    EXPECT_EQ(described.machine->id(), 3);
+    EXPECT_EQ(described.firmwareVersion, FW_Version(63, 0, 245, 3, 4, 41));
+    EXPECT_EQ(machineFileOf(*described.machine, described.firmwareVersion),
+              QByteArray("{\"type\":\"mixer\",\"id\":3,\"firmware_version\":[63,0,245,3,4,41]}\n"));
+    EXPECT_FALSE(quv::readDescribedMachine(R"({"type": "dispenser"})").firmwareVersion.isValid());
+    EXPECT_EQ(readMachineFile(R"({"type": "mixer", "id": 3, "firmware_version": [1, 2, 3, 4, 5, 6]})")->id(),
+              3);
+    EXPECT_EQ(refusalOf(R"({"type": "mixer", "firmware_version": [1, 2, 3, 4, 5]})"),
+              "firmware_version: must be an array of 6 integers");
+    EXPECT_EQ(refusalOf(R"({"type": "mixer", "firmware_version": [1, 2, 3, 4, 5, 246]})"),
+              "firmware_version[5]: must be an integer from 0 to 245");
+    EXPECT_EQ(refusalOf(R"({"type": "mixer", "firmware_version": "1"})"),
+              "firmware_version: must be an array");
+}
+
 TEST(MachineFile, survivesTheWayOverXmlRpc)
 {
     const FW_Dispenser dispenser = read(FullDispenser);

@@ -410,6 +410,26 @@ std::unique_ptr<FW_Machine> readAs(const json &document)
     return machine;
 }
 
+// --- the firmware, of which the machine knows nothing
+
+constexpr char FirmwareVersionKey[] = "firmware_version";
+
+/// One that is not valid when the document has none. Nobody else knows the member, so it is taken out.
+FW_Version takeFirmwareVersion(json &document)
+{
+    constexpr int Integers = 6;
+    constexpr Range OneDigit{0, 245}; // each travels as one
+    const auto member = document.find(FirmwareVersionKey);
+    if (member == document.end())
+        return {};
+    const QString path = QLatin1String(FirmwareVersionKey);
+    const auto numbers = readValue<QList<int>>(*member, path, OneDigit);
+    if (numbers.size() != Integers)
+        refuse(path, QStringLiteral("must be an array of 6 integers"));
+    document.erase(member);
+    return {numbers.at(0), numbers.at(1), numbers.at(2), numbers.at(3), numbers.at(4), numbers.at(5)};
+}
+
 // --- lines
 
 constexpr std::size_t LineWidth = 120;
@@ -434,28 +454,39 @@ void addLines(const OrderedJson &value, const std::string &key, const std::strin
 
 } // namespace
 
-std::unique_ptr<FW_Machine> readMachineFile(const QByteArray &text)
+DescribedMachine readDescribedMachine(const QByteArray &text)
 {
-    const json document = parseJson({text.constData(), static_cast<std::size_t>(text.size())});
+    json document = parseJson({text.constData(), static_cast<std::size_t>(text.size())});
     if (!document.is_object())
         throw std::runtime_error("the file holds no JSON object");
     const auto type = document.find("type");
     if (type == document.end())
         refuse(QStringLiteral("type"), QStringLiteral("is missing"));
-    if (*type == "dispenser")
-        return readAs<FW_Dispenser>(document);
-    if (*type == "mixer")
-        return readAs<FW_Mixer>(document);
-    refuse(QStringLiteral("type"), QStringLiteral("must be \"dispenser\" or \"mixer\""));
+    const bool isMixer = *type == "mixer";
+    if (!isMixer && *type != "dispenser")
+        refuse(QStringLiteral("type"), QStringLiteral("must be \"dispenser\" or \"mixer\""));
+    DescribedMachine described;
+    described.firmwareVersion = takeFirmwareVersion(document);
+    described.machine = isMixer ? readAs<FW_Mixer>(document) : readAs<FW_Dispenser>(document);
+    return described;
 }
 
-QByteArray machineFileOf(const FW_Machine &machine)
+std::unique_ptr<FW_Machine> readMachineFile(const QByteArray &text)
+{
+    return readDescribedMachine(text).machine;
+}
+
+QByteArray machineFileOf(const FW_Machine &machine, const FW_Version &firmwareVersion)
 {
     OrderedJson document;
     if (const auto *dispenser = dynamic_cast<const FW_Dispenser *>(&machine))
         document = writtenValue(*dispenser);
     else if (const auto *mixer = dynamic_cast<const FW_Mixer *>(&machine))
         document = writtenValue(*mixer);
+    if (firmwareVersion.isValid())
+        document[FirmwareVersionKey] = {firmwareVersion.m_family, firmwareVersion.m_hardware,
+                                        firmwareVersion.m_major,  firmwareVersion.m_minor,
+                                        firmwareVersion.m_patch,  firmwareVersion.m_revision};
     std::string text;
     addLines(document, std::string(), std::string(), "", text);
     return QByteArray::fromStdString(text);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QuvFramework/fw_machine.h>
+#include <QuvFramework/fw_version.h>
 
 #include <QtCore/QByteArray>
 
@@ -20,7 +21,17 @@ inline constexpr int MaxMachineFileSize = 1024 * 1024;
  */
 std::unique_ptr<FW_Machine> readMachineFile(const QByteArray &text);
 
+/// What a file tells: a machine, and of its firmware what no machine knows.
+struct DescribedMachine
+{
+    std::unique_ptr<FW_Machine> machine{};
+    FW_Version firmwareVersion{}; ///< not valid when it is not told
+};
+
+/// The machine that the text describes, with its firmware. \throws as readMachineFile
+DescribedMachine readDescribedMachine(const QByteArray &text);
+
 /// UTF-8 that reads back to an equal machine, in lines that a person can edit; the last one ends as well.
-QByteArray machineFileOf(const FW_Machine &machine);
+QByteArray machineFileOf(const FW_Machine &machine, const FW_Version &firmwareVersion = {});
 
 } // namespace quv

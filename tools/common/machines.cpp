@@ -2,7 +2,6 @@
 #include "machines.h"
 
 #include "excerpt.h"
-#include "machinefile.h"
 #include "savedfile.h"
 
 #include <QuvFramework/fw_autocap.h>
@@ -181,21 +180,26 @@ QByteArray contentOf(const QString &path)
 
 } // namespace
 
-std::unique_ptr<FW_Machine> machineByName(const QString &nameOrFile)
+DescribedMachine describedMachineByName(const QString &nameOrFile)
 {
     if (nameOrFile == QLatin1String("none"))
-        return nullptr;
+        return {};
     for (const BuiltIn &builtIn : builtIns) {
         if (nameOrFile == QLatin1String(builtIn.name))
-            return builtIn.make();
+            return {builtIn.make(), {}};
     }
     try {
-        return readMachineFile(contentOf(nameOrFile));
+        return readDescribedMachine(contentOf(nameOrFile));
     } catch (const std::runtime_error &error) {
         throw std::runtime_error(QStringLiteral("Machine \"%1\": %2")
                                      .arg(excerpt(nameOrFile), QString::fromUtf8(error.what()))
                                      .toStdString());
     }
+}
+
+std::unique_ptr<FW_Machine> machineByName(const QString &nameOrFile)
+{
+    return describedMachineByName(nameOrFile).machine;
 }
 
 } // namespace quv

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include <QuvFramework/fw_machine.h>
+#include "machinefile.h"
 
 #include <QtCore/QString>
 
@@ -16,5 +16,7 @@ namespace quv {
  * \throws std::runtime_error with a text for the user
  */
 std::unique_ptr<FW_Machine> machineByName(const QString &nameOrFile);
+/// The same, with what a file tells of the firmware; the built-in machines tell nothing of it.
+DescribedMachine describedMachineByName(const QString &nameOrFile);
 
 } // namespace quv

@@ -11,16 +11,17 @@ namespace {
 
 ExitStatus run(const CommandLine &line)
 {
-    const auto machine = machineByName(line.words().first());
-    if (!machine)
+    const DescribedMachine described = describedMachineByName(line.words().first());
+    if (!described.machine)
         throw UsageError(QStringLiteral("\"none\" is no machine to print"));
+    const QByteArray file = machineFileOf(*described.machine, described.firmwareVersion);
     if (line.isSet("json")) {
         OrderedJson reply = success();
-        reply["machine"] = OrderedJson::parse(machineFileOf(*machine).toStdString());
+        reply["machine"] = OrderedJson::parse(file.toStdString());
         printJson(reply);
         return Done;
     }
-    const QStringList lines = QString::fromUtf8(machineFileOf(*machine)).split(QLatin1Char('\n'));
+    const QStringList lines = QString::fromUtf8(file).split(QLatin1Char('\n'));
     for (int i = 0; i < lines.size() - 1; ++i) // behind the last line end is nothing
         printLine(lines[i]);
     return Done;

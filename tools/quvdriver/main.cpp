@@ -218,9 +218,11 @@ void addMachines(quv::Driver &driver, const Options &options, quv::Trace *trace)
         configuration.state->claim();
     }
     for (const QString &name : options.machines) {
-        auto machine = quv::machineByName(name);
+        quv::DescribedMachine described = quv::describedMachineByName(name);
+        std::unique_ptr<FW_Machine> &machine = described.machine;
         if (!machine)
             continue;
+        configuration.version = described.firmwareVersion;
         auto simulated = std::make_unique<quv::SimulatedFirmware>(
             *machine, options.speed, quv::SimulatedFirmware::steadyClock(), configuration);
         followConfiguration(*machine, *simulated);

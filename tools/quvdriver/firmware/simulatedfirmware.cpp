@@ -4,6 +4,7 @@
 #include "firmware/parts/dispenserstatus.h"
 #include "firmware/parts/dosing.h"
 #include "firmware/parts/resetting.h"
+#include "firmware/parts/versions.h"
 #include "firmware/wirereply.h"
 
 #include <algorithm>
@@ -20,7 +21,9 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
                                      SimulatedConfiguration configuration)
     : m_machine(machine, speed, std::move(clock))
 {
+    const FW_Version version = configuration.version;
     m_rows = &add<Rows>(machine, std::move(configuration));
+    add<Versions>(version, [this] { return codes(); });
     add<Resetting>();
     if (m_machine.type() == SerialDeviceType::Dispenser) {
         add<DispenserStatusPart>();
@@ -42,6 +45,14 @@ Part &SimulatedFirmware::add(Arguments &&...arguments)
     }
     m_machine.add(std::move(part));
     return added;
+}
+
+QStringList SimulatedFirmware::codes() const
+{
+    QStringList codes;
+    for (const FirmwareCode &code : m_codes)
+        codes.append(code.code);
+    return codes;
 }
 
 SimulatedFirmware::Clock SimulatedFirmware::steadyClock()

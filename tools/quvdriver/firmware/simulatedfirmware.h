@@ -38,6 +38,7 @@ public:
 private:
     template <class Part, class... Arguments>
     Part &add(Arguments &&...arguments);
+    QStringList codes() const;
 
     SimulatedMachine m_machine;
     Rows *m_rows = nullptr;              ///< one of the machine's parts

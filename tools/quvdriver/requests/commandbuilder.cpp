@@ -10,6 +10,7 @@
 #include "catalogue/protocommandlist.h"
 #include "dispensing/turntablepurgeformulacmd.h"
 #include "dispensing/turntabletintcmd.h"
+#include "machine/commandidcmd.h"
 
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_xmlrpc.h>
@@ -34,6 +35,8 @@ std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcVal
         command->setCommand(name);
         return command;
     }
+    if (isNamed(name, Catalogue::GET_CMD_ID)) // by name it would forget its code
+        return std::make_unique<CommandIDCmd>(arguments);
     const std::unique_ptr<FW_Machine> copy = machine ? machine->copy() : nullptr;
     const auto *dispenser = dynamic_cast<const FW_Dispenser *>(copy.get());
     if (dispenser && dispenser->acceptCommands(FW_Device::Turntable)) {

@@ -5,6 +5,8 @@
 #include "firmware/simulatedmachine.h"
 #include "store/firmwarestate.h"
 
+#include <QuvFramework/fw_version.h>
+
 #include <memory>
 
 namespace quv {
@@ -14,6 +16,7 @@ struct SimulatedConfiguration
 {
     FirmwareAge age = FirmwareAge::Equal;
     std::shared_ptr<FirmwareState> state{}; ///< that outlasts the firmware; null for none
+    FW_Version version{};                   ///< of the firmware; the usual one when it is not valid
 };
 
 /// The configuration: rows that are written, read and made permanent (0065, 0066, 0067).
