@@ -47,13 +47,12 @@ request(const std::string &parameters = "<param><value><string>GET_STATUS</strin
            std::to_string(call.size()) + "\r\n\r\n" + call;
 }
 
-/// One that nobody has sent before, with a leading text, and for another position than the last ones.
+/// One that nobody has sent before, with an argument too many, which is not read, and for another position than the last ones.
 std::string newRequest(int client, long number)
 {
-    return request("<param><value><string>" + std::to_string(client) + "/" + std::to_string(number) +
-                   "</string></value></param><param><value><string>GET_STATUS</string></value></param>"
-                   "<param><value><int>" +
-                   std::to_string(number % 256) + "</int></value></param>");
+    return request("<param><value><string>GET_STATUS</string></value></param><param><value><int>" +
+                   std::to_string(number % 256) + "</int></value></param><param><value><string>" +
+                   std::to_string(client) + "/" + std::to_string(number) + "</string></value></param>");
 }
 
 enum class Calls { Same, Different };

@@ -62,7 +62,7 @@ TEST_F(DriverTest, aStatusThatIsToldAgainIsTheOneThatTheMachineHasNow)
         EXPECT_THAT(documentFor(*m_driver, "GET_STATUS"), HasSubstr(Rests));
         EXPECT_THAT(documentFor(*m_driver, "GET_STATUS", 5), HasSubstr(Rests));
         reply = {false, resetting};
-        EXPECT_THAT(documentFor(*m_driver, "leading", "GET_STATUS"), HasSubstr(Resets));
+        EXPECT_THAT(documentFor(*m_driver, "", "GET_STATUS"), HasSubstr(Resets));
         reply = {true, QStringList{QStringLiteral("6")}};
         EXPECT_THAT(documentFor(*m_driver, "GET_STATUS"), HasSubstr("DE03106"));
         reply = {false, QStringList{QStringLiteral("0")}};
@@ -83,12 +83,12 @@ TEST_F(DriverTest, argumentsReachTheFirmware)
     EXPECT_EQ(firmware.asked, QStringList{QStringLiteral("0006 5 0")});
 }
 
-TEST_F(DriverTest, aLeadingTextIsPassedOver)
+TEST_F(DriverTest, anEmptyLeadingTextIsPassedOver)
 {
     const ScriptedFirmware &firmware = addDispenser(IdleTokens);
-    EXPECT_EQ(call("EXEC_B", "session 12", "GET_STATUS", 5).retCode, 0);
+    EXPECT_EQ(call("EXEC_B", "session 12", "GET_STATUS", 5).retCode, 1);
     EXPECT_EQ(call("EXEC_B", "", "GET_STATUS", 6).retCode, 0);
-    EXPECT_EQ(firmware.asked, (QStringList{QStringLiteral("0006 5 0"), QStringLiteral("0006 6 0")}));
+    EXPECT_EQ(firmware.asked, QStringList{QStringLiteral("0006 6 0")});
 }
 
 TEST_F(DriverTest, aCommandsNameIsNoLeadingText)
@@ -135,7 +135,7 @@ TEST_F(DriverTest, aMixerAloneGetsWhatIsForBothKinds)
     EXPECT_EQ(status.error(), "DE03104 This driver has no machine that carries out this command");
 }
 
-TEST_F(DriverTest, aSecondMachineOfAKindIsRefused)
+TEST_F(DriverTest, aSecondMachineOfTheSameIDIsRefused)
 {
     addDispenser(IdleTokens);
     EXPECT_FALSE(m_driver->addMachine(std::make_unique<FW_Dispenser>(),
@@ -267,7 +267,7 @@ TEST_F(DriverTest, waitingEndsWhenTheAnswerIsAnotherOne)
         return FirmwareReply{false, tokens};
     });
     const XmlRpcValue idle = call("EXEC_B", "GET_STATUS").answer;
-    const Envelope changed = call("EXEC_NC", "lead", "GET_STATUS", idleAnswer(idle), 10, 10000);
+    const Envelope changed = call("EXEC_NC", "", "GET_STATUS", idleAnswer(idle), 10, 10000);
     EXPECT_EQ(changed.retCode, 0);
     EXPECT_TRUE(changed.flag("tinting"));
     EXPECT_EQ(asked, 4);

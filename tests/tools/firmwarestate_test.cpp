@@ -76,6 +76,25 @@ TEST_F(FirmwareStateTest, bothKindsOfMachinesAreKeptInOneFile)
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("state.json")});
 }
 
+TEST_F(FirmwareStateTest, machinesThatAreNotTheFirstOfTheirKindHaveTheirIDs)
+{
+    const Rows first{{1, {1}, {}}};
+    const Rows second{{1, {0}, {}}};
+    FirmwareState state(m_path);
+    state.keep(Mixer, second, 0);
+    state.keep(Dispenser, second, 12);
+    state.keep(Dispenser, first);
+    EXPECT_EQ(text(), QByteArray("{\n  \"dispenser\": [\n    {\"code\":1,\"row\":[1]}\n  ],\n"
+                                 "  \"dispenser:12\": [\n    {\"code\":1,\"row\":[0]}\n  ],\n"
+                                 "  \"mixer:0\": [\n    {\"code\":1,\"row\":[0]}\n  ]\n}\n"));
+    const FirmwareState again(m_path);
+    EXPECT_TRUE(again.rows(Dispenser) == first);
+    EXPECT_TRUE(again.rows(Dispenser, 12) == second);
+    EXPECT_TRUE(again.rows(Dispenser, 1).empty());
+    EXPECT_TRUE(again.rows(Mixer, 0) == second);
+    EXPECT_TRUE(again.rows(Mixer).empty());
+}
+
 TEST_F(FirmwareStateTest, rowsReplaceThoseOfBefore)
 {
     FirmwareState state(m_path);
@@ -96,7 +115,12 @@ TEST_F(FirmwareStateTest, filesThatAreRefused)
 {
     EXPECT_NE(refusal("{"), "");
     EXPECT_EQ(refusal("[]"), "it must hold an object");
-    EXPECT_EQ(refusal(R"({"scale": []})"), "its members must be \"dispenser\" and \"mixer\"");
+    for (const char *name : {"scale", "mixer:", "mixer:x", "mixer:02", "mixer:-1", "mixer:2:3", "Mixer"})
+        EXPECT_EQ(
+            refusal(QByteArray("{\"") + name + "\": []}"),
+            "its members must be \"dispenser\" and \"mixer\", or one of them with an ID, as \"mixer:2\"")
+            << name;
+    EXPECT_EQ(refusal(R"({"mixer:2": 1})"), "mixer:2 must be an array of rows");
     EXPECT_EQ(refusal(R"({"mixer": 1})"), "mixer must be an array of rows");
     EXPECT_EQ(refusal(R"({"mixer": [1]})"), R"(mixer[0] must be an object with "code" and "row")");
     EXPECT_EQ(refusal(R"({"mixer": [{"code": 1}]})"), R"(mixer[0] must be an object with "code" and "row")");

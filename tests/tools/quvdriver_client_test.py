@@ -138,12 +138,13 @@ class ClientTest(unittest.TestCase):
         def work(number):
             try:
                 with self.driver.client() as client:
+                    session = client.EXEC_B("LOGIN", 1, str(number))["ret_value"]["session_id"]
                     for n in range(25):
                         name = f"CLIENT_{number}_{n}"
                         text = client.EXEC_B(name)["errors"][1]["text"]
                         if text != f'The catalogue has no command "{name}"':
                             failures.append(text)
-                        status = client.EXEC_B(name, "GET_STATUS", number)
+                        status = client.EXEC_B(session, "GET_STATUS", number)
                         if status["ret_code"] != 0 or status["ret_value"]["normal_wm"] is not True:
                             failures.append(status)
             except Exception as error:  # whatever it is, the test must hear of it

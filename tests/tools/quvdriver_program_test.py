@@ -102,6 +102,7 @@ class ProgramTest(unittest.TestCase):
                               (["--speed", "nan"], "--speed must be a number from 0.01 to 10000"),
                               (["--machine", "mixer", "--machine", "mixer"], "one dispenser and one mixer"),
                               (["--state", ""], "--state must be a file"),
+                              (["--machine", "mixer:7", "--machine", "mixer:7"], "there are two mixers with the ID 7"),
                               (["--trace=xml"], "--trace stands alone, or as --trace=json"),
                               (["--nothing"], "nothing"),
                               (["--help-all"], "help-all"),
@@ -120,6 +121,7 @@ class ProgramTest(unittest.TestCase):
         """What a driver tells of three calls, in lines."""
         with Driver(option, "--machine", "dispenser", stderr=subprocess.PIPE) as driver:
             with driver.client() as client:
+                client.EXEC_B("", "GET_STATUS")
                 client.EXEC_B("a secret", "GET_STATUS")
                 client.EXEC_NB("a secret", "and another")
                 with self.assertRaises(xmlrpc.client.Fault):
@@ -138,6 +140,7 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual(lines, [
             {"what": "exchange", "code": "0006", "module": 0, "out": [], "in": "E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0".split()},
             {"what": "call", "method": "EXEC_B", "command": "GET_STATUS", "ret_code": 0, "errors": []},
+            {"what": "call", "method": "EXEC_B", "command": "GET_STATUS", "ret_code": 1, "errors": ["DE03400"]},
             {"what": "call", "method": "EXEC_NB", "command": "", "ret_code": 1, "errors": ["DE00337", "DE03103"]},
             {"what": "call", "method": "OPEN", "command": "", "fault": -32601}])
 
@@ -146,6 +149,7 @@ class ProgramTest(unittest.TestCase):
         for line, expected in zip(self.traced("--trace"), (
                 "exchange  code 0006  module 0  out -  in E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0",
                 "call  method EXEC_B  command GET_STATUS  ret_code 0  errors -",
+                "call  method EXEC_B  command GET_STATUS  ret_code 1  errors DE03400",
                 "call  method EXEC_NB  command -  ret_code 1  errors DE00337 DE03103",
                 "call  method OPEN  command -  fault -32601"), strict=True):
             self.assertRegex(line, rf"^{time_of_day}  {expected}  ms \d+$")

@@ -9,7 +9,9 @@
 #include <QuvFramework/fw_mixer.h>
 #include <QuvFramework/fw_turntable.h>
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <stdexcept>
 
 namespace quv {
@@ -179,6 +181,12 @@ QByteArray contentOf(const QString &path)
 }
 
 } // namespace
+
+bool isBuiltInMachine(const QString &name)
+{
+    return std::any_of(std::begin(builtIns), std::end(builtIns),
+                       [&name](const BuiltIn &builtIn) { return name == QLatin1String(builtIn.name); });
+}
 
 DescribedMachine describedMachineByName(const QString &nameOrFile)
 {

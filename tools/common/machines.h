@@ -19,4 +19,6 @@ std::unique_ptr<FW_Machine> machineByName(const QString &nameOrFile);
 /// The same, with what a file tells of the firmware; the built-in machines tell nothing of it.
 DescribedMachine describedMachineByName(const QString &nameOrFile);
 
+bool isBuiltInMachine(const QString &name);
+
 } // namespace quv

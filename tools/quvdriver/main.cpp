@@ -15,13 +15,18 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
 
 #include <atomic>
 #include <csignal>
 #include <cstdio>
+#include <map>
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include <unistd.h>
 
@@ -61,11 +66,12 @@ const QCommandLineOption hostOption(QStringLiteral("host"),
 const QCommandLineOption portOption(QStringLiteral("port"),
                                     QStringLiteral("Port to listen on, 0 for any free one (default 9333)."),
                                     QStringLiteral("PORT"), QStringLiteral("9333"));
-const QCommandLineOption
-    machineOption(QStringLiteral("machine"),
-                  QStringLiteral("A simulated machine: dispenser, turntable, dual, mixer, none, or a file; "
-                                 "may be repeated (default dispenser and mixer)."),
-                  QStringLiteral("NAME|FILE"));
+const QCommandLineOption machineOption(
+    QStringLiteral("machine"),
+    QStringLiteral("A simulated machine: dispenser, turntable, dual, mixer, one of these with an "
+                   "ID as in dispenser:2, none, or a file; may be repeated (default dispenser "
+                   "and mixer)."),
+    QStringLiteral("NAME|FILE"));
 const QCommandLineOption speedOption(QStringLiteral("speed"),
                                      QStringLiteral("How many times faster than real the machines work "
                                                     "(0.01 to 10000, default 1)."),
@@ -209,6 +215,74 @@ void followConfiguration(FW_Machine &machine, quv::SimulatedFirmware &firmware)
                      qPrintable(problem));
 }
 
+/// A machine that was asked for, and whether another ID than its own will do.
+struct ChosenMachine
+{
+    quv::DescribedMachine described{};
+    bool mayChangeID = false;
+};
+
+/// A built-in machine may stand with an ID, as dispenser:2.
+ChosenMachine chosenMachine(const QString &word)
+{
+    static const QRegularExpression withID(QStringLiteral("^(.+):([0-9]{1,9})$"));
+    const QRegularExpressionMatch match = withID.match(word);
+    if (match.hasMatch() && quv::isBuiltInMachine(match.captured(1))) {
+        ChosenMachine chosen{quv::describedMachineByName(match.captured(1))};
+        chosen.described.machine->setId(match.captured(2).toInt());
+        return chosen;
+    }
+    return {quv::describedMachineByName(word), quv::isBuiltInMachine(word)};
+}
+
+/// Gives the machine an ID that none of its kind has, if it may have another than its own.
+void giveID(ChosenMachine &chosen, const QSet<int> &taken)
+{
+    FW_Machine &machine = *chosen.described.machine;
+    if (!taken.contains(machine.id()))
+        return;
+    if (!chosen.mayChangeID)
+        throw Usage(QStringLiteral("there are two %1s with the ID %2")
+                        .arg(quv::kindInWords(machine.machineType()))
+                        .arg(machine.id())
+                        .toStdString());
+    int id = 1;
+    while (taken.contains(id))
+        ++id;
+    machine.setId(id);
+}
+
+/// The machines that were asked for, each with an ID of its own among its kind.
+std::vector<quv::DescribedMachine> machinesOf(const QStringList &words)
+{
+    std::vector<quv::DescribedMachine> machines;
+    std::map<SerialDeviceType, QSet<int>> taken;
+    for (const QString &word : words) {
+        ChosenMachine chosen = chosenMachine(word);
+        if (!chosen.described.machine)
+            continue;
+        QSet<int> &takenIDs = taken[chosen.described.machine->machineType()];
+        giveID(chosen, takenIDs);
+        takenIDs.insert(chosen.described.machine->id());
+        machines.push_back(std::move(chosen.described));
+    }
+    return machines;
+}
+
+void addMachine(quv::Driver &driver, quv::DescribedMachine described, double speed,
+                quv::SimulatedConfiguration configuration, quv::Trace *trace)
+{
+    configuration.version = described.firmwareVersion;
+    auto simulated = std::make_unique<quv::SimulatedFirmware>(
+        *described.machine, speed, quv::SimulatedFirmware::steadyClock(), std::move(configuration));
+    followConfiguration(*described.machine, *simulated);
+    std::unique_ptr<quv::Firmware> firmware = std::move(simulated);
+    if (trace)
+        firmware =
+            trace->watching(std::move(firmware));
+    driver.addMachine(std::move(described.machine), std::move(firmware));
+}
+
 void addMachines(quv::Driver &driver, const Options &options, quv::Trace *trace)
 {
     quv::SimulatedConfiguration configuration;
@@ -217,20 +291,11 @@ void addMachines(quv::Driver &driver, const Options &options, quv::Trace *trace)
         configuration.state = std::make_shared<quv::FirmwareState>(options.state);
         configuration.state->claim();
     }
-    for (const QString &name : options.machines) {
-        quv::DescribedMachine described = quv::describedMachineByName(name);
-        std::unique_ptr<FW_Machine> &machine = described.machine;
-        if (!machine)
-            continue;
-        configuration.version = described.firmwareVersion;
-        auto simulated = std::make_unique<quv::SimulatedFirmware>(
-            *machine, options.speed, quv::SimulatedFirmware::steadyClock(), configuration);
-        followConfiguration(*machine, *simulated);
-        std::unique_ptr<quv::Firmware> firmware = std::move(simulated);
-        if (trace)
-            firmware = trace->watching(std::move(firmware));
-        if (!driver.addMachine(std::move(machine), std::move(firmware)))
-            throw Usage("a driver has one dispenser and one mixer at most");
+    std::set<SerialDeviceType> kinds;
+    for (quv::DescribedMachine &described : machinesOf(options.machines)) {
+        const bool isFirst = kinds.insert(described.machine->machineType()).second;
+        configuration.stateID = isFirst ? std::nullopt : std::optional(described.machine->id());
+        addMachine(driver, std::move(described), options.speed, configuration, trace);
     }
 }
 

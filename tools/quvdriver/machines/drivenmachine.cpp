@@ -27,7 +27,7 @@ int firstTablePosition(const FW_Machine &machine)
 } // namespace
 
 DrivenMachine::DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware)
-    : m_type(machine->machineType()),
+    : m_id(machine->id(), machine->machineType()),
       m_family(familyOf(*machine)),
       m_speed(firmware->speed()),
       m_firmware(std::move(firmware)),

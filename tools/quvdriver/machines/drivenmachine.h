@@ -5,6 +5,8 @@
 #include "firmware/rowstore.h"
 #include "requests/progress.h"
 
+#include "base/machineid.h"
+
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
 
@@ -31,7 +33,8 @@ class DrivenMachine
 public:
     DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware);
 
-    SerialDeviceType type() const { return m_type; }
+    MachineID id() const { return m_id; }
+    SerialDeviceType type() const { return m_id.type; }
     int family() const { return m_family; } ///< mixers speak the codes of family 1
     double speed() const { return m_speed; }
 
@@ -64,7 +67,7 @@ public:
     std::unique_ptr<RunningPour> runningPour() const;
 
 private:
-    const SerialDeviceType m_type;
+    const MachineID m_id;
     const int m_family;
     const double m_speed;
 

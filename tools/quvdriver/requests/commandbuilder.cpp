@@ -52,7 +52,7 @@ std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcVal
 FW_ErrorList lowLevelsOf(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                          const DrivenMachine *machine)
 {
-    if (Catalogue::erogationCommand(name))
+    if (isPour(name))
         return lowLevels(arguments, machine);
     if (!isNamed(name, Catalogue::GET_CMD_EST_EXEC_TIME))
         return {};
@@ -60,12 +60,16 @@ FW_ErrorList lowLevelsOf(const QString &name, const XmlRpc::XmlRpcValue &argumen
     const XmlRpc::XmlRpcValue *asked =
         request ? FindXmlRpcMember(*request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS) : nullptr;
     QString pour;
-    return asked && DecodeXmlRpcValue(*asked, 0, pour) && Catalogue::erogationCommand(pour)
-               ? lowLevels(*asked, machine)
-               : FW_ErrorList();
+    return asked && DecodeXmlRpcValue(*asked, 0, pour) && isPour(pour) ? lowLevels(*asked, machine)
+                                                                       : FW_ErrorList();
 }
 
 } // namespace
+
+bool isPour(const QString &name)
+{
+    return Catalogue::erogationCommand(name) && Catalogue::targetIsDispenser(name);
+}
 
 std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                                            const DrivenMachine *machine)

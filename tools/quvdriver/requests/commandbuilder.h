@@ -9,6 +9,9 @@ namespace quv {
 
 class DrivenMachine;
 
+/// Whether a command delivers colorant. A mixer's delivers nothing.
+bool isPour(const QString &name);
+
 /**
  * The command that a client asks for, made for \a machine as it is now; null for none. On a machine with a turntable a tint
  * and a purge pour in the order in which the table reaches the circuits; TINT2 is a tint under its other code.

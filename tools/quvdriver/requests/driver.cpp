@@ -186,13 +186,7 @@ Driver::~Driver()
 
 bool Driver::addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware)
 {
-    const bool isSecond = std::any_of(m_machines.begin(), m_machines.end(), [&](const auto &other) {
-        return other->type() == machine->machineType();
-    });
-    if (isSecond)
-        return false;
-    m_machines.push_back(std::make_unique<DrivenMachine>(std::move(machine), std::move(firmware)));
-    return true;
+    return m_machines.add(std::make_unique<DrivenMachine>(std::move(machine), std::move(firmware)));
 }
 
 XmlRpcValue Driver::call(const MethodCall &call, Ending &gone)
@@ -225,7 +219,7 @@ bool Driver::mayLast(const MethodCall &call)
         return false;
     try {
         const Request request(call.params);
-        return ProtoCommandList::erogationCommand(request.name) ||
+        return isPour(request.name) ||
                request.name == ProtoCommandList::cmdStr(ProtoCommandList::FINALIZE_CONFIG) ||
                isChangeCall(*kind, request);
     } catch (const CallRefusal &) {
@@ -254,10 +248,10 @@ std::shared_ptr<Driver::Task> Driver::prepare(const Request &request)
 {
     auto task = std::make_shared<Task>();
     task->name = request.name;
-    task->machine = machineFor(request.name);
+    task->machine = machineFor(request);
     task->command = buildCommand(request.name, request.arguments, task->machine);
     checkCarriedOut(*task);
-    if (!ProtoCommandList::erogationCommand(request.name))
+    if (!isPour(request.name))
         return task;
 
     task->claim = task->machine->claimPour();
@@ -311,7 +305,8 @@ XmlRpcValue Driver::perform(Task &task)
         takeAnswer(*serial, askFirmware(*serial, task));
         errors = finish(task);
     } else {
-        const auto answer = answerDriverQuery(*task.command, {m_tickets, task.machine});
+        const auto answer =
+            answerDriverQuery(*task.command, {m_tickets, m_sessions, m_machines, task.machine});
         task.command->setProtoAnswer(answer.get());
     }
     return success(*task.command->getProtoAnswer(), task.name, timer.elapsed(), errors);
@@ -399,7 +394,7 @@ XmlRpcValue Driver::waitForChange(const Request &request, Ending &gone)
 
     Task task;
     task.name = request.name;
-    task.machine = machineFor(request.name);
+    task.machine = machineFor(request);
     const std::unique_ptr<FW_Machine> copy = task.machine ? task.machine->copy() : nullptr;
     XmlRpcValue arguments = request.arguments;
     const NCCommand asked(request.name, arguments, copy.get());
@@ -424,18 +419,22 @@ XmlRpcValue Driver::waitForChange(const Request &request, Ending &gone)
     }
 }
 
-/// A command that both kinds of machines know goes to the dispenser, when there is one.
-DrivenMachine *Driver::machineFor(const QString &name)
+/// The session's machine, or without a session the active one. Of what is for the driver itself it may be any, or null.
+DrivenMachine *Driver::machineFor(const Request &request)
 {
-    for (const SerialDeviceType type : {SerialDeviceType::Dispenser, SerialDeviceType::Mixer}) {
-        const bool isTarget = type == SerialDeviceType::Dispenser ? ProtoCommandList::targetIsDispenser(name)
-                                                                  : ProtoCommandList::targetIsMixer(name);
-        for (const auto &machine : m_machines) {
-            if (isTarget && machine->type() == type)
-                return machine.get();
-        }
-    }
-    return nullptr;
+    if (request.session.isEmpty())
+        return m_machines.activeFor(request.name);
+    DrivenMachine &machine = m_sessions.machineOf(request.session);
+    const bool fits = machine.type() == SerialDeviceType::Dispenser
+                          ? ProtoCommandList::targetIsDispenser(request.name)
+                          : ProtoCommandList::targetIsMixer(request.name);
+    if (fits)
+        return &machine;
+    if (ProtoCommandList::addressMachine(request.name))
+        refuse(NotConfigured, "DE03402",
+               QStringLiteral("%1 is not for a %2, which is the machine of the session")
+                   .arg(request.name, kindInWords(machine.type())));
+    return m_machines.activeFor(request.name);
 }
 
 } // namespace quv

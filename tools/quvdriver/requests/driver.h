@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "machines/drivenmachine.h"
+#include "machines/machineregistry.h"
+#include "requests/sessions.h"
 #include "requests/statusreplies.h"
 #include "requests/tickets.h"
 
@@ -14,7 +15,6 @@
 #include <QuvFramework/fw_machine.h>
 
 #include <memory>
-#include <vector>
 
 class SerialProtoCommand;
 
@@ -23,7 +23,7 @@ namespace quv {
 struct Request;
 
 /**
- * Carries out the commands that clients send: EXEC_B, EXEC_NB and EXEC_NC, each with [leading text,] name and arguments,
+ * Carries out the commands that clients send: EXEC_B, EXEC_NB and EXEC_NC, each with [session ID,] name and arguments,
  * answered by the envelope of XmlRpcAnswer. docs/driver.md tells the return codes and the driver's own error codes.
  *
  * Any number of threads may call it. A machine's firmware is asked by one of them at a time, and a machine pours once at a
@@ -37,7 +37,7 @@ public:
     Driver(const Driver &) = delete;
     Driver &operator=(const Driver &) = delete;
 
-    /// Before the first call. False for a second machine of a kind, which is not added: nobody could address it.
+    /// Before the first call. False for a machine with the ID of another of its kind, which is not added: nobody could address it.
     bool addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware);
 
     /// The envelope; never fails, whatever the parameters are. When \a gone begins, a call that waits for a change ends;
@@ -69,10 +69,11 @@ private:
     FW_ErrorList finish(const Task &task);
     FW_ErrorList finishPour(const Task &task);
     FW_ErrorList finishConfiguration(const Task &task);
-    DrivenMachine *machineFor(const QString &name);
+    DrivenMachine *machineFor(const Request &request);
 
     Ending m_ending{};
-    std::vector<std::unique_ptr<DrivenMachine>> m_machines{};
+    MachineRegistry m_machines{};
+    Sessions m_sessions{};
     StatusReplies m_statusReplies{};
     Tickets m_tickets{}; ///< last, so that its threads end before what they use
 };

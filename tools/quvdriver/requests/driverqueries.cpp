@@ -3,6 +3,7 @@
 
 #include "excerpt.h"
 #include "requests/commandbuilder.h"
+#include "requests/machinequeries.h"
 #include "requests/refusal.h"
 
 #include "base/getcmdestimatedexectimeanswer.h"
@@ -112,7 +113,7 @@ Answer estimate(const ProtoCommand &command, const DriverKnowledge &knowledge)
 {
     const ProtoCommand *asked = dynamic_cast<const GetCmdEstimatedExecTimeCmd &>(command).commandToEstimate();
     std::unique_ptr<ProtoCommand> asPoured;
-    if (Catalogue::erogationCommand(asked->command())) {
+    if (isPour(asked->command())) {
         asPoured = buildCommand(asked->command(), asked->xmlrpc_parameters(), knowledge.machine);
         asked = asPoured.get();
     }
@@ -227,7 +228,7 @@ Answer setLevels(const ProtoCommand &command, const DriverKnowledge &knowledge)
 
 const Query *queryOf(const QString &name)
 {
-    static constexpr std::array<Query, 7> queries{{
+    static constexpr std::array<Query, 16> queries{{
         {Catalogue::GET_CMD_STATUS, false, commandStatus},
         {Catalogue::GET_CMD_EST_EXEC_TIME, false, estimate},
         {Catalogue::CHECK_FORMULA_LEVELS, true, checkLevels},
@@ -235,6 +236,15 @@ const Query *queryOf(const QString &name)
         {Catalogue::GET_LOW_LEVEL_FORMULA, true, lowLevelFormula},
         {Catalogue::GET_FORMULA_EXECUTION, true, formulaExecution},
         {Catalogue::SET_LEVELS, true, setLevels},
+        {Catalogue::LOGIN, false, logIn},
+        {Catalogue::GET_KEY, false, exchangeKeys},
+        {Catalogue::CERTIFY_SESSION, false, certifySession},
+        {Catalogue::LOGOUT, false, logOut},
+        {Catalogue::GET_ACTIVE_DISP, false, listMachines},
+        {Catalogue::SET_ACTIVE_DISP, false, activateDispenser},
+        {Catalogue::SET_ACTIVE_MACHINE, false, activateMachine},
+        {Catalogue::GET_DISP_STATUS, true, dispenserStatus},
+        {Catalogue::GET_MIXER_STATUS, true, mixerStatus},
     }};
     const CMD_STRUCT *row = Catalogue::row(name);
     const auto query = std::find_if(queries.begin(), queries.end(), [row](const Query &candidate) {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "machines/drivenmachine.h"
+#include "machines/machineregistry.h"
+#include "requests/sessions.h"
 #include "requests/tickets.h"
 
 #include "base/protoanswer.h"
@@ -16,6 +17,8 @@ namespace quv {
 struct DriverKnowledge
 {
     const Tickets &tickets;
+    Sessions &sessions;
+    MachineRegistry &machines;
     DrivenMachine *machine; ///< null when the driver has none that the command is for
 };
 

@@ -66,6 +66,7 @@ Request::Request(const XmlRpcValue &params)
     int begin = 1;
     if (!ProtoCommandList::existsCommand(name)) {
         if (const auto second = commandName(FindXmlRpcElement(params, 1))) {
+            session = name;
             name = *second;
             begin = 2;
         }

@@ -7,7 +7,7 @@
 
 namespace quv {
 
-/// What a call asks for: [leading text,] command name, arguments.
+/// What a call asks for: [session ID,] command name, arguments.
 struct Request
 {
     /// \throws CallRefusal DE03101 without a name, DE03102 for a name that is no text
@@ -17,6 +17,7 @@ struct Request
     /// command's own arguments and the last answer, then interval and timeout.
     bool isWaiting() const;
 
+    QString session{};               ///< its ID; empty for none
     QString name{};                  ///< not looked up; cut when no command has it
     XmlRpc::XmlRpcValue arguments{}; ///< an array
 };

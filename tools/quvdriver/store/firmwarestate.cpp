@@ -113,6 +113,34 @@ QByteArray textOf(const std::vector<ConfigurationRow> &rows)
     return text + (rows.empty() ? "]" : "\n  ]");
 }
 
+using Key = std::pair<SerialDeviceType, std::optional<int>>;
+
+QByteArray nameOf(const Key &key)
+{
+    QByteArray name;
+    for (const Kind &kind : Kinds) {
+        if (kind.type == key.first)
+            name = kind.name;
+    }
+    return key.second ? name + ':' + QByteArray::number(*key.second) : name;
+}
+
+/// "dispenser", or "dispenser:2"; nothing for another name.
+std::optional<Key> keyOf(const QString &name)
+{
+    bool isNumber = true;
+    std::optional<int> id;
+    if (name.contains(QLatin1Char(':')))
+        id = name.section(QLatin1Char(':'), 1).toInt(&isNumber);
+    for (const Kind &kind : Kinds) {
+        const Key key{kind.type, id};
+        // an ID has one way of writing only
+        if (isNumber && id.value_or(0) >= 0 && QString::fromLatin1(nameOf(key)) == name)
+            return key;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 FirmwareState::FirmwareState(const QString &path) : m_path(path)
@@ -150,30 +178,28 @@ FirmwareState::Machines FirmwareState::machinesIn(const std::string &text)
     if (!document.is_object())
         refuse("it must hold an object");
     Machines machines;
-    std::size_t known = 0;
-    for (const Kind &kind : Kinds) {
-        if (!document.contains(kind.name))
-            continue;
-        machines[kind.type] = rowsIn(document[kind.name], kind.name);
-        ++known;
+    for (const auto &member : document.items()) {
+        const auto key = keyOf(QString::fromStdString(member.key()));
+        if (!key)
+            refuse(
+                "its members must be \"dispenser\" and \"mixer\", or one of them with an ID, as \"mixer:2\"");
+        machines[*key] = rowsIn(member.value(), member.key());
     }
-    if (known != document.size())
-        refuse("its members must be \"dispenser\" and \"mixer\"");
     return machines;
 }
 
-std::vector<ConfigurationRow> FirmwareState::rows(SerialDeviceType type) const
+std::vector<ConfigurationRow> FirmwareState::rows(SerialDeviceType type, std::optional<int> id) const
 {
     const Lock lock(m_mutex);
-    const auto found = m_machines.find(type);
+    const auto found = m_machines.find({type, id});
     return found == m_machines.end() ? std::vector<ConfigurationRow>() : found->second;
 }
 
-void FirmwareState::keep(SerialDeviceType type, std::vector<ConfigurationRow> rows)
+void FirmwareState::keep(SerialDeviceType type, std::vector<ConfigurationRow> rows, std::optional<int> id)
 {
     const Lock lock(m_mutex);
     Machines machines = m_machines;
-    machines[type] = std::move(rows);
+    machines[{type, id}] = std::move(rows);
     write(machines);
     m_machines = std::move(machines);
 }
@@ -181,12 +207,8 @@ void FirmwareState::keep(SerialDeviceType type, std::vector<ConfigurationRow> ro
 void FirmwareState::write(const Machines &machines) const
 {
     QByteArray text("{");
-    for (const Kind &kind : Kinds) {
-        const auto found = machines.find(kind.type);
-        if (found != machines.end())
-            text += QByteArray(text.size() > 1 ? ",\n" : "\n") + "  \"" + kind.name +
-                    "\": " + textOf(found->second);
-    }
+    for (const auto &[key, rows] : machines)
+        text += QByteArray(text.size() > 1 ? ",\n" : "\n") + "  \"" + nameOf(key) + "\": " + textOf(rows);
     text += "\n}\n";
     try {
         saveFile(m_path, text);

@@ -11,6 +11,7 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace quv {
@@ -20,7 +21,7 @@ inline constexpr int MaxStateFileSize = 1024 * 1024;
 
 /**
  * The file in which simulated machines keep their configuration while they are without power, see docs/driver.md. One file serves
- * a dispenser and a mixer. Any number of threads may use it.
+ * all machines of a driver: the first dispenser and the first mixer under their kinds, others by their IDs as well. Any number of threads may use it.
  */
 class FirmwareState
 {
@@ -33,13 +34,15 @@ public:
     /// Keeps other drivers from the file from now on. \throws std::runtime_error when one has it, or it cannot be written
     void claim();
 
-    /// The rows that were kept of a machine of this kind.
-    std::vector<ConfigurationRow> rows(SerialDeviceType type) const;
+    /// The rows that were kept of the first machine of this kind, or of the one with the \a id.
+    std::vector<ConfigurationRow> rows(SerialDeviceType type, std::optional<int> id = {}) const;
     /// Keeps the rows instead of those before; on failure the file and the rows stay. \throws std::runtime_error
-    void keep(SerialDeviceType type, std::vector<ConfigurationRow> rows);
+    void keep(SerialDeviceType type, std::vector<ConfigurationRow> rows, std::optional<int> id = {});
 
 private:
-    using Machines = std::map<SerialDeviceType, std::vector<ConfigurationRow>>;
+    /// The kind, and the ID of one that is not the first.
+    using Key = std::pair<SerialDeviceType, std::optional<int>>;
+    using Machines = std::map<Key, std::vector<ConfigurationRow>>;
 
     static Machines machinesIn(const std::string &text);
     void write(const Machines &machines) const;

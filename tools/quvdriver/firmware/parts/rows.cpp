@@ -12,12 +12,13 @@ Rows::Rows(SimulatedMachine &simulated, const FW_Machine &machine, SimulatedConf
     : m_machine(simulated),
       m_rows(machine, configuration.age),
       m_state(std::move(configuration.state)),
+      m_stateID(configuration.stateID),
       m_end(simulated.now())
 {
     if (!m_state)
         return;
     try {
-        m_rows.restore(m_state->rows(m_machine.type()));
+        m_rows.restore(m_state->rows(m_machine.type(), m_stateID));
     } catch (const std::runtime_error &error) {
         throw std::runtime_error("State file \"" + m_state->path().toStdString() + "\": " + error.what());
     }
@@ -77,7 +78,7 @@ FirmwareReply Rows::finalise()
         return refused(Reason::NotAvailable);
     try {
         if (m_state)
-            m_state->keep(m_machine.type(), m_rows.rows());
+            m_state->keep(m_machine.type(), m_rows.rows(), m_stateID);
     } catch (const std::runtime_error &error) {
         std::fprintf(stderr, "quvdriver: %s\n", error.what());
         return refused(Reason::ConfigurationNotWritten, QString::fromUtf8(error.what()));

@@ -8,6 +8,7 @@
 #include <QuvFramework/fw_version.h>
 
 #include <memory>
+#include <optional>
 
 namespace quv {
 
@@ -16,6 +17,7 @@ struct SimulatedConfiguration
 {
     FirmwareAge age = FirmwareAge::Equal;
     std::shared_ptr<FirmwareState> state{}; ///< that outlasts the firmware; null for none
+    std::optional<int> stateID{};           ///< of the machine, when it is not the first of its kind
     FW_Version version{};                   ///< of the firmware; the usual one when it is not valid
 };
 
@@ -43,7 +45,8 @@ private:
     SimulatedMachine &m_machine;
     RowStore m_rows;
     std::shared_ptr<FirmwareState> m_state{};
-    qint64 m_end = 0; ///< of the finalisation
+    std::optional<int> m_stateID{}; ///< under which the state keeps the rows
+    qint64 m_end = 0;               ///< of the finalisation
 };
 
 } // namespace quv
