@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "drivercalls.h"
+#include "pouringmachine.h"
 
 #include <QuvFramework/fw_mixer.h>
 
@@ -195,6 +196,92 @@ TEST_F(DriverSessionsTest, aStatusThatTheFirmwareRefusesIsLeftOut)
     EXPECT_EQ(envelope.retCode, 0);
     EXPECT_EQ(int(envelope.member("disp_status")), 0);
     EXPECT_FALSE(envelope.flag("pos_ready"));
+}
+
+/// A driver that has asked a firmware of this version what it can do.
+class DriverVersionTest : public DriverFixture
+{
+protected:
+    /// Its commands are those of \a table, or of the simulated machine.
+    WatchedFirmware &addVersion(const FW_Version &version, const char *table = nullptr)
+    {
+        const FW_Dispenser machine = pouringMachine();
+        const quv::Abilities::Ask ask = [&](const QString &code, const QList<int> &parameters) {
+            if (code == QLatin1String("000F"))
+                return FirmwareReply{false, tokens({version.m_family, version.m_hardware, version.m_major,
+                                                    version.m_minor, version.m_patch, version.m_revision})};
+            if (table)
+                return FirmwareReply{false, QString::fromLatin1(table).split(QLatin1Char(' '))};
+            return quv::SimulatedFirmware(machine).execute(code, 0, parameters);
+        };
+        auto firmware = std::make_unique<WatchedFirmware>(machine, 10000);
+        WatchedFirmware &added = *firmware;
+        m_driver->addMachine(std::make_unique<FW_Dispenser>(machine), std::move(firmware),
+                             quv::Abilities(machine, ask));
+        return added;
+    }
+    static QStringList tokens(const QList<int> &numbers)
+    {
+        QStringList tokens{QString::number(numbers.size(), 16)};
+        for (const int number : numbers)
+            tokens.append(QString::number(number, 16));
+        return tokens;
+    }
+};
+
+TEST_F(DriverVersionTest, anOldFirmwareIsNotAskedForWhatItDoesNotHave)
+{
+    const WatchedFirmware &firmware = addVersion({63, 1, 1, 0, 0, 32});
+    const Envelope refused = call("EXEC_B", "PRIMING2", arrayOf());
+    EXPECT_EQ(refused.retCode, 1); // what is wrong with the command itself comes first
+    const Envelope active = call("EXEC_B", "SW_PROCESS_TOGGLE", 1, 1);
+    EXPECT_EQ(active.retCode, 3);
+    EXPECT_EQ(active.error(), "DE03406 The machine's firmware has the version 63.1.1.0.0.32, which does not "
+                              "have SW_PROCESS_TOGGLE");
+    EXPECT_TRUE(firmware.received.isEmpty());
+}
+
+TEST_F(DriverVersionTest, whatTheFirmwareDoesNotListIsNotAskedOfIt)
+{
+    // two commands: 0006, and 0017 that cannot be executed
+    const WatchedFirmware &firmware = addVersion({63, 1, 1, 0, 0, 41}, "9 2 6 0 1 1 17 0 2 0");
+    EXPECT_EQ(call("EXEC_B", "GET_STATUS").retCode, 0);
+    const Envelope unlisted = call("EXEC_B", "RESET");
+    EXPECT_EQ(unlisted.retCode, 3);
+    EXPECT_EQ(unlisted.error(), "DE03407 The machine's firmware does not list RESET among its commands");
+    EXPECT_EQ(call("EXEC_NB", "TINT", formula({{"A", 10}})).error(),
+              "DE03407 The machine's firmware does not list TINT among its commands");
+    EXPECT_TRUE(firmware.received.isEmpty());
+}
+
+TEST_F(DriverVersionTest, aTintGoesOutByTheLaterCodeOnAFirmwareThatHasIt)
+{
+    const WatchedFirmware &firmware = addVersion({63, 1, 1, 0, 0, 41});
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 10}})).error(), "");
+    ASSERT_EQ(firmware.received.size(), 1);
+    EXPECT_EQ(firmware.received[0].first, QStringLiteral("0035"));
+    // criterion 2, one circuit of six fields: position 1, no queue, speed 50, no nozzle valve, steps 1000, no level steps
+    EXPECT_EQ(firmware.received[0].second.mid(0, 3), (QList<int>{2, 1, 6}));
+    EXPECT_EQ(level(11), "490");
+    EXPECT_EQ(call("EXEC_B", "PURGE", formula({{"A", 10}})).error(), "");
+    EXPECT_EQ(firmware.received.constLast().first, QStringLiteral("0035"));
+    EXPECT_EQ(firmware.received.constLast().second.at(0), 66); // the criterion 2 and the mark of a purge
+    EXPECT_EQ(level(11), "480");
+}
+
+TEST_F(DriverVersionTest, aTintStaysATintOnAFirmwareWithoutTheLaterCode)
+{
+    const WatchedFirmware &firmware = addVersion({63, 1, 1, 0, 0, 40});
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 10}})).error(), "");
+    EXPECT_EQ(firmware.received[0].first, QStringLiteral("0017"));
+}
+
+TEST_F(DriverVersionTest, aTintStaysATintWhenTheLaterCodeIsNotListed)
+{
+    // 0006, 0017 and 0074
+    const WatchedFirmware &firmware = addVersion({63, 1, 1, 0, 0, 41}, "D 3 6 0 1 1 17 0 2 1 74 0 1 1");
+    EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 10}})).error(), "");
+    EXPECT_EQ(firmware.received[0].first, QStringLiteral("0017"));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 import json
 import os
 import random
+import subprocess
 import tempfile
 import threading
 import unittest
@@ -162,6 +163,34 @@ class SessionsTest(unittest.TestCase):
         places = Session.answer(client.EXEC_B("GET_CMD_ID", 0x17))["command_ids"]
         self.assertEqual([table[place - 1]["cmd_code"] for place in places], [0x17])
         self.assertEqual(Session.answer(client.EXEC_B("GET_CMD_ID", 0x99)), {"command_ids": []})
+
+    def test_a_firmware_is_not_asked_for_what_its_version_does_not_have(self):
+        path = self.file('{"type": "dispenser", "firmware_version": [63, 1, 1, 0, 0, 32]}')
+        _, client = self.driver("--machine", path)
+        self.assertEqual(Session.answer(client.EXEC_B("READ_FW_VERSION", 0))["app_version"], [63, 1, 1, 0, 0, 32])
+        self.assert_refused(client.EXEC_B("SW_PROCESS_TOGGLE", 1, 1), 3, "DE03406")
+        self.assert_refused(client.EXEC_B("SLAVE_JUMP", 12, 2), 3, "DE03407")
+
+    def test_a_tint_goes_by_the_later_code_on_a_firmware_that_has_it(self):
+        machine = {"type": "dispenser", "colorants": [{"code": "B"}], "canisters": [
+            {"id": 1, "colorant": "B", "maximum": 3000, "current": 2000, "circuits": [
+                {"id": 1, "position_id": 1, "calibration": [{"steps": 1000, "quantity": 10, "speed": 50}]}]}]}
+        for version, code in (([63, 1, 1, 0, 0, 40], "0017"), ([63, 1, 1, 0, 0, 41], "0035"), (None, "0017")):
+            if version:
+                machine["firmware_version"] = version
+            else:
+                del machine["firmware_version"]
+            with Driver("--speed", "1000", "--trace=json", "--machine", self.file(json.dumps(machine)),
+                        stderr=subprocess.PIPE) as driver:
+                with driver.client() as client:
+                    session = Session(client, 0)
+                    session.ask("TINT", formula(B=10))
+                    self.assertEqual(self.level(session, 1), 1990)
+                driver.process.terminate()
+                _, told = driver.process.communicate(timeout=10)
+            codes = [line["code"] for line in map(json.loads, told.splitlines()) if line["what"] == "exchange"]
+            self.assertIn(code, codes)
+            self.assertFalse({"0017", "0035"} - {code} & set(codes), codes)
 
     def test_each_machine_keeps_its_configuration(self):
         state = os.path.join(os.path.dirname(self.file("")), "state.json")

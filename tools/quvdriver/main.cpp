@@ -252,6 +252,16 @@ void giveID(ChosenMachine &chosen, const QSet<int> &taken)
     machine.setId(id);
 }
 
+/// What the firmware tells of itself. Of one whose version nobody has written down the driver wants to know nothing.
+quv::Abilities abilitiesOf(const quv::DescribedMachine &described, quv::SimulatedFirmware &firmware)
+{
+    if (!described.firmwareVersion.isValid())
+        return {};
+    return {*described.machine, [&firmware](const QString &code, const QList<int> &parameters) {
+                return firmware.execute(code, 0, parameters);
+            }};
+}
+
 /// The machines that were asked for, each with an ID of its own among its kind.
 std::vector<quv::DescribedMachine> machinesOf(const QStringList &words)
 {
@@ -276,11 +286,12 @@ void addMachine(quv::Driver &driver, quv::DescribedMachine described, double spe
     auto simulated = std::make_unique<quv::SimulatedFirmware>(
         *described.machine, speed, quv::SimulatedFirmware::steadyClock(), std::move(configuration));
     followConfiguration(*described.machine, *simulated);
+    quv::Abilities abilities = abilitiesOf(described, *simulated);
     std::unique_ptr<quv::Firmware> firmware = std::move(simulated);
     if (trace)
         firmware =
             trace->watching(std::move(firmware));
-    driver.addMachine(std::move(described.machine), std::move(firmware));
+    driver.addMachine(std::move(described.machine), std::move(firmware), std::move(abilities));
 }
 
 void addMachines(quv::Driver &driver, const Options &options, quv::Trace *trace)

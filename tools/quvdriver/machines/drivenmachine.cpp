@@ -26,10 +26,12 @@ int firstTablePosition(const FW_Machine &machine)
 
 } // namespace
 
-DrivenMachine::DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware)
+DrivenMachine::DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware,
+                             Abilities abilities)
     : m_id(machine->id(), machine->machineType()),
       m_family(familyOf(*machine)),
       m_speed(firmware->speed()),
+      m_abilities(std::move(abilities)),
       m_firmware(std::move(firmware)),
       m_machine(std::move(machine)),
       m_tablePosition(firstTablePosition(*m_machine))

@@ -3,6 +3,7 @@
 
 #include "firmware/firmware.h"
 #include "firmware/rowstore.h"
+#include "machines/abilities.h"
 #include "requests/progress.h"
 
 #include "base/machineid.h"
@@ -31,12 +32,14 @@ struct RunningPour
 class DrivenMachine
 {
 public:
-    DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware);
+    DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware,
+                  Abilities abilities = {});
 
     MachineID id() const { return m_id; }
     SerialDeviceType type() const { return m_id.type; }
     int family() const { return m_family; } ///< mixers speak the codes of family 1
     double speed() const { return m_speed; }
+    const Abilities &abilities() const { return m_abilities; }
 
     /// One exchange with the firmware; nobody else has one meanwhile. \throws what Firmware::execute throws
     FirmwareReply exchange(const QString &code, int module, const QList<int> &parameters);
@@ -70,6 +73,7 @@ private:
     const MachineID m_id;
     const int m_family;
     const double m_speed;
+    const Abilities m_abilities;
 
     std::mutex m_exchange{}; ///< held for one exchange, never for a whole process
     std::unique_ptr<Firmware> m_firmware{};

@@ -151,6 +151,25 @@ XmlRpcValue withRequest(const MethodCall &call, Work work)
     return request ? enveloped(request->name, [&] { return work(*request); }) : refused;
 }
 
+/// A firmware that has the code that tells more of each circuit gets tints and purges by it.
+bool isSpokenAsTint2(const SerialProtoCommand &command, const DrivenMachine &machine)
+{
+    const QString name = command.command();
+    return (name == ProtoCommandList::cmdStr(ProtoCommandList::TINT) ||
+            name == ProtoCommandList::cmdStr(ProtoCommandList::PURGE)) &&
+           machine.abilities().hasTint2();
+}
+
+FirmwareReply sendCommand(const SerialProtoCommand &command, DrivenMachine &machine)
+{
+    const int family = machine.family();
+    const QString code = ProtoCommandList::cmdCode(command.command(), family);
+    FirmwareReply reply = machine.exchange(code, command.moduleID(), command.serialParameters(family));
+    if (reply.refused)
+        refuseAsFirmware(code, reply);
+    return reply;
+}
+
 void checkWaiting(const NCCommand &asked)
 {
     if (ProtoCommandList::erogationCommand(asked.command()))
@@ -184,9 +203,11 @@ Driver::~Driver()
     stop();
 }
 
-bool Driver::addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware)
+bool Driver::addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware,
+                        Abilities abilities)
 {
-    return m_machines.add(std::make_unique<DrivenMachine>(std::move(machine), std::move(firmware)));
+    return m_machines.add(
+        std::make_unique<DrivenMachine>(std::move(machine), std::move(firmware), std::move(abilities)));
 }
 
 XmlRpcValue Driver::call(const MethodCall &call, Ending &gone)
@@ -278,6 +299,7 @@ void Driver::checkCarriedOut(const Task &task)
     if (ProtoCommandList::cmdCode(task.name, task.machine->family()).isEmpty())
         refuse(UnknownToFirmware, "DE03105",
                QStringLiteral("The machine's firmware has no code for this command"));
+    task.machine->abilities().require(*task.command);
 }
 
 /// Gives a ticket, and goes on behind the client's back.
@@ -331,12 +353,12 @@ XmlRpcValue Driver::askStatus(const Request &request, StatusSource &source, QByt
 
 FirmwareReply Driver::askFirmware(const SerialProtoCommand &command, const Task &task)
 {
-    const int family = task.machine->family();
-    const QString code = ProtoCommandList::cmdCode(task.name, family);
-    FirmwareReply reply = task.machine->exchange(code, command.moduleID(), command.serialParameters(family));
-    if (reply.refused)
-        refuseAsFirmware(code, reply);
-    return reply;
+    if (isSpokenAsTint2(command, *task.machine)) {
+        const std::unique_ptr<SerialProtoCommand> spoken(command.clone());
+        spoken->setCommand(ProtoCommandList::cmdStr(ProtoCommandList::TINT2));
+        return sendCommand(*spoken, *task.machine);
+    }
+    return sendCommand(command, *task.machine);
 }
 
 void Driver::takeAnswer(SerialProtoCommand &command, const FirmwareReply &reply)

@@ -38,7 +38,9 @@ public:
     Driver &operator=(const Driver &) = delete;
 
     /// Before the first call. False for a machine with the ID of another of its kind, which is not added: nobody could address it.
-    bool addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware);
+    /// \a abilities is what its firmware has told of itself.
+    bool addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware,
+                    Abilities abilities = {});
 
     /// The envelope; never fails, whatever the parameters are. When \a gone begins, a call that waits for a change ends;
     /// what the machine has begun is seen to its end. \throws FaultException -32601 for another method
