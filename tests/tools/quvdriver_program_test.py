@@ -138,7 +138,8 @@ class ProgramTest(unittest.TestCase):
             self.assertRegex(line.pop("time"), r"^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z$")
             self.assertIsInstance(line.pop("ms"), int)
         self.assertEqual(lines, [
-            {"what": "exchange", "code": "0006", "module": 0, "out": [], "in": "E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0".split()},
+            {"what": "exchange", "machine": "dispenser:1", "code": "0006", "module": 0, "out": [],
+             "in": "E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0".split()},
             {"what": "call", "method": "EXEC_B", "command": "GET_STATUS", "ret_code": 0, "errors": []},
             {"what": "call", "method": "EXEC_B", "command": "GET_STATUS", "ret_code": 1, "errors": ["DE03400"]},
             {"what": "call", "method": "EXEC_NB", "command": "", "ret_code": 1, "errors": ["DE00337", "DE03103"]},
@@ -147,7 +148,7 @@ class ProgramTest(unittest.TestCase):
     def test_trace_for_people(self):
         time_of_day = r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z"
         for line, expected in zip(self.traced("--trace"), (
-                "exchange  code 0006  module 0  out -  in E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0",
+                "exchange  machine dispenser:1  code 0006  module 0  out -  in E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0",
                 "call  method EXEC_B  command GET_STATUS  ret_code 0  errors -",
                 "call  method EXEC_B  command GET_STATUS  ret_code 1  errors DE03400",
                 "call  method EXEC_NB  command -  ret_code 1  errors DE00337 DE03103",

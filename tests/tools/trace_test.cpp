@@ -81,11 +81,14 @@ TEST_F(TraceTest, aCallThatThrowsIsToldToo)
 TEST_F(TraceTest, anExchangeIsToldWithItsReply)
 {
     FirmwareReply reply{false, {QStringLiteral("1"), QString(50, QLatin1Char('A'))}};
-    const auto firmware = m_json.watching(std::make_unique<ScriptedFirmware>([&] { return reply; }));
+    const auto firmware =
+        m_json.watching(std::make_unique<ScriptedFirmware>([&] { return reply; }), QStringLiteral("mixer:2"));
     EXPECT_EQ(firmware->execute(QStringLiteral("0017"), 3, {1, 245}).tokens, reply.tokens);
-    EXPECT_THAT(line(),
-                testing::HasSubstr(R"("what":"exchange","code":"0017","module":3,"out":[1,245],"in":["1",")" +
-                                   std::string(40, 'A') + R"(..."],"ms":)"));
+    EXPECT_THAT(
+        line(),
+        testing::HasSubstr(
+            R"("what":"exchange","machine":"mixer:2","code":"0017","module":3,"out":[1,245],"in":["1",")" +
+            std::string(40, 'A') + R"(..."],"ms":)"));
     reply.refused = true;
     EXPECT_TRUE(firmware->execute(QStringLiteral("0017"), 0, {}).refused);
     EXPECT_THAT(line(), testing::HasSubstr(R"("out":[],"refused":["1",)"));
@@ -94,9 +97,11 @@ TEST_F(TraceTest, anExchangeIsToldWithItsReply)
 TEST_F(TraceTest, anExchangeThatFailsIsToldToo)
 {
     const auto firmware = m_people.watching(
-        std::make_unique<ScriptedFirmware>([]() -> FirmwareReply { throw std::runtime_error("no reply"); }));
+        std::make_unique<ScriptedFirmware>([]() -> FirmwareReply { throw std::runtime_error("no reply"); }),
+        QStringLiteral("dispenser:1"));
     EXPECT_THROW(firmware->execute(QStringLiteral("0006"), 0, {}), std::runtime_error);
-    EXPECT_THAT(line(), testing::HasSubstr("exchange  code 0006  module 0  out -  failed true  ms "));
+    EXPECT_THAT(line(), testing::HasSubstr(
+                            "exchange  machine dispenser:1  code 0006  module 0  out -  failed true  ms "));
 }
 
 /// Works at a speed of its own, and knows what it was filled with.
@@ -115,7 +120,7 @@ private:
 TEST_F(TraceTest, theFirmwareIsAsItWas)
 {
     double filled = 0;
-    const auto firmware = m_people.watching(std::make_unique<FilledFirmware>(filled));
+    const auto firmware = m_people.watching(std::make_unique<FilledFirmware>(filled), QString());
     EXPECT_EQ(firmware->speed(), 2.5);
     firmware->canisterFilled(7, 0.5);
     EXPECT_EQ(filled, 7.5);

@@ -290,7 +290,9 @@ void addMachine(quv::Driver &driver, quv::DescribedMachine described, double spe
     std::unique_ptr<quv::Firmware> firmware = std::move(simulated);
     if (trace)
         firmware =
-            trace->watching(std::move(firmware));
+            trace->watching(std::move(firmware), QStringLiteral("%1:%2")
+                                                     .arg(quv::kindInWords(described.machine->machineType()))
+                                                     .arg(described.machine->id()));
     driver.addMachine(std::move(described.machine), std::move(firmware), std::move(abilities));
 }
 

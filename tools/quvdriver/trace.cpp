@@ -88,14 +88,16 @@ struct Trace::Line
 class Trace::WatchedFirmware : public Firmware
 {
 public:
-    WatchedFirmware(std::unique_ptr<Firmware> firmware, Trace &trace)
+    WatchedFirmware(std::unique_ptr<Firmware> firmware, const QString &machine, Trace &trace)
         : m_firmware(std::move(firmware)),
+          m_machine(machine),
           m_trace(trace)
     {}
 
     FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) override
     {
         Line line = m_trace.begin("exchange");
+        line.members["machine"] = toJson(m_machine);
         line.members["code"] = toJson(code);
         line.members["module"] = module;
         line.members["out"] = told(parameters);
@@ -119,6 +121,7 @@ public:
 
 private:
     std::unique_ptr<Firmware> m_firmware;
+    const QString m_machine;
     Trace &m_trace;
 };
 
@@ -178,9 +181,9 @@ XmlRpcValue Trace::call(const MethodCall &call, const std::function<XmlRpcValue(
     }
 }
 
-std::unique_ptr<Firmware> Trace::watching(std::unique_ptr<Firmware> firmware)
+std::unique_ptr<Firmware> Trace::watching(std::unique_ptr<Firmware> firmware, const QString &machine)
 {
-    return std::make_unique<WatchedFirmware>(std::move(firmware), *this);
+    return std::make_unique<WatchedFirmware>(std::move(firmware), machine, *this);
 }
 
 } // namespace quv

@@ -31,8 +31,8 @@ public:
     /// What \a handle gives, told with how it went; also when it throws.
     XmlRpc::XmlRpcValue call(const MethodCall &call, const std::function<XmlRpc::XmlRpcValue()> &handle);
 
-    /// \a firmware, whose exchanges are told. The trace must live longer.
-    std::unique_ptr<Firmware> watching(std::unique_ptr<Firmware> firmware);
+    /// \a firmware, whose exchanges are told as those of \a machine. The trace must live longer.
+    std::unique_ptr<Firmware> watching(std::unique_ptr<Firmware> firmware, const QString &machine);
 
 private:
     class WatchedFirmware;
