@@ -3,6 +3,7 @@
 
 #include "firmware/firmware.h"
 #include "firmware/process.h"
+#include "firmware/wirereply.h"
 #include "firmware/words.h"
 
 #include <functional>
@@ -52,6 +53,11 @@ public:
     virtual ProcessSet atWork() const { return {}; }
     /// What cannot begin now: anything while it is at work, unless it says otherwise.
     virtual ProcessSet excluded() const { return atWork().isEmpty() ? ProcessSet() : ProcessSet::all(); }
+
+    /// Why what it excludes is refused.
+    virtual Reason obstacle() const { return Reason::NotAvailable; }
+    /// The pumps of these circuits are about to be moved by another part.
+    virtual void giveWay(const QList<int> & /*positions*/) {}
 
     /// What has come about since it was last called, by the machine's clock. Called before each command.
     virtual void goOn() {}

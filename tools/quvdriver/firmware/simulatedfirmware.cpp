@@ -3,8 +3,10 @@
 
 #include "firmware/parts/dispenserstatus.h"
 #include "firmware/parts/dosing.h"
+#include "firmware/parts/recirculation.h"
 #include "firmware/parts/resetting.h"
 #include "firmware/parts/versions.h"
+#include "firmware/parts/stirring.h"
 #include "firmware/wirereply.h"
 
 #include <algorithm>
@@ -28,6 +30,8 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
     if (m_machine.type() == SerialDeviceType::Dispenser) {
         add<DispenserStatusPart>();
         add<Dosing>();
+        add<Stirring>();
+        add<Recirculation>();
     }
 }
 

@@ -42,12 +42,34 @@ StatusWords SimulatedMachine::status(int module) const
     return status;
 }
 
-bool SimulatedMachine::mayBegin(Process process) const
+bool SimulatedMachine::isAt(ProcessSet processes) const
 {
-    if (m_faults.emergencyPressed || m_faults.offlinePressed)
+    return std::any_of(m_parts.begin(), m_parts.end(),
+                       [processes](const auto &part) { return part->atWork().hasAny(processes); });
+}
+
+std::optional<Reason> SimulatedMachine::obstacle(Process process) const
+{
+    if (isHeld())
+        return Reason::NotAvailable;
+    for (const auto &part : m_parts)
+        if (part->excluded().has(process))
+            return part->obstacle();
+    return std::nullopt;
+}
+
+void SimulatedMachine::giveWay(const QList<int> &positions)
+{
+    for (const auto &part : m_parts)
+        part->giveWay(positions);
+}
+
+bool SimulatedMachine::isDue(TimedProcess process, const Rhythm &rhythm, qint64 since) const
+{
+    if (!m_timed.has(process) || rhythm.activity <= 0)
         return false;
-    return std::none_of(m_parts.begin(), m_parts.end(),
-                        [process](const auto &part) { return part->excluded().has(process); });
+    const double elapsed = double(now() - std::max(since, m_timed.since)) * m_speed;
+    return std::fmod(elapsed, rhythm.pause + rhythm.activity) >= rhythm.pause;
 }
 
 qint64 SimulatedMachine::takeFromCanister(const FW_Circuit &circuit, qint64 steps)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "firmware/part.h"
+#include "firmware/timedprocesses.h"
 
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_turntable.h>
@@ -11,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quv {
@@ -70,8 +72,22 @@ public:
     /// What all parts tell together, of the machine or of the circuit at the position \a module.
     StatusWords status(int module) const;
 
-    /// Whether nothing that a part is at excludes it, and nobody has pressed a button against it.
-    bool mayBegin(Process process) const;
+    /// Whether somebody has pressed a button that lets nothing go on.
+    bool isHeld() const { return m_faults.emergencyPressed || m_faults.offlinePressed; }
+    /// Whether a part is at one of the processes.
+    bool isAt(ProcessSet processes) const;
+    /// Why it cannot begin now: something that a part is at excludes it, or somebody has pressed a button against it. Nothing
+    /// when it can.
+    std::optional<Reason> obstacle(Process process) const;
+    bool mayBegin(Process process) const { return !obstacle(process); }
+    /// Tells all parts that the pumps of these circuits are needed.
+    void giveWay(const QList<int> &positions);
+
+    /// What goes on by itself.
+    const TimedProcesses &timed() const { return m_timed; }
+    TimedProcesses &timed() { return m_timed; }
+    /// Whether a timed process is at work now, when it last began to rest at the moment \a since, or later when all did.
+    bool isDue(TimedProcess process, const Rhythm &rhythm, qint64 since) const;
 
     /// Takes what so many steps of the circuit pour from its canister, and gives the steps that it still held. What a circuit
     /// without a calibration takes is known to nobody.
@@ -85,6 +101,10 @@ public:
     const QList<RaisedError> &errors() const { return m_errors; }
     void clearErrors() { m_errors.clear(); }
 
+    /// How often the ultrasound cleaned with the water of its bath.
+    int waterCycles() const { return m_waterCycles; }
+    void countWaterCycle() { ++m_waterCycles; }
+
     const MachineFaults &faults() const { return m_faults; }
     MachineFaults &faults() { return m_faults; }
 
@@ -95,7 +115,9 @@ private:
     const Clock m_clock;
     QHash<int, double> m_contents{}; ///< by the canisters' IDs
     QList<RaisedError> m_errors{};
+    int m_waterCycles = 0;
     MachineFaults m_faults{};
+    TimedProcesses m_timed{};
     std::vector<std::unique_ptr<FirmwarePart>> m_parts{};
 };
 

@@ -26,6 +26,13 @@ public:
         return m_good ? m_numbers.at(m_next++) : 0;
     }
 
+    /// A number of two digits.
+    int nextPair()
+    {
+        const int low = next(0, WireBase - 1);
+        return low + WireBase * next(0, WireBase - 1);
+    }
+
     /// A number of at least so many digits, after their count.
     qint64 nextCounted(int minDigits)
     {

@@ -77,8 +77,8 @@ FirmwareReply Dosing::strokes(const QList<int> &parameters, Movement movement)
 
 FirmwareReply Dosing::begin(const std::optional<PourRequest> &request, Movement movement)
 {
-    if (!m_machine.mayBegin(Process::Pouring))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::Pouring))
+        return refused(*obstacle);
     if (!request)
         return refused(Reason::WrongParameters);
     for (const PourPart &part : request->parts) {
@@ -94,6 +94,10 @@ FirmwareReply Dosing::begin(const std::optional<PourRequest> &request, Movement 
         circuits.push_back(plan(part, movement));
         circuits.back().isQueued = part.queue != 0 && request->criterion != UnqueuedCriterion;
     }
+    QList<int> positions;
+    for (const CircuitPour &circuit : circuits)
+        positions.append(circuit.position);
+    m_machine.giveWay(positions);
     const int parallelism = m_machine.turntable() ? 1 : m_machine.dispenser().tintingParallelism();
     m_pour =
         Pour(request->criterion | (request->isPurge ? PurgeMark : 0), circuits, parallelism, m_machine.now());

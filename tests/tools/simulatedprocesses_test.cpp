@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "firmware/parts/stirring.h"
+#include "firmware/simulatedfirmware.h"
+
+#include "pouringmachine.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+using quv::FirmwareReply;
+using quv::SimulatedFirmware;
+using Numbers = QList<int>;
+
+//                           length, not read, status, masks 1 to 5, position, zone, masks 8 to 12
+const char *const Idle = "E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0";
+const char *const Stirs = "E 0 1 10 0 0 0 0 F5 F5 4 0 0 0 0";
+const char *const StirsBusily = "E 0 1 10 0 0 0 0 F5 F5 0 0 0 0 0";
+const char *const Recirculates = "E 0 1 8 0 0 0 0 F5 F5 4 0 0 0 0";
+const char *const RecirculatesBusily = "E 0 1 8 0 0 0 0 F5 F5 0 0 0 0 0";
+const char *const Tints = "E 0 1 4 0 0 0 0 F5 F5 0 0 0 0 0";
+
+const char *const WrongModule = "refused 6 10 0 0 0 0 0";
+const char *const WrongParameters = "refused 6 20 0 0 0 0 0";
+const char *const NotAvailable = "refused 6 0 8 0 0 0 0";
+
+constexpr qint64 Second = 1000;
+
+/**
+ * A dispenser with four circuits, two of which stir or recirculate at once when each is told by itself. Those at 1, 2 and 3 are
+ * stirred; 1 rests for 100 s and is stirred for 20 s, when it goes on by itself. Circuit 1 has a motor to recirculate as well, at
+ * speed 25, which rests for 200 s and then is at it for 50 s.
+ */
+FW_Dispenser workingMachine()
+{
+    FW_Dispenser machine = pouringMachine();
+    machine.setModel(MachineModel::Rotan); // counts strokes
+    machine.setStirringParallelism(2);
+    machine.setRecirculatingParallelism(2);
+    FW_StirringMotor stirring;
+    stirring.setStirringActivity(20);
+    stirring.setStirringPause(100, FW_TimeSpan::Seconds);
+    for (const int position : {1, 2, 3})
+        machine.getCircuitByPosition(position)->setStirringMotor(stirring);
+    FW_RecirculationMotor recirculation;
+    recirculation.setSpeed(25);
+    recirculation.setRecirculationActivity(50);
+    recirculation.setRecirculationPause(200, FW_TimeSpan::Seconds);
+    machine.getCircuitByPosition(1)->setRecirculationMotor(recirculation);
+    return machine;
+}
+
+class SimulatedProcessesTest : public testing::Test
+{
+protected:
+    std::unique_ptr<SimulatedFirmware> firmwareOf(const FW_Dispenser &machine, double speed = 1)
+    {
+        return std::make_unique<SimulatedFirmware>(machine, speed, [this] { return m_now; });
+    }
+
+    static std::string tell(SimulatedFirmware &firmware, const char *code, int module,
+                            const Numbers &numbers = {})
+    {
+        const FirmwareReply reply = firmware.execute(QLatin1String(code), module, numbers);
+        return (reply.refused ? "refused " : "") + reply.tokens.join(' ').toStdString();
+    }
+    static std::string status(SimulatedFirmware &firmware, int module = 0)
+    {
+        return tell(firmware, "0006", module);
+    }
+
+    qint64 m_now = 5000;
+};
+
+// Stirring: seconds in two digits, busy.
+
+TEST_F(SimulatedProcessesTest, stirringInTheBackgroundShowsAtItsCircuitUntilItEnds)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0004", 2, {54, 1, 0}), "0"); // 300 s
+    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    EXPECT_EQ(status(*firmware, 2), Stirs);
+    m_now += 300 * Second - 1;
+    EXPECT_EQ(status(*firmware, 2), Stirs);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware, 2), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, busyStirringShowsOnTheMachineAndKeepsAllElseFromBeginning)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0004", 2, {30, 0, 1}), "0");
+    EXPECT_EQ(status(*firmware), StirsBusily);
+    EXPECT_EQ(status(*firmware, 2), StirsBusily);
+    EXPECT_EQ(status(*firmware, 1), "E 0 1 0 0 0 0 0 F5 F5 0 0 0 0 0");
+    EXPECT_EQ(tell(*firmware, "0004", 1, {30, 0, 0}), NotAvailable);
+    EXPECT_EQ(tell(*firmware, "0005", 1, {50, 30, 0, 0, 0}), NotAvailable);
+    EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), NotAvailable);
+    EXPECT_EQ(tell(*firmware, "0001", 0), NotAvailable);
+    m_now += 30 * Second;
+    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(tell(*firmware, "0004", 1, {30, 0, 0}), "0");
+}
+
+TEST_F(SimulatedProcessesTest, allCircuitsAreStirredAtOnce)
+{
+    const auto firmware = firmwareOf(workingMachine(), 10);
+    EXPECT_EQ(tell(*firmware, "0004", 0, {40, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware),
+              Stirs); // of all, so that the machine tells it, but nothing is kept from beginning
+    for (const int position : {1, 2, 3})
+        EXPECT_EQ(status(*firmware, position), Stirs) << position;
+    EXPECT_EQ(status(*firmware, 4), Idle); // has no motor
+    EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), "0");
+    EXPECT_EQ(status(*firmware, 1), "E 0 1 14 0 0 0 0 F5 F5 0 0 0 0 0"); // is stirred and pours
+    m_now += 4 * Second;
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, endlessStirringEndsBy0)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0004", 1, {245, 245, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0004", 3, {245, 245, 0}), "0");
+    m_now += 1000000 * Second;
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    EXPECT_EQ(tell(*firmware, "0004", 1, {0, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    EXPECT_EQ(status(*firmware, 3), Stirs);
+    EXPECT_EQ(tell(*firmware, "0004", 0, {0, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware, 3), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, busyStirringEndsBy0)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0004", 1, {245, 245, 1}), "0");
+    EXPECT_EQ(status(*firmware), StirsBusily);
+    EXPECT_EQ(tell(*firmware, "0004", 1, {0, 0, 1}), "0");
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, onlySoManyCanistersAreStirredEachByItself)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0004", 1, {30, 0, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0004", 2, {30, 0, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0004", 3, {30, 0, 0}), NotAvailable);
+    m_now += 20 * Second;
+    EXPECT_EQ(tell(*firmware, "0004", 2, {30, 0, 0}), "0"); // is stirred on, for 30 s from now
+    m_now += 10 * Second;
+    EXPECT_EQ(tell(*firmware, "0004", 3, {30, 0, 0}), "0"); // in the place of 1
+    EXPECT_EQ(status(*firmware, 2), Stirs);
+}
+
+TEST_F(SimulatedProcessesTest, stirringThatThereIsNotIsRefused)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    for (const Numbers &numbers : {Numbers{}, Numbers{30, 0}, Numbers{30, 0, 2}, Numbers{30, 0, 0, 0},
+                                   Numbers{246, 0, 0}, Numbers{0, -1, 0}})
+        EXPECT_EQ(tell(*firmware, "0004", 1, numbers), WrongParameters);
+    EXPECT_EQ(tell(*firmware, "0004", 9, {30, 0, 0}), WrongModule);
+    EXPECT_EQ(tell(*firmware, "0004", 9, {0, 0, 0}), WrongModule);
+    EXPECT_EQ(tell(*firmware, "0004", 4, {30, 0, 0}), WrongModule); // has no motor
+    const auto without = firmwareOf(pouringMachine());
+    EXPECT_EQ(tell(*without, "0004", 0, {30, 0, 0}), NotAvailable);
+    FW_Dispenser disabled = workingMachine();
+    disabled.getCircuitByPosition(1)->setEnabled(false);
+    const auto withDisabled = firmwareOf(disabled);
+    EXPECT_EQ(tell(*withDisabled, "0004", 1, {30, 0, 0}), WrongModule);
+}
+
+TEST_F(SimulatedProcessesTest, oneMotorStirsAll)
+{
+    FW_Dispenser machine = pouringMachine();
+    machine.setGlobalStirring(true);
+    const auto firmware = firmwareOf(machine);
+    EXPECT_EQ(tell(*firmware, "0004", 3, {30, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware), Stirs);
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    EXPECT_EQ(tell(*firmware, "0004", 2, {0, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    EXPECT_EQ(tell(*firmware, "0004", 9, {30, 0, 0}), WrongModule);
+}
+
+TEST_F(SimulatedProcessesTest, aSola100StirsBothWays)
+{
+    FW_Dispenser machine = workingMachine();
+    machine.setModelName(QStringLiteral("SOLA100"));
+    const auto firmware = firmwareOf(machine);
+    EXPECT_EQ(tell(*firmware, "0004", 0, {30, 0, 1}), "0");
+    m_now += 70 * Second - 1;
+    EXPECT_EQ(status(*firmware), StirsBusily);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, stirredCircuitsAreActive)
+{
+    quv::SimulatedMachine machine(workingMachine(), 1, [this] { return m_now; });
+    quv::Stirring stirring(machine);
+    EXPECT_FALSE(stirring.codes().front().run(0, {40, 0, 0}).refused);
+    EXPECT_FALSE(stirring.codes().front().run(2, {0, 0, 0}).refused);
+    const auto circuits = stirring.activeCircuits(3);
+    ASSERT_EQ(circuits.size(), 2U);
+    EXPECT_EQ(circuits[0].position, 1);
+    EXPECT_EQ(circuits[0].state, 3); // told to, and at it
+    EXPECT_EQ(circuits[1].position, 3);
+    EXPECT_TRUE(stirring.activeCircuits(2).empty());
+    EXPECT_TRUE(stirring.atWork().has(quv::Process::Stirring));
+    EXPECT_TRUE(stirring.excluded().isEmpty());
+    stirring.stop();
+    EXPECT_TRUE(stirring.activeCircuits(3).empty());
+    EXPECT_TRUE(stirring.atWork().isEmpty());
+}
+
+TEST_F(SimulatedProcessesTest, theEmergencyButtonEndsWhatTurns)
+{
+    quv::SimulatedMachine machine(workingMachine(), 1, [this] { return m_now; });
+    quv::Stirring stirring(machine);
+    EXPECT_FALSE(stirring.codes().front().run(0, {245, 245, 1}).refused);
+    stirring.goOn();
+    EXPECT_FALSE(stirring.atWork().isEmpty());
+    machine.faults().emergencyPressed = true;
+    stirring.goOn();
+    EXPECT_TRUE(stirring.atWork().isEmpty());
+    EXPECT_TRUE(stirring.excluded().isEmpty());
+    EXPECT_TRUE(stirring.codes().front().run(0, {30, 0, 0}).refused);
+}
+
+// Recirculation: speed, seconds in two digits, strokes, busy.
+
+TEST_F(SimulatedProcessesTest, recirculationShowsAtItsCircuitAndBusyOnTheMachine)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0005", 4, {50, 10, 0, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(status(*firmware, 4), Recirculates);
+    EXPECT_EQ(tell(*firmware, "0005", 2, {245, 5, 0, 0, 1}), "0");
+    EXPECT_EQ(status(*firmware), RecirculatesBusily);
+    m_now += 5 * Second;
+    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(status(*firmware, 4), Recirculates);
+    m_now += 5 * Second;
+    EXPECT_EQ(status(*firmware, 4), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, strokesTakeTheTimeOfThePump)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    // a stroke of 400 steps, 200 a turn, 50 turns a minute: 2.4 s
+    EXPECT_EQ(tell(*firmware, "0005", 2, {50, 0, 0, 10, 1}), "0");
+    m_now += 24 * Second - 1;
+    EXPECT_EQ(status(*firmware), RecirculatesBusily);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware), Idle);
+    // at the configured speed 1 goes by its motor's 25 turns a minute, 4.8 s a stroke
+    EXPECT_EQ(tell(*firmware, "0005", 1, {245, 0, 0, 10, 1}), "0");
+    m_now += 48 * Second - 1;
+    EXPECT_EQ(status(*firmware), RecirculatesBusily);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, strokesOfAllEndCircuitByCircuit)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0005", 0, {245, 0, 0, 10, 0}), "0");
+    EXPECT_EQ(status(*firmware, 2), Recirculates);
+    m_now += 24 * Second;
+    EXPECT_EQ(status(*firmware, 2), Idle);
+    EXPECT_EQ(status(*firmware, 1), Recirculates);
+    EXPECT_EQ(status(*firmware), Recirculates);
+}
+
+TEST_F(SimulatedProcessesTest, endlessRecirculationEndsBy0)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0005", 0, {50, 245, 245, 0, 1}), "0");
+    m_now += 1000000 * Second;
+    EXPECT_EQ(status(*firmware), RecirculatesBusily);
+    EXPECT_EQ(tell(*firmware, "0005", 0, {50, 0, 0, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, aPourEndsTheRecirculationOfItsCircuits)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0005", 1, {50, 100, 0, 0, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0005", 2, {50, 100, 0, 0, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), "0"); // 6 s of circuit 1
+    EXPECT_EQ(status(*firmware, 1), Tints);
+    EXPECT_EQ(tell(*firmware, "0005", 1, {50, 10, 0, 0, 0}), NotAvailable);
+    m_now += 6 * Second;
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    EXPECT_EQ(status(*firmware, 2), Recirculates);
+}
+
+TEST_F(SimulatedProcessesTest, recirculationThatThereIsNotIsRefused)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    for (const Numbers &numbers :
+         {Numbers{}, Numbers{50, 10, 0, 0}, Numbers{50, 10, 0, 0, 0, 0}, Numbers{0, 10, 0, 0, 0},
+          Numbers{101, 10, 0, 0, 0}, Numbers{244, 10, 0, 0, 0}, Numbers{50, 10, 0, 3, 0},
+          Numbers{50, 0, 0, 246, 0}, Numbers{50, 10, 0, 0, 2}})
+        EXPECT_EQ(tell(*firmware, "0005", 1, numbers), WrongParameters);
+    EXPECT_EQ(tell(*firmware, "0005", 9, {50, 10, 0, 0, 0}), WrongModule);
+    FW_Dispenser machine = workingMachine();
+    FW_RecirculationMotor disabled;
+    disabled.setEnabled(false);
+    machine.getCircuitByPosition(1)->setRecirculationMotor(disabled);
+    machine.getCircuitByPosition(2)->removeDosingMotor();
+    machine.getCircuitByPosition(3)->changeableDosingMotor().setStepsPerStroke(0);
+    const auto poorer = firmwareOf(machine);
+    EXPECT_EQ(tell(*poorer, "0005", 1, {50, 10, 0, 0, 0}), WrongModule);
+    EXPECT_EQ(tell(*poorer, "0005", 2, {50, 10, 0, 0, 0}), WrongModule);
+    EXPECT_EQ(tell(*poorer, "0005", 3, {50, 0, 0, 1, 0}), WrongParameters);
+    EXPECT_EQ(tell(*poorer, "0005", 3, {50, 10, 0, 0, 0}), "0");
+    const auto generic = firmwareOf(pouringMachine()); // its pumps do not count strokes
+    EXPECT_EQ(tell(*generic, "0005", 3, {50, 0, 0, 1, 0}), WrongParameters);
+    EXPECT_EQ(tell(*generic, "0005", 3, {50, 10, 0, 0, 0}), "0");
+    EXPECT_EQ(tell(*generic, "0005", 4, {50, 10, 0, 0, 0}), NotAvailable); // one at a time
+}
+
+} // namespace
