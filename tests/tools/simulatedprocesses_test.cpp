@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "firmware/parts/cleaning.h"
 #include "firmware/parts/stirring.h"
 #include "firmware/simulatedfirmware.h"
 
 #include "pouringmachine.h"
+
+#include <QuvFramework/fw_autocap.h>
+#include <QuvFramework/fw_brush.h>
+#include <QuvFramework/fw_ultrasoundcleaning.h>
 
 #include <gtest/gtest.h>
 
@@ -21,6 +26,8 @@ const char *const StirsBusily = "E 0 1 10 0 0 0 0 F5 F5 0 0 0 0 0";
 const char *const Recirculates = "E 0 1 8 0 0 0 0 F5 F5 4 0 0 0 0";
 const char *const RecirculatesBusily = "E 0 1 8 0 0 0 0 F5 F5 0 0 0 0 0";
 const char *const Tints = "E 0 1 4 0 0 0 0 F5 F5 0 0 0 0 0";
+const char *const Cleans = "E 0 1 0 0 0 0 8 F5 F5 0 0 0 0 0";
+const char *const CleansWithPump = "E 0 1 0 0 0 0 8 F5 F5 0 2 0 0 0";
 
 const char *const WrongModule = "refused 6 10 0 0 0 0 0";
 const char *const WrongParameters = "refused 6 20 0 0 0 0 0";
@@ -323,6 +330,220 @@ TEST_F(SimulatedProcessesTest, recirculationThatThereIsNotIsRefused)
     EXPECT_EQ(tell(*generic, "0005", 3, {50, 0, 0, 1, 0}), WrongParameters);
     EXPECT_EQ(tell(*generic, "0005", 3, {50, 10, 0, 0, 0}), "0");
     EXPECT_EQ(tell(*generic, "0005", 4, {50, 10, 0, 0, 0}), NotAvailable); // one at a time
+}
+
+// Cleaning: speed, seconds in two digits, 1 all motors, 2 the brush, 3 the motor of the circuit, busy.
+
+/// Circuits 1 and 3 have cleaning motors of 20 s.
+FW_Dispenser brushingMachine()
+{
+    FW_Dispenser machine = workingMachine();
+    FW_CleaningMotor motor;
+    motor.setDuration(20);
+    for (const int position : {1, 3})
+        machine.getCircuitByPosition(position)->setCleaningMotor(motor);
+    machine.setDevice(FW_Brush());
+    return machine;
+}
+
+TEST_F(SimulatedProcessesTest, cleaningShowsUntilItEnds)
+{
+    const auto firmware = firmwareOf(brushingMachine());
+    EXPECT_EQ(tell(*firmware, "0015", 0, {245, 15, 0, 2, 1}), "0");
+    EXPECT_EQ(status(*firmware), Cleans);
+    EXPECT_EQ(status(*firmware, 4), Cleans);
+    EXPECT_EQ(tell(*firmware, "0004", 1, {30, 0, 0}), NotAvailable);
+    m_now += 15 * Second;
+    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(tell(*firmware, "0015", 3, {50, 15, 0, 3, 1}), "0");
+    EXPECT_EQ(status(*firmware, 3), Cleans);
+    EXPECT_EQ(status(*firmware, 1), "E 0 1 0 0 0 0 0 F5 F5 0 0 0 0 0");
+    EXPECT_EQ(tell(*firmware, "0015", 1, {50, 0, 0, 3, 0}), "0"); // 1 is not being cleaned
+    EXPECT_EQ(status(*firmware), Cleans);
+    EXPECT_EQ(tell(*firmware, "0015", 3, {50, 0, 0, 3, 0}), "0");
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, cleaningInTheBackgroundLeavesStirringAlone)
+{
+    const auto firmware = firmwareOf(brushingMachine());
+    EXPECT_EQ(tell(*firmware, "0015", 0, {50, 245, 245, 1, 0}), "0");
+    m_now += 1000000 * Second;
+    EXPECT_EQ(status(*firmware), Cleans);
+    EXPECT_EQ(tell(*firmware, "0004", 1, {30, 0, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0005", 2, {50, 30, 0, 0, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), NotAvailable);
+    EXPECT_EQ(tell(*firmware, "0015", 0, {50, 10, 0, 1, 0}), NotAvailable);
+    EXPECT_EQ(tell(*firmware, "0015", 0, {50, 0, 0, 1, 0}), "0");
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, nozzlesAreCleanedOneAfterTheOther)
+{
+    const auto firmware = firmwareOf(brushingMachine());
+    EXPECT_EQ(tell(*firmware, "002F", 0, {245, 245}), "0"); // 4 s to each, and its motor's 20 s
+    EXPECT_EQ(status(*firmware, 1), Cleans);
+    m_now += 24 * Second;
+    EXPECT_EQ(status(*firmware, 1), "E 0 1 0 0 0 0 0 F5 F5 0 0 0 0 0");
+    EXPECT_EQ(status(*firmware, 3), Cleans);
+    m_now += 24 * Second - 1;
+    EXPECT_EQ(status(*firmware), Cleans);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(tell(*firmware, "002F", 1, {10, 0}), "0");
+    m_now += 14 * Second - 1;
+    EXPECT_EQ(status(*firmware), Cleans);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, nozzlesThatWaitToBeCleanedAreActive)
+{
+    quv::SimulatedMachine machine(brushingMachine(), 1, [this] { return m_now; });
+    quv::Cleaning cleaning(machine);
+    EXPECT_FALSE(cleaning.codes().back().run(0, {245, 245}).refused);
+    auto circuits = cleaning.activeCircuits(4);
+    ASSERT_EQ(circuits.size(), 2U);
+    EXPECT_EQ(circuits[0].position, 1);
+    EXPECT_EQ(circuits[0].state, 3);
+    EXPECT_EQ(circuits[1].position, 3);
+    EXPECT_EQ(circuits[1].state, 1);
+    m_now += 24 * Second;
+    circuits = cleaning.activeCircuits(4);
+    ASSERT_EQ(circuits.size(), 1U);
+    EXPECT_EQ(circuits[0].position, 3);
+    EXPECT_EQ(circuits[0].state, 3);
+    EXPECT_EQ(cleaning.activeCircuits(9).size(), 1U); // of nozzles
+    EXPECT_TRUE(cleaning.activeCircuits(3).empty());
+    cleaning.stop();
+    EXPECT_FALSE(cleaning.codes().front().run(0, {50, 30, 0, 1, 0}).refused);
+    EXPECT_EQ(cleaning.activeCircuits(4).size(), 2U);
+    EXPECT_TRUE(cleaning.activeCircuits(9).empty());
+}
+
+TEST_F(SimulatedProcessesTest, aCapThatRinsesCleansTheNozzles)
+{
+    FW_Dispenser machine = pouringMachine();
+    FW_Autocap cap;
+    machine.setDevice(cap);
+    const auto sliding = firmwareOf(machine);
+    EXPECT_EQ(tell(*sliding, "002F", 0, {245, 245}), NotAvailable);
+    cap.setType(FW_Autocap::SlidingWithCleaning);
+    machine.setDevice(cap);
+    const auto rinsing = firmwareOf(machine);
+    EXPECT_EQ(tell(*rinsing, "002F", 0, {245, 245}), "0");
+    m_now += 15 * Second - 1;
+    EXPECT_EQ(status(*rinsing), Cleans);
+    m_now += 1;
+    EXPECT_EQ(status(*rinsing), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, theUltrasoundsBathIsFilledAndEmptied)
+{
+    FW_Dispenser machine = pouringMachine();
+    machine.setDevice(FW_UltrasoundCleaning()); // 8 s to fill, 30 s of ultrasound, 5 s to empty
+    for (const auto &[code, numbers] :
+         {std::pair("0025", Numbers{1}), std::pair("002F", Numbers{245, 245})}) {
+        const auto firmware = firmwareOf(machine);
+        EXPECT_EQ(tell(*firmware, code, 0, numbers), "0");
+        EXPECT_EQ(status(*firmware), CleansWithPump);
+        EXPECT_EQ(status(*firmware, 2), Cleans);
+        m_now += 8 * Second;
+        EXPECT_EQ(status(*firmware), Cleans);
+        m_now += 30 * Second;
+        EXPECT_EQ(status(*firmware), CleansWithPump);
+        m_now += 5 * Second - 1;
+        EXPECT_EQ(status(*firmware), CleansWithPump);
+        m_now += 1;
+        EXPECT_EQ(status(*firmware), Idle);
+    }
+}
+
+TEST_F(SimulatedProcessesTest, eachPhaseOfTheBathTakesItsTime)
+{
+    FW_Dispenser machine = pouringMachine();
+    machine.setDevice(FW_UltrasoundCleaning());
+    const auto firmware = firmwareOf(machine);
+    const struct
+    {
+        Numbers numbers;
+        const char *status;
+        qint64 milliseconds;
+    } phases[] = {
+        {{2, 245, 245}, CleansWithPump, 5000}, {{2, 54, 1}, CleansWithPump, 30000}, // tenths of a second
+        {{3, 245, 245}, CleansWithPump, 8000}, {{3, 100, 0}, CleansWithPump, 10000},
+        {{4, 245, 245}, Cleans, 30000},        {{4, 54, 1}, Cleans, 300000},
+    };
+    for (const auto &phase : phases) {
+        EXPECT_EQ(tell(*firmware, "0025", 0, phase.numbers), "0");
+        EXPECT_EQ(status(*firmware), phase.status);
+        m_now += phase.milliseconds - 1;
+        EXPECT_EQ(status(*firmware), phase.status);
+        m_now += 1;
+        EXPECT_EQ(status(*firmware), Idle) << phase.milliseconds;
+    }
+    EXPECT_EQ(tell(*firmware, "0025", 0, {4, 245, 245}), "0");
+    EXPECT_EQ(tell(*firmware, "0025", 0, {4, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, theWatersUseIsCountedWhenTheUltrasoundHasDone)
+{
+    FW_Dispenser dispenser = pouringMachine();
+    dispenser.setDevice(FW_UltrasoundCleaning());
+    quv::SimulatedMachine machine(dispenser, 1, [this] { return m_now; });
+    quv::Cleaning cleaning(machine);
+    const auto useBath = cleaning.codes().at(1).run;
+    EXPECT_FALSE(useBath(0, {1}).refused);
+    m_now += 37 * Second;
+    cleaning.goOn();
+    EXPECT_EQ(machine.waterCycles(), 0);
+    m_now += 1 * Second;
+    cleaning.goOn();
+    cleaning.goOn();
+    EXPECT_EQ(machine.waterCycles(), 1);
+    m_now += 5 * Second;
+    cleaning.goOn();
+    EXPECT_FALSE(useBath(0, {3, 10, 0}).refused); // a filling is no use
+    m_now += 1000 * Second;
+    cleaning.goOn();
+    EXPECT_EQ(machine.waterCycles(), 1);
+    EXPECT_FALSE(useBath(0, {4, 10, 0}).refused);
+    cleaning.stop();
+    m_now += 1000 * Second;
+    cleaning.goOn();
+    EXPECT_EQ(machine.waterCycles(), 1);
+    EXPECT_FALSE(useBath(0, {4, 10, 0}).refused);
+    m_now += 1000 * Second;
+    cleaning.goOn();
+    EXPECT_EQ(machine.waterCycles(), 2);
+    EXPECT_FALSE(useBath(0, {4, 10, 0}).refused);
+    machine.faults().emergencyPressed = true;
+    cleaning.goOn();
+    EXPECT_TRUE(cleaning.atWork().isEmpty());
+}
+
+TEST_F(SimulatedProcessesTest, cleaningThatThereIsNotIsRefused)
+{
+    const auto none = firmwareOf(pouringMachine());
+    EXPECT_EQ(tell(*none, "0015", 0, {50, 10, 0, 1, 0}), NotAvailable);
+    EXPECT_EQ(tell(*none, "0015", 0, {50, 10, 0, 2, 0}), NotAvailable);
+    EXPECT_EQ(tell(*none, "0015", 1, {50, 10, 0, 3, 0}), WrongModule);
+    EXPECT_EQ(tell(*none, "0025", 0, {1}), NotAvailable);
+    EXPECT_EQ(tell(*none, "002F", 0, {10, 0}), NotAvailable);
+    const auto firmware = firmwareOf(brushingMachine());
+    for (const Numbers &numbers :
+         {Numbers{}, Numbers{50, 10, 0, 1}, Numbers{0, 10, 0, 1, 0}, Numbers{101, 10, 0, 1, 0},
+          Numbers{50, 10, 0, 0, 0}, Numbers{50, 10, 0, 4, 0}, Numbers{50, 10, 0, 1, 2},
+          Numbers{50, 10, 0, 3, 0}})
+        EXPECT_EQ(tell(*firmware, "0015", 0, numbers), WrongParameters);
+    EXPECT_EQ(tell(*firmware, "0015", 2, {50, 10, 0, 3, 0}), WrongModule); // has no motor
+    EXPECT_EQ(tell(*firmware, "0015", 9, {50, 10, 0, 2, 0}), WrongModule);
+    EXPECT_EQ(tell(*firmware, "002F", 0, {10}), WrongParameters);
+    EXPECT_EQ(tell(*firmware, "002F", 2, {10, 0}), WrongModule);
+    for (const Numbers &numbers :
+         {Numbers{}, Numbers{0}, Numbers{5, 1, 0}, Numbers{1, 10, 0}, Numbers{2, 10}})
+        EXPECT_EQ(tell(*firmware, "0025", 0, numbers), WrongParameters);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/simulatedfirmware.h"
 
+#include "firmware/parts/cleaning.h"
 #include "firmware/parts/dispenserstatus.h"
 #include "firmware/parts/dosing.h"
 #include "firmware/parts/recirculation.h"
@@ -32,6 +33,7 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
         add<Dosing>();
         add<Stirring>();
         add<Recirculation>();
+        add<Cleaning>();
     }
 }
 
