@@ -28,10 +28,13 @@ const char *const RecirculatesBusily = "E 0 1 8 0 0 0 0 F5 F5 0 0 0 0 0";
 const char *const Tints = "E 0 1 4 0 0 0 0 F5 F5 0 0 0 0 0";
 const char *const Cleans = "E 0 1 0 0 0 0 8 F5 F5 0 0 0 0 0";
 const char *const CleansWithPump = "E 0 1 0 0 0 0 8 F5 F5 0 2 0 0 0";
+const char *const ReadsLevels = "E 0 1 0 0 0 0 0 F5 F5 0 0 8 0 0";
+const char *const Reserved = "E 0 1 0 0 0 1 0 F5 F5 0 0 0 0 0";
 
 const char *const WrongModule = "refused 6 10 0 0 0 0 0";
 const char *const WrongParameters = "refused 6 20 0 0 0 0 0";
 const char *const NotAvailable = "refused 6 0 8 0 0 0 0";
+const char *const WrongWorkingMode = "refused 6 0 10 0 0 0 0";
 
 constexpr qint64 Second = 1000;
 
@@ -544,6 +547,201 @@ TEST_F(SimulatedProcessesTest, cleaningThatThereIsNotIsRefused)
     for (const Numbers &numbers :
          {Numbers{}, Numbers{0}, Numbers{5, 1, 0}, Numbers{1, 10, 0}, Numbers{2, 10}})
         EXPECT_EQ(tell(*firmware, "0025", 0, numbers), WrongParameters);
+}
+
+// Working mode: the mode, and of mode 5 what it holds and for how many seconds.
+
+TEST_F(SimulatedProcessesTest, aReservedModeShowsAndPoursNothing)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "0020", 0, {245, 0, 0}), "1 1"); // asks
+    for (const int mode : {0, 2, 3, 4, 6, 7, 8}) {
+        EXPECT_EQ(tell(*firmware, "0020", 0, {mode, 0, 0}), "1 " + std::to_string(mode));
+        EXPECT_EQ(status(*firmware), Reserved) << mode;
+        EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), WrongWorkingMode) << mode;
+        EXPECT_EQ(tell(*firmware, "0004", 1, {1, 0, 0}), "0") << mode;
+        m_now += Second;
+    }
+    EXPECT_EQ(tell(*firmware, "0020", 0, {245, 0, 0}), "1 8");
+    EXPECT_EQ(tell(*firmware, "0020", 0, {1, 0, 0}), "1 1");
+    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), "0");
+    EXPECT_EQ(tell(*firmware, "0020", 0, {2, 0, 0}), NotAvailable); // not in the midst of a pour
+    EXPECT_EQ(tell(*firmware, "0020", 0, {5, 0, 9}), "1 5");
+}
+
+TEST_F(SimulatedProcessesTest, aMachineBeginsInItsInitialMode)
+{
+    FW_Dispenser machine = workingMachine();
+    machine.setInitialWorkingMode(3);
+    const auto firmware = firmwareOf(machine);
+    EXPECT_EQ(status(*firmware), Reserved);
+    EXPECT_EQ(tell(*firmware, "0020", 0, {245, 0, 0}), "1 3");
+}
+
+TEST_F(SimulatedProcessesTest, modesThatThereAreNotAreRefused)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    for (const Numbers &numbers :
+         {Numbers{}, Numbers{1}, Numbers{9, 0, 0}, Numbers{244, 0, 0}, Numbers{1, 1, 0}, Numbers{1, 0, 1},
+          Numbers{5, 16, 0}, Numbers{5, 0, 246}, Numbers{1, 0, 0, 0}})
+        EXPECT_EQ(tell(*firmware, "0020", 0, numbers), WrongParameters);
+    EXPECT_EQ(tell(*firmware, "0020", 0, {245, 0, 0}), "1 1");
+}
+
+TEST_F(SimulatedProcessesTest, timedProcessesGoOnByThemselves)
+{
+    FW_Dispenser machine = workingMachine();
+    machine.setTimedProcessesStartupMask(3);
+    const auto firmware = firmwareOf(machine);
+    m_now += 100 * Second - 1;
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    m_now += 1; // the pause is over
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    EXPECT_EQ(status(*firmware, 3), Stirs);
+    EXPECT_EQ(status(*firmware, 4), Idle);
+    EXPECT_EQ(status(*firmware), Idle); // in the background
+    m_now += 20 * Second;
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    m_now += 80 * Second; // 200 s from the beginning
+    EXPECT_EQ(status(*firmware, 1), Recirculates);
+    EXPECT_EQ(status(*firmware, 2), Idle); // its pump alone does not
+    m_now += 20 * Second;
+    EXPECT_EQ(status(*firmware, 1), "E 0 1 18 0 0 0 0 F5 F5 4 0 0 0 0");
+    EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), "0"); // all give way
+    EXPECT_EQ(status(*firmware, 1), Tints);
+    m_now += 6 * Second;
+    EXPECT_EQ(status(*firmware, 1), Stirs); // recirculation begins its pause
+    EXPECT_EQ(tell(*firmware, "0004", 1, {0, 0, 0}), "0");
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    EXPECT_EQ(status(*firmware, 2), Stirs);
+    m_now += 100 * Second;
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+}
+
+TEST_F(SimulatedProcessesTest, timedProcessesAreHeldForATime)
+{
+    FW_Dispenser machine = workingMachine();
+    machine.setTimedProcessesStartupMask(3);
+    const auto firmware = firmwareOf(machine);
+    m_now += 110 * Second;
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    EXPECT_EQ(tell(*firmware, "0020", 0, {5, 2, 60}), "1 5"); // stirring
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    m_now += 60 * Second - 1;
+    EXPECT_EQ(tell(*firmware, "0020", 0, {245, 0, 0}), "1 5");
+    m_now += 1;
+    EXPECT_EQ(tell(*firmware, "0020", 0, {245, 0, 0}), "1 1"); // each begins anew with its pause
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    m_now += 100 * Second - 1;
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    EXPECT_EQ(tell(*firmware, "0020", 0, {5, 1, 0}), "1 5"); // recirculation, until told otherwise
+    m_now += 210 * Second;
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    m_now += 20 * Second; // 230 s: stirring in its second turn, recirculation would be at it
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    EXPECT_EQ(tell(*firmware, "0020", 0, {1, 0, 0}), "1 1");
+    m_now += 205 * Second;
+    EXPECT_EQ(status(*firmware, 1), Recirculates);
+}
+
+TEST_F(SimulatedProcessesTest, normalModeLetsAllTimedProcessesGoAndAReservedOneNone)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    m_now += 110 * Second;
+    EXPECT_EQ(status(*firmware, 1), Idle); // none is on from the start
+    tell(*firmware, "0020", 0, {1, 0, 0});
+    m_now += 110 * Second;
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    tell(*firmware, "0020", 0, {3, 0, 0});
+    m_now += 110 * Second;
+    EXPECT_EQ(status(*firmware, 1), Reserved);
+}
+
+TEST_F(SimulatedProcessesTest, family2HoldsAllTimedProcessesForTwoMinutes)
+{
+    FW_Dispenser machine = workingMachine();
+    machine.setCommandFamily(FW_Dispenser::CommandFamily2);
+    machine.setTimedProcessesStartupMask(2);
+    const auto firmware = firmwareOf(machine);
+    m_now += 110 * Second;
+    EXPECT_EQ(tell(*firmware, "I3", 1), Stirs);
+    EXPECT_EQ(tell(*firmware, "FR", 0, {1}), WrongParameters);
+    EXPECT_EQ(tell(*firmware, "FR", 0), "1 5");
+    EXPECT_EQ(tell(*firmware, "I3", 1), Idle);
+    m_now += 220 * Second - 1; // 120 s held, and a pause of 100 s
+    EXPECT_EQ(tell(*firmware, "I3", 1), Idle);
+    m_now += 1;
+    EXPECT_EQ(tell(*firmware, "I3", 1), Stirs);
+    for (const char *code : {"0020", "0004", "0005", "0015", "0025", "0029", "002F"})
+        EXPECT_EQ(tell(*firmware, code, 0, {1, 0, 0}), "refused 6 8 0 0 0 0 0") << code;
+}
+
+// Level sensors: 0, then positions.
+
+/// Canisters 1 and 4 have sensors. A stroke of 400 steps pours 4, so that 500 is 125 strokes.
+FW_Dispenser sensingMachine()
+{
+    FW_Dispenser machine = pouringMachine(2);
+    machine.getCanisterById(11)->setCanisterLevelSensor(1);
+    machine.getCanisterById(14)->setCanisterLevelSensor(1);
+    machine.getCanisterById(14)->setCurrentQuantity(2);
+    return machine;
+}
+
+TEST_F(SimulatedProcessesTest, levelSensorsTellWhatTheCanistersHold)
+{
+    const auto firmware = firmwareOf(sensingMachine());
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), "4 1 1 C8 32"); // 12500 is 200 + 50 x 246
+    EXPECT_EQ(status(*firmware), ReadsLevels);
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), NotAvailable);
+    EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), NotAvailable);
+    m_now += 8 * Second - 1;
+    EXPECT_EQ(status(*firmware), ReadsLevels);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), "0"); // 10 of 500
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), NotAvailable);
+    m_now += 6 * Second;
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0}), "7 2 1 C4 31 4 32 0"); // 12250 is 196 + 49 x 246, and 50
+}
+
+TEST_F(SimulatedProcessesTest, aLevelIsAtMostTwoDigits)
+{
+    const auto firmware = firmwareOf(sensingMachine());
+    firmware->canisterFilled(11, 1e6);
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), "4 1 1 F5 F5");
+}
+
+TEST_F(SimulatedProcessesTest, asManySensorsAsPourAtOnceAreReadInEightSeconds)
+{
+    FW_Dispenser machine = sensingMachine();
+    machine.getCanisterById(12)->setCanisterLevelSensor(1);
+    const auto firmware = firmwareOf(machine, 10);
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 4, 1, 2}).substr(0, 3), "A 3");
+    m_now += 1600 - 1;
+    EXPECT_EQ(status(*firmware), ReadsLevels);
+    m_now += 1;
+    EXPECT_EQ(status(*firmware), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, levelsThatNobodyCanTellAreRefused)
+{
+    FW_Dispenser machine = sensingMachine();
+    machine.getCanisterById(12)->setCanisterLevelSensor(1);
+    machine.getCanisterById(12)->canisterLevelSensor()->setEnabled(false);
+    machine.getCircuitByPosition(4)->setCalibration(FW_Calibration());
+    const auto firmware = firmwareOf(machine);
+    EXPECT_EQ(tell(*firmware, "0029", 0, {}), WrongParameters);
+    EXPECT_EQ(tell(*firmware, "0029", 0, {1, 1}), WrongParameters);
+    for (const int position : {2, 3, 4, 9})
+        EXPECT_EQ(tell(*firmware, "0029", 0, {0, position}), WrongModule) << position;
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0}), "4 1 1 C8 32");
+    const auto without = firmwareOf(pouringMachine());
+    EXPECT_EQ(tell(*without, "0029", 0, {0}), "1 0");
+    EXPECT_EQ(status(*without), Idle);
 }
 
 } // namespace

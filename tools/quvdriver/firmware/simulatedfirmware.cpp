@@ -4,10 +4,12 @@
 #include "firmware/parts/cleaning.h"
 #include "firmware/parts/dispenserstatus.h"
 #include "firmware/parts/dosing.h"
+#include "firmware/parts/levelsensors.h"
 #include "firmware/parts/recirculation.h"
 #include "firmware/parts/resetting.h"
 #include "firmware/parts/versions.h"
 #include "firmware/parts/stirring.h"
+#include "firmware/parts/workingmode.h"
 #include "firmware/wirereply.h"
 
 #include <algorithm>
@@ -31,9 +33,11 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
     if (m_machine.type() == SerialDeviceType::Dispenser) {
         add<DispenserStatusPart>();
         add<Dosing>();
+        add<WorkingMode>();
         add<Stirring>();
         add<Recirculation>();
         add<Cleaning>();
+        add<LevelSensors>();
     }
 }
 
