@@ -744,4 +744,19 @@ TEST_F(SimulatedProcessesTest, levelsThatNobodyCanTellAreRefused)
     EXPECT_EQ(status(*without), Idle);
 }
 
+// What is handed through: the board, two bytes of the code, the parameters.
+
+TEST_F(SimulatedProcessesTest, aCodeIsHandedThroughToABoard)
+{
+    const auto firmware = firmwareOf(workingMachine());
+    EXPECT_EQ(tell(*firmware, "002C", 0, {2, 0x00, 0x04, 30, 0, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "002C", 0, {2, 0x00, 0x06}), Stirs);
+    EXPECT_EQ(tell(*firmware, "002C", 2, {0, 0x00, 0x06}), Stirs);
+    EXPECT_EQ(tell(*firmware, "002C", 0, {1, 0x00, 0x06}), Idle);
+    EXPECT_EQ(tell(*firmware, "002C", 0, {4, 0x00, 0x04, 30, 0, 0}), WrongModule);
+    EXPECT_EQ(tell(*firmware, "002C", 0, {2, 0x00, 0x2C, 2, 0, 6}), "refused 6 8 0 0 0 0 0");
+    EXPECT_EQ(tell(*firmware, "002C", 0, {2, 0x00}), WrongParameters);
+    EXPECT_EQ(tell(*firmware, "002C", 0, {256, 0x00, 0x06}), WrongParameters);
+}
+
 } // namespace

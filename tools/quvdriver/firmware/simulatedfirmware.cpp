@@ -2,6 +2,7 @@
 #include "firmware/simulatedfirmware.h"
 
 #include "firmware/parts/cleaning.h"
+#include "firmware/parts/deepservice.h"
 #include "firmware/parts/dispenserstatus.h"
 #include "firmware/parts/dosing.h"
 #include "firmware/parts/levelsensors.h"
@@ -38,6 +39,9 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
         add<Recirculation>();
         add<Cleaning>();
         add<LevelSensors>();
+        add<DeepService>([this](const QString &code, int module, const QList<int> &parameters) {
+            return execute(code, module, parameters);
+        });
     }
 }
 
