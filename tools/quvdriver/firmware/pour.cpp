@@ -29,12 +29,34 @@ Pour::Pour(int criterion, const std::vector<CircuitPour> &circuits, int parallel
 
 qint64 Pour::Course::pouredBy(double now) const
 {
-    const qint64 limit = std::min(circuit.total, circuit.available);
     if (now >= begin + circuit.duration)
-        return limit;
+        return limit();
     if (now <= begin)
         return 0;
-    return std::min(limit, static_cast<qint64>(double(circuit.total) * ((now - begin) / circuit.duration)));
+    return std::min(limit(), static_cast<qint64>(double(circuit.total) * ((now - begin) / circuit.duration)));
+}
+
+std::vector<EngagedCircuit> Pour::engaged(qint64 now) const
+{
+    std::vector<EngagedCircuit> circuits;
+    for (const Course &course : m_courses) {
+        if (double(now) < course.begin + course.circuit.duration)
+            circuits.push_back(
+                {course.circuit.position, course.circuit.nozzleValve, double(now) >= course.begin});
+    }
+    return circuits;
+}
+
+CutOff Pour::cutOff(int position, qint64 now)
+{
+    const auto course = std::find_if(m_courses.begin(), m_courses.end(), [position](const Course &candidate) {
+        return candidate.circuit.position == position;
+    });
+    if (course == m_courses.end())
+        return {};
+    const CutOff cut{course->limit(), course->pouredBy(double(now))};
+    course->circuit.available = cut.poured;
+    return cut;
 }
 
 QList<int> Pour::report(qint64 now) const

@@ -3,6 +3,7 @@
 
 #include <QtCore/QList>
 
+#include <algorithm>
 #include <vector>
 
 namespace quv {
@@ -12,12 +13,28 @@ struct CircuitPour
 {
     int position = 0;
     int queue = 0;
+    int nozzleValve = 0;
     bool isQueued = false; ///< waits for the circuits of its queue that came before it
     qint64 total = 0;      ///< steps that are to leave the nozzle
     qint64 available = 0; ///< steps that the canister holds; when they are out the motor turns on for nothing
     double approach =
         0; ///< milliseconds before the motor turns, in which the circuit is brought to the dosing point
     double duration = 0; ///< milliseconds that the motor turns
+};
+
+/// A circuit that is not yet through with its part of a pour.
+struct EngagedCircuit
+{
+    int position = 0;
+    int nozzleValve = 0;
+    bool turns = false; ///< its motor, at this moment
+};
+
+/// What became of the steps that a circuit had taken from its canister.
+struct CutOff
+{
+    qint64 taken = 0;
+    qint64 poured = 0;
 };
 
 /**
@@ -35,6 +52,10 @@ public:
 
     bool isRunning(qint64 now) const { return double(now) < m_end; }
 
+    std::vector<EngagedCircuit> engaged(qint64 now) const;
+    /// From now on nothing leaves the circuit's nozzle any more.
+    CutOff cutOff(int position, qint64 now);
+
     /// The numbers of the firmware's report: criterion, number of circuits, then of each circuit position, queue, and the
     /// steps in all and so far, each as a count of digits and the digits.
     QList<int> report(qint64 now) const;
@@ -45,6 +66,7 @@ private:
         CircuitPour circuit{};
         double begin = 0; ///< when the motor begins to turn
 
+        qint64 limit() const { return std::min(circuit.total, circuit.available); }
         qint64 pouredBy(double now) const;
     };
 

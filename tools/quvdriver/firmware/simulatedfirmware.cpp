@@ -1,20 +1,25 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/simulatedfirmware.h"
 
+#include "firmware/parts/activecircuits.h"
 #include "firmware/parts/cleaning.h"
 #include "firmware/parts/deepservice.h"
 #include "firmware/parts/dispenserstatus.h"
 #include "firmware/parts/dosing.h"
+#include "firmware/parts/errors.h"
 #include "firmware/parts/levelsensors.h"
 #include "firmware/parts/recirculation.h"
 #include "firmware/parts/resetting.h"
-#include "firmware/parts/versions.h"
+#include "firmware/parts/safety.h"
+#include "firmware/parts/sensors.h"
 #include "firmware/parts/stirring.h"
+#include "firmware/parts/versions.h"
 #include "firmware/parts/workingmode.h"
 #include "firmware/wirereply.h"
 
 #include <algorithm>
 #include <chrono>
+#include <stdexcept>
 
 namespace quv {
 namespace {
@@ -28,6 +33,8 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
     : m_machine(machine, speed, std::move(clock))
 {
     const FW_Version version = configuration.version;
+    add<Safety>(); // before the others: what it stops must not go on
+    add<Errors>();
     m_rows = &add<Rows>(machine, std::move(configuration));
     add<Versions>(version, [this] { return codes(); });
     add<Resetting>();
@@ -39,6 +46,8 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
         add<Recirculation>();
         add<Cleaning>();
         add<LevelSensors>();
+        add<ActiveCircuits>();
+        add<Sensors>();
         add<DeepService>([this](const QString &code, int module, const QList<int> &parameters) {
             return execute(code, module, parameters);
         });
@@ -79,8 +88,9 @@ SimulatedFirmware::Clock SimulatedFirmware::steadyClock()
 
 FirmwareReply SimulatedFirmware::execute(const QString &code, int module, const QList<int> &parameters)
 {
-    for (const auto &part : m_machine.parts())
-        part->goOn();
+    m_machine.goOn();
+    if (m_machine.faults().linkLost)
+        throw std::runtime_error("the firmware gives no reply");
     const auto served = std::find_if(m_codes.begin(), m_codes.end(), [&code](const FirmwareCode &candidate) {
         return candidate.code == code;
     });
@@ -90,6 +100,8 @@ FirmwareReply SimulatedFirmware::execute(const QString &code, int module, const 
         return refused(Reason::WrongModule);
     if (!parameters.isEmpty() && !served->takesParameters)
         return refused(Reason::WrongParameters);
+    if (m_machine.refuses(module))
+        return refused(Reason::NotAvailable, QStringLiteral("the board at %1 refuses").arg(module));
     return served->run(module, parameters);
 }
 

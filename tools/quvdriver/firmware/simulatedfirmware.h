@@ -23,12 +23,16 @@ public:
     explicit SimulatedFirmware(const FW_Machine &machine, double speed = 1, Clock clock = steadyClock(),
                                SimulatedConfiguration configuration = {});
 
+    /// \throws std::runtime_error while the link is lost
     FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) override;
     double speed() const override { return m_machine.speed(); }
     void canisterFilled(int canisterID, double quantity) override
     {
         m_machine.setContent(canisterID, quantity);
     }
+
+    /// The faults to come, from now on.
+    void play(const std::vector<FaultSpan> &faults) { m_machine.play(faults); }
 
     /// The rows of its configuration that are not as the machine is.
     RowKeys changedRows() const { return m_rows->changedRows(); }

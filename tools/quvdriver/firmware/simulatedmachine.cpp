@@ -1,11 +1,39 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/simulatedmachine.h"
 
+#include "firmware/errorcodes.h"
+
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 namespace quv {
+namespace {
+
+/// What so many steps pour; nothing when the circuit's calibration cannot tell.
+std::optional<double> quantityOfSteps(const FW_Circuit &circuit, qint64 steps)
+{
+    bool isKnown = false;
+    const double quantity = circuit.calibration().quantity(steps, &isKnown);
+    return isKnown ? std::optional(quantity) : std::nullopt;
+}
+
+/// What the canister holds when its sensor falls.
+double criticalContent(const FW_Canister &canister, const FW_CanisterLevelSensor &sensor)
+{
+    constexpr double HundredthsOfStroke = 100;
+    for (const FW_Circuit &circuit : canister.circuits()) {
+        const double strokes = sensor.criticalLevel() / HundredthsOfStroke;
+        const qint64 steps = std::llround(strokes * circuit.dosingMotor().stepsPerStroke());
+        const auto quantity = quantityOfSteps(circuit, steps);
+        if (quantity && steps > 0)
+            return *quantity;
+    }
+    return canister.reserveQuantity(); // nobody can tell how much a stroke is
+}
+
+} // namespace
 
 SimulatedMachine::SimulatedMachine(const FW_Machine &machine, double speed, Clock clock)
     : m_type(machine.machineType()),
@@ -20,7 +48,7 @@ SimulatedMachine::SimulatedMachine(const FW_Machine &machine, double speed, Cloc
 
 qint64 SimulatedMachine::endOf(double milliseconds) const
 {
-    return m_clock() + std::llround(milliseconds / m_speed);
+    return now() + std::llround(milliseconds / m_speed);
 }
 
 const FW_Turntable *SimulatedMachine::turntable() const
@@ -32,6 +60,25 @@ const FW_Circuit *SimulatedMachine::circuitAt(int position) const
 {
     return m_dispenser.hasCircuitPosition(position, true) ? m_dispenser.getCircuitByPosition(position)
                                                           : nullptr;
+}
+
+void SimulatedMachine::goOn()
+{
+    const qint64 until = m_clock();
+    while (const auto moment = m_plan.takeChange(until)) {
+        m_moment = moment;
+        letPartsGoOn(); // what was over before the fault is not hit by it
+        m_faults = m_plan.faultsAt(*moment);
+        letPartsGoOn();
+    }
+    m_moment.reset();
+    letPartsGoOn();
+}
+
+void SimulatedMachine::letPartsGoOn()
+{
+    for (const auto &part : m_parts)
+        part->goOn();
 }
 
 StatusWords SimulatedMachine::status(int module) const
@@ -50,7 +97,7 @@ bool SimulatedMachine::isAt(ProcessSet processes) const
 
 std::optional<Reason> SimulatedMachine::obstacle(Process process) const
 {
-    if (isHeld())
+    if (isHeld() || (m_faults.doorOpen && processesInReach().has(process)))
         return Reason::NotAvailable;
     for (const auto &part : m_parts)
         if (part->excluded().has(process))
@@ -72,29 +119,72 @@ bool SimulatedMachine::isDue(TimedProcess process, const Rhythm &rhythm, qint64 
     return std::fmod(elapsed, rhythm.pause + rhythm.activity) >= rhythm.pause;
 }
 
+void SimulatedMachine::stop(ProcessSet processes)
+{
+    for (const auto &part : m_parts) {
+        if (part->atWork().hasAny(processes))
+            part->stop();
+    }
+}
+
+ProcessSet SimulatedMachine::processesInReach()
+{
+    return {Process::Resetting,     Process::Pouring,         Process::Cleaning,
+            Process::MovingShelf,   Process::MovingTurntable, Process::MovingCap,
+            Process::MovingStation, Process::MovingPlates,    Process::Mixing};
+}
+
 qint64 SimulatedMachine::takeFromCanister(const FW_Circuit &circuit, qint64 steps)
 {
-    bool isKnown = false;
-    const double quantity = circuit.calibration().quantity(steps, &isKnown);
+    if (steps > 0 && m_faults.blockedCircuits.contains(circuit.positionId())) {
+        raise({CircuitBlockedError, circuit.positionId()});
+        return 0;
+    }
+    const auto quantity = quantityOfSteps(circuit, steps);
     const FW_Canister *canister = m_dispenser.getCanisterOfCircuitID(circuit.id());
-    if (!isKnown || !canister)
+    if (!quantity || !canister)
         return steps;
     double &content = m_contents[canister->id()];
-    if (content >= quantity) {
-        content -= quantity;
+    if (content >= *quantity) {
+        content -= *quantity;
         return steps;
     }
     const qint64 rest = std::min(qint64(circuit.calibration().steps(std::max(content, 0.0))), steps);
     content = 0;
+    raise({CanisterEmptyError, circuit.positionId()});
     return rest;
 }
 
-void SimulatedMachine::putIntoCanister(const FW_Circuit &circuit, qint64 steps)
+void SimulatedMachine::putIntoCanister(const FW_Circuit &circuit, qint64 taken, qint64 poured)
 {
-    bool isKnown = false;
-    const double quantity = circuit.calibration().quantity(steps, &isKnown);
-    if (const FW_Canister *canister = m_dispenser.getCanisterOfCircuitID(circuit.id()); canister && isKnown)
-        m_contents[canister->id()] += quantity;
+    const auto quantity = quantityOfSteps(circuit, taken);
+    const FW_Canister *canister = m_dispenser.getCanisterOfCircuitID(circuit.id());
+    if (canister && quantity)
+        m_contents[canister->id()] += *quantity - quantityOfSteps(circuit, poured).value_or(0);
+}
+
+bool SimulatedMachine::tellsCriticalLevel(const FW_Canister &canister) const
+{
+    const FW_CanisterLevelSensor *sensor = canister.canisterLevelSensor();
+    return sensor && sensor->isEnabled() && toldContent(canister) < criticalContent(canister, *sensor);
+}
+
+double SimulatedMachine::toldContent(const FW_Canister &canister) const
+{
+    const double held = content(canister.id());
+    const FW_CanisterLevelSensor *sensor = canister.canisterLevelSensor();
+    if (!sensor || !m_faults.lyingSensors.contains(canister.id()))
+        return held;
+    const double critical = criticalContent(canister, *sensor);
+    return held < critical ? std::max(canister.maximumQuantity(), critical) : 0;
+}
+
+void SimulatedMachine::raise(const RaisedError &error)
+{
+    if (m_errors.size() < MaxErrors - 1)
+        m_errors.append(error);
+    else if (m_errors.size() < MaxErrors)
+        m_errors.append({ErrorsLostError});
 }
 
 } // namespace quv

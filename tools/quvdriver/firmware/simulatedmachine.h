@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "firmware/machinefaults.h"
 #include "firmware/part.h"
 #include "firmware/timedprocesses.h"
 
@@ -8,7 +9,6 @@
 #include <QuvFramework/fw_turntable.h>
 
 #include <QtCore/QHash>
-#include <QtCore/QSet>
 
 #include <functional>
 #include <memory>
@@ -26,16 +26,7 @@ struct RaisedError
     int module = 0; ///< the address of the board; 0 for the machine's own
     Kind kind = Kind::Hardware;
     int value = 0; ///< 0 to 31, what the error is about
-};
-
-/// What is wrong with a machine, or has been done to it by a hand.
-struct MachineFaults
-{
-    bool emergencyPressed = false;
-    bool offlinePressed = false;
-    bool doorOpen = false;
-    bool canPresent = false;
-    QSet<int> blockedCircuits{}; ///< by position: their motors turn and nothing leaves the nozzle
+    bool isRead = false;
 };
 
 /**
@@ -57,7 +48,8 @@ public:
     const std::vector<std::unique_ptr<FirmwarePart>> &parts() const { return m_parts; }
 
     SerialDeviceType type() const { return m_type; }
-    qint64 now() const { return m_clock(); }
+    /// That of the clock, or the moment of a fault that is being caught up with.
+    qint64 now() const { return m_moment ? *m_moment : m_clock(); }
     double speed() const { return m_speed; }
     /// When something ends that begins now and takes so many milliseconds on a machine that is not simulated.
     qint64 endOf(double milliseconds) const;
@@ -69,6 +61,11 @@ public:
     /// Null for one that there is not, or that is disabled.
     const FW_Circuit *circuitAt(int position) const;
 
+    /// Lets the parts go on until now, and has them meet each fault on the way at its moment.
+    void goOn();
+    /// The faults to come, from now on.
+    void play(const std::vector<FaultSpan> &faults) { m_plan = FaultPlan(faults, m_clock(), m_speed); }
+
     /// What all parts tell together, of the machine or of the circuit at the position \a module.
     StatusWords status(int module) const;
 
@@ -76,7 +73,7 @@ public:
     bool isHeld() const { return m_faults.emergencyPressed || m_faults.offlinePressed; }
     /// Whether a part is at one of the processes.
     bool isAt(ProcessSet processes) const;
-    /// Why it cannot begin now: something that a part is at excludes it, or somebody has pressed a button against it. Nothing
+    /// Why it cannot begin now: something that a part is at excludes it, or somebody has pressed a button or opened the door against it. Nothing
     /// when it can.
     std::optional<Reason> obstacle(Process process) const;
     bool mayBegin(Process process) const { return !obstacle(process); }
@@ -88,17 +85,30 @@ public:
     TimedProcesses &timed() { return m_timed; }
     /// Whether a timed process is at work now, when it last began to rest at the moment \a since, or later when all did.
     bool isDue(TimedProcess process, const Rhythm &rhythm, qint64 since) const;
+    /// Whether the board at an address, which a circuit has by its position, refuses what it is told.
+    bool refuses(int board) const { return m_faults.refusingBoards.contains(board); }
+    /// Ends what runs of these processes, at this moment.
+    void stop(ProcessSet processes);
+    /// What moves where a hand can reach, and stands still while the door is open.
+    static ProcessSet processesInReach();
 
     /// Takes what so many steps of the circuit pour from its canister, and gives the steps that it still held. What a circuit
     /// without a calibration takes is known to nobody.
     qint64 takeFromCanister(const FW_Circuit &circuit, qint64 steps);
-    /// Gives back what so many steps would have poured.
-    void putIntoCanister(const FW_Circuit &circuit, qint64 steps);
+    /// Of the steps that were taken some were not poured: gives back what lies between the two.
+    void putIntoCanister(const FW_Circuit &circuit, qint64 taken, qint64 poured);
+    /// Whether the canister has a level sensor, and that tells less than its critical level.
+    bool tellsCriticalLevel(const FW_Canister &canister) const;
+    /// What the canister holds by its level sensor, which may lie.
+    double toldContent(const FW_Canister &canister) const;
     double content(int canisterID) const { return m_contents.value(canisterID); }
     void setContent(int canisterID, double quantity) { m_contents[canisterID] = quantity; }
 
-    void raise(const RaisedError &error) { m_errors.append(error); }
+    static constexpr int MaxErrors = 50;
+    /// The last place of a full buffer says that later errors are lost: the first ones tell how it came about.
+    void raise(const RaisedError &error);
     const QList<RaisedError> &errors() const { return m_errors; }
+    QList<RaisedError> &errors() { return m_errors; }
     void clearErrors() { m_errors.clear(); }
 
     /// How often the ultrasound cleaned with the water of its bath.
@@ -109,15 +119,19 @@ public:
     MachineFaults &faults() { return m_faults; }
 
 private:
+    void letPartsGoOn();
+
     FW_Dispenser m_dispenser{};
     const SerialDeviceType m_type;
     const double m_speed;
     const Clock m_clock;
+    std::optional<qint64> m_moment{};
     QHash<int, double> m_contents{}; ///< by the canisters' IDs
     QList<RaisedError> m_errors{};
     int m_waterCycles = 0;
     MachineFaults m_faults{};
     TimedProcesses m_timed{};
+    FaultPlan m_plan{};
     std::vector<std::unique_ptr<FirmwarePart>> m_parts{};
 };
 

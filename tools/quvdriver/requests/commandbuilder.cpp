@@ -11,6 +11,7 @@
 #include "dispensing/turntablepurgeformulacmd.h"
 #include "dispensing/turntabletintcmd.h"
 #include "machine/commandidcmd.h"
+#include "status/errornumcmd.h"
 
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_xmlrpc.h>
@@ -37,6 +38,8 @@ std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcVal
     }
     if (isNamed(name, Catalogue::GET_CMD_ID)) // by name it would forget its code
         return std::make_unique<CommandIDCmd>(arguments);
+    if (isNamed(name, Catalogue::ERRORS_NUM)) // by name it would not say what it asks for
+        return std::make_unique<ErrorNumCmd>();
     const std::unique_ptr<FW_Machine> copy = machine ? machine->copy() : nullptr;
     const auto *dispenser = dynamic_cast<const FW_Dispenser *>(copy.get());
     if (dispenser && dispenser->acceptCommands(FW_Device::Turntable)) {

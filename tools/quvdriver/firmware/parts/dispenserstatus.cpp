@@ -22,6 +22,10 @@ void DispenserStatusPart::tellStatus(StatusWords &status, int /*module*/) const
 FirmwareReply DispenserStatusPart::tell(int module) const
 {
     constexpr int AtWork = 1;
+    constexpr int LastCircuitBoard = 200; // behind it are the boards that no circuit has
+    const QList<int> positions = m_machine.dispenser().getPositionsIDList(false);
+    if (!positions.isEmpty() && module > 0 && module <= LastCircuitBoard && !positions.contains(module))
+        return refused(Reason::WrongModule);
     const StatusWords status = m_machine.status(module);
     return replied(QList<int>{0, AtWork} + status.words.numbers(1, 5) +
                    QList<int>{status.position, status.zone} + status.words.numbers(8, 12));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/parts/dosing.h"
 
+#include "firmware/errorcodes.h"
 #include "firmware/wirereply.h"
 
 #include <algorithm>
@@ -85,6 +86,9 @@ FirmwareReply Dosing::begin(const std::optional<PourRequest> &request, Movement 
         const FW_Circuit *circuit = m_machine.circuitAt(part.position);
         if (!circuit)
             return refused(Reason::WrongModule);
+        if (m_machine.refuses(part.position))
+            return refused(Reason::NotAvailable,
+                           QStringLiteral("the board at %1 refuses").arg(part.position));
         if (pours(part, movement) && movement != Movement::Steps &&
             circuit->dosingMotor().stepsPerStroke() <= 0)
             return refused(Reason::WrongParameters);
@@ -101,7 +105,52 @@ FirmwareReply Dosing::begin(const std::optional<PourRequest> &request, Movement 
     const int parallelism = m_machine.turntable() ? 1 : m_machine.dispenser().tintingParallelism();
     m_pour =
         Pour(request->criterion | (request->isPurge ? PurgeMark : 0), circuits, parallelism, m_machine.now());
+    m_process = static_cast<int>(processOf(*request, movement));
     return begun();
+}
+
+void Dosing::goOn()
+{
+    for (const int position : risingNumbers(m_machine.faults().blockedCircuits))
+        cutOff(position);
+}
+
+/// What the circuit has not poured is in its canister again.
+void Dosing::cutOff(int position)
+{
+    const CutOff cut = m_pour.cutOff(position, m_machine.now());
+    if (cut.taken == cut.poured)
+        return;
+    m_machine.putIntoCanister(*m_machine.circuitAt(position), cut.taken, cut.poured);
+    m_machine.raise({CircuitBlockedError, position});
+}
+
+std::vector<ActiveCircuit> Dosing::activeCircuits(int process) const
+{
+    std::vector<ActiveCircuit> circuits;
+    if (process != m_process && process != static_cast<int>(CircuitProcess::NozzleValves))
+        return circuits;
+    for (const EngagedCircuit &circuit : m_pour.engaged(m_machine.now())) {
+        if (process == m_process)
+            circuits.push_back({circuit.position, LogicalState | (circuit.turns ? PhysicalState : 0)});
+        else if (circuit.nozzleValve != 0)
+            circuits.push_back({circuit.position, circuit.nozzleValve});
+    }
+    return circuits;
+}
+
+CircuitProcess Dosing::processOf(const PourRequest &request, Movement movement)
+{
+    switch (movement) {
+    case Movement::IdleStrokes:
+        return CircuitProcess::Packing;
+    case Movement::PouredStrokes:
+    case Movement::StrokesOrPack:
+        return CircuitProcess::Priming;
+    case Movement::Steps:
+        break;
+    }
+    return request.isPurge ? CircuitProcess::Purging : CircuitProcess::Dosing;
 }
 
 /// A tint's code with strokes is a pack or an unpack when the number is one of these two movements.
@@ -121,6 +170,7 @@ CircuitPour Dosing::plan(const PourPart &part, Movement movement)
     CircuitPour pour;
     pour.position = part.position;
     pour.queue = part.queue;
+    pour.nozzleValve = part.nozzleValve;
     pour.total = isPoured ? steps : 0;
     pour.available = m_machine.takeFromCanister(circuit, pour.total);
     pour.approach = moveTable(part.position) / m_machine.speed();

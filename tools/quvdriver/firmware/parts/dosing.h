@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "firmware/circuitprocess.h"
 #include "firmware/pour.h"
 #include "firmware/pourrequest.h"
 #include "firmware/simulatedmachine.h"
@@ -18,6 +19,8 @@ public:
     std::vector<FirmwareCode> codes() override;
     void tellStatus(StatusWords &status, int module) const override;
     ProcessSet atWork() const override;
+    std::vector<ActiveCircuit> activeCircuits(int process) const override;
+    void goOn() override;
 
 private:
     enum class Movement { Steps, PouredStrokes, IdleStrokes, StrokesOrPack };
@@ -26,11 +29,14 @@ private:
     FirmwareReply strokes(const QList<int> &parameters, Movement movement);
     FirmwareReply begin(const std::optional<PourRequest> &request, Movement movement);
     static bool pours(const PourPart &part, Movement movement);
+    static CircuitProcess processOf(const PourRequest &request, Movement movement);
     CircuitPour plan(const PourPart &part, Movement movement);
     double moveTable(int position);
+    void cutOff(int position);
 
     SimulatedMachine &m_machine;
     Pour m_pour{};
+    int m_process = 0;       ///< the number of the circuits' process that the pour is
     int m_tablePosition = 0; ///< the circuit at the dosing point of a machine with a turntable
 };
 

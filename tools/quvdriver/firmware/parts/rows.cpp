@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/parts/rows.h"
 
+#include "firmware/errorcodes.h"
 #include "firmware/wirereply.h"
 
 #include <cstdio>
@@ -51,6 +52,8 @@ FirmwareReply Rows::write(const QList<int> &parameters)
         return refused(Reason::NotAvailable);
     switch (m_rows.write(parameters)) {
     case RowStore::Outcome::FieldOutOfRange:
+        m_machine.raise({FieldOutOfRangeError, 0, RaisedError::Kind::Configuration,
+                         parameters.value(0)}); // of that structure
         return refused(Reason::FieldOutOfRange);
     case RowStore::Outcome::BadParameters:
         return refused(Reason::WrongParameters);

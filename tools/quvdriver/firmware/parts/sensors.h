@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "firmware/simulatedmachine.h"
+
+namespace quv {
+
+/// The inputs and outputs of a dispenser (0043), and what its sensors measure (0060).
+class Sensors final : public FirmwarePart
+{
+public:
+    explicit Sensors(SimulatedMachine &machine)
+        : m_machine(machine),
+          m_begin(machine.now()),
+          m_looked(machine.now())
+    {}
+
+    std::vector<FirmwareCode> codes() override;
+    void goOn() override;
+
+private:
+    FirmwareReply tellStates() const;
+    FirmwareReply measure(const QList<int> &parameters) const;
+    qint64 temperature(int sensor) const;
+    double minutesOfMachine() const;
+
+    SimulatedMachine &m_machine;
+    const qint64 m_begin;
+    qint64 m_looked;       ///< when it was last seen whether the machine works
+    bool m_worked = false; ///< whether it did then
+    double m_warmth = 0;   ///< of work, in hundredths of a degree
+};
+
+} // namespace quv
