@@ -97,7 +97,8 @@ class Quvdriver(unittest.TestCase):
         self.assertEqual(self.complete("--machine", "none", "--machine", "=", "du"), ["dual"])
         self.assertEqual(self.complete("--firmware", "="), ["older", "equal", "newer"])
         self.assertEqual(self.complete("--firmware=ol"), ["--firmware=older"])
-        self.assertEqual(self.complete("--state", DRIVER_COMPLETION[:-1]), [DRIVER_COMPLETION])
+        for option in ["--scenario", "--state"]:
+            self.assertEqual(self.complete(option, DRIVER_COMPLETION[:-1]), [DRIVER_COMPLETION])
         self.assertEqual(self.complete("--port", ""), [])
 
 

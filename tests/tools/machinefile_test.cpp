@@ -676,6 +676,13 @@ TEST(MachineFile, namesEveryValue)
     EXPECT_TRUE(read(FullDispenser) == fullDispenser());
 }
 
+TEST(MachineFile, keepsFaultsApart)
+{
+    EXPECT_TRUE(read(R"({"type": "dispenser", "faults": [{"event": "nobody reads it here"}]})") ==
+                FW_Dispenser());
+    EXPECT_EQ(refusalOf(R"({"type": "dispenser", "faults": {}})"), "faults: must be an array");
+}
+
 TEST(MachineFile, keepsEveryValue)
 {
     const FW_Dispenser dispenser = fullDispenser();

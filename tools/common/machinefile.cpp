@@ -410,9 +410,10 @@ std::unique_ptr<FW_Machine> readAs(const json &document)
     return machine;
 }
 
-// --- the firmware, of which the machine knows nothing
+// --- what is no part of the machine
 
 constexpr char FirmwareVersionKey[] = "firmware_version";
+constexpr char FaultsKey[] = "faults";
 
 /// One that is not valid when the document has none. Nobody else knows the member, so it is taken out.
 FW_Version takeFirmwareVersion(json &document)
@@ -428,6 +429,19 @@ FW_Version takeFirmwareVersion(json &document)
         refuse(path, QStringLiteral("must be an array of 6 integers"));
     document.erase(member);
     return {numbers.at(0), numbers.at(1), numbers.at(2), numbers.at(3), numbers.at(4), numbers.at(5)};
+}
+
+/// An array, empty when the document has none. It is taken out as well.
+json takeFaults(json &document)
+{
+    const auto member = document.find(FaultsKey);
+    if (member == document.end())
+        return json::array();
+    if (!member->is_array())
+        refuse(QLatin1String(FaultsKey), QStringLiteral("must be an array"));
+    json faults = std::move(*member);
+    document.erase(member);
+    return faults;
 }
 
 // --- lines
@@ -467,6 +481,7 @@ DescribedMachine readDescribedMachine(const QByteArray &text)
         refuse(QStringLiteral("type"), QStringLiteral("must be \"dispenser\" or \"mixer\""));
     DescribedMachine described;
     described.firmwareVersion = takeFirmwareVersion(document);
+    described.faults = takeFaults(document);
     described.machine = isMixer ? readAs<FW_Mixer>(document) : readAs<FW_Dispenser>(document);
     return described;
 }

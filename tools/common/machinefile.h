@@ -6,6 +6,8 @@
 
 #include <QtCore/QByteArray>
 
+#include <nlohmann/json.hpp>
+
 #include <memory>
 
 namespace quv {
@@ -21,11 +23,13 @@ inline constexpr int MaxMachineFileSize = 1024 * 1024;
  */
 std::unique_ptr<FW_Machine> readMachineFile(const QByteArray &text);
 
-/// What a file tells: a machine, and of its firmware what no machine knows.
+/// What a file tells: a machine, and what no machine knows of itself.
 struct DescribedMachine
 {
     std::unique_ptr<FW_Machine> machine{};
     FW_Version firmwareVersion{}; ///< not valid when it is not told
+    nlohmann::json faults =
+        nlohmann::json::array(); ///< what is wrong with a simulated one, as the file has it
 };
 
 /// The machine that the text describes, with its firmware. \throws as readMachineFile

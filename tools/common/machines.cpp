@@ -194,7 +194,7 @@ DescribedMachine describedMachineByName(const QString &nameOrFile)
         return {};
     for (const BuiltIn &builtIn : builtIns) {
         if (nameOrFile == QLatin1String(builtIn.name))
-            return {builtIn.make(), {}};
+            return {builtIn.make()};
     }
     try {
         return readDescribedMachine(contentOf(nameOrFile));

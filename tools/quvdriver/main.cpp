@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "firmware/scenario.h"
 #include "firmware/simulatedfirmware.h"
 #include "procedures/machineconfiguration.h"
 #include "requests/driver.h"
@@ -49,6 +50,7 @@ struct Options
     QStringList machines{};
     double speed = 1;
     QString state{};
+    QString scenario{};
     quv::FirmwareAge age = quv::FirmwareAge::Equal;
     bool once = false;
     std::optional<quv::Trace::Form> trace{};
@@ -80,6 +82,10 @@ const QCommandLineOption
     stateOption(QStringLiteral("state"),
                 QStringLiteral("The file in which the machines keep the configuration that was finalised."),
                 QStringLiteral("FILE"));
+const QCommandLineOption
+    scenarioOption(QStringLiteral("scenario"),
+                   QStringLiteral("The file that tells what goes wrong with the machines, and when."),
+                   QStringLiteral("FILE"));
 const QCommandLineOption firmwareOption(
     QStringLiteral("firmware"),
     QStringLiteral("What the firmware knows of configurations: older, equal (default) or newer "
@@ -100,9 +106,9 @@ const QCommandLineOption traceOption(
     QStringLiteral("[=json]"));
 const QCommandLineOption onceOption(QStringLiteral("once"), QStringLiteral("Answer one call, then end."));
 
-const QList<QCommandLineOption> knownOptions{helpOption,    versionOption, hostOption,  portOption,
-                                             machineOption, speedOption,   stateOption, firmwareOption,
-                                             tokenOption,   openOption,    traceOption, onceOption};
+const QList<QCommandLineOption> knownOptions{
+    helpOption,  versionOption,  hostOption,  portOption, machineOption, speedOption, scenarioOption,
+    stateOption, firmwareOption, tokenOption, openOption, traceOption,   onceOption};
 
 /// The option as it is typed.
 QString headOf(const QCommandLineOption &option)
@@ -193,6 +199,9 @@ Options readOptions(const QCommandLineParser &parser)
     options.state = parser.value(stateOption);
     if (parser.isSet(stateOption) && options.state.isEmpty())
         throw Usage("--state must be a file");
+    options.scenario = parser.value(scenarioOption);
+    if (parser.isSet(scenarioOption) && options.scenario.isEmpty())
+        throw Usage("--scenario must be a file");
     options.machines = parser.values(machineOption);
     if (options.machines.isEmpty())
         options.machines = QStringList{QStringLiteral("dispenser"), QStringLiteral("mixer")};
@@ -218,6 +227,7 @@ void followConfiguration(FW_Machine &machine, quv::SimulatedFirmware &firmware)
 /// A machine that was asked for, and whether another ID than its own will do.
 struct ChosenMachine
 {
+    QString name{};
     quv::DescribedMachine described{};
     bool mayChangeID = false;
 };
@@ -228,11 +238,11 @@ ChosenMachine chosenMachine(const QString &word)
     static const QRegularExpression withID(QStringLiteral("^(.+):([0-9]{1,9})$"));
     const QRegularExpressionMatch match = withID.match(word);
     if (match.hasMatch() && quv::isBuiltInMachine(match.captured(1))) {
-        ChosenMachine chosen{quv::describedMachineByName(match.captured(1))};
+        ChosenMachine chosen{word, quv::describedMachineByName(match.captured(1))};
         chosen.described.machine->setId(match.captured(2).toInt());
         return chosen;
     }
-    return {quv::describedMachineByName(word), quv::isBuiltInMachine(word)};
+    return {word, quv::describedMachineByName(word), quv::isBuiltInMachine(word)};
 }
 
 /// Gives the machine an ID that none of its kind has, if it may have another than its own.
@@ -263,9 +273,9 @@ quv::Abilities abilitiesOf(const quv::DescribedMachine &described, quv::Simulate
 }
 
 /// The machines that were asked for, each with an ID of its own among its kind.
-std::vector<quv::DescribedMachine> machinesOf(const QStringList &words)
+std::vector<ChosenMachine> machinesOf(const QStringList &words)
 {
-    std::vector<quv::DescribedMachine> machines;
+    std::vector<ChosenMachine> machines;
     std::map<SerialDeviceType, QSet<int>> taken;
     for (const QString &word : words) {
         ChosenMachine chosen = chosenMachine(word);
@@ -274,19 +284,38 @@ std::vector<quv::DescribedMachine> machinesOf(const QStringList &words)
         QSet<int> &takenIDs = taken[chosen.described.machine->machineType()];
         giveID(chosen, takenIDs);
         takenIDs.insert(chosen.described.machine->id());
-        machines.push_back(std::move(chosen.described));
+        machines.push_back(std::move(chosen));
     }
     return machines;
 }
 
+/// Those of its file, and those of the scenario.
+std::vector<quv::FaultSpan> faultsOf(const ChosenMachine &chosen, quv::Scenario *scenario)
+{
+    const FW_Machine &machine = *chosen.described.machine;
+    std::vector<quv::FaultSpan> faults;
+    try {
+        faults = quv::standingFaults(chosen.described.faults, machine);
+    } catch (const std::runtime_error &error) {
+        throw std::runtime_error("Machine \"" + chosen.name.toStdString() + "\": " + error.what());
+    }
+    if (!scenario)
+        return faults;
+    const std::vector<quv::FaultSpan> timed = scenario->faultsOfNext(machine);
+    faults.insert(faults.end(), timed.begin(), timed.end());
+    return faults;
+}
+
 void addMachine(quv::Driver &driver, quv::DescribedMachine described, double speed,
-                quv::SimulatedConfiguration configuration, quv::Trace *trace)
+                quv::SimulatedConfiguration configuration, const std::vector<quv::FaultSpan> &faults,
+                quv::Trace *trace)
 {
     configuration.version = described.firmwareVersion;
     auto simulated = std::make_unique<quv::SimulatedFirmware>(
         *described.machine, speed, quv::SimulatedFirmware::steadyClock(), std::move(configuration));
     followConfiguration(*described.machine, *simulated);
     quv::Abilities abilities = abilitiesOf(described, *simulated);
+    simulated->play(faults);
     std::unique_ptr<quv::Firmware> firmware = std::move(simulated);
     if (trace)
         firmware =
@@ -304,12 +333,19 @@ void addMachines(quv::Driver &driver, const Options &options, quv::Trace *trace)
         configuration.state = std::make_shared<quv::FirmwareState>(options.state);
         configuration.state->claim();
     }
+    std::optional<quv::Scenario> scenario;
+    if (!options.scenario.isEmpty())
+        scenario.emplace(options.scenario);
     std::set<SerialDeviceType> kinds;
-    for (quv::DescribedMachine &described : machinesOf(options.machines)) {
-        const bool isFirst = kinds.insert(described.machine->machineType()).second;
-        configuration.stateID = isFirst ? std::nullopt : std::optional(described.machine->id());
-        addMachine(driver, std::move(described), options.speed, configuration, trace);
+    for (ChosenMachine &chosen : machinesOf(options.machines)) {
+        const FW_Machine &machine = *chosen.described.machine;
+        const bool isFirst = kinds.insert(machine.machineType()).second;
+        configuration.stateID = isFirst ? std::nullopt : std::optional(machine.id());
+        const std::vector<quv::FaultSpan> faults = faultsOf(chosen, scenario ? &*scenario : nullptr);
+        addMachine(driver, std::move(chosen.described), options.speed, configuration, faults, trace);
     }
+    if (scenario)
+        scenario->checkMachines();
 }
 
 /// Keeps the signals that end the program from all threads that are started from here on, for the main thread to take.

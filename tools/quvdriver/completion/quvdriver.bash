@@ -20,7 +20,7 @@ _quvdriver()
     case "$previous" in
     --machine) words="dispenser turntable dual mixer none" files=yes ;;
     --firmware) words="older equal newer" ;;
-    --state | --token-file) files=yes ;;
+    --scenario | --state | --token-file) files=yes ;;
     --trace) [[ $prefix || ${COMP_WORDS[COMP_CWORD]} == = || ${COMP_WORDS[COMP_CWORD - 1]} == = ]] && words="json" ;;
     --host | --port | --speed) return ;;
     esac
