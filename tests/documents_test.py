@@ -313,10 +313,17 @@ class DriverDocument(DocumentTest):
         self.assertEqual(shell.run("quvdriver --state state.json &"), [f"listening on 127.0.0.1:{PORT}"])
         self.assertIn('Structure name = "Line 7"', shell.run("quvctl config pull all.conf >pulled; cat all.conf"))
 
+    def test_the_scenario_is_read(self):
+        shell = Shell()
+        self.addCleanup(shell.close)
+        (shell.folder / "scenario.json").write_text(self.fence("json scenario", "{"), encoding="utf-8")
+        self.assertEqual(shell.run("quvdriver --scenario scenario.json &"), [f"listening on 127.0.0.1:{PORT}"])
+
 
 class Reference(DocumentTest):
-    # What the simulated driver does not do: unknown tickets, sessions and IDs, codes without firmware or machine, what needs no firmware.
-    LIMITS = {"DE03104", "DE03105", "DE03106", "DE03107", "DE03111", "DE03400", "DE03401"}
+    # What the simulated driver does not do: unknown tickets, sessions and IDs, packets without a number, codes without firmware or
+    # machine, what needs no firmware.
+    LIMITS = {"DE03104", "DE03105", "DE03106", "DE03107", "DE03111", "DE03400", "DE03401", "DE03420"}
 
     def test_each_example_is_understood(self):
         shell = Shell()

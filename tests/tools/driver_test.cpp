@@ -220,6 +220,21 @@ TEST_F(DriverTest, aCommandThatTheFirmwareRefuses)
               QStringLiteral("GET_STATUS : Failed! Command not executed due to errors on firmware."));
 }
 
+TEST_F(DriverTest, thePacketsOfErrorsAreNumberedFrom1)
+{
+    const ScriptedFirmware &firmware = addDispenser(QStringLiteral("3 1 1 1").split(QLatin1Char(' ')));
+    for (const int wrong : {0, 245}) {
+        const Envelope envelope = call("EXEC_B", "GET_ERROR_PKT", wrong);
+        EXPECT_EQ(envelope.retCode, 1);
+        EXPECT_EQ(envelope.error(),
+                  "DE03420 A packet of errors has a number from 1 to 244, not " + std::to_string(wrong));
+    }
+    EXPECT_TRUE(firmware.asked.isEmpty());
+    for (const int number : {1, 244})
+        EXPECT_EQ(call("EXEC_B", "GET_ERROR_PKT", number).retCode, 2); // it was asked
+    EXPECT_EQ(firmware.asked.size(), 2);
+}
+
 TEST_F(DriverTest, aLinkThatFails)
 {
     addScripted(std::make_unique<FW_Dispenser>(),

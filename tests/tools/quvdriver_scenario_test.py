@@ -85,6 +85,14 @@ class Scenario(unittest.TestCase):
             self.assertFalse(self.done(client, "GET_STATUS")["hw_error"])
             self.done(client, "RESET")
 
+    def test_asking_for_a_packet_clears_nothing(self):
+        with self.driver([{"at": 0, "event": "emergency"}]) as driver, driver.client() as client:
+            for wrong in ((), (0,), (245,), (-1,)):
+                refused = client.EXEC_B("GET_ERROR_PKT", *wrong)
+                self.assertEqual((refused["ret_code"], refused["errors"][0]["code"]), (1, "DE03420"))
+            self.assertEqual(client.EXEC_B("GET_ERROR_PKT", 2)["ret_code"], 4)
+            self.assertEqual(self.hardware_errors(client), [(1, 0)])
+
     def test_door_can_and_offline_show_while_they_last(self):
         events = [{"at": 0, "event": "door_open"}, {"at": 0, "event": "can_present"}, {"at": 0, "event": "offline"}]
         with self.driver(events) as driver, driver.client() as client:

@@ -12,6 +12,7 @@
 #include "dispensing/turntabletintcmd.h"
 #include "machine/commandidcmd.h"
 #include "status/errornumcmd.h"
+#include "status/fwerrorcmd.h"
 
 #include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_xmlrpc.h>
@@ -51,6 +52,20 @@ std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcVal
     return std::unique_ptr<ProtoCommand>(Catalogue::getProtoCommand(name, arguments, copy.get()));
 }
 
+/// The other numbers of the same code clear the firmware's errors, or count them.
+void requireErrorPacket(const ProtoCommand &command)
+{
+    constexpr int FirstPacket = 1;
+    constexpr int LastPacket = 244;
+    const auto *packet = dynamic_cast<const FwErrorCmd *>(&command);
+    if (packet && (packet->packetIndex() < FirstPacket || packet->packetIndex() > LastPacket))
+        refuse(InvalidRequest, "DE03420",
+               QStringLiteral("A packet of errors has a number from %1 to %2, not %3")
+                   .arg(FirstPacket)
+                   .arg(LastPacket)
+                   .arg(packet->packetIndex()));
+}
+
 /// The canisters that would fall too low by a pour, or by that of which the time is asked for.
 FW_ErrorList lowLevelsOf(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                          const DrivenMachine *machine)
@@ -80,6 +95,7 @@ std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::Xm
     try {
         auto command = makeCommand(name, arguments, machine);
         requirePourableAmounts(*command);
+        requireErrorPacket(*command);
         return command;
     } catch (const FW_Exception &error) {
         const FW_ErrorList canisters = lowLevelsOf(name, arguments, machine);
