@@ -163,7 +163,7 @@ TEST_F(DriverPourTest, aMachinePoursOnceAtATime)
         EXPECT_EQ(second.error(), refusal) << method;
     }
     EXPECT_EQ(call("EXEC_B", "PURGE", formula({{"B", 10}})).error(), refusal);
-    EXPECT_EQ(call("EXEC_B", "RESET").retCode, 4); // by the machine itself
+    EXPECT_EQ(call("EXEC_B", "FINALIZE_CONFIG").retCode, 4); // by the machine itself
     EXPECT_EQ(end(id).retCode, 0);
     EXPECT_EQ(firmware.received.size(), 1);
     EXPECT_EQ(call("EXEC_B", "TINT", formula({{"B", 1}})).retCode, 0);

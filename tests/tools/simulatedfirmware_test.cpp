@@ -373,7 +373,7 @@ TEST_F(SimulatedPourTest, oneProcessAtATime)
     begin(firmware, "0017", {1, 1, 1, 0, 50, 2, 16, 4});
     EXPECT_EQ(begin(firmware, "0017", {1, 1, 2, 0, 50, 1, 10}), "refused 6 0 8 0 0 0 0");
     EXPECT_EQ(begin(firmware, "0024", {1, 1, 2, 0, 50, 1, 10}), "refused 6 0 8 0 0 0 0");
-    EXPECT_EQ(begin(firmware, "0001", {}), "refused 6 0 8 0 0 0 0");
+    EXPECT_EQ(begin(firmware, "0067", {}), "refused 6 0 8 0 0 0 0");
     EXPECT_EQ(duration(firmware), 6000); // as if nobody had asked
     EXPECT_EQ(begin(firmware, "0001", {}), "0");
     EXPECT_EQ(begin(firmware, "0017", {1, 1, 1, 0, 50, 1, 10}), "refused 6 0 8 0 0 0 0");

@@ -63,6 +63,8 @@ public:
     virtual void goOn() {}
     /// Ends what runs, at this moment.
     virtual void stop() {}
+    /// The machine begins anew; what ran has been stopped.
+    virtual void reset() {}
 };
 
 } // namespace quv

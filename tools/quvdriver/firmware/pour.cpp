@@ -47,6 +47,30 @@ std::vector<EngagedCircuit> Pour::engaged(qint64 now) const
     return circuits;
 }
 
+bool Pour::turns(int position, qint64 now) const
+{
+    return isRunning(now) && std::any_of(m_courses.begin(), m_courses.end(), [=](const Course &course) {
+               return course.circuit.position == position && double(now) >= course.begin &&
+                      double(now) < course.begin + course.circuit.duration;
+           });
+}
+
+QList<int> Pour::positions() const
+{
+    QList<int> positions;
+    for (const Course &course : m_courses)
+        positions.append(course.circuit.position);
+    return positions;
+}
+
+int Pour::reached(qint64 now) const
+{
+    const auto last = std::find_if(m_courses.rbegin(), m_courses.rend(), [now](const Course &course) {
+        return double(now) >= course.begin - course.circuit.approach;
+    });
+    return last == m_courses.rend() ? 0 : last->circuit.position;
+}
+
 CutOff Pour::cutOff(int position, qint64 now)
 {
     const auto course = std::find_if(m_courses.begin(), m_courses.end(), [position](const Course &candidate) {

@@ -51,11 +51,20 @@ public:
     Pour(int criterion, const std::vector<CircuitPour> &circuits, int parallelism, qint64 begin);
 
     bool isRunning(qint64 now) const { return double(now) < m_end; }
+    /// Whether the motor of the circuit turns.
+    bool turns(int position, qint64 now) const;
 
-    std::vector<EngagedCircuit> engaged(qint64 now) const;
+    QList<int> positions() const; ///< of its circuits, in their order
+    /// The circuit to which the pour has come last; of several that pour at once the last in the list. 0 for none.
+    int reached(qint64 now) const;
+
     /// From now on nothing leaves the circuit's nozzle any more.
     CutOff cutOff(int position, qint64 now);
+    /// All motors stand still from now on.
+    void end(qint64 now) { m_end = std::min(m_end, double(now)); }
 
+    /// Its circuits that are not yet through.
+    std::vector<EngagedCircuit> engaged(qint64 now) const;
     /// The numbers of the firmware's report: criterion, number of circuits, then of each circuit position, queue, and the
     /// steps in all and so far, each as a count of digits and the digits.
     QList<int> report(qint64 now) const;

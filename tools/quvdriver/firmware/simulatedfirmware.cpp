@@ -13,6 +13,7 @@
 #include "firmware/parts/safety.h"
 #include "firmware/parts/sensors.h"
 #include "firmware/parts/stirring.h"
+#include "firmware/parts/stopping.h"
 #include "firmware/parts/versions.h"
 #include "firmware/parts/workingmode.h"
 #include "firmware/wirereply.h"
@@ -38,6 +39,7 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
     m_rows = &add<Rows>(machine, std::move(configuration));
     add<Versions>(version, [this] { return codes(); });
     add<Resetting>();
+    add<Stopping>();
     if (m_machine.type() == SerialDeviceType::Dispenser) {
         add<DispenserStatusPart>();
         add<Dosing>();

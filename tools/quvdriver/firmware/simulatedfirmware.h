@@ -31,6 +31,8 @@ public:
         m_machine.setContent(canisterID, quantity);
     }
 
+    double content(int canisterID) const { return m_machine.content(canisterID); } ///< what it really holds
+
     /// The faults to come, from now on.
     void play(const std::vector<FaultSpan> &faults) { m_machine.play(faults); }
 

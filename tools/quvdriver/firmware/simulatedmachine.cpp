@@ -149,8 +149,12 @@ qint64 SimulatedMachine::takeFromCanister(const FW_Circuit &circuit, qint64 step
         content -= *quantity;
         return steps;
     }
-    const qint64 rest = std::min(qint64(circuit.calibration().steps(std::max(content, 0.0))), steps);
-    content = 0;
+    // whole steps alone leave the nozzle, and what is less than one stays
+    constexpr double Nothing = 1e-9;
+    qint64 rest = std::min(qint64(circuit.calibration().steps(std::max(content, 0.0))), steps);
+    if (quantityOfSteps(circuit, rest).value_or(0) > content + Nothing) // the nearest was one too many
+        --rest;
+    content = std::max(content - quantityOfSteps(circuit, rest).value_or(0), 0.0);
     raise({CanisterEmptyError, circuit.positionId()});
     return rest;
 }

@@ -73,8 +73,8 @@ public:
     bool isHeld() const { return m_faults.emergencyPressed || m_faults.offlinePressed; }
     /// Whether a part is at one of the processes.
     bool isAt(ProcessSet processes) const;
-    /// Why it cannot begin now: something that a part is at excludes it, or somebody has pressed a button or opened the door against it. Nothing
-    /// when it can.
+    /// Why it cannot begin now: something that a part is at excludes it, or somebody has pressed a button or opened the door
+    /// against it. Nothing when it can.
     std::optional<Reason> obstacle(Process process) const;
     bool mayBegin(Process process) const { return !obstacle(process); }
     /// Tells all parts that the pumps of these circuits are needed.

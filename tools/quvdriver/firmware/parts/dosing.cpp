@@ -53,14 +53,45 @@ std::vector<FirmwareCode> Dosing::codes()
     };
 }
 
-void Dosing::tellStatus(StatusWords &status, int /*module*/) const
+void Dosing::tellStatus(StatusWords &status, int module) const
 {
-    status.words.set(1, 2, !atWork().isEmpty());
+    status.words.set(1, 2, module == 0 ? !atWork().isEmpty() : m_pour.turns(module, m_machine.now()));
+    status.words.set(5, 4, m_isInterrupted);
 }
 
 ProcessSet Dosing::atWork() const
 {
     return m_pour.isRunning(m_machine.now()) ? ProcessSet{Process::Pouring} : ProcessSet();
+}
+
+void Dosing::goOn()
+{
+    if (atWork().isEmpty())
+        return;
+    if (m_machine.isHeld())
+        stop();
+    for (const int position : m_machine.faults().blockedCircuits)
+        cutOff(position);
+}
+
+void Dosing::stop()
+{
+    if (atWork().isEmpty())
+        return;
+    const qint64 now = m_machine.now();
+    for (const int position : m_pour.positions())
+        cutOff(position);
+    m_tablePosition = m_pour.reached(now);
+    m_pour.end(now);
+    m_isInterrupted = true;
+}
+
+/// What the circuit has not poured is in its canister again.
+void Dosing::cutOff(int position)
+{
+    const CutOff cut = m_pour.cutOff(position, m_machine.now());
+    if (const FW_Circuit *circuit = m_machine.circuitAt(position))
+        m_machine.putIntoCanister(*circuit, cut.taken, cut.poured);
 }
 
 FirmwareReply Dosing::tint(const QList<int> &parameters)
@@ -103,6 +134,7 @@ FirmwareReply Dosing::begin(const std::optional<PourRequest> &request, Movement 
         positions.append(circuit.position);
     m_machine.giveWay(positions);
     const int parallelism = m_machine.turntable() ? 1 : m_machine.dispenser().tintingParallelism();
+    m_isInterrupted = false;
     m_pour =
         Pour(request->criterion | (request->isPurge ? PurgeMark : 0), circuits, parallelism, m_machine.now());
     m_process = static_cast<int>(processOf(*request, movement));
@@ -172,7 +204,8 @@ CircuitPour Dosing::plan(const PourPart &part, Movement movement)
     pour.queue = part.queue;
     pour.nozzleValve = part.nozzleValve;
     pour.total = isPoured ? steps : 0;
-    pour.available = m_machine.takeFromCanister(circuit, pour.total);
+    if (!m_machine.faults().blockedCircuits.contains(part.position))
+        pour.available = m_machine.takeFromCanister(circuit, pour.total);
     pour.approach = moveTable(part.position) / m_machine.speed();
     pour.duration = motorTime(circuit.dosingMotor(), steps, part.speed) / m_machine.speed();
     return pour;

@@ -21,6 +21,8 @@ public:
     ProcessSet atWork() const override;
     std::vector<ActiveCircuit> activeCircuits(int process) const override;
     void goOn() override;
+    void stop() override;
+    void reset() override { m_isInterrupted = false; }
 
 private:
     enum class Movement { Steps, PouredStrokes, IdleStrokes, StrokesOrPack };
@@ -36,8 +38,9 @@ private:
 
     SimulatedMachine &m_machine;
     Pour m_pour{};
-    int m_process = 0;       ///< the number of the circuits' process that the pour is
-    int m_tablePosition = 0; ///< the circuit at the dosing point of a machine with a turntable
+    int m_process = 0;            ///< the number of the circuits' process that the pour is
+    bool m_isInterrupted = false; ///< the last pour was stopped
+    int m_tablePosition = 0;      ///< the circuit at the dosing point of a machine with a turntable
 };
 
 } // namespace quv

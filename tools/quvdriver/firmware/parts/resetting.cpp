@@ -13,8 +13,14 @@ std::vector<FirmwareCode> Resetting::codes()
 FirmwareReply Resetting::begin()
 {
     constexpr double Duration = 6000; // milliseconds
-    if (!m_machine.mayBegin(Process::Resetting))
+    // What writes a memory is not cut off, and the search is not begun anew while it goes on.
+    if (m_machine.isHeld() ||
+        m_machine.isAt({Process::Resetting, Process::Finalising, Process::UpdatingBoards}))
         return refused(Reason::NotAvailable);
+    for (const auto &part : m_machine.parts()) {
+        part->stop();
+        part->reset();
+    }
     m_end = m_machine.endOf(Duration);
     return begun();
 }

@@ -5,7 +5,7 @@
 
 namespace quv {
 
-/// The search for the origins of all that moves (code 0001).
+/// The search for the origins of all that moves (code 0001). What the machine is at ends for it.
 class Resetting final : public FirmwarePart
 {
 public:
