@@ -3,6 +3,7 @@
 
 #include <QuvFramework/fw_turntable.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace quv {
@@ -94,28 +95,58 @@ void DrivenMachine::setTablePosition(int position)
     m_tablePosition = position;
 }
 
-std::shared_ptr<void> DrivenMachine::claimPour()
+std::shared_ptr<Engagement> DrivenMachine::engage(const QString &command, Engages part, QString *other)
 {
     const Lock lock(m_state);
-    if (!m_claim.expired())
+    for (const auto &engagement : engagements()) {
+        if (part == Engages::Nothing || engagement->engages != part)
+            continue;
+        if (other)
+            *other = engagement->command;
         return nullptr;
-    auto claim = std::make_shared<int>(0);
-    m_claim = claim;
-    m_pour = {};
-    return claim;
+    }
+    m_engagements.erase(std::remove_if(m_engagements.begin(), m_engagements.end(),
+                                       [](const auto &engagement) { return engagement.expired(); }),
+                        m_engagements.end());
+    auto engagement = std::make_shared<Engagement>(command, part);
+    m_engagements.push_back(engagement);
+    if (part == Engages::Pumps)
+        m_pour = {};
+    return engagement;
 }
 
-void DrivenMachine::setRunningPour(const std::shared_ptr<void> &claim, const RunningPour &pour)
+/// Those that go on. Called under the lock.
+std::vector<std::shared_ptr<Engagement>> DrivenMachine::engagements() const
+{
+    std::vector<std::shared_ptr<Engagement>> engagements;
+    for (const auto &candidate : m_engagements) {
+        if (auto engagement = candidate.lock())
+            engagements.push_back(std::move(engagement));
+    }
+    return engagements;
+}
+
+void DrivenMachine::stopProcedures()
 {
     const Lock lock(m_state);
-    if (m_claim.lock() == claim)
-        m_pour = pour;
+    for (const auto &engagement : engagements())
+        engagement->stopped.begin();
+}
+
+void DrivenMachine::setRunningPour(const RunningPour &pour)
+{
+    const Lock lock(m_state);
+    m_pour = pour;
 }
 
 std::unique_ptr<RunningPour> DrivenMachine::runningPour() const
 {
     const Lock lock(m_state);
-    return m_claim.expired() || m_pour.command.isEmpty() ? nullptr : std::make_unique<RunningPour>(m_pour);
+    const auto running = engagements();
+    const bool pours = std::any_of(running.begin(), running.end(), [](const auto &engagement) {
+        return engagement->engages == Engages::Pumps;
+    });
+    return pours && !m_pour.command.isEmpty() ? std::make_unique<RunningPour>(m_pour) : nullptr;
 }
 
 } // namespace quv

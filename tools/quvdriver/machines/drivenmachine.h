@@ -7,6 +7,7 @@
 #include "requests/progress.h"
 
 #include "base/machineid.h"
+#include "ending.h"
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
@@ -14,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 namespace quv {
 
@@ -21,9 +23,22 @@ namespace quv {
 struct RunningPour
 {
     QString command{};
-    Progress progress{};
+    std::shared_ptr<const Progress> progress{};
     int channel = 1;   ///< the head
     Formula formula{}; ///< as the client gave it; empty for a command without one
+};
+
+/// What of a machine a procedure of the driver needs for itself.
+enum class Engages { Nothing, Pumps, Stirrers };
+
+/// A procedure that a machine is at, for as long as somebody holds it.
+struct Engagement
+{
+    Engagement(QString name, Engages part) : command(std::move(name)), engages(part) {}
+
+    const QString command;
+    const Engages engages;
+    Ending stopped{}; ///< begins when somebody stops the procedure
 };
 
 /**
@@ -62,14 +77,19 @@ public:
     int tablePosition() const;
     void setTablePosition(int position);
 
-    /// Takes the right to pour, which is the owner's until the result is gone; null while another one has it.
-    std::shared_ptr<void> claimPour();
-    /// Tells everybody what is being poured, for as long as the claim lasts.
-    void setRunningPour(const std::shared_ptr<void> &claim, const RunningPour &pour);
+    /// Begins a procedure, which the machine is at until the result is gone; null while another one needs the same part, and
+    /// \a other is then what that one carries out.
+    std::shared_ptr<Engagement> engage(const QString &command, Engages part, QString *other = nullptr);
+    /// Tells all procedures that the machine is at to stop.
+    void stopProcedures();
+    /// Tells everybody what is being poured, for as long as the machine is at it.
+    void setRunningPour(const RunningPour &pour);
     /// Null when nothing is.
     std::unique_ptr<RunningPour> runningPour() const;
 
 private:
+    std::vector<std::shared_ptr<Engagement>> engagements() const;
+
     const MachineID m_id;
     const int m_family;
     const double m_speed;
@@ -81,7 +101,7 @@ private:
     mutable std::mutex m_state{}; ///< guards what follows
     std::unique_ptr<FW_Machine> m_machine{};
     int m_tablePosition = 0;
-    std::weak_ptr<void> m_claim{};
+    std::vector<std::weak_ptr<Engagement>> m_engagements{};
     RunningPour m_pour{};
     RowKeys m_writtenRows{};
 };

@@ -4,10 +4,12 @@
 #include "procedures/waiting.h"
 #include "quantities.h"
 #include "requests/amounts.h"
+#include "requests/refusal.h"
 
-#include "base/protocommand.h"
+#include "base/serialprotocommand.h"
 #include "catalogue/protocommandlist.h"
 #include "dispensing/getdispensedformulaanswer.h"
+#include "status/dispenserstatusanswer.h"
 
 #include <QuvFramework/fw_exception.h>
 
@@ -70,6 +72,15 @@ bool isToPour(const QString &name)
            name != ProtoCommandList::cmdStr(ProtoCommandList::AIRPURGE);
 }
 
+/// The circuit at the dosing point of a turntable: the last one, or the last that poured of a pour that was stopped. 0 for none.
+int lastReached(const GetDispensedFormulaAnswer &report)
+{
+    const QVector<FormulaItem> &items = report.dispensedFormula().items();
+    const auto poured =
+        std::find_if(items.rbegin(), items.rend(), [](const FormulaItem &item) { return item.quantity > 0; });
+    return poured == items.rend() ? 0 : poured->id.toInt();
+}
+
 FW_ErrorList lessThanAsked(const ProtoCommand &command, const GetDispensedFormulaAnswer &report)
 {
     FW_ErrorList errors;
@@ -87,37 +98,76 @@ FW_ErrorList lessThanAsked(const ProtoCommand &command, const GetDispensedFormul
     return errors;
 }
 
-} // namespace
-
-RunningPour describedPour(const ProtoCommand &command, qint64 expected)
+/// What others can be told of it.
+RunningPour describedPour(const ProcedureRun &run)
 {
     RunningPour pour;
-    pour.command = command.command();
-    pour.progress = Progress(expected);
-    pour.formula = formulaOf(command).value_or(Formula());
+    pour.command = run.command.command();
+    pour.progress = run.progress;
+    pour.formula = formulaOf(run.command).value_or(Formula());
     if (pour.command == ProtoCommandList::cmdStr(ProtoCommandList::CHANNEL_TINT))
-        pour.channel = command.parameters().value(0).toInt();
+        pour.channel = run.command.parameters().value(0).toInt();
     return pour;
 }
 
-FW_ErrorList takePourFromLevels(DrivenMachine &machine, const ProtoCommand &command)
+/// Whether the machine says that it was interrupted.
+bool waitForEndOfPour(const ProcedureRun &run)
 {
-    const FirmwareReply reply = ask(machine, ProtoCommandList::GET_DISPENSED_FORMULA);
+    bool isInterrupted = false;
+    const auto hasEnded = [&isInterrupted](const MachineStatusAnswer &status) {
+        const auto &answer = dynamic_cast<const DispenserStatusAnswer &>(status);
+        isInterrupted = answer.formula_interrupted;
+        return !answer.tinting;
+    };
+    WaitRules rules;
+    rules.expected = run.progress->expected();
+    if (waitUntil(hasEnded, run.machine, rules, run.isDriverGoing) == WaitEnd::Stopped)
+        run.requireToGoOn();
+    return isInterrupted;
+}
+
+/// What is told of the report, which lowers the levels. \a isLess tells whether something was not poured.
+FW_ErrorList takePourFromLevels(const ProcedureRun &run, bool &isLess)
+{
+    const FirmwareReply reply = ask(run.machine, ProtoCommandList::GET_DISPENSED_FORMULA);
     if (reply.refused)
         return levelsAsTheyWere(QStringLiteral("it refuses to"));
     try {
         const GetDispensedFormulaAnswer report(reply.tokens);
         const Formula &poured = report.dispensedFormula();
-        machine.change([&poured](FW_Dispenser &dispenser) {
+        run.machine.change([&poured](FW_Dispenser &dispenser) {
             for (const FormulaItem &item : poured.items())
                 takeSteps(dispenser, item);
         });
-        if (!poured.isEmpty())
-            machine.setTablePosition(poured.items().constLast().id.toInt());
-        return lessThanAsked(command, report);
+        if (const int position = lastReached(report))
+            run.machine.setTablePosition(position);
+        FW_ErrorList lacking = lessThanAsked(run.command, report);
+        isLess = !lacking.isEmpty();
+        return lacking;
     } catch (const FW_Exception &error) {
         return levelsAsTheyWere(error.text());
     }
+}
+
+} // namespace
+
+FW_ErrorList pour(ProcedureRun &run)
+{
+    // before the machine's status can tell anybody that it pours
+    run.machine.setRunningPour(describedPour(run));
+    run.begin(dynamic_cast<SerialProtoCommand &>(run.command));
+    const bool isInterrupted = waitForEndOfPour(run);
+    bool isLess = false;
+    const FW_ErrorList told = takePourFromLevels(run, isLess);
+    // A reset forgets the interruption, and what was stopped may have been at its end already.
+    if (!isInterrupted && !(isLess && run.stopped.hasBegun()))
+        return told;
+    FW_ErrorList errors;
+    errors.append(FW_DriverError(QStringLiteral("DE03411"),
+                                 QStringLiteral("%1 was stopped; the levels are lowered by what was poured")
+                                     .arg(run.command.command())));
+    errors.append(told);
+    throw CallRefusal(Interrupted, errors);
 }
 
 } // namespace quv

@@ -3,20 +3,31 @@
 
 #include "requests/refusal.h"
 
+#include "status/dispenserstatusanswer.h"
+#include "status/mixerstatusanswer.h"
+
 #include <QuvFramework/fw_exception.h>
 
 #include <algorithm>
+#include <memory>
 
 namespace quv {
 namespace {
 
-bool isSet(bool DispenserStatusAnswer::*flag, DrivenMachine &machine)
+using std::chrono::milliseconds;
+
+/// Null when the machine does not tell it.
+std::unique_ptr<const MachineStatusAnswer> statusOf(DrivenMachine &machine, int module)
 {
-    const FirmwareReply reply = ask(machine, ProtoCommandList::GET_STATUS);
+    const bool isMixer = machine.type() == SerialDeviceType::Mixer;
+    const FirmwareReply reply =
+        ask(machine, isMixer ? ProtoCommandList::MIXER_STATUS : ProtoCommandList::GET_STATUS, module);
     if (reply.refused)
-        return false; // nobody could be told
+        return nullptr;
     try {
-        return DispenserStatusAnswer(reply.tokens).*flag;
+        if (isMixer)
+            return std::make_unique<MixerStatusAnswer>(reply.tokens);
+        return std::make_unique<DispenserStatusAnswer>(reply.tokens);
     } catch (const FW_Exception &error) {
         throw CallRefusal{InvalidSerialAnswer, FW_DriverError(error.code(), error.text())};
     }
@@ -24,22 +35,35 @@ bool isSet(bool DispenserStatusAnswer::*flag, DrivenMachine &machine)
 
 } // namespace
 
-FirmwareReply ask(DrivenMachine &machine, ProtoCommandList::CommandListValue question)
+FirmwareReply ask(DrivenMachine &machine, ProtoCommandList::CommandListValue question, int module)
 {
     return machine.exchange(ProtoCommandList::cmdCode(ProtoCommandList::cmdStr(question), machine.family()),
-                            0, {});
+                            module, {});
 }
 
-void waitWhile(bool DispenserStatusAnswer::*flag, DrivenMachine &machine, qint64 expected,
-               const Ending &ending)
+WaitEnd waitUntil(const StatusCondition &condition, DrivenMachine &machine, const WaitRules &rules,
+                  const Ending &ending)
 {
+    using Clock = std::chrono::steady_clock;
     constexpr qint64 Shortest = 5;
     constexpr qint64 Longest = 100;
-    const std::chrono::milliseconds interval(std::clamp(expected / 50, Shortest, Longest));
-    while (isSet(flag, machine)) {
-        if (!ending.wait(interval))
-            refuse(Interrupted, "DE03116",
-                   QStringLiteral("The driver ends before the command has; the machine goes on by itself"));
+    const milliseconds interval(std::clamp(rules.expected / 50, Shortest, Longest));
+    const auto begin = Clock::now();
+    while (true) {
+        const auto status = statusOf(machine, rules.module);
+        if (!status)
+            return WaitEnd::Untold;
+        if (condition(*status))
+            return WaitEnd::Held;
+        milliseconds next = interval;
+        if (rules.limit) {
+            const auto left = std::chrono::ceil<milliseconds>(begin + *rules.limit - Clock::now());
+            if (left.count() <= 0)
+                return WaitEnd::TimeIsUp;
+            next = std::min(next, left);
+        }
+        if (!ending.wait(next))
+            return WaitEnd::Stopped;
     }
 }
 

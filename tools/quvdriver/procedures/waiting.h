@@ -6,19 +6,48 @@
 #include "ending.h"
 
 #include "catalogue/protocommandlist.h"
-#include "status/dispenserstatusanswer.h"
+#include "status/machinestatusanswer.h"
+
+#include <chrono>
+#include <functional>
+#include <optional>
 
 namespace quv {
 
-/// Asks the machine's firmware a question without parameters. \throws what an exchange throws
-FirmwareReply ask(DrivenMachine &machine, ProtoCommandList::CommandListValue question);
+/// Asks the machine's firmware, or one of its modules, a question without parameters. \throws what an exchange throws
+FirmwareReply ask(DrivenMachine &machine, ProtoCommandList::CommandListValue question, int module = 0);
 
-/**
- * Waits until the flag of the machine's status has fallen, asking for it again and again. What should take \a expected
- * milliseconds; a machine that does not tell its status is not waited for.
- * \throws CallRefusal DE03116 when the driver ends before, and what an exchange throws
- */
-void waitWhile(bool DispenserStatusAnswer::*flag, DrivenMachine &machine, qint64 expected,
-               const Ending &ending);
+/// What is waited for: something about the status of a dispenser (DispenserStatusAnswer) or of a mixer (MixerStatusAnswer).
+using StatusCondition = std::function<bool(const MachineStatusAnswer &)>;
+
+/// That a flag has fallen; a machine of the other kind has none.
+template <class Answer>
+StatusCondition hasFallen(bool Answer::*flag)
+{
+    return [flag](const MachineStatusAnswer &status) {
+        const auto *answer = dynamic_cast<const Answer *>(&status);
+        return !answer || !(answer->*flag);
+    };
+}
+
+struct WaitRules
+{
+    int module = 0;      ///< the circuit whose status is asked; 0 for the machine's
+    qint64 expected = 0; ///< milliseconds that it should take; how often the status is asked follows from it
+    std::optional<std::chrono::milliseconds>
+        limit{}; ///< how long it may take; nothing for as long as it takes
+};
+
+enum class WaitEnd {
+    Held,   ///< the condition does
+    Untold, ///< the machine does not tell its status
+    TimeIsUp,
+    Stopped, ///< the ending has begun
+};
+
+/// Waits until the condition over the status holds, asking for it again and again, a first time at once.
+/// \throws CallRefusal for a status that cannot be read, and what an exchange throws
+WaitEnd waitUntil(const StatusCondition &condition, DrivenMachine &machine, const WaitRules &rules,
+                  const Ending &ending);
 
 } // namespace quv

@@ -3,8 +3,7 @@
 
 #include "excerpt.h"
 #include "procedures/machineconfiguration.h"
-#include "procedures/pouring.h"
-#include "procedures/waiting.h"
+#include "procedures/procedures.h"
 #include "requests/commandbuilder.h"
 #include "requests/dispensedformula.h"
 #include "requests/driverqueries.h"
@@ -57,6 +56,12 @@ XmlRpcValue failure(RetCode retCode, const FW_DriverError &error, const QString 
 XmlRpcValue unforeseen(const QString &text, const QString &name)
 {
     return failure(OtherFailure, FW_DriverError(QStringLiteral("DE03110"), text), name);
+}
+
+[[noreturn]] void refuseWithoutCode()
+{
+    refuse(UnknownToFirmware, "DE03105",
+           QStringLiteral("The machine's firmware has no code for this command"));
 }
 
 /// What \a work gives, or the envelope of what it throws.
@@ -176,6 +181,11 @@ void checkWaiting(const NCCommand &asked)
         refuse(
             InvalidRequest, "DE03115",
             QStringLiteral("A command that pours cannot wait for a change: it would pour again and again"));
+    if (const Procedure *procedure = procedureOf(asked.command());
+        procedure && procedure->engages != Engages::Nothing)
+        refuse(InvalidRequest, "DE03415",
+               QStringLiteral("%1 cannot wait for a change: it would be carried out again and again")
+                   .arg(asked.command()));
     if (milliseconds(asked.interval()) < ShortestInterval || asked.timeout() < 0 ||
         milliseconds(asked.timeout()) > LongestTimeout)
         refuse(InvalidRequest, "DE03114",
@@ -192,8 +202,9 @@ struct Driver::Task
     QString name{};
     DrivenMachine *machine = nullptr; ///< that the command is for; null for none
     std::unique_ptr<ProtoCommand> command{};
-    std::shared_ptr<void> claim{}; ///< the right to pour, of a command that does
-    qint64 expected = 0;           ///< milliseconds; 0 or less when nobody knows
+    const Procedure *procedure = nullptr; ///< that carries it out, if any
+    std::shared_ptr<Engagement> engagement{};
+    std::shared_ptr<Progress> progress{}; ///< of a procedure, or what has a ticket
 };
 
 Driver::Driver() = default;
@@ -240,9 +251,8 @@ bool Driver::mayLast(const MethodCall &call)
         return false;
     try {
         const Request request(call.params);
-        return isPour(request.name) ||
-               request.name == ProtoCommandList::cmdStr(ProtoCommandList::FINALIZE_CONFIG) ||
-               isChangeCall(*kind, request);
+        const Procedure *procedure = procedureOf(request.name);
+        return (procedure && procedure->lasts) || isChangeCall(*kind, request);
     } catch (const CallRefusal &) {
         return false; // refused at once
     }
@@ -264,7 +274,7 @@ XmlRpcValue Driver::carryOut(ProtoCommandList::CallKind kind, const Request &req
     return kind == ProtoCommandList::NonBlockingCall ? begin(std::move(task)) : perform(*task);
 }
 
-/// Builds the command, checks that there is somebody to carry it out, and takes the right to pour.
+/// Builds the command, checks that there is somebody to carry it out, and begins its procedure.
 std::shared_ptr<Driver::Task> Driver::prepare(const Request &request)
 {
     auto task = std::make_shared<Task>();
@@ -272,20 +282,29 @@ std::shared_ptr<Driver::Task> Driver::prepare(const Request &request)
     task->machine = machineFor(request);
     task->command = buildCommand(request.name, request.arguments, task->machine);
     checkCarriedOut(*task);
-    if (!isPour(request.name))
+    task->procedure = procedureOf(request.name);
+    if (!task->procedure)
         return task;
-
-    task->claim = task->machine->claimPour();
-    if (!task->claim) {
-        const auto pour = task->machine->runningPour();
-        refuse(NotCarriedOut, "DE03112",
-               QStringLiteral("The machine is at %1 and pours once at a time")
-                   .arg(pour ? pour->command : QStringLiteral("another pour")));
-    }
-    // Only now do the levels and the turntable stand still.
-    task->command = buildCommand(request.name, request.arguments, task->machine);
-    task->expected = estimatedTime(*task->command, task->machine);
+    engage(*task);
+    if (task->procedure->engages == Engages::Pumps) // only now do the levels and the turntable stand still
+        task->command = buildCommand(request.name, request.arguments, task->machine);
     return task;
+}
+
+/// Takes what of the machine the procedure needs.
+void Driver::engage(Task &task)
+{
+    if (task.procedure->check)
+        task.procedure->check(*task.command);
+    QString other;
+    task.engagement = task.machine->engage(task.name, task.procedure->engages, &other);
+    if (task.engagement)
+        return;
+    if (task.procedure->engages == Engages::Pumps)
+        refuse(NotCarriedOut, "DE03112",
+               QStringLiteral("The machine is at %1 and pours once at a time").arg(other));
+    refuse(NotCarriedOut, "DE03416",
+           QStringLiteral("The machine is at %1 and stirs its circuits in one series at a time").arg(other));
 }
 
 void Driver::checkCarriedOut(const Task &task)
@@ -296,21 +315,26 @@ void Driver::checkCarriedOut(const Task &task)
     }
     if (!task.machine)
         refuseWithoutMachine();
-    if (ProtoCommandList::cmdCode(task.name, task.machine->family()).isEmpty())
-        refuse(UnknownToFirmware, "DE03105",
-               QStringLiteral("The machine's firmware has no code for this command"));
-    task.machine->abilities().require(*task.command);
+    const bool isSeries = procedureOf(task.name) && // of commands that have codes
+                          ProtoCommandList::cmdCode(task.name, FW_Dispenser::CommandFamily1).isEmpty();
+    if (!isSeries && ProtoCommandList::cmdCode(task.name, task.machine->family()).isEmpty())
+        refuseWithoutCode();
+    if (!isSeries)
+        task.machine->abilities().require(*task.command);
 }
 
 /// Gives a ticket, and goes on behind the client's back.
 XmlRpcValue Driver::begin(std::shared_ptr<Task> task)
 {
     const QString name = task->name;
-    const bool isPour = task->claim != nullptr;
-    const qint64 expected = isPour ? task->expected : estimatedTime(*task->command, task->machine);
+    const bool isPour = task->procedure && task->procedure->engages == Engages::Pumps;
+    const bool lasts = task->procedure && task->procedure->lasts;
+    if (!task->progress)
+        task->progress = std::make_shared<Progress>(estimatedTime(*task->command, task->machine));
+    const std::shared_ptr<Progress> progress = task->progress;
     const auto ticket = m_tickets.add(
         [this, task = std::move(task)] { return enveloped(task->name, [&] { return perform(*task); }); },
-        expected, isPour ? Tickets::UntilRead : Tickets::Shortly);
+        progress, isPour ? Tickets::UntilRead : Tickets::Shortly, lasts ? Tickets::Lasting : Tickets::Quick);
     if (!ticket)
         refuse(NotCarriedOut, "DE03113", QStringLiteral("Too many commands wait for their turn"));
     return success(AsyncAnswer(*ticket), name, 0);
@@ -321,17 +345,40 @@ XmlRpcValue Driver::perform(Task &task)
     QElapsedTimer timer;
     timer.start();
     FW_ErrorList errors;
-    if (auto *serial = dynamic_cast<SerialProtoCommand *>(task.command.get())) {
-        if (task.claim) // before the machine's status can tell anybody that it pours
-            task.machine->setRunningPour(task.claim, describedPour(*task.command, task.expected));
+    if (task.procedure) {
+        errors = runProcedure(task);
+    } else if (auto *serial = dynamic_cast<SerialProtoCommand *>(task.command.get())) {
         takeAnswer(*serial, askFirmware(*serial, task));
-        errors = finish(task);
+        finish(task);
     } else {
         const auto answer =
             answerDriverQuery(*task.command, {m_tickets, m_sessions, m_machines, task.machine});
         task.command->setProtoAnswer(answer.get());
     }
     return success(*task.command->getProtoAnswer(), task.name, timer.elapsed(), errors);
+}
+
+FW_ErrorList Driver::runProcedure(Task &task)
+{
+    const auto ask = [&task](SerialProtoCommand &command) {
+        Task step;
+        step.name = command.command();
+        step.machine = task.machine;
+        if (ProtoCommandList::cmdCode(step.name, task.machine->family()).isEmpty())
+            refuseWithoutCode();
+        takeAnswer(command, askFirmware(command, step));
+    };
+    if (!task.progress)
+        task.progress = std::make_shared<Progress>(
+            task.procedure->lasts ? estimatedTime(*task.command, task.machine) : 0);
+    task.command->clearProtoAnswer(); // of the time before, when it waits for a change
+    ProcedureRun run{*task.command, *task.machine, ask, task.progress, task.engagement->stopped, m_ending};
+    const FW_ErrorList errors = task.procedure->run(run);
+    if (!task.command->getProtoAnswer()) {
+        ConfProtoAnswer nothing;
+        task.command->setProtoAnswer(&nothing);
+    }
+    return errors;
 }
 
 /// The envelope with the status and its \a source, or \a written, the document of a reply that followed from the same.
@@ -369,45 +416,13 @@ void Driver::takeAnswer(SerialProtoCommand &command, const FirmwareReply &reply)
 }
 
 /// What the driver does when the firmware has taken the command.
-FW_ErrorList Driver::finish(const Task &task)
+void Driver::finish(const Task &task)
 {
-    if (task.claim)
-        return finishPour(task);
-    if (task.name == ProtoCommandList::cmdStr(ProtoCommandList::FINALIZE_CONFIG))
-        return finishConfiguration(task);
     if (task.name == ProtoCommandList::cmdStr(ProtoCommandList::GET_DISPENSED_FORMULA))
         answerAsAsked(*task.command, *task.machine);
     const auto *write = dynamic_cast<const WriteConfigurationParamCmd *>(task.command.get());
     if (write && write->confData())
         task.machine->rowWritten(writtenRow(*write->confData()));
-    return {};
-}
-
-/// The machine pours. Sees it to its end; what goes wrong afterwards no longer makes the pour a failure.
-FW_ErrorList Driver::finishPour(const Task &task)
-{
-    waitWhile(&DispenserStatusAnswer::tinting, *task.machine, task.expected, m_ending);
-    return takePourFromLevels(*task.machine, *task.command);
-}
-
-/// The firmware makes its configuration permanent. The driver's machine follows it when it has.
-FW_ErrorList Driver::finishConfiguration(const Task &task)
-{
-    DrivenMachine &machine = *task.machine;
-    waitWhile(&DispenserStatusAnswer::conf_writing, machine, estimatedTime(*task.command, &machine),
-              m_ending);
-    QStringList problems;
-    const auto ask = [&machine](const QString &code, const QList<int> &parameters) {
-        return machine.exchange(code, 0, parameters);
-    };
-    const ToldRows rows = readRows(machine.takeWrittenRows(), ask, problems);
-    machine.configure([&](FW_Machine &changed) { applyRows(changed, rows, problems); });
-    FW_ErrorList errors;
-    for (const QString &problem : problems)
-        errors.append(FW_DriverError(
-            QStringLiteral("DE03120"),
-            QStringLiteral("The driver's machine does not follow the configuration: %1").arg(problem)));
-    return errors;
 }
 
 XmlRpcValue Driver::waitForChange(const Request &request, Ending &gone)
@@ -423,6 +438,9 @@ XmlRpcValue Driver::waitForChange(const Request &request, Ending &gone)
     checkWaiting(asked);
     task.command.reset(asked.protoCommand()->clone());
     checkCarriedOut(task);
+    task.procedure = procedureOf(request.name);
+    if (task.procedure)
+        engage(task);
 
     const Ending ending{&m_ending, &gone};
     const auto end = Clock::now() + milliseconds(asked.timeout());

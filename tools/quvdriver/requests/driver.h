@@ -62,15 +62,15 @@ private:
     XmlRpc::XmlRpcValue carryOut(ProtoCommandList::CallKind kind, const Request &request, Ending &gone);
     XmlRpc::XmlRpcValue waitForChange(const Request &request, Ending &gone);
     std::shared_ptr<Task> prepare(const Request &request);
+    static void engage(Task &task);
     static void checkCarriedOut(const Task &task);
     XmlRpc::XmlRpcValue begin(std::shared_ptr<Task> task);
     XmlRpc::XmlRpcValue perform(Task &task);
     XmlRpc::XmlRpcValue askStatus(const Request &request, StatusSource &source, QByteArray &written);
     static FirmwareReply askFirmware(const SerialProtoCommand &command, const Task &task);
     static void takeAnswer(SerialProtoCommand &command, const FirmwareReply &reply);
-    FW_ErrorList finish(const Task &task);
-    FW_ErrorList finishPour(const Task &task);
-    FW_ErrorList finishConfiguration(const Task &task);
+    FW_ErrorList runProcedure(Task &task);
+    static void finish(const Task &task);
     DrivenMachine *machineFor(const Request &request);
 
     Ending m_ending{};

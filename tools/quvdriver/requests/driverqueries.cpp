@@ -179,8 +179,8 @@ Answer formulaExecution(const ProtoCommand & /*command*/, const DriverKnowledge 
     FormulaProgress progress;
     if (const auto pour = knowledge.machine->runningPour()) {
         constexpr qint64 Longest = std::numeric_limits<int>::max();
-        const FormulaChannel channel(pour->channel, pour->progress.percentage(),
-                                     static_cast<int>(std::min(pour->progress.timeLeft(), Longest)),
+        const FormulaChannel channel(pour->channel, pour->progress->percentage(),
+                                     static_cast<int>(std::min(pour->progress->timeLeft(), Longest)),
                                      pour->formula);
         progress.setFormulaChannels({channel.clone()});
     }

@@ -15,9 +15,6 @@ namespace {
 
 using Lock = std::unique_lock<std::mutex>;
 
-// A machine pours once at a time, so at most two of them are at it, and the others are free for what is short.
-constexpr int Threads = 4;
-
 int endStateOf(const XmlRpc::XmlRpcValue &envelope)
 {
     int retCode = OtherFailure;
@@ -69,8 +66,7 @@ struct Tickets::Ticket
 
     QString id{};
     Job job{};
-    qint64 expected = 0;
-    Progress progress{}; ///< since the ticket's turn came
+    std::shared_ptr<Progress> progress{};
     Keeping keeping = Shortly;
     Clock::time_point keptUntil = Clock::time_point::max();
     bool isRead = false;
@@ -78,11 +74,7 @@ struct Tickets::Ticket
     CmdStatus status{CmdStatus::Created, 0, 0, QString()};
 };
 
-Tickets::Tickets(Now now) : m_now(std::move(now))
-{
-    for (int i = 0; i < Threads; ++i)
-        m_threads.emplace_back([this] { work(); });
-}
+Tickets::Tickets(Now now) : m_now(std::move(now)) {}
 
 Tickets::~Tickets()
 {
@@ -95,25 +87,31 @@ Tickets::~Tickets()
         thread.join();
 }
 
-std::optional<QString> Tickets::add(Job job, qint64 expected, Keeping keeping)
+std::optional<QString> Tickets::add(Job job, std::shared_ptr<Progress> progress, Keeping keeping, Pace pace)
 {
     auto ticket = std::make_shared<Ticket>();
     ticket->id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     ticket->job = std::move(job);
-    ticket->expected = std::max(expected, qint64(0));
+    ticket->progress = std::move(progress);
     ticket->keeping = keeping;
     {
         const Lock lock(m_mutex);
-        if (m_waiting.size() >= MaxWaiting)
+        Queue &queue = m_queues[pace];
+        if (queue.waiting.size() >= MaxWaiting)
             return std::nullopt;
         makeRoom(keeping);
+        if (queue.idle <= queue.waiting.size() && queue.threads < MaxAtOnce[pace]) {
+            m_threads.emplace_back([this, &queue] { work(queue); });
+            ++queue.threads;
+            ++queue.idle;
+        }
         ticket->enter(CmdStatus::Queued);
-        ticket->status.setTimeLeft(ticket->expected);
+        ticket->status.setTimeLeft(ticket->progress->expected());
         m_tickets.insert(ticket->id, ticket);
         m_kept[keeping].push_back(ticket);
-        m_waiting.push_back(ticket);
+        queue.waiting.push_back(ticket);
     }
-    m_changed.notify_one();
+    m_changed.notify_all();
     return ticket->id;
 }
 
@@ -125,8 +123,8 @@ std::optional<CmdStatus> Tickets::status(const QString &id) const
         return std::nullopt;
     CmdStatus status = ticket->status;
     if (status.status() == CmdStatus::Executing) {
-        status.setPercentage(ticket->progress.percentage());
-        status.setTimeLeft(ticket->progress.timeLeft());
+        status.setPercentage(ticket->progress->percentage());
+        status.setTimeLeft(ticket->progress->timeLeft());
     } else if (status.status() <= 0 && !std::exchange(ticket->isRead, true)) {
         // an answer may be lost on its way, and is asked for again
         ticket->keptUntil = std::min(ticket->keptUntil, m_now() + ShortestTime);
@@ -171,16 +169,17 @@ void Tickets::finish(Ticket &ticket, const XmlRpc::XmlRpcValue &envelope)
     m_resultBytes += ticket.bytes;
 }
 
-void Tickets::work()
+void Tickets::work(Queue &queue)
 {
     Lock lock(m_mutex);
     while (true) {
-        m_changed.wait(lock, [this] { return m_ends || !m_waiting.empty(); });
+        m_changed.wait(lock, [&] { return m_ends || !queue.waiting.empty(); });
         if (m_ends)
             return;
-        const auto ticket = m_waiting.front();
-        m_waiting.pop_front();
-        ticket->progress = Progress(ticket->expected);
+        const auto ticket = queue.waiting.front();
+        queue.waiting.pop_front();
+        --queue.idle;
+        ticket->progress->begin();
         ticket->enter(CmdStatus::Executing);
         Job job = std::exchange(ticket->job, nullptr);
 
@@ -190,6 +189,7 @@ void Tickets::work()
         job = nullptr;
         lock.lock();
         finish(*ticket, envelope);
+        ++queue.idle;
     }
 }
 

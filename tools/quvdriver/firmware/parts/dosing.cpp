@@ -70,8 +70,9 @@ void Dosing::goOn()
         return;
     if (m_machine.isHeld())
         stop();
-    for (const int position : m_machine.faults().blockedCircuits)
-        cutOff(position);
+    for (const int position : risingNumbers(m_machine.faults().blockedCircuits))
+        if (cutOff(position))
+            m_machine.raise({CircuitBlockedError, position});
 }
 
 void Dosing::stop()
@@ -86,12 +87,14 @@ void Dosing::stop()
     m_isInterrupted = true;
 }
 
-/// What the circuit has not poured is in its canister again.
-void Dosing::cutOff(int position)
+/// What the circuit has not poured is in its canister again. False when it has poured all.
+bool Dosing::cutOff(int position)
 {
     const CutOff cut = m_pour.cutOff(position, m_machine.now());
-    if (const FW_Circuit *circuit = m_machine.circuitAt(position))
-        m_machine.putIntoCanister(*circuit, cut.taken, cut.poured);
+    if (cut.taken == cut.poured)
+        return false;
+    m_machine.putIntoCanister(*m_machine.circuitAt(position), cut.taken, cut.poured);
+    return true;
 }
 
 FirmwareReply Dosing::tint(const QList<int> &parameters)
@@ -139,22 +142,6 @@ FirmwareReply Dosing::begin(const std::optional<PourRequest> &request, Movement 
         Pour(request->criterion | (request->isPurge ? PurgeMark : 0), circuits, parallelism, m_machine.now());
     m_process = static_cast<int>(processOf(*request, movement));
     return begun();
-}
-
-void Dosing::goOn()
-{
-    for (const int position : risingNumbers(m_machine.faults().blockedCircuits))
-        cutOff(position);
-}
-
-/// What the circuit has not poured is in its canister again.
-void Dosing::cutOff(int position)
-{
-    const CutOff cut = m_pour.cutOff(position, m_machine.now());
-    if (cut.taken == cut.poured)
-        return;
-    m_machine.putIntoCanister(*m_machine.circuitAt(position), cut.taken, cut.poured);
-    m_machine.raise({CircuitBlockedError, position});
 }
 
 std::vector<ActiveCircuit> Dosing::activeCircuits(int process) const

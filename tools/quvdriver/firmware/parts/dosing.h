@@ -34,7 +34,7 @@ private:
     static CircuitProcess processOf(const PourRequest &request, Movement movement);
     CircuitPour plan(const PourPart &part, Movement movement);
     double moveTable(int position);
-    void cutOff(int position);
+    bool cutOff(int position);
 
     SimulatedMachine &m_machine;
     Pour m_pour{};

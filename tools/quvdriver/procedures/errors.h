@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "procedures/procedure.h"
+
+#include <QuvFramework/fw_errorlist.h>
+
+namespace quv {
+
+/// GET_ERRORS: asks how many packets of errors the firmware keeps, then for each of them.
+FW_ErrorList askErrors(ProcedureRun &run);
+
+} // namespace quv

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "procedures/finalising.h"
+
+#include "procedures/machineconfiguration.h"
+#include "procedures/waiting.h"
+
+#include "base/serialprotocommand.h"
+
+namespace quv {
+
+FW_ErrorList finaliseConfiguration(ProcedureRun &run)
+{
+    DrivenMachine &machine = run.machine;
+    run.ask(dynamic_cast<SerialProtoCommand &>(run.command));
+    WaitRules rules;
+    rules.expected = run.progress->expected();
+    if (waitUntil(hasFallen(&MachineStatusAnswer::conf_writing), machine, rules, run.isDriverGoing) ==
+        WaitEnd::Stopped)
+        run.requireToGoOn();
+    QStringList problems;
+    const auto ask = [&machine](const QString &code, const QList<int> &parameters) {
+        return machine.exchange(code, 0, parameters);
+    };
+    const ToldRows rows = readRows(machine.takeWrittenRows(), ask, problems);
+    machine.configure([&](FW_Machine &changed) { applyRows(changed, rows, problems); });
+    FW_ErrorList errors;
+    for (const QString &problem : problems)
+        errors.append(FW_DriverError(
+            QStringLiteral("DE03120"),
+            QStringLiteral("The driver's machine does not follow the configuration: %1").arg(problem)));
+    return errors;
+}
+
+} // namespace quv

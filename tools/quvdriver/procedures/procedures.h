@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "procedures/procedure.h"
+
+#include "catalogue/protocommandlist.h"
+
+#include <QuvFramework/fw_errorlist.h>
+
+namespace quv {
+
+/// What the driver does by itself for a command, beyond one exchange with the firmware.
+struct Procedure
+{
+    ProtoCommandList::CommandListValue command;
+    Engages engages;
+    bool lasts; ///< its end is waited for
+    /// Gives what is told beside the answer. \throws CallRefusal when it does not come to its end
+    FW_ErrorList (*run)(ProcedureRun &run);
+    /// Null, or \throws CallRefusal for what cannot be carried out, before anything has begun
+    void (*check)(const ProtoCommand &command) = nullptr;
+};
+
+/// Null for a command that is one exchange with the firmware, or is answered by the driver alone.
+const Procedure *procedureOf(const QString &command);
+
+} // namespace quv
