@@ -41,7 +41,6 @@ public:
     }
 
     bool isEmpty() const { return m_bits.none(); }
-    bool hasAny(ProcessSet others) const { return (m_bits & others.m_bits).any(); }
     bool has(Process process) const { return m_bits.test(static_cast<std::size_t>(process)); }
     bool hasAny(ProcessSet others) const { return (m_bits & others.m_bits).any(); }
     ProcessSet without(ProcessSet others) const

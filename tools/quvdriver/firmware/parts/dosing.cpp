@@ -191,8 +191,7 @@ CircuitPour Dosing::plan(const PourPart &part, Movement movement)
     pour.queue = part.queue;
     pour.nozzleValve = part.nozzleValve;
     pour.total = isPoured ? steps : 0;
-    if (!m_machine.faults().blockedCircuits.contains(part.position))
-        pour.available = m_machine.takeFromCanister(circuit, pour.total);
+    pour.available = m_machine.takeFromCanister(circuit, pour.total);
     pour.approach = moveTable(part.position) / m_machine.speed();
     pour.duration = motorTime(circuit.dosingMotor(), steps, part.speed) / m_machine.speed();
     return pour;

@@ -22,7 +22,7 @@ std::optional<int> sensorLevelAt(const SimulatedMachine &machine, int position)
         return std::nullopt;
     bool isKnown = false;
     const qint64 steps =
-        circuit->calibration().steps(std::max(machine.content(canister->id()), 0.0), &isKnown);
+        circuit->calibration().steps(std::max(machine.toldContent(*canister), 0.0), &isKnown);
     if (!isKnown)
         return std::nullopt;
     return static_cast<int>(
