@@ -25,8 +25,8 @@ struct RaisedError
     int code = 0;
     int module = 0; ///< the address of the board; 0 for the machine's own
     Kind kind = Kind::Hardware;
-    int value = 0; ///< 0 to 31, what the error is about
-    bool isRead = false;
+    int value = 0;       ///< 0 to 31, what the error is about
+    bool isRead = false; ///< told in a packet that somebody asked for
 };
 
 /**
