@@ -217,6 +217,20 @@ TEST(Machines, theDualMachineHasTwoHeads)
     EXPECT_THAT(heads, ElementsAre(1, 1, 1, 1, 1, 1, 1, 1, 2, 2, 2, 2, 2, 2, 2, 2));
 }
 
+TEST(Machines, theStationIsOfTheZandorLine)
+{
+    const BuiltIn machine("station");
+    EXPECT_EQ(machine->id(), 5);
+    EXPECT_EQ(machine->model(), MachineModel::Zandor);
+    EXPECT_TRUE(FW_Dispenser::isZANDORDispenser(machine->modelName()));
+    EXPECT_EQ(machine->serialNumber(), QStringLiteral("SIM-Z-0001"));
+    EXPECT_EQ(machine->tintingParallelism(), 4);
+    EXPECT_TRUE(machine->acceptCommands(FW_Device::Autocap));
+    EXPECT_TRUE(machine->acceptCommands(FW_Device::Shelf));
+    EXPECT_EQ(machine->getCircuits().size(), 16);
+    EXPECT_EQ(machine->getCircuitById(16)->queueID(), 4);
+}
+
 TEST(Machines, aDispenserOfAFile)
 {
     const auto machine = fromJson(FullDispenser);
@@ -319,7 +333,7 @@ TEST(Machines, whatIsWrittenReadsBack)
         EXPECT_TRUE(dynamic_cast<const FW_Dispenser &>(*machine) ==
                     dynamic_cast<const FW_Dispenser &>(*again));
     }
-    for (const char *name : {"dispenser", "turntable", "dual"}) {
+    for (const char *name : {"dispenser", "turntable", "dual", "station"}) {
         const BuiltIn machine(name);
         const auto again = readMachineFile(machineFileOf(*machine));
         EXPECT_TRUE(*machine == dynamic_cast<const FW_Dispenser &>(*again));

@@ -7,6 +7,7 @@
 #include <QuvFramework/fw_autocap.h>
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
+#include <QuvFramework/fw_shelf.h>
 #include <QuvFramework/fw_turntable.h>
 
 #include <algorithm>
@@ -105,16 +106,30 @@ std::unique_ptr<FW_Dispenser> dispenserOf(int id, const char *modelName, const c
     return dispenser;
 }
 
-std::unique_ptr<FW_Machine> builtInDispenser()
+/// A dispenser whose circuits pour four at a time, in groups of four.
+std::unique_ptr<FW_Dispenser> parallelDispenserOf(int id, const char *modelName, const char *serialNumber)
 {
-    auto dispenser = dispenserOf(1, "Generic dispenser", "SIM-D-0001");
+    auto dispenser = dispenserOf(id, modelName, serialNumber);
     dispenser->setTintingParallelism(4);
     dispenser->setDevice(FW_Autocap());
-    for (int id = 1; id <= 16; ++id) {
-        FW_Circuit circuit = circuitOf(id);
-        circuit.setQueueID((id - 1) / 4 + 1); // groups of four
+    for (int number = 1; number <= 16; ++number) {
+        FW_Circuit circuit = circuitOf(number);
+        circuit.setQueueID((number - 1) / 4 + 1);
         addCanister(*dispenser, circuit);
     }
+    return dispenser;
+}
+
+std::unique_ptr<FW_Machine> builtInDispenser()
+{
+    return parallelDispenserOf(1, "Generic dispenser", "SIM-D-0001");
+}
+
+std::unique_ptr<FW_Machine> builtInStation()
+{
+    auto dispenser = parallelDispenserOf(5, "Zandor with capping station", "SIM-Z-0001");
+    dispenser->setModel(MachineModel::Zandor);
+    dispenser->setDevice(FW_Shelf());
     return dispenser;
 }
 
@@ -164,6 +179,7 @@ struct BuiltIn
 constexpr BuiltIn builtIns[] = {{"dispenser", builtInDispenser},
                                 {"turntable", builtInTurntable},
                                 {"dual", builtInDual},
+                                {"station", builtInStation},
                                 {"mixer", builtInMixer}};
 
 QByteArray contentOf(const QString &path)

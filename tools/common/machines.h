@@ -10,7 +10,7 @@
 namespace quv {
 
 /**
- * The machine that a user names: null for "none", a built-in machine ("dispenser", "turntable", "dual", "mixer"), else what
+ * The machine that a user names: null for "none", a built-in machine ("dispenser", "turntable", "dual", "station", "mixer"), else what
  * the JSON file of that path describes. docs/machine.md tells what the built-in ones are, and the form of a file.
  *
  * \throws std::runtime_error with a text for the user

@@ -30,7 +30,7 @@ struct OptionText
 
 /// The machine that an operation is to know, as the batch operations take it.
 constexpr OptionText machineOption = {"machine", "MACHINE",
-                                      "none (default), dispenser, turntable, dual, mixer or a file"};
+                                      "none (default), dispenser, turntable, dual, station, mixer or a file"};
 
 class CommandLine;
 

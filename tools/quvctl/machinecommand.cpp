@@ -33,7 +33,7 @@ const Subcommand machineSubcommand = {
     "machine",
     "NAME|FILE",
     "a machine as the JSON of a machine file",
-    "Prints a built-in machine (dispenser, turntable, dual, mixer), or that of a "
+    "Prints a built-in machine (dispenser, turntable, dual, station, mixer), or that of a "
     "file, without the members that have their defaults.",
     1,
     1,

@@ -70,9 +70,9 @@ const QCommandLineOption portOption(QStringLiteral("port"),
                                     QStringLiteral("PORT"), QStringLiteral("9333"));
 const QCommandLineOption machineOption(
     QStringLiteral("machine"),
-    QStringLiteral("A simulated machine: dispenser, turntable, dual, mixer, one of these with an "
-                   "ID as in dispenser:2, none, or a file; may be repeated (default dispenser "
-                   "and mixer)."),
+    QStringLiteral("A simulated machine: dispenser, turntable, dual, station, mixer, one of these "
+                   "with an ID as in dispenser:2, none, or a file; may be repeated (default "
+                   "dispenser and mixer)."),
     QStringLiteral("NAME|FILE"));
 const QCommandLineOption speedOption(QStringLiteral("speed"),
                                      QStringLiteral("How many times faster than real the machines work "

@@ -7,7 +7,7 @@ _quvctl()
     local -a line=()
     _quvctl_line
     local subcommands="list show encode decode call ticket tint config watch batch machine explain help"
-    local machines="dispenser turntable dual mixer"
+    local machines="dispenser turntable dual station mixer"
     local words=""
     COMPREPLY=()
 

@@ -18,7 +18,7 @@ _quvdriver()
     fi
 
     case "$previous" in
-    --machine) words="dispenser turntable dual mixer none" files=yes ;;
+    --machine) words="dispenser turntable dual station mixer none" files=yes ;;
     --firmware) words="older equal newer" ;;
     --scenario | --state | --token-file) files=yes ;;
     --trace) [[ $prefix || ${COMP_WORDS[COMP_CWORD]} == = || ${COMP_WORDS[COMP_CWORD - 1]} == = ]] && words="json" ;;
