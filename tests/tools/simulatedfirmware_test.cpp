@@ -137,17 +137,18 @@ protected:
         return (reply.refused ? "refused " : "") + tokens(reply);
     }
     /// Milliseconds until the pour that began just now is over.
-    qint64 duration(SimulatedFirmware &firmware, const char *tinting = Tinting, const char *after = Idle)
+    qint64 duration(SimulatedFirmware &firmware, const char *after = Idle,
+                    const std::string &tinting = "E 0 1 4 0 0 0 ")
     {
         const qint64 begun = m_now;
-        while (ask(firmware, "0006") == tinting)
+        while (ask(firmware, "0006").rfind(tinting, 0) == 0)
             m_now += 100;
         EXPECT_EQ(ask(firmware, "0006"), after);
         return m_now - begun;
     }
     qint64 durationWithError(SimulatedFirmware &firmware)
     {
-        return duration(firmware, "E 0 1 4 40 20 0 0 F5 F5 0 0 0 0 0", "E 0 1 0 40 20 0 0 F5 F5 4 0 0 0 0");
+        return duration(firmware, "E 0 1 0 40 20 0 0 F5 F5 4 0 0 0 0", "E 0 1 4 40 20 0 ");
     }
     qint64 duration(const FW_Dispenser &machine, const char *code, const QList<int> &parameters)
     {
@@ -215,9 +216,9 @@ TEST_F(SimulatedPourTest, aTurntableBringsOneCircuitAfterTheOther)
     // from 3 to 1 one step, from 1 to 4 two of them
     SimulatedFirmware firmware(rotatingMachine(), 1, clock());
     begin(firmware, "0017", {1, 2, 1, 0, 50, 2, 16, 4, 4, 0, 50, 2, 16, 4});
-    EXPECT_EQ(duration(firmware), 1000 + 6000 + 2000 + 6000);
+    EXPECT_EQ(duration(firmware, "E 0 1 0 0 0 0 0 4 0 4 0 0 0 0"), 1000 + 6000 + 2000 + 6000);
     begin(firmware, "0017", {1, 1, 3, 0, 50, 2, 16, 4}); // on from 4
-    EXPECT_EQ(duration(firmware), 1000 + 6000);
+    EXPECT_EQ(duration(firmware, "E 0 1 0 0 0 0 0 3 0 4 0 0 0 0"), 1000 + 6000);
 }
 
 TEST_F(SimulatedPourTest, beforeAnyPourTheReportIsEmpty)

@@ -63,14 +63,6 @@ QList<int> Pour::positions() const
     return positions;
 }
 
-int Pour::reached(qint64 now) const
-{
-    const auto last = std::find_if(m_courses.rbegin(), m_courses.rend(), [now](const Course &course) {
-        return double(now) >= course.begin - course.circuit.approach;
-    });
-    return last == m_courses.rend() ? 0 : last->circuit.position;
-}
-
 CutOff Pour::cutOff(int position, qint64 now)
 {
     const auto course = std::find_if(m_courses.begin(), m_courses.end(), [position](const Course &candidate) {

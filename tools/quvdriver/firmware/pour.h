@@ -55,8 +55,6 @@ public:
     bool turns(int position, qint64 now) const;
 
     QList<int> positions() const; ///< of its circuits, in their order
-    /// The circuit to which the pour has come last; of several that pour at once the last in the list. 0 for none.
-    int reached(qint64 now) const;
 
     /// From now on nothing leaves the circuit's nozzle any more.
     CutOff cutOff(int position, qint64 now);

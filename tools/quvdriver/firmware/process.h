@@ -40,6 +40,12 @@ public:
         return set;
     }
 
+    /// What a movement of the machine excludes: what goes on within the canisters goes on beside it.
+    static ProcessSet outsideCanisters()
+    {
+        return all().without({Process::Stirring, Process::Recirculating});
+    }
+
     bool isEmpty() const { return m_bits.none(); }
     bool has(Process process) const { return m_bits.test(static_cast<std::size_t>(process)); }
     bool hasAny(ProcessSet others) const { return (m_bits & others.m_bits).any(); }

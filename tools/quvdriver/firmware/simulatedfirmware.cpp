@@ -2,18 +2,23 @@
 #include "firmware/simulatedfirmware.h"
 
 #include "firmware/parts/activecircuits.h"
+#include "firmware/parts/cap.h"
+#include "firmware/parts/cappingstation.h"
 #include "firmware/parts/cleaning.h"
 #include "firmware/parts/deepservice.h"
 #include "firmware/parts/dispenserstatus.h"
 #include "firmware/parts/dosing.h"
 #include "firmware/parts/errors.h"
 #include "firmware/parts/levelsensors.h"
+#include "firmware/parts/mixer.h"
 #include "firmware/parts/recirculation.h"
 #include "firmware/parts/resetting.h"
 #include "firmware/parts/safety.h"
 #include "firmware/parts/sensors.h"
+#include "firmware/parts/shelf.h"
 #include "firmware/parts/stirring.h"
 #include "firmware/parts/stopping.h"
+#include "firmware/parts/turntable.h"
 #include "firmware/parts/versions.h"
 #include "firmware/parts/workingmode.h"
 #include "firmware/wirereply.h"
@@ -48,11 +53,17 @@ SimulatedFirmware::SimulatedFirmware(const FW_Machine &machine, double speed, Cl
         add<Recirculation>();
         add<Cleaning>();
         add<LevelSensors>();
+        add<Shelf>();
+        add<Turntable>();
+        add<Cap>();
+        add<CappingStation>();
         add<ActiveCircuits>();
         add<Sensors>();
         add<DeepService>([this](const QString &code, int module, const QList<int> &parameters) {
             return execute(code, module, parameters);
         });
+    } else {
+        add<Mixer>();
     }
 }
 

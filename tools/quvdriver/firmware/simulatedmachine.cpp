@@ -42,6 +42,8 @@ SimulatedMachine::SimulatedMachine(const FW_Machine &machine, double speed, Cloc
 {
     if (const auto *dispenser = dynamic_cast<const FW_Dispenser *>(&machine))
         m_dispenser = *dispenser;
+    if (turntable())
+        m_table.emplace(*turntable(), speed);
     for (const FW_Canister &canister : std::as_const(m_dispenser).canisters())
         m_contents[canister.id()] = canister.currentQuantity();
 }

@@ -3,6 +3,7 @@
 
 #include "firmware/machinefaults.h"
 #include "firmware/part.h"
+#include "firmware/table.h"
 #include "firmware/timedprocesses.h"
 
 #include <QuvFramework/fw_dispenser.h>
@@ -58,6 +59,9 @@ public:
     const FW_Dispenser &dispenser() const { return m_dispenser; }
     FW_Dispenser &dispenser() { return m_dispenser; }
     const FW_Turntable *turntable() const;
+    /// Null without a turntable.
+    Table *table() { return m_table ? &*m_table : nullptr; }
+    const Table *table() const { return m_table ? &*m_table : nullptr; }
     /// Null for one that there is not, or that is disabled.
     const FW_Circuit *circuitAt(int position) const;
 
@@ -126,6 +130,7 @@ private:
     const double m_speed;
     const Clock m_clock;
     std::optional<qint64> m_moment{};
+    std::optional<Table> m_table{};
     QHash<int, double> m_contents{}; ///< by the canisters' IDs
     QList<RaisedError> m_errors{};
     int m_waterCycles = 0;

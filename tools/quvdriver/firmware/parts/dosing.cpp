@@ -22,12 +22,6 @@ double motorTime(const FW_DosingMotor &motor, qint64 steps, int turnsPerMinute)
 
 } // namespace
 
-Dosing::Dosing(SimulatedMachine &machine) : m_machine(machine)
-{
-    if (const FW_Turntable *table = machine.turntable())
-        m_tablePosition = table->positions().value(0);
-}
-
 std::vector<FirmwareCode> Dosing::codes()
 {
     using Numbers = QList<int>;
@@ -82,8 +76,9 @@ void Dosing::stop()
     const qint64 now = m_machine.now();
     for (const int position : m_pour.positions())
         cutOff(position);
-    m_tablePosition = m_pour.reached(now);
     m_pour.end(now);
+    if (Table *table = m_machine.table()) // the ways to the circuits that were still to pour
+        table->stop(now);
     m_isInterrupted = true;
 }
 
@@ -128,8 +123,10 @@ FirmwareReply Dosing::begin(const std::optional<PourRequest> &request, Movement 
             return refused(Reason::WrongParameters);
     }
     std::vector<CircuitPour> circuits;
+    double next = double(m_machine.now()); // on a table, where one circuit pours at a time
     for (const PourPart &part : request->parts) {
-        circuits.push_back(plan(part, movement));
+        circuits.push_back(plan(part, movement, next));
+        next += circuits.back().approach + circuits.back().duration;
         circuits.back().isQueued = part.queue != 0 && request->criterion != UnqueuedCriterion;
     }
     QList<int> positions;
@@ -178,8 +175,8 @@ bool Dosing::pours(const PourPart &part, Movement movement)
     return movement != Movement::IdleStrokes && !(movement == Movement::StrokesOrPack && part.amount <= 1);
 }
 
-/// What the circuit will do. It takes from the canister what it will pour.
-CircuitPour Dosing::plan(const PourPart &part, Movement movement)
+/// What the circuit will do, on a table from the moment \a begin. It takes from the canister what it will pour.
+CircuitPour Dosing::plan(const PourPart &part, Movement movement, double begin)
 {
     const FW_Circuit &circuit = *m_machine.circuitAt(part.position);
     const bool isPoured = pours(part, movement);
@@ -192,20 +189,9 @@ CircuitPour Dosing::plan(const PourPart &part, Movement movement)
     pour.nozzleValve = part.nozzleValve;
     pour.total = isPoured ? steps : 0;
     pour.available = m_machine.takeFromCanister(circuit, pour.total);
-    pour.approach = moveTable(part.position) / m_machine.speed();
+    pour.approach = m_machine.table() ? m_machine.table()->bring(part.position, begin) : 0;
     pour.duration = motorTime(circuit.dosingMotor(), steps, part.speed) / m_machine.speed();
     return pour;
-}
-
-/// Milliseconds until the circuit stands at the dosing point; 0 without a turntable.
-double Dosing::moveTable(int position)
-{
-    const FW_Turntable *table = m_machine.turntable();
-    if (!table)
-        return 0;
-    const int steps = table->distance(m_tablePosition, position);
-    m_tablePosition = position;
-    return double(steps) * table->stepTime();
 }
 
 } // namespace quv

@@ -14,7 +14,7 @@ namespace quv {
 class Dosing final : public FirmwarePart
 {
 public:
-    explicit Dosing(SimulatedMachine &machine);
+    explicit Dosing(SimulatedMachine &machine) : m_machine(machine) {}
 
     std::vector<FirmwareCode> codes() override;
     void tellStatus(StatusWords &status, int module) const override;
@@ -32,15 +32,13 @@ private:
     FirmwareReply begin(const std::optional<PourRequest> &request, Movement movement);
     static bool pours(const PourPart &part, Movement movement);
     static CircuitProcess processOf(const PourRequest &request, Movement movement);
-    CircuitPour plan(const PourPart &part, Movement movement);
-    double moveTable(int position);
+    CircuitPour plan(const PourPart &part, Movement movement, double begin);
     bool cutOff(int position);
 
     SimulatedMachine &m_machine;
     Pour m_pour{};
     int m_process = 0;            ///< the number of the circuits' process that the pour is
     bool m_isInterrupted = false; ///< the last pour was stopped
-    int m_tablePosition = 0;      ///< the circuit at the dosing point of a machine with a turntable
 };
 
 } // namespace quv

@@ -12,7 +12,6 @@ std::vector<FirmwareCode> Resetting::codes()
 
 FirmwareReply Resetting::begin()
 {
-    constexpr double Duration = 6000; // milliseconds
     // What writes a memory is not cut off, and the search is not begun anew while it goes on.
     if (m_machine.isHeld() ||
         m_machine.isAt({Process::Resetting, Process::Finalising, Process::UpdatingBoards}))
@@ -21,15 +20,13 @@ FirmwareReply Resetting::begin()
         part->stop();
         part->reset();
     }
-    m_end = m_machine.endOf(Duration);
+    m_end = m_machine.endOf(ResetDuration);
     return begun();
 }
 
 void Resetting::tellStatus(StatusWords &status, int /*module*/) const
 {
-    // a mixer has no such bit: there it means that the plates are being positioned anew
-    if (m_machine.type() == SerialDeviceType::Dispenser)
-        status.words.set(1, 6, !atWork().isEmpty());
+    status.words.set(1, 6, !atWork().isEmpty()); // a mixer calls it repositioning
 }
 
 ProcessSet Resetting::atWork() const

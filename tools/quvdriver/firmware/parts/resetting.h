@@ -5,6 +5,9 @@
 
 namespace quv {
 
+/// Milliseconds after which all that moves is at its origin.
+constexpr double ResetDuration = 6000;
+
 /// The search for the origins of all that moves (code 0001). What the machine is at ends for it.
 class Resetting final : public FirmwarePart
 {
