@@ -20,7 +20,7 @@ bool Cap::isThere() const
     return m_machine.dispenser().acceptCommands(FW_Device::Autocap);
 }
 
-/// What pours has opened it, and it closes again by itself.
+/// What pours goes through an open cap; afterwards it is as it was.
 Cap::Place Cap::placeNow() const
 {
     if (isThere() && m_machine.isAt({Process::Pouring}))
