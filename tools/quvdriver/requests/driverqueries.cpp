@@ -4,6 +4,7 @@
 #include "excerpt.h"
 #include "requests/commandbuilder.h"
 #include "requests/machinequeries.h"
+#include "requests/masterdataqueries.h"
 #include "requests/refusal.h"
 
 #include "base/getcmdestimatedexectimeanswer.h"
@@ -228,7 +229,7 @@ Answer setLevels(const ProtoCommand &command, const DriverKnowledge &knowledge)
 
 const Query *queryOf(const QString &name)
 {
-    static constexpr std::array<Query, 16> queries{{
+    static constexpr std::array<Query, 20> queries{{
         {Catalogue::GET_CMD_STATUS, false, commandStatus},
         {Catalogue::GET_CMD_EST_EXEC_TIME, false, estimate},
         {Catalogue::CHECK_FORMULA_LEVELS, true, checkLevels},
@@ -245,6 +246,10 @@ const Query *queryOf(const QString &name)
         {Catalogue::SET_ACTIVE_MACHINE, false, activateMachine},
         {Catalogue::GET_DISP_STATUS, true, dispenserStatus},
         {Catalogue::GET_MIXER_STATUS, true, mixerStatus},
+        {Catalogue::GET_CANISTER_LIST, true, canisterList},
+        {Catalogue::GET_CIRCUIT_LIST, true, circuitList},
+        {Catalogue::GET_COLORANT_LIST, true, colorantList},
+        {Catalogue::GET_DEVICE_LIST, true, deviceList},
     }};
     const CMD_STRUCT *row = Catalogue::row(name);
     const auto query = std::find_if(queries.begin(), queries.end(), [row](const Query &candidate) {
