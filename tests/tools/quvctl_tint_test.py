@@ -665,7 +665,8 @@ class Simulated(unittest.TestCase):
                 process.send_signal(signal.SIGINT)
                 _, err = process.communicate(timeout=30)
             self.assertEqual((process.returncode, err), (
-                130, f"the machine goes on; look again with: quvctl ticket {ticket_id} --port {driver.port}\n"))
+                130, f"the machine goes on; look again with: quvctl ticket {ticket_id} --port {driver.port}\n"
+                     "Ctrl-C again within 2 seconds stops the machine\n"))
             code, out, err = run("ticket", ticket_id, "--port", str(driver.port))
             self.assertEqual((code, err), (0, ""))
             self.assertRegex(out, r"^\d+ %  About \d+ seconds remaining\.\.\.\n$")
@@ -680,7 +681,8 @@ class Simulated(unittest.TestCase):
         self.assertEqual(code, 130)
         self.assertRegex(text, r"^Ticket .+\r\n\r\[\.{10}\] ")
         self.assertRegex(text, r"\r\[[#.]{10}\] \d+ %  About \d+ seconds remaining\.\.\.\x1b\[K")
-        self.assertRegex(text, rf"\r\nthe machine goes on; look again with: quvctl ticket .+ --port {driver.port}\r\n$")
+        self.assertRegex(text, rf"\r\nthe machine goes on; look again with: quvctl ticket .+ --port {driver.port}\r\n"
+                                r"Ctrl-C again within 2 seconds stops the machine\r\n$")
 
 
 if __name__ == "__main__":

@@ -160,6 +160,9 @@ std::vector<OptionText> withDriverOptions(std::vector<OptionText> options)
     options.push_back(
         {"host", "HOST", "the driver: HOST, HOST:PORT or http://HOST:PORT/PATH (QUV_HOST, or 127.0.0.1)"});
     options.push_back({"port", "PORT", "the driver's port (QUV_PORT, or 9333)"});
+    options.push_back({"on", "MACHINE",
+                       "the machine: dispenser, mixer or, by its number, dispenser:2 (QUV_ON, or the active "
+                       "dispenser; the mixer for what only mixers do)"});
     options.push_back({"timeout", "SECONDS", "how long a call may take (60)"});
     options.push_back(
         {"token-file", "FILE", "the file with the token that the driver asks for (QUV_TOKEN_FILE)"});

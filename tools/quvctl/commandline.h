@@ -77,7 +77,7 @@ constexpr OptionText quietOption = {
 constexpr OptionText intervalOption = {"interval", "SECONDS",
                                        "the time between two questions, 0.01 to 86400 (0.5)"};
 
-/// The address of the driver, how long it may take, and whether its calls are told.
+/// The address of the driver, its machine, how long it may take, and whether its calls are told.
 std::vector<OptionText> withDriverOptions(std::vector<OptionText> options);
 
 /// The time of the option --interval. \throws UsageError

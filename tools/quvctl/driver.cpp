@@ -14,6 +14,7 @@
 
 #include <QuvFramework/fw_error.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quv {
@@ -82,9 +83,22 @@ RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what
 
 Driver::Driver(const CommandLine &line)
     : m_address(driverAddress(line)),
+      m_chosen(chosenMachine(line)),
       m_isVerbose(line.isSet("verbose")),
       m_client(m_address.host, m_address.port, timeoutOf(line), optionsOf(m_address, line))
-{}
+{
+    if (!m_chosen)
+        return;
+    constexpr std::chrono::milliseconds longestFarewell(2000);
+    const XmlRpcClient hasty(m_address.host, m_address.port, std::min(timeoutOf(line), longestFarewell),
+                             optionsOf(m_address, line));
+    const auto sentBy = [this](const XmlRpcClient &client) {
+        return [this, client](ProtoCommand &command) -> const XmlRpcAnswer & {
+            return sendBy(client, command, ProtoCommandList::BlockingCall);
+        };
+    };
+    m_session = std::make_unique<const MachineSession>(*m_chosen, sentBy(m_client), sentBy(hasty));
+}
 
 const XmlRpcAnswer &Driver::execute(ProtoCommand &command) const
 {
@@ -98,13 +112,20 @@ const XmlRpcAnswer &Driver::start(ProtoCommand &command) const
 
 const XmlRpcAnswer &Driver::send(ProtoCommand &command, ProtoCommandList::CallKind kind) const
 {
+    return sendBy(m_client, command, kind);
+}
+
+const XmlRpcAnswer &Driver::sendBy(const XmlRpcClient &client, ProtoCommand &command,
+                                   ProtoCommandList::CallKind kind) const
+{
     const auto begin = std::chrono::steady_clock::now();
     const QString method = ProtoCommandList::functionCallStr(kind);
     if (m_isVerbose)
         printNote(QStringLiteral("%1 %2 to %3:%4")
                       .arg(method, command.command(), m_address.host)
                       .arg(m_address.port));
-    const auto reply = m_client.call(method, command.toXmlRpcValue(QString()));
+    const QString leading = m_session ? m_session->id() : QString();
+    const auto reply = client.call(method, command.toXmlRpcValue(leading));
     FW_DriverError error;
     if (!command.setAnswer(reply, kind == ProtoCommandList::NonBlockingCall, &error))
         throw FW_DriverError(error);

@@ -3,12 +3,14 @@
 
 #include "driveraddress.h"
 #include "jsonvalue.h"
+#include "machinesession.h"
 #include "xmlrpcclient.h"
 
 #include "catalogue/protocommandlist.h"
 
 #include <QtCore/QStringList>
 
+#include <memory>
 #include <stdexcept>
 
 class FW_DriverError;
@@ -42,11 +44,20 @@ private:
     OrderedJson m_json{};
 };
 
-/// The driver that --host, --port and --timeout name, and the environment where they do not.
+/**
+ * The driver that --host, --port and --timeout name, and the environment where they do not; and of its machines that of --on, on which
+ * the user is logged in for as long as this stands.
+ */
 class Driver
 {
 public:
+    /// \throws UsageError, and as execute when it cannot log in
     explicit Driver(const CommandLine &line);
+    Driver(const Driver &) = delete;
+    Driver &operator=(const Driver &) = delete;
+
+    /// The machine that the user has chosen; nothing leaves the choice to the driver.
+    const std::optional<MachineChoice> &chosen() const { return m_chosen; }
 
     /**
      * Sends \a command, waits for its end, and gives it the answer.
@@ -58,10 +69,15 @@ public:
 
 private:
     const XmlRpcAnswer &send(ProtoCommand &command, ProtoCommandList::CallKind kind) const;
+    const XmlRpcAnswer &sendBy(const XmlRpcClient &client, ProtoCommand &command,
+                               ProtoCommandList::CallKind kind) const;
 
     DriverAddress m_address{};
+    std::optional<MachineChoice> m_chosen{};
     bool m_isVerbose = false;
     XmlRpcClient m_client;
+    std::unique_ptr<const MachineSession>
+        m_session{}; ///< last, so that it ends while the driver can be asked
 };
 
 } // namespace quv

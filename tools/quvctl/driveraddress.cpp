@@ -3,6 +3,7 @@
 
 #include "commandline.h"
 #include "excerpt.h"
+#include "terminal.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -94,6 +95,16 @@ DriverAddress driverAddress(const CommandLine &line)
         address.port = portOf(qEnvironmentVariable(portVariable), portVariable);
     }
     return address;
+}
+
+QString sameDriver(const CommandLine &line)
+{
+    QString words;
+    for (const char *option : {"host", "port", "on", "token-file"})
+        if (line.isSet(option))
+            words += QStringLiteral(" --%1 %2")
+                         .arg(QLatin1String(option), shellWord(line.value(option, QString())));
+    return words;
 }
 
 } // namespace quv

@@ -21,4 +21,7 @@ struct DriverAddress
  */
 DriverAddress driverAddress(const CommandLine &line);
 
+/// The options of the command line that lead to the same driver and machine, a blank before each, to be pasted into a shell.
+QString sameDriver(const CommandLine &line);
+
 } // namespace quv

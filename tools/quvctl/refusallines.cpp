@@ -82,7 +82,7 @@ void addMembers(QList<RefusalLine> &lines, const QList<MemberFacts> &members)
     for (const MemberRefusal &refusal : refusals) {
         const bool alone = refusal.members == 1;
         add(lines, {refusal.facts.code, refusal.facts.form,
-                    inWords(refusal.facts.when, alone ? refusal.member : QStringLiteral("a member")),
+                    quv::inWords(refusal.facts.when, alone ? refusal.member : QStringLiteral("a member")),
                     alone ? refusal.text : refusal.facts.text});
     }
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "tickets.h"
 
+#include "driveraddress.h"
 #include "hints.h"
-#include "operations.h"
+#include "patience.h"
 #include "progress.h"
 #include "terminal.h"
 #include "xmlrpcerrors.h"
@@ -12,44 +13,13 @@
 #include "base/getcommandstatuscmd.h"
 #include "base/xmlrpcanswer.h"
 
-#include <atomic>
 #include <memory>
 #include <optional>
 #include <thread>
-#include <unistd.h>
 
 namespace quv {
 
 namespace {
-
-std::atomic<const OnInterrupt::Texts *> interruptTexts{nullptr};
-static_assert(std::atomic<const OnInterrupt::Texts *>::is_always_lock_free, "a signal handler reads it");
-
-void writeAtOnce(int descriptor, const std::string &text)
-{
-    const ssize_t written = write(descriptor, text.data(), text.size());
-    static_cast<void>(written); // it ends either way
-}
-
-extern "C" void endInterrupted(int)
-{
-    if (const OnInterrupt::Texts *texts = interruptTexts.load()) {
-        writeAtOnce(STDOUT_FILENO, texts->output);
-        writeAtOnce(STDERR_FILENO, texts->error);
-    }
-    _exit(Interrupted);
-}
-
-OnInterrupt::Texts interruptedTexts(const QString &text, bool asJson, const QString &ticket)
-{
-    const std::string error = printable(text).toStdString() + '\n';
-    if (!asJson)
-        return {{}, (canRedraw() ? "\n" : "") + error};
-    OrderedJson reply = failureReply(text.toStdString());
-    if (!ticket.isEmpty())
-        reply["ticket"] = toJson(ticket);
-    return {writeJson(reply) + '\n', error};
-}
 
 /// A driver that forgot a ticket, or was started anew, cannot tell what the machine did.
 QString unknownTicketHint()
@@ -63,10 +33,7 @@ QString commandLineOf(const QString &id, const CommandLine &line)
     QString text = QStringLiteral("quvctl ticket");
     if (!isLikeAnOption)
         text += QLatin1Char(' ') + shellWord(id);
-    for (const char *option : {"host", "port", "token-file"})
-        if (line.isSet(option))
-            text += QStringLiteral(" --%1 %2")
-                        .arg(QLatin1String(option), shellWord(line.value(option, QString())));
+    text += sameDriver(line);
     return isLikeAnOption ? text + QStringLiteral(" -- ") + shellWord(id) : text;
 }
 
@@ -81,23 +48,6 @@ CmdStatus clamped(CmdStatus status)
 }
 
 } // namespace
-
-OnInterrupt::OnInterrupt(const QString &text, bool asJson, const QString &ticket)
-    : m_texts(interruptedTexts(text, asJson, ticket)),
-      m_outerTexts(interruptTexts.exchange(&m_texts))
-{
-    struct sigaction action = {};
-    action.sa_handler = endInterrupted;
-    sigaction(SIGINT, nullptr, &m_outerAction);
-    if (m_outerAction.sa_handler != SIG_IGN)
-        sigaction(SIGINT, &action, nullptr);
-}
-
-OnInterrupt::~OnInterrupt()
-{
-    sigaction(SIGINT, &m_outerAction, nullptr);
-    interruptTexts = m_outerTexts;
-}
 
 Ticket::Ticket(const Driver &driver, const QString &id, const CommandLine &line)
     : m_driver(driver),
@@ -124,40 +74,41 @@ CmdStatus Ticket::status() const
 
 CmdStatus Ticket::waitForEnd(std::chrono::milliseconds interval, bool showProgress) const
 {
-    const QString hint = QStringLiteral("the machine goes on; look again with: %1").arg(m_again);
-    const OnInterrupt onInterrupt(hint, m_asJson, m_id);
+    return waitForEnd(interval, showProgress, interruptPlan());
+}
+
+CmdStatus Ticket::waitForEnd(std::chrono::milliseconds interval, bool showProgress, InterruptPlan plan) const
+{
+    const OnInterrupt onInterrupt(std::move(plan));
     std::optional<Progress> progress;
     if (showProgress)
         progress.emplace();
     try {
-        for (int failures = 0;; std::this_thread::sleep_for(interval)) {
-            CmdStatus now = statusDespiteFailures(failures);
-            if (failures > 0)
+        for (Patience patience;; std::this_thread::sleep_for(interval)) {
+            const std::optional<CmdStatus> now = patience.answerTo([&] { return status(); });
+            if (!now)
                 continue;
+            waitForInterrupt();
             if (progress)
-                progress->tell(now);
-            if (now.status() <= 0)
-                return now;
+                progress->tell(*now);
+            if (now->status() <= 0)
+                return *now;
         }
     } catch (const TransportError &) {
         progress.reset();
-        printError(hint);
+        printError(hint());
         throw;
     }
 }
 
-CmdStatus Ticket::statusDespiteFailures(int &failures) const
+QString Ticket::hint() const
 {
-    constexpr int mostFailures = 5; // in a row
-    try {
-        CmdStatus now = status();
-        failures = 0;
-        return now;
-    } catch (const TransportError &) {
-        if (++failures == mostFailures)
-            throw;
-        return CmdStatus();
-    }
+    return QStringLiteral("the machine goes on; look again with: %1").arg(m_again);
+}
+
+InterruptPlan Ticket::interruptPlan() const
+{
+    return toldPlan(hint(), m_asJson, m_id);
 }
 
 const XmlRpcAnswer &startOnMachine(const Driver &driver, ProtoCommand &command, const CommandLine &line)

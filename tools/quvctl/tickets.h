@@ -3,40 +3,14 @@
 
 #include "commandline.h"
 #include "driver.h"
+#include "interrupt.h"
 
 #include "base/cmdstatus.h"
 
 #include <chrono>
-#include <csignal>
 #include <exception>
-#include <string>
 
 namespace quv {
-
-/**
- * While it stands, Ctrl-C ends the program at once with exit status 130 and a text on standard error, even within a call
- * that the driver does not answer. With --json the failure is on standard output as well, and names the ticket, if any. Those
- * that are made later come first. A Ctrl-C that is ignored stays ignored.
- */
-class OnInterrupt
-{
-public:
-    OnInterrupt(const QString &text, bool asJson, const QString &ticket = QString());
-    ~OnInterrupt();
-    OnInterrupt(const OnInterrupt &) = delete;
-    OnInterrupt &operator=(const OnInterrupt &) = delete;
-
-    struct Texts
-    {
-        std::string output{};
-        std::string error{};
-    };
-
-private:
-    Texts m_texts{};
-    const Texts *m_outerTexts = nullptr;
-    struct sigaction m_outerAction = {};
-};
 
 /// What failed while the command behind a ticket went on, so that the ticket is told with it.
 class FailedBehindTicket : public std::exception
@@ -81,9 +55,13 @@ public:
      * waiting, with the way to look again. \throws as status
      */
     CmdStatus waitForEnd(std::chrono::milliseconds interval, bool showProgress) const;
+    /// The same, with another \a plan for Ctrl-C.
+    CmdStatus waitForEnd(std::chrono::milliseconds interval, bool showProgress, InterruptPlan plan) const;
+    /// What a Ctrl-C during the waiting tells.
+    InterruptPlan interruptPlan() const;
 
 private:
-    CmdStatus statusDespiteFailures(int &failures) const;
+    QString hint() const;
 
     const Driver &m_driver;
     QString m_id{};

@@ -3,6 +3,7 @@
 #include "hints.h"
 #include "operations.h"
 #include "replies.h"
+#include "stopping.h"
 #include "subcommands.h"
 #include "terminal.h"
 #include "tickets.h"
@@ -189,7 +190,8 @@ ExitStatus waitAndReport(const Driver &driver, const Ticket &ticket, const PourO
                          const CommandLine &line)
 {
     const bool isJson = line.isSet("json");
-    const CmdStatus ended = ticket.waitForEnd(intervalOf(line), !isJson && !line.isQuiet());
+    const CmdStatus ended = ticket.waitForEnd(intervalOf(line), !isJson && !line.isQuiet(),
+                                              stoppedBySecond(driver, ticket.interruptPlan()));
     const bool isBroken = ended.status() == CmdStatus::Interrupted || ended.status() == CmdStatus::TimedOut;
     if (isBroken && !isJson)
         reportIfThere(driver, order);
@@ -236,7 +238,8 @@ const Subcommand tintSubcommand = {
     "the canisters that would run low, waits until the machine has poured, shows how far it is, and reports\n"
     "what was poured of what was asked. A quantity of 0, and one that the machine misses by more than 1 %,\n"
     "such as half a stroke, is refused before anything is poured. Ctrl-C ends the waiting, not the pour,\n"
-    "with exit status 130. The exit status is 1 also when less was poured than asked for.",
+    "with exit status 130; a second one within 2 seconds stops the machine. The exit status is 1 also when\n"
+    "less was poured than asked for.",
     1,
     -1,
     withDriverOptions(

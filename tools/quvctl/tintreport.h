@@ -2,30 +2,13 @@
 #pragma once
 
 #include "commandline.h"
-#include "driver.h"
-
-#include "base/protoanswer.h"
-#include "base/protocommand.h"
-#include "base/xmlrpcanswer.h"
+#include "executed.h"
 
 #include <QuvFramework/formula.h>
 
 #include <optional>
 
 namespace quv {
-
-/// Sends a command, and gives its answer. \throws RequestRefused, std::runtime_error for an answer of another class
-template <class Answer>
-const Answer &executed(const Driver &driver, ProtoCommand &command)
-{
-    const XmlRpcAnswer &envelope = driver.execute(command);
-    if (envelope.retCode() != 0)
-        throw RequestRefused(envelope);
-    const auto *answer = dynamic_cast<const Answer *>(command.getProtoAnswer());
-    if (!answer)
-        throw std::runtime_error("the answer to " + command.command().toStdString() + " is another one");
-    return *answer;
-}
 
 /// What a pour was asked for and what left the nozzles, in the words of the formula.
 struct PourReport

@@ -24,6 +24,7 @@ _quvctl()
     "tint --by") words="position circuit canister colorant" ;;
     "tint --unit") words="steps strokes weight" ;;
     "tint --levels-check") words="on off" ;;
+    *" --on") words="dispenser mixer" ;;
     "encode --machine" | "decode --machine" | "call --machine" | *" --token-file")
         [[ $previous == --machine ]] && words="none $machines"
         _quvctl_offer $(compgen -W "$words" -- "$current") $(compgen -f -- "$current")

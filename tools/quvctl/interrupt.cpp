@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "interrupt.h"
+
+#include "commandline.h"
+#include "operations.h"
+#include "terminal.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <mutex>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace quv {
+
+namespace {
+
+constexpr timespec secondComesWithin = {2, 0};
+
+/// Held for as long as somebody carries out what becomes of a Ctrl-C, which ends the program.
+std::mutex interruptMutex;
+std::vector<const OnInterrupt *> standingInterrupts;
+
+sigset_t interruptSignals()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGINT);
+    return signals;
+}
+
+void changeMask(int how)
+{
+    const sigset_t signals = interruptSignals();
+    pthread_sigmask(how, &signals, nullptr);
+}
+
+bool isIgnored()
+{
+    struct sigaction action = {};
+    sigaction(SIGINT, nullptr, &action);
+    return action.sa_handler == SIG_IGN;
+}
+
+void writeAtOnce(int descriptor, const std::string &text)
+{
+    const ssize_t written = write(descriptor, text.data(), text.size());
+    static_cast<void>(written); // it ends either way
+}
+
+bool comesAgain()
+{
+    const sigset_t signals = interruptSignals();
+    int signal = 0;
+    do
+        signal = sigtimedwait(&signals, nullptr, &secondComesWithin);
+    while (signal < 0 && errno == EINTR);
+    return signal == SIGINT;
+}
+
+void carryOutSecond(const std::function<QString()> &again)
+{
+    if (!comesAgain())
+        return;
+    changeMask(SIG_UNBLOCK); // whoever has no more patience
+    writeAtOnce(STDERR_FILENO, printable(again()).toStdString() + '\n');
+}
+
+[[noreturn]] void endInterrupted()
+{
+    const auto told = std::find_if(standingInterrupts.rbegin(), standingInterrupts.rend(),
+                                   [](const OnInterrupt *each) { return each->plan().isTold; });
+    if (told != standingInterrupts.rend()) {
+        const InterruptPlan &plan = (*told)->plan();
+        writeAtOnce(STDOUT_FILENO, plan.output);
+        writeAtOnce(STDERR_FILENO, plan.error);
+        if (plan.again)
+            carryOutSecond(plan.again);
+    }
+    changeMask(SIG_UNBLOCK);
+    std::for_each(standingInterrupts.rbegin(), standingInterrupts.rend(), [](const OnInterrupt *each) {
+        if (each->plan().beforeTheEnd)
+            each->plan().beforeTheEnd();
+    });
+    _exit(Interrupted);
+}
+
+/// In a thread of its own, since what becomes of a Ctrl-C calls the driver while another call is still waiting.
+void listenForInterrupt()
+{
+    const sigset_t signals = interruptSignals();
+    int signal = 0;
+    while (sigwait(&signals, &signal) != 0) {
+    }
+    const std::lock_guard<std::mutex> lock(interruptMutex);
+    endInterrupted();
+}
+
+void beginListening()
+{
+    static const bool hasBegun = [] {
+        std::thread(listenForInterrupt).detach();
+        return true;
+    }();
+    static_cast<void>(hasBegun);
+}
+
+} // namespace
+
+OnInterrupt::OnInterrupt(InterruptPlan plan) : m_plan(std::move(plan))
+{
+    const std::lock_guard<std::mutex> lock(interruptMutex);
+    standingInterrupts.push_back(this);
+    if (isIgnored())
+        return;
+    changeMask(SIG_BLOCK);
+    beginListening();
+}
+
+OnInterrupt::OnInterrupt(const QString &text, bool asJson, const QString &ticket)
+    : OnInterrupt(toldPlan(text, asJson, ticket))
+{}
+
+OnInterrupt::~OnInterrupt()
+{
+    const std::lock_guard<std::mutex> lock(interruptMutex);
+    const auto place = std::find(standingInterrupts.begin(), standingInterrupts.end(), this);
+    if (place != standingInterrupts.end())
+        standingInterrupts.erase(place);
+    if (standingInterrupts.empty() && !isIgnored())
+        changeMask(SIG_UNBLOCK);
+}
+
+InterruptPlan toldPlan(const QString &text, bool asJson, const QString &ticket)
+{
+    InterruptPlan plan;
+    plan.isTold = true;
+    plan.error = printable(text).toStdString() + '\n';
+    if (!asJson) {
+        plan.error.insert(0, canRedraw() ? "\n" : "");
+        return plan;
+    }
+    OrderedJson reply = failureReply(text.toStdString());
+    if (!ticket.isEmpty())
+        reply["ticket"] = toJson(ticket);
+    plan.output = writeJson(reply) + '\n';
+    return plan;
+}
+
+InterruptPlan withSecond(InterruptPlan plan, const QString &offer, std::function<QString()> again)
+{
+    plan.error += printable(offer).toStdString() + '\n';
+    plan.again = std::move(again);
+    return plan;
+}
+
+void waitForInterrupt()
+{
+    const std::lock_guard<std::mutex> lock(interruptMutex);
+}
+
+} // namespace quv
