@@ -1013,7 +1013,7 @@ class Watch(CliTest):
     def test_count(self):
         with Driver(envelope(status())) as driver:
             out = self.done("watch", "--count", "3", "--interval", "0.01", "--port", str(driver.port))
-            self.assertEqual(len(driver.requests), 3)
+            self.assertEqual(driver.requests.count(["GET_STATUS", 0]), 3)
         self.assertEqual(len(out.split("\n")), 2)
         self.assertEqual(self.wrong("watch", "--interval", "0.009"),
                          "quvctl: --interval takes a number from 0.01 to 86400 (see quvctl help)\n")

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "progress.h"
 
+#include "bar.h"
 #include "terminal.h"
 
 #include "base/cmdstatus.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 namespace quv {
@@ -25,15 +25,6 @@ QString inWords(const CmdStatus &status)
     return status.timeLeft() == 0 ? percentage : percentage + QStringLiteral("  ") + status.timeLeftStr(true);
 }
 
-QString bar(int percentage)
-{
-    constexpr int cells = 10;
-    percentage = std::clamp(percentage, 0, 100);
-    const int filled = (percentage * cells + 50) / 100;
-    return QLatin1Char('[') + QString(filled, QLatin1Char('#')) + QString(cells - filled, QLatin1Char('.')) +
-           QStringLiteral("] ");
-}
-
 } // namespace
 
 Progress::Progress() : m_redraws(canRedraw()) {}
@@ -47,7 +38,7 @@ Progress::~Progress()
 void Progress::tell(const CmdStatus &status)
 {
     if (m_redraws)
-        redrawLine(bar(status.percentage()) + inWords(status));
+        redrawLine(bar(status.percentage()) + QLatin1Char(' ') + inWords(status));
     else if (isNews(status))
         printLine(inWords(status));
     else
