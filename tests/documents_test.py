@@ -37,7 +37,7 @@ DOCUMENT = ""
 
 PORT = "9333"  # of a driver and a client that are not told another
 TICKET = re.compile(r"\b[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}\b")
-CALLING = re.compile(r"\bquvctl (call|tint|watch|config|ticket)\b(?![^|;&]* --port)")
+CALLING = re.compile(r"\bquvctl (call|tint|watch|config|ticket|status|errors|stir|refill|stop)\b(?![^|;&]* --port)")
 
 # What another test runs, and by which words.
 RUN_ELSEWHERE = {

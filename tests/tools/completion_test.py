@@ -39,6 +39,10 @@ class Quvctl(unittest.TestCase):
         self.assertEqual(self.complete("encode", "--machine", "turn"), ["turntable"])
         self.assertEqual(self.complete("machine", "turn"), ["turntable"])
         self.assertEqual(self.complete("config", "pu"), ["pull", "push"])
+        self.assertEqual(self.complete("clean", "ul"), ["ultrasound", "ultrasound-only"])
+        self.assertEqual(self.complete("stir", "--on", "m"), ["mixer"])
+        self.assertEqual(self.complete("move", ""), ["shelf", "table", "cap"])
+        self.assertEqual(self.complete("move", "cap", ""), ["open", "close"])
         self.assertEqual(self.complete("config", "--yes", "d"), ["diff"])
         self.assertEqual(self.complete("config", "push", COMPLETION[:-1]), [COMPLETION])
 
@@ -57,7 +61,8 @@ class Quvctl(unittest.TestCase):
 
     def test_options_are_those_of_the_help(self):
         for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "config", "watch", "batch",
-                     "machine", "explain"]:
+                     "machine", "explain", "status", "errors", "sensors", "circuits", "stir", "recirculate", "clean", "mix",
+                     "move", "refill", "stop"]:
             told = re.findall(r"(?m)^  (?:-\w, |    )(--[a-z-]+)", run("help", name)[1])
             self.assertIn("--help", told)
             self.assertEqual(sorted(self.complete(name, "--")), sorted(told), name)

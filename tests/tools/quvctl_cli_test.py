@@ -80,7 +80,8 @@ class General(CliTest):
         self.assertEqual(self.done("--help"), overview)
         self.assertEqual(self.done("-h"), overview)
         for name in ["list", "show", "encode", "decode", "call", "ticket", "tint", "config", "watch", "batch",
-                     "machine", "explain"]:
+                     "machine", "explain", "status", "errors", "sensors", "circuits", "stir", "recirculate", "clean", "mix",
+                     "move", "refill", "stop"]:
             self.assertRegex(overview, rf"(?m)^  {name} ")
             text = self.done("help", name)
             self.assertTrue(text.startswith(f"Usage: quvctl {name} [options]"), text)
@@ -97,7 +98,9 @@ class General(CliTest):
     def test_help_is_as_wide_as_the_terminal(self):
         for columns in [40, 60, 72, 100]:
             for words in [["help"], *(["help", name] for name in ["list", "show", "encode", "decode", "call", "ticket",
-                                                                 "tint", "config", "watch", "batch", "machine", "explain"])]:
+                                                                 "tint", "config", "watch", "batch", "machine", "explain", "status", "errors",
+                                                                 "sensors", "circuits", "stir", "recirculate", "clean", "mix",
+                                                                 "move", "refill", "stop"])]:
                 code, out, err = run(*words, env={**os.environ, "COLUMNS": str(columns)})
                 self.assertEqual((code, err), (0, ""))
                 self.assertEqual([line for line in out.split("\n") if len(line) > columns], [], (columns, words))

@@ -23,9 +23,11 @@ namespace {
 using namespace quv;
 
 const std::vector<const Subcommand *> subcommands = {
-    &listSubcommand,  &showSubcommand,   &encodeSubcommand,  &decodeSubcommand,
-    &callSubcommand,  &ticketSubcommand, &tintSubcommand,    &configSubcommand,
-    &watchSubcommand, &batchSubcommand,  &machineSubcommand, &explainSubcommand};
+    &listSubcommand,     &showSubcommand,    &encodeSubcommand,      &decodeSubcommand, &callSubcommand,
+    &ticketSubcommand,   &tintSubcommand,    &configSubcommand,      &watchSubcommand,  &batchSubcommand,
+    &machineSubcommand,  &explainSubcommand, &statusSubcommand,      &errorsSubcommand, &sensorsSubcommand,
+    &circuitsSubcommand, &stirSubcommand,    &recirculateSubcommand, &cleanSubcommand,  &mixSubcommand,
+    &moveSubcommand,     &refillSubcommand,  &stopSubcommand};
 
 const Subcommand &subcommandOf(const QString &name)
 {

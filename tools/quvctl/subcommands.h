@@ -17,5 +17,17 @@ extern const Subcommand watchSubcommand;
 extern const Subcommand batchSubcommand;
 extern const Subcommand machineSubcommand;
 extern const Subcommand explainSubcommand;
+// of machines, in people's words
+extern const Subcommand statusSubcommand;
+extern const Subcommand errorsSubcommand;
+extern const Subcommand sensorsSubcommand;
+extern const Subcommand circuitsSubcommand;
+extern const Subcommand stirSubcommand;
+extern const Subcommand recirculateSubcommand;
+extern const Subcommand cleanSubcommand;
+extern const Subcommand mixSubcommand;
+extern const Subcommand moveSubcommand;
+extern const Subcommand refillSubcommand;
+extern const Subcommand stopSubcommand;
 
 } // namespace quv

@@ -6,7 +6,8 @@ _quvctl()
     local current previous subcommand command prefix
     local -a line=()
     _quvctl_line
-    local subcommands="list show encode decode call ticket tint config watch batch machine explain help"
+    local subcommands="list show encode decode call ticket tint config watch batch machine explain status errors sensors
+        circuits stir recirculate clean mix move refill stop help"
     local machines="dispenser turntable dual station mixer"
     local words=""
     COMPREPLY=()
@@ -51,6 +52,19 @@ _quvctl()
         ;;
     machine) COMPREPLY=($(compgen -W "$machines" -- "$current") $(compgen -f -- "$current")) ;;
     help) words="${subcommands% help}" ;;
+    stir | recirculate) _quvctl_has_name || words="endless off" ;;
+    clean) _quvctl_has_name || words="circuits brush nozzles ultrasound ultrasound-only fill empty" ;;
+    move)
+        if ! _quvctl_has_name; then
+            words="shelf table cap"
+        else
+            case "$command" in
+            shelf) words="up down" ;;
+            table) words="reference" ;;
+            cap) words="open close" ;;
+            esac
+        fi
+        ;;
     show | encode | decode | call)
         if ! _quvctl_has_name; then
             words=$("${COMP_WORDS[0]}" list --names 2>/dev/null)

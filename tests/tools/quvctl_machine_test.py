@@ -1,0 +1,589 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+"""The commands for machines in people's words, and the login on one of several. Usage: quvctl_machine_test.py QUVDRIVER QUVCTL"""
+
+import json
+import os
+import re
+import signal
+import socketserver
+import sys
+import threading
+import time
+import unittest
+import xmlrpc.server
+
+import quvctl_process
+import quvdriver_process
+from quvctl_process import envelope, run, start
+
+DISPENSER_FLAGS = """
+    offline_pressed board_not_initialized tinting recirculating stirring startup resetting valve_on cap_open BL_active
+    BL_memory_resetting BL_fw_update conf_writing hw_error conf_error bellow_up process_error stop_process emergency_pressed
+    no_24_voltage no_48_voltage can_present punching shelf_up shelf_down""".split()
+
+MIXER_FLAGS = """
+    offline_pressed board_not_initialized cycle_active clamping mixing startup repositioning plates_part_opened not_locked_ver
+    BL_active BL_memory_resetting BL_fw_update conf_writing hw_error conf_error process_error stop_process emergency_pressed
+    intput_power_abs lower_plate_extracted can_present door_partially_opened shelf_down shelf_up can_in_plates door_opening
+    door_closing door_reset cycle_interrupted door_locked config_changed ready_next_cycle cycle_on_hold need_repositioning
+    door_unlocked resetting normal_wm""".split()
+
+
+def dispenser(**changes):
+    return envelope({"disp_status": 1, **dict.fromkeys(DISPENSER_FLAGS, False), **changes})
+
+
+def mixer(**changes):
+    return envelope({"disp_status": 1, **dict.fromkeys(MIXER_FLAGS, False), "normal_wm": True, "cycle_id": 0, "timeleft": 0,
+                     "mixing_speed": 0, "clamping_force": 0, "clamping_height": 0, **changes})
+
+
+def refused(code, text, ret_code=6):
+    return envelope(0, ret_code, "failed", [
+        {"error_type": 1, "timestamp": "2024-02-29T07:08:09.010Z", "code": code, "text": text}])
+
+
+def ticket(state, result=0):
+    return envelope({"status": state, "info": "", "extra_info": "", "time_left": 0, "percentage": 0 if state > 0 else 100,
+                     "cmd_answer": result})
+
+
+def info(**members):
+    return {"sid": -1, "enabled": True, "serial_number": "", "description": "", "model": "", "product_code": "", **members}
+
+
+def listed(dispensers=(), mixers=()):
+    """Machines by their numbers; the first of a kind is the active one."""
+    def status(number, active, member):
+        names = {"dispenser_info": "disp_id", "mixer_info": "mixer_id"}
+        return {"active": active, "conf_mng": False, "fw_update": False, "stats_mng": False, "slave_scan": False,
+                "grav_sw_dose": False, "scale_mngm": False,
+                member: info(**{names[member]: number, "tinting_parallelism": 2, "rotating_disp": False,
+                                "description": f"machine {number}", "model": "M-1", "serial_number": f"SN{number}"})}
+    return envelope({"disp_list": [status(each, i == 0, "dispenser_info") for i, each in enumerate(dispensers)],
+                     "mixer_list": [status(each, i == 0, "mixer_info") for i, each in enumerate(mixers)]})
+
+
+def canister(number, code, level):
+    return {"id": number, "enabled": True, "cur_q": float(level), "max_q": 1000.0, "res_q": 50.0, "res_w": 200.0,
+            "circuits": [number], "positions": [number + 10], "colorant_id": number, "colorant_code": code}
+
+
+def canisters(*levels):
+    return envelope({"canister_list": list(levels)})
+
+
+def hardware_error(code, module, when="2024-02-29T07:08:09.010Z"):
+    return {"error_type": 2, "timestamp": when, "code": code, "module": module, "value": 0, "flag": True, "device": 1}
+
+
+def errors(*told):
+    return envelope({"fw_errors": list(told)})
+
+
+class Server(socketserver.ThreadingMixIn, xmlrpc.server.SimpleXMLRPCServer):
+    daemon_threads = True
+
+
+class FakeDriver:
+    """
+    A driver of another make: answers by name what its script has (a list: one after the other, the last for ever; a function: what
+    it gives), and remembers what it was asked, each time with the session.
+    """
+
+    NOT_CARRIED_OUT = refused("DE03107", "not carried out")
+
+    def __init__(self, **script):
+        self.script = {"GET_CMD_STATUS": ticket(0, envelope(0)), "LOGIN": envelope({"session_id": "S-1"}),
+                       "LOGOUT": envelope(0), "STOP": envelope(0), **script}
+        self.asked = []
+        self.lock = threading.Lock()
+
+    def answer(self, params):
+        params = list(params)
+        session = params.pop(0) if params[0].startswith("S-") else ""
+        name = params.pop(0)
+        with self.lock:
+            self.asked.append((session, name, *params))
+            answer = self.script.get(name, self.NOT_CARRIED_OUT)
+            if isinstance(answer, list):
+                answer = answer.pop(0) if len(answer) > 1 else answer[0]
+        return answer() if callable(answer) else answer
+
+    def execute(self, *params):
+        return self.answer(params)
+
+    def begin(self, *params):
+        told = self.answer(params)
+        return envelope({"ticket_id": "T-1"}) if told["ret_code"] == 0 else told
+
+    def orders(self):
+        """What it was told to do, without the questions."""
+        return [asked for asked in self.asked if not asked[1].startswith(("GET_", "MIXER_STATUS"))]
+
+    def names(self):
+        return [asked[1] for asked in self.asked]
+
+    def __enter__(self):
+        self.server = Server(("127.0.0.1", 0), logRequests=False, allow_none=False)
+        self.server.register_function(self.execute, "EXEC_B")
+        self.server.register_function(self.begin, "EXEC_NB")
+        self.port = str(self.server.server_address[1])
+        threading.Thread(target=self.server.serve_forever, args=(0.01,), daemon=True).start()
+        return self
+
+    def __exit__(self, *_):
+        self.server.shutdown()
+        self.server.server_close()
+
+
+def until(condition):
+    for _ in range(3000):
+        if condition():
+            return
+        time.sleep(0.01)
+    raise AssertionError("it never came")
+
+
+class MachineTest(unittest.TestCase):
+    maxDiff = None
+
+    def call(self, driver, *words, **environment):
+        return run(*words, "--port", driver.port, env={**os.environ, **environment})
+
+    def done(self, driver, *words, **environment):
+        code, out, err = self.call(driver, *words, **environment)
+        self.assertEqual((code, err), (0, ""), out)
+        return out
+
+    def wrong(self, *words):
+        code, out, err = run(*words)
+        self.assertEqual((code, out), (2, ""), err)
+        return err
+
+
+class On(MachineTest):
+    LOGOUT = ("S-1", "LOGOUT", "S-1")
+
+    def test_number(self):
+        with FakeDriver(GET_STATUS=dispenser()) as driver:
+            self.done(driver, "call", "GET_STATUS", "--on", "dispenser:2")
+        self.assertEqual(driver.asked, [("", "LOGIN", 2, "quvctl", 0, 1), ("S-1", "GET_STATUS", 0), self.LOGOUT])
+
+    def test_mixer_by_the_environment(self):
+        with FakeDriver(MIXER_STATUS=mixer(), GET_ACTIVE_DISP=listed([1, 2], [7, 8])) as driver:
+            self.done(driver, "call", "MIXER_STATUS", QUV_ON="mixer")
+        self.assertEqual(driver.asked, [("", "GET_ACTIVE_DISP"), ("", "LOGIN", 7, "quvctl", 0, 4), ("S-1", "MIXER_STATUS"),
+                                        self.LOGOUT])
+
+    def test_failure(self):
+        with FakeDriver(GET_STATUS=refused("DE03110", "broken", 8)) as driver:
+            code, _, err = self.call(driver, "call", "GET_STATUS", "--on", "dispenser:1")
+        self.assertEqual(code, 1)
+        self.assertTrue(err.startswith("DE03110: broken\n"), err)
+        self.assertEqual(driver.asked[-1], self.LOGOUT)
+
+    def test_refused_login(self):
+        with FakeDriver(LOGIN=refused("DE03161", "too many sessions")) as driver:
+            code, _, err = self.call(driver, "call", "GET_STATUS", "--on", "dispenser:1")
+        self.assertEqual((code, driver.names()), (1, ["LOGIN"]))
+        self.assertTrue(err.startswith("DE03161: too many sessions\n"), err)
+
+    def test_no_mixer(self):
+        with FakeDriver(GET_ACTIVE_DISP=listed([1])) as driver:
+            self.assertEqual(self.call(driver, "stop", "--on", "mixer"), (1, "", "quvctl: the driver has no mixer\n"))
+
+    def test_interrupt(self):
+        answered = threading.Event()
+        script = {"GET_STATUS": lambda: (answered.wait(30), dispenser())[1]}
+        with FakeDriver(**script) as driver:
+            with start("call", "GET_STATUS", "--on", "dispenser:1", "--port", driver.port) as process:
+                until(lambda: "GET_STATUS" in driver.names())
+                process.send_signal(signal.SIGINT)
+                out, err = process.communicate(timeout=30)
+                answered.set()
+        self.assertEqual((process.returncode, out, err), (130, "", ""))
+        self.assertEqual(driver.asked[-1], self.LOGOUT)
+
+    def test_pour_behind_a_ticket(self):
+        levels = envelope({"canisters_below_critical": [], "canisters_below_warning": []})
+        with FakeDriver(CHECK_FORMULA_LEVELS=levels, TINT=envelope(0)) as driver:
+            self.done(driver, "tint", "B=1", "--no-wait", "--on", "dispenser:3")
+        self.assertEqual([asked[:2] for asked in driver.asked],
+                         [("", "LOGIN"), ("S-1", "CHECK_FORMULA_LEVELS"), ("S-1", "TINT"), ("S-1", "LOGOUT")])
+
+    def test_wrong(self):
+        for word in ["", "dispensers", "mixer:", "mixer:x", "scale", "dispenser:-1"]:
+            self.assertIn("--on: a machine is called dispenser, mixer, or by its number too",
+                          self.wrong("call", "GET_STATUS", f"--on={word}"))
+
+
+class Stop(MachineTest):
+    def test_stop(self):
+        with FakeDriver() as driver:
+            self.assertEqual(self.done(driver, "stop"), "the machine has been told to stop\n")
+            self.assertEqual(self.done(driver, "stop", "-q"), "")
+            self.assertEqual(json.loads(self.done(driver, "stop", "--json")), {"ok": True})
+        self.assertEqual(driver.asked, [("", "STOP", 0, 0)] * 3)
+
+    def test_refused(self):
+        with FakeDriver(STOP=refused("DE03106", "The firmware refused", 4)) as driver:
+            code, out, err = self.call(driver, "stop")
+        self.assertEqual((code, out), (1, ""))
+        self.assertTrue(err.startswith("DE03106: The firmware refused\n"), err)
+
+
+class SecondInterrupt(MachineTest):
+    """Ctrl-C ends the waiting; another one stops the machine."""
+
+    LEVELS = envelope({"canisters_below_critical": [], "canisters_below_warning": []})
+
+    def pour(self, times, **script):
+        with FakeDriver(CHECK_FORMULA_LEVELS=self.LEVELS, TINT=envelope(0), GET_CMD_STATUS=ticket(1), **script) as driver:
+            with start("tint", "B=1", "--interval", "0.01", "--port", driver.port) as process:
+                until(lambda: driver.names().count("GET_CMD_STATUS") > 2)
+                process.send_signal(signal.SIGINT)
+                err = process.stderr.readline() + process.stderr.readline()
+                if times > 1:
+                    process.send_signal(signal.SIGINT)
+                _, more = process.communicate(timeout=30)
+        self.assertEqual((process.returncode, err), (
+            130, f"the machine goes on; look again with: quvctl ticket T-1 --port {driver.port}\n"
+                 "Ctrl-C again within 2 seconds stops the machine\n"))
+        return driver, more
+
+    def test_one(self):
+        driver, more = self.pour(1)
+        self.assertEqual((more, driver.names().count("STOP")), ("", 0))
+
+    def test_two(self):
+        driver, more = self.pour(2)
+        self.assertEqual((more, driver.names().count("STOP")), ("the machine has been told to stop\n", 1))
+        self.assertIn(("", "STOP", 0, 0), driver.asked)
+
+    def test_refused(self):
+        _, more = self.pour(2, STOP=refused("DE03110", "broken", 8))
+        self.assertEqual(more, "the machine was not stopped: DE03110: broken; try again with: quvctl stop\n")
+
+
+class Status(MachineTest):
+    def test_dispenser(self):
+        pours = envelope({"frm_progress": {"channels": [
+            {"channel_id": 1, "percentage": 42, "time_left": 11500,
+             "formula": {"formula_type": 4, "quantity_unit": 3, "ids": ["B", "KX"], "quantities": [1.0, 2.0]}}]}})
+        with FakeDriver(GET_STATUS=dispenser(tinting=True, emergency_pressed=True), GET_ACTIVE_DISP=listed([1, 2]),
+                        GET_FORMULA_EXECUTION=pours, GET_ERRORS=errors(hardware_error(2, 5)),
+                        GET_CANISTER_LIST=canisters(canister(1, "B", 640), canister(2, "KX", 120.5),
+                                                    canister(3, "T", 20))) as driver:
+            out = self.done(driver, "status", TZ="UTC")
+            self.assertEqual(out, """\
+Dispenser 1, machine 1, M-1, serial number SN1
+Emergency button pressed
+Tinting in progress
+  head 1 [####......] 42 %, 12 s left: B KX
+
+CANISTER  COLORANT  LEVEL                OF    WARNING  RESERVE
+1         B         [######....]  640    1000  200      50
+2         KX        [#.........]  120.5  1000  200      50       below its warning level
+3         T         [..........]  20     1000  200      50       below its reserve
+
+2024-02-29 07:08:09  hardware error 2: the canister of circuit 5 is empty
+""")
+            told = json.loads(self.done(driver, "status", "--json", "--on", "dispenser:2"))
+        self.assertEqual((told["ok"], told["kind"], told["machine"]["disp_id"]), (True, "dispenser", 2))
+        self.assertEqual(told["status"]["value"]["tinting"], True)
+        self.assertEqual(told["pours"][0]["percentage"], 42)
+        self.assertEqual([each["level"] for each in told["canisters"]], ["good", "warning", "reserve"])
+        self.assertEqual(told["errors"][0]["words"], "hardware error 2: the canister of circuit 5 is empty")
+
+    def test_mixer_of_a_driver_without_dispenser(self):
+        with FakeDriver(GET_STATUS=refused("DE03104", "no machine", 5), GET_ACTIVE_DISP=listed([], [7]),
+                        MIXER_STATUS=mixer(mixing=True, cycle_id=2, timeleft=95, mixing_speed=50, clamping_force=20)) as driver:
+            self.assertEqual(self.done(driver, "status"),
+                             "Mixer 7, machine 7, M-1, serial number SN7\nMixing in progress\n"
+                             "  cycle 2, 1 min 35 s left, speed 50, force 20\n")
+
+    def test_driver_that_tells_little(self):
+        with FakeDriver(GET_STATUS=dispenser()) as driver:
+            self.assertEqual(self.done(driver, "status"), "Dispenser\nAt rest\n")
+
+    def test_real_driver(self):
+        with quvdriver_process.Driver("--machine", "dispenser") as driver:
+            out = self.done(type("Port", (), {"port": str(driver.port)}), "status")
+        self.assertRegex(out, r"\ADispenser.*\nHead 1 ready to dispense\n\nCANISTER  COLORANT .*\n1 +AXX +\[#")
+        self.assertEqual(len(re.findall(r"(?m)^\d+ +[A-Z]+ +\[", out)), 16)
+
+
+class Errors(MachineTest):
+    def test_errors(self):
+        told = errors(hardware_error(3, 4), {**hardware_error(5, 0), "error_type": 3}, hardware_error(99, 7))
+        with FakeDriver(GET_ERRORS=told, CLEAR_ERRORS=envelope(0)) as driver:
+            lines = ["2024-02-29 07:08:09  hardware error 3: circuit 4 is blocked",
+                     "2024-02-29 07:08:09  configuration error 5: the configuration has a field that is out of its range",
+                     "2024-02-29 07:08:09  hardware error 99 of module 7, value 0"]
+            self.assertEqual(self.done(driver, "errors", TZ="UTC").splitlines(), lines)
+            self.assertEqual(driver.orders(), [])
+            self.assertEqual(self.done(driver, "errors", "--clear", TZ="UTC").splitlines(), [*lines, "cleared"])
+            self.assertEqual(driver.orders(), [("", "CLEAR_ERRORS")])
+            reply = json.loads(self.done(driver, "errors", "--json"))
+        self.assertEqual((reply["cleared"], [each["code"] for each in reply["errors"]]), (False, [3, 5, 99]))
+
+    def test_none(self):
+        with FakeDriver(GET_ERRORS=errors()) as driver:
+            self.assertEqual(self.done(driver, "errors"), "no errors\n")
+
+
+class Watch(MachineTest):
+    def lines(self, driver, *words):
+        out = self.done(driver, "watch", "--interval", "0.01", *words)
+        return [line[9:] for line in out.splitlines()]
+
+    def test_errors_and_levels(self):
+        old, new = hardware_error(1, 0), hardware_error(2, 5, "2024-02-29T07:09:00.000Z")
+        with FakeDriver(GET_STATUS=dispenser(), GET_ERRORS=[errors(old), errors(old), errors(old, new)],
+                        GET_CANISTER_LIST=[canisters(canister(1, "B", 640), canister(2, "KX", 150)),
+                                           canisters(canister(1, "B", 190), canister(2, "KX", 150)),
+                                           canisters(canister(1, "B", 40), canister(2, "KX", 900))]) as driver:
+            self.assertEqual(self.lines(driver, "--count", "4"), [
+                "Machine status 1", "hardware error 1: the emergency button was pressed",
+                "canister 2 (KX) is below its warning level: 150 of 1000",
+                "canister 1 (B) is below its warning level: 190 of 1000",
+                "hardware error 2: the canister of circuit 5 is empty",
+                "canister 1 (B) is below its reserve: 40 of 1000",
+                "canister 2 (KX) is above its warning level again: 900 of 1000"])
+
+    def test_json(self):
+        with FakeDriver(GET_STATUS=dispenser(), GET_ERRORS=errors(hardware_error(1, 0)),
+                        GET_CANISTER_LIST=canisters(canister(1, "B", 90))) as driver:
+            told = [json.loads(line) for line in
+                    self.done(driver, "watch", "--json", "--count", "3", "--interval", "0.01").splitlines()]
+        self.assertEqual([list(each)[1] for each in told], ["class", "new_errors", "crossed_levels"])
+        self.assertTrue(all(re.fullmatch(r"\d{4}-\d\d-\d\dT.*Z", each["time"]) for each in told))
+        self.assertEqual((told[1]["new_errors"][0]["code"], told[2]["crossed_levels"][0]["level"]), (1, "warning"))
+
+    def test_mixer(self):
+        with FakeDriver(MIXER_STATUS=[mixer(), mixer(mixing=True), mixer(emergency_pressed=True)]) as driver:
+            lines = self.lines(driver, "--count", "3", "--on", "mixer:7")
+        self.assertEqual(lines, ["Machine status 1", "Mixing in progress", "Emergency button pressed",
+                                 "No longer: Mixing in progress"])
+        self.assertEqual(driver.names().count("GET_CANISTER_LIST"), 0)
+
+    def test_a_driver_that_refuses_is_asked_once(self):
+        with FakeDriver(GET_STATUS=dispenser()) as driver:
+            self.assertEqual(self.lines(driver, "--count", "3"), ["Machine status 1"])
+        self.assertEqual([driver.names().count(name) for name in ["GET_STATUS", "GET_ERRORS", "GET_CANISTER_LIST"]], [3, 1, 1])
+
+
+class Processes(MachineTest):
+    QUICK = ("--interval", "0.01")
+
+    def test_stirring_to_the_end(self):
+        status = [dispenser(), *[dispenser(stirring=True)] * 6, dispenser()]
+        with FakeDriver(GET_STATUS=status, STIRRING=envelope(0)) as driver:
+            out = self.done(driver, "stir", *self.QUICK).splitlines()
+        self.assertEqual((out[0], out[-1]), ("stirring all circuits for 30 s", "stirred"))
+        self.assertEqual(driver.orders(), [("", "STIRRING", 0, 30, False)])
+        self.assertGreaterEqual(driver.names().count("GET_STATUS"), 8)
+
+    def test_what_is_sent(self):
+        for words, sent in [
+                (["stir", "3min", "--circuit", "4"], [("STIRRING", 4, 180, False)]),
+                (["stir", "1h30min", "--circuit", "4,B,4"], [("STIRRING", 4, 5400, False), ("STIRRING", 12, 5400, False)]),
+                (["stir", "endless"], [("STIRRING", 0, 60515, False)]),
+                (["stir", "off"], [("STIRRING", 0, 0, False)]),
+                (["recirculate", "45", "--speed", "60"], [("RECIRCULATION", 0, 45, 60, 0, False)]),
+                (["recirculate", "off", "--circuit", "3"], [("RECIRCULATION", 3, 0, 245, 0, False)]),
+                (["clean", "circuits", "20s"], [("CLEANING", 1, 245, 20, 0, False)]),
+                (["clean", "brush", "5s"], [("CLEANING", 0, 245, 5, 0, False)]),
+                (["clean", "nozzles", "--circuit", "3"], [("NOZZLE_CLEAN", 3, 60515)]),
+                (["clean", "ultrasound"], [("ULTRASOUND_CLEAN", 1, 245)]),
+                (["clean", "fill", "1min"], [("ULTRASOUND_CLEAN", 3, 60)]),
+                (["move", "shelf", "up", "--height", "300"], [("SHELF_MOVE", 0, 300)]),
+                (["move", "shelf", "down"], [("SHELF_MOVE", 1, 0)]),
+                (["move", "cap", "open"], [("AUTOCAP_MOVE", 1)]),
+                (["move", "cap", "close"], [("AUTOCAP_MOVE", 0)]),
+                (["move", "table", "5"], [("TURNTABLE_MOVE", 5, 1, 2, 0, 0, 245)]),
+                (["move", "table", "5", "--refill"], [("TURNTABLE_MOVE_TO_REFILL", 5)]),
+                (["move", "table", "reference"], [("TURNTABLE_MOVE", 0, 0, 2, 0, 0, 245)])]:
+            with FakeDriver(GET_STATUS=dispenser(), GET_CANISTER_LIST=canisters(canister(2, "B", 640)),
+                            **{sent[0][0]: envelope(0)}) as driver:
+                self.done(driver, *words, "--no-wait", *self.QUICK)
+            self.assertEqual(driver.orders(), [("", *each) for each in sent], words)
+
+    def test_mixing(self):
+        def cycle(kind, speed, force, duration):
+            return {"cycle_type": kind, "mixing_speed": speed, "clamping_force": force, "duration": duration}
+
+        for words, cycles in [
+                (["3min", "--speed", "50"], [cycle(1, 50, 50, 180)]),
+                (["1min@30", "20", "--force", "9", "--type", "2"], [cycle(2, 30, 9, 60), cycle(2, -1, 9, 20)]),
+                (["10", "--times", "2"], [cycle(1, -1, 50, 10)] * 2)]:
+            with FakeDriver(MIXER_STATUS=[mixer(), mixer(cycle_active=True), mixer()], MIX=envelope(0)) as driver:
+                out = self.done(driver, "mix", *words, *self.QUICK).splitlines()
+            self.assertEqual(driver.orders(), [("", "MIX", {"mixer_cycles": cycles})])
+            self.assertEqual(out[-1], "mixed")
+
+    def test_mixing_that_is_interrupted(self):
+        with FakeDriver(MIXER_STATUS=[mixer(), mixer(cycle_active=True), mixer(cycle_interrupted=True)],
+                        MIX=envelope(0)) as driver:
+            code, _, err = self.call(driver, "mix", "3min", *self.QUICK)
+        self.assertEqual((code, err), (1, "Cycle interrupted\n"))
+
+    def test_refused_by_the_firmware(self):
+        with FakeDriver(GET_STATUS=dispenser(), STIRRING=envelope(0),
+                        GET_CMD_STATUS=ticket(-1, refused("DE03106", "The firmware refused the code 0004", 4))) as driver:
+            code, _, err = self.call(driver, "stir", *self.QUICK)
+        self.assertEqual(code, 1)
+        self.assertTrue(err.startswith("DE03106: The firmware refused the code 0004\n"), err)
+
+    def test_what_goes_wrong_meanwhile(self):
+        with FakeDriver(GET_STATUS=[dispenser(hw_error=True), dispenser(hw_error=True, stirring=True),
+                                    dispenser(hw_error=True, stirring=True, emergency_pressed=True)],
+                        STIRRING=envelope(0)) as driver:
+            code, out, err = self.call(driver, "stir", "--json", *self.QUICK)
+        reply = json.loads(out)
+        self.assertEqual((code, err), (1, "Emergency button pressed\n"))
+        self.assertEqual((reply["ok"], reply["text"], reply["process"]),
+                         (False, "Emergency button pressed", "stirring all circuits for 30 s"))
+
+    def test_interrupt(self):
+        with FakeDriver(GET_STATUS=dispenser(stirring=True), STIRRING=envelope(0)) as driver:
+            with start("stir", *self.QUICK, "--port", driver.port) as process:
+                until(lambda: driver.names().count("GET_STATUS") > 3)
+                process.send_signal(signal.SIGINT)
+                _, err = process.communicate(timeout=30)
+        self.assertEqual((process.returncode, err), (
+            130, f"the machine goes on; look at it with: quvctl status --port {driver.port}\n"
+                 "Ctrl-C again within 2 seconds stops the machine\n"))
+        self.assertEqual(driver.orders(), [("", "STIRRING", 0, 30, False)])
+
+    def test_wrong(self):
+        for words, text in [
+                (["stir", "0"], "a time is a number of seconds from 1 to 60514"),
+                (["stir", "17h"], "a time is a number of seconds from 1 to 60514"),
+                (["stir", "fast"], 'such as 90s, 3min, 1h30min; not "fast"'),
+                (["stir", "--circuit", "0"], "a circuit's position is a number from 1 to 255, not 0"),
+                (["recirculate", "--speed", "0"], "--speed takes a number from 1 to 100"),
+                (["clean", "brushes"], 'did you mean "brush"?'),
+                (["clean", "brush", "--circuit", "3"], "clean brush is not of circuits"),
+                (["mix", "3min@0"], "a cycle is TIME or TIME@SPEED"),
+                (["mix"], "mix needs TIME[@SPEED]..."),
+                (["move", "shelf", "up"], "move shelf up needs --height"),
+                (["move", "shelf", "left"], 'move shelf goes to up, down, not "left"'),
+                (["move", "door", "open"], 'move has shelf, table and cap, not "door"'),
+                (["move", "cap", "open", "--height", "3"], "--height belongs to move shelf"),
+                (["move", "table", "300"], "a circuit's position is a number from 1 to 255")]:
+            self.assertIn(text, self.wrong(*words, "--port", "1"), words)
+
+
+class Refill(MachineTest):
+    LIST = canisters(canister(1, "B", 640), canister(2, "KX", 150), canister(3, "KX", 20))
+
+    def refill(self, *words):
+        with FakeDriver(GET_CANISTER_LIST=self.LIST, SET_LEVELS=envelope(0)) as driver:
+            out = self.done(driver, "refill", *words)
+        (_, name, delta, formula, refilled), = driver.orders()
+        self.assertEqual((name, formula["formula_type"], formula["quantity_unit"], refilled), ("SET_LEVELS", 3, 3, True))
+        return delta, dict(zip(formula["ids"], formula["quantities"])), out
+
+    def test_amounts(self):
+        delta, amounts, out = self.refill("B=300", "3=full")
+        self.assertEqual((delta, amounts), (True, {"1": 300.0, "3": 980.0}))
+        self.assertEqual([line.split()[:2] for line in out.splitlines()], [["CANISTER", "COLORANT"], ["1", "B"], ["3", "KX"]])
+
+    def test_levels(self):
+        self.assertEqual(self.refill("B=700", "2=full", "--level")[:2], (False, {"1": 700.0, "2": 1000.0}))
+
+    def test_wrong(self):
+        with FakeDriver(GET_CANISTER_LIST=self.LIST) as driver:
+            for word, text in [("KX=5", "the colorant KX is in the canisters 2, 3: name one by its number"),
+                               ("ZZ=5", "the machine has no canister ZZ"), ("B", "B is no CANISTER=AMOUNT"),
+                               ("B=much", "B=much is no CANISTER=AMOUNT")]:
+                code, out, err = self.call(driver, "refill", word)
+                self.assertEqual((code, out), (2, ""))
+                self.assertIn(text, err)
+            self.assertEqual(driver.orders(), [])
+
+    def test_real_driver(self):
+        with quvdriver_process.Driver("--machine", "dispenser") as driver:
+            port = type("Port", (), {"port": str(driver.port)})
+            self.done(port, "refill", "B=1000", "--level", "-q")
+            out = self.done(port, "refill", "B=250.5")
+            self.assertEqual(out.splitlines()[1].split()[:2], ["2", "B"])
+            self.assertIn(" 1250.5 ", out)
+
+
+class Sensors(MachineTest):
+    FLAGS = """offline_pressed can_present heater_on hum_pump_active emergency_btn_pressed cap_open cap_close cap_free
+        shelf_security_pressed shelf_high shelf_low shelf_puncher SHELF_cap_free SHELF_cap_close SHELF_can_present
+        SHELF_stuck_controls SHELF_up_button SHELF_down_button SHELF_security_button MASTER_48V MASTER_48V_SW MASTER_24V
+        BHL_active LIT_active PC_relay_active autocap_active brush_motor_active brake_active heater_active bluetooth_active
+        rollbar_unlocked brush2_motor_active""".split()
+
+    def told(self, *active):
+        return envelope({**dict.fromkeys(self.FLAGS, False), **dict.fromkeys(active, True)})
+
+    def test_sensors(self):
+        with FakeDriver(GET_SENSORS_STATUS=[self.told("can_present", "shelf_low"), self.told("cap_open"), self.told()]) as driver:
+            self.assertEqual(self.done(driver, "sensors"), "can present\nshelf down\n")
+            reply = json.loads(self.done(driver, "sensors", "--json"))
+            self.assertEqual((reply["active"], reply["value"]["cap_open"], reply["value"]["cap_close"]),
+                             (["cap open"], True, False))
+            self.assertEqual(self.done(driver, "sensors"), "no sensor is active\n")
+
+
+class Circuits(MachineTest):
+    def test_circuits(self):
+        def at(position, **flags):
+            return {"position_id": position, "status_answer": dispenser(**flags)["ret_value"]}
+
+        with FakeDriver(GET_CIRCUITS_STATUS=envelope({"circuits_status_answers": [at(11, stirring=True, tinting=True), at(12)]}),
+                        GET_CANISTER_LIST=canisters(canister(1, "B", 640)),
+                        GET_ACTIVE_CIRCUITS=envelope({"circuit_process": 3, "positions_id": [11, 14],
+                                                      "status_type_masks": [2, 1], "status_type_mask": 2})) as driver:
+            self.assertEqual(self.done(driver, "circuits"), """\
+CIRCUIT  COLORANT  DOES
+11       B         pours, stirs
+12                 nothing
+""")
+            self.assertEqual(json.loads(self.done(driver, "circuits", "--json"))["circuits"],
+                             [{"position": 11, "colorant": "B", "does": ["pours", "stirs"]},
+                              {"position": 12, "colorant": "", "does": []}])
+            self.assertEqual(self.done(driver, "circuits", "--process", "3"), "circuits engaged: 11, 14\n")
+        self.assertIn(("", "GET_ACTIVE_CIRCUITS", 3), driver.asked)
+
+
+class Lists(unittest.TestCase):
+    """What the driver tells of its built-in dispenser: 16 canisters, each with the circuit of the same number."""
+
+    def test_lists(self):
+        with quvdriver_process.Driver("--machine", "dispenser") as driver:
+            def told(name, *params):
+                with driver.client() as client:
+                    reply = client.EXEC_B(name, *params)
+                self.assertEqual(reply["ret_code"], 0, reply)
+                return reply["ret_value"]
+
+            listed_canisters = told("GET_CANISTER_LIST")["canister_list"]
+            self.assertEqual(len(listed_canisters), 16)
+            self.assertEqual(listed_canisters[1], {
+                "id": 2, "enabled": True, "cur_q": 2000.0, "max_q": 3000.0, "res_q": 150.0, "res_w": 300.0, "circuits": [2],
+                "positions": [2], "colorant_id": 0, "colorant_code": "B"})
+            circuits = told("GET_CIRCUIT_LIST")["circuit_list"]
+            self.assertEqual([(each["id"], each["position_id"], each["canister_id"]) for each in circuits],
+                             [(i, i, i) for i in range(1, 17)])
+            colorants = told("GET_COLORANT_LIST", True)["colorant_list"]
+            self.assertEqual((len(colorants), colorants[0]["code"]), (16, "AXX"))
+            self.assertEqual(told("GET_DEVICE_LIST")["device_list"], [
+                {"id": 0, "enabled": True, "description": "Automatic cap", "accept_commands": True, "type": 0}])
+
+    def test_without_a_dispenser(self):
+        with quvdriver_process.Driver("--machine", "mixer") as driver:
+            with driver.client() as client:
+                reply = client.EXEC_B("GET_CANISTER_LIST")
+        self.assertEqual((reply["ret_code"], reply["errors"][0]["code"]), (5, "DE03104"))
+
+
+if __name__ == "__main__":
+    quvctl_process.PROGRAM = sys.argv.pop(2)
+    quvdriver_process.main()

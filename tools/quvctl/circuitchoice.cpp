@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "circuitchoice.h"
+
+#include "excerpt.h"
+#include "executed.h"
+
+#include "masterdata/getcanisterlistanswer.h"
+
+namespace quv {
+
+namespace {
+
+QList<int> positionsOfColorant(const Driver &driver, const QString &code)
+{
+    const auto list = answerTo<GetCanisterListAnswer>(ProtoCommandList::GET_CANISTER_LIST, driver);
+    QList<int> positions;
+    for (const CanisterData &canister : list.canisterList())
+        if (canister.enabled && canister.colorantCode == code)
+            positions.append(canister.positionIDs);
+    if (positions.isEmpty())
+        throw UsageError(
+            QStringLiteral("the machine has no circuit with the colorant %1").arg(excerpt(code)));
+    return positions;
+}
+
+QList<int> positionsOf(const Driver &driver, const QString &word)
+{
+    bool isNumber = false;
+    const int position = word.toInt(&isNumber);
+    if (!isNumber)
+        return positionsOfColorant(driver, word);
+    if (position < 1 || position > 255)
+        throw UsageError(
+            QStringLiteral("a circuit's position is a number from 1 to 255, not %1").arg(position));
+    return {position};
+}
+
+} // namespace
+
+CircuitChoice chosenCircuits(const Driver &driver, const CommandLine &line)
+{
+    if (!line.isSet("circuit"))
+        return {{0}, QStringLiteral("all circuits")};
+    const QString told = line.value("circuit", QString());
+    CircuitChoice choice{{}, QString()};
+    for (const QString &word : told.split(QLatin1Char(',')))
+        for (const int position : positionsOf(driver, word))
+            if (!choice.positions.contains(position))
+                choice.positions.append(position);
+    QStringList names;
+    for (const int position : qAsConst(choice.positions))
+        names.append(QString::number(position));
+    choice.words = (names.size() == 1 ? QStringLiteral("circuit ") : QStringLiteral("circuits ")) +
+                   names.join(QStringLiteral(", "));
+    return choice;
+}
+
+} // namespace quv

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "excerpt.h"
+#include "machineprocess.h"
+#include "subcommands.h"
+#include "suggestions.h"
+
+#include "processes/autocapcmd.h"
+#include "processes/shelfcmd.h"
+#include "processes/turntablemovecmd.h"
+#include "processes/turntablemovetorefillcmd.h"
+#include "status/dispenserstatusanswer.h"
+
+namespace quv {
+
+namespace {
+
+struct Movement
+{
+    std::unique_ptr<ProtoCommand> command{};
+    MachineProcess process{};
+};
+
+[[noreturn]] void refuseGoal(const QString &part, const QString &word, const QStringList &goals)
+{
+    throw UsageError(
+        QStringLiteral("move %1 goes to %2, not \"%3\"%4")
+            .arg(part, goals.join(QStringLiteral(", ")), excerpt(word), didYouMean(word, goals)));
+}
+
+/// \a isAtWork is what the status tells meanwhile.
+Movement movement(std::unique_ptr<ProtoCommand> command, const QString &begun, StatusCondition isAtWork)
+{
+    Movement moved;
+    moved.command = std::move(command);
+    moved.process.begun = begun;
+    moved.process.ended = QStringLiteral("moved");
+    moved.process.isAtWork = std::move(isAtWork);
+    return moved;
+}
+
+Movement shelfMovement(const QString &goal, const CommandLine &line)
+{
+    constexpr int greatestHeight = 60514; // millimetres that two digits tell
+    const auto isMoving = anyOf({&MachineStatusAnswer::shelf_up, &MachineStatusAnswer::shelf_down});
+    if (goal == QLatin1String("down"))
+        return movement(std::make_unique<ShelfCmd>(ShelfCmd::LowPosition, 0),
+                        QStringLiteral("moving the shelf down"), isMoving);
+    if (goal != QLatin1String("up"))
+        refuseGoal(QStringLiteral("shelf"), goal, {QStringLiteral("up"), QStringLiteral("down")});
+    if (!line.isSet("height"))
+        throw UsageError(QStringLiteral("move shelf up needs --height, the millimetres to which it goes"));
+    const int height = line.number("height", 0, 0, greatestHeight);
+    return movement(std::make_unique<ShelfCmd>(ShelfCmd::CanPosition, height),
+                    QStringLiteral("moving the shelf up to %1 mm").arg(height), isMoving);
+}
+
+Movement capMovement(const QString &goal)
+{
+    const auto isOpen = anyOf({&DispenserStatusAnswer::cap_open});
+    if (goal == QLatin1String("open"))
+        return movement(std::make_unique<AutocapCmd>(AutocapCmd::Open), QStringLiteral("opening the cap"),
+                        [isOpen](const MachineStatusAnswer &status) { return !isOpen(status); });
+    if (goal == QLatin1String("close"))
+        return movement(std::make_unique<AutocapCmd>(AutocapCmd::Close), QStringLiteral("closing the cap"),
+                        isOpen);
+    refuseGoal(QStringLiteral("cap"), goal, {QStringLiteral("open"), QStringLiteral("close")});
+}
+
+Movement tableMovement(const QString &goal, const CommandLine &line)
+{
+    const auto isMoving = anyOf({&DispenserStatusAnswer::turntable_moving});
+    constexpr int noPosition = 0;
+    if (goal == QLatin1String("reference"))
+        return movement(std::make_unique<TurntableMoveCmd>(noPosition, TurntableMoveCmd::ReferenceSearch,
+                                                           TurntableMovement::Shortest, 0, 0,
+                                                           TurntableMovement::configurationSpeed()),
+                        QStringLiteral("moving the table to its reference"), isMoving);
+    bool isNumber = false;
+    const int position = goal.toInt(&isNumber);
+    if (!isNumber)
+        refuseGoal(QStringLiteral("table"), goal,
+                   {QStringLiteral("reference"), QStringLiteral("a circuit's position")});
+    if (position < 1 || position > 255)
+        throw UsageError(QStringLiteral("a circuit's position is a number from 1 to 255"));
+    if (line.isSet("refill"))
+        return movement(std::make_unique<TurntableMoveToRefillCmd>(position, nullptr),
+                        QStringLiteral("moving circuit %1 to where it is refilled").arg(position), isMoving);
+    return movement(std::make_unique<TurntableMoveCmd>(position),
+                    QStringLiteral("moving the table to circuit %1").arg(position), isMoving);
+}
+
+Movement movementOf(const CommandLine &line)
+{
+    const QString part = line.words()[0];
+    const QString goal = line.words()[1];
+    if (line.isSet("height") && part != QLatin1String("shelf"))
+        throw UsageError(QStringLiteral("--height belongs to move shelf"));
+    if (line.isSet("refill") && part != QLatin1String("table"))
+        throw UsageError(QStringLiteral("--refill belongs to move table"));
+    if (part == QLatin1String("shelf"))
+        return shelfMovement(goal, line);
+    if (part == QLatin1String("table"))
+        return tableMovement(goal, line);
+    if (part == QLatin1String("cap"))
+        return capMovement(goal);
+    const QStringList parts = {QStringLiteral("shelf"), QStringLiteral("table"), QStringLiteral("cap")};
+    throw UsageError(QStringLiteral("move has shelf, table and cap, not \"%1\"%2")
+                         .arg(excerpt(part), didYouMean(part, parts)));
+}
+
+ExitStatus run(const CommandLine &line)
+{
+    Movement moved = movementOf(line);
+    const Driver driver(line);
+    ProtoCommands commands;
+    commands.push_back(std::move(moved.command));
+    StatusQuestion question(driver, SerialDeviceType::Dispenser);
+    return carryOutProcess(driver, question, commands, moved.process, line);
+}
+
+} // namespace
+
+const Subcommand moveSubcommand = {
+    "move",
+    "shelf|table|cap WHERE",
+    "moves a part of the machine",
+    "move shelf up --height 300, move shelf down, move cap open, move cap close, move table reference, and\n"
+    "move table 5, which brings the circuit at this position to the nozzles. Waits for the end; Ctrl-C ends\n"
+    "the waiting, and a second one within 2 seconds stops the machine.",
+    2,
+    2,
+    withProcessOptions(
+        {{"height", "MM", "of the shelf that goes up, in millimetres"},
+         {"refill", nullptr, "the table brings the circuit to where its canister is refilled"}}),
+    run};
+
+} // namespace quv
