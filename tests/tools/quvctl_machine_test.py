@@ -443,8 +443,30 @@ class Processes(MachineTest):
             code, out, err = self.call(driver, "stir", "--json", *self.QUICK)
         reply = json.loads(out)
         self.assertEqual((code, err), (1, "Emergency button pressed\n"))
-        self.assertEqual((reply["ok"], reply["text"], reply["process"]),
-                         (False, "Emergency button pressed", "stirring all circuits for 30 s"))
+        self.assertEqual((reply["ok"], reply["text"], reply["process"], reply["state"]),
+                         (False, "Emergency button pressed", "stirring all circuits for 30 s", "disturbed"))
+
+    def test_what_goes_wrong_is_no_success(self):
+        with FakeDriver(GET_STATUS=[dispenser(), dispenser(stirring=True), dispenser(stirring=True),
+                                    dispenser(emergency_pressed=True)], STIRRING=envelope(0)) as driver:
+            code, out, err = self.call(driver, "stir", *self.QUICK)
+        self.assertEqual((code, err), (1, "Emergency button pressed\n"))
+        self.assertNotIn("stirred", out)
+        self.assertNotIn("success", out)
+
+    def test_driver_that_goes_away(self):
+        with FakeDriver(GET_STATUS=dispenser(stirring=True), STIRRING=envelope(0)) as driver:
+            with start("stir", *self.QUICK, "--port", driver.port) as process:
+                until(lambda: driver.names().count("GET_STATUS") > 3)
+                driver.__exit__()
+                _, err = process.communicate(timeout=30)
+        self.assertEqual(process.returncode, 1)
+        self.assertTrue(err.startswith("the machine goes on; look at it with: quvctl status "), err)
+
+    def test_wrong_interval_sends_nothing(self):
+        with FakeDriver(GET_STATUS=dispenser(), STIRRING=envelope(0)) as driver:
+            self.assertEqual(self.call(driver, "stir", "--interval", "0")[0], 2)
+        self.assertEqual(driver.orders(), [])
 
     def test_interrupt(self):
         with FakeDriver(GET_STATUS=dispenser(stirring=True), STIRRING=envelope(0)) as driver:
@@ -574,8 +596,8 @@ class Lists(unittest.TestCase):
                              [(i, i, i) for i in range(1, 17)])
             colorants = told("GET_COLORANT_LIST", True)["colorant_list"]
             self.assertEqual((len(colorants), colorants[0]["code"]), (16, "AXX"))
-            self.assertEqual(told("GET_DEVICE_LIST")["device_list"], [
-                {"id": 0, "enabled": True, "description": "Automatic cap", "accept_commands": True, "type": 0}])
+            self.assertIn({"id": 0, "enabled": True, "description": "Automatic cap", "accept_commands": True, "type": 0},
+                          told("GET_DEVICE_LIST")["device_list"])
 
     def test_without_a_dispenser(self):
         with quvdriver_process.Driver("--machine", "mixer") as driver:

@@ -117,6 +117,7 @@ public:
           m_question(question),
           m_process(process),
           m_line(line),
+          m_interval(intervalOf(line)),
           m_badBefore(badConditions(*question.ask().answer))
     {}
 
@@ -128,7 +129,8 @@ public:
         }
     }
 
-    void waitForEnd()
+    /// What has gone wrong with the machine meanwhile; nothing when the process has come to its end.
+    QStringList waitForEnd()
     {
         const ProcessClock clock(m_process);
         std::optional<Progress> progress;
@@ -136,10 +138,13 @@ public:
             progress.emplace();
         const auto isOver = [this] { return haveAllEnded() && (!isAtWork() || !badSinceThen().isEmpty()); };
         waitUntil(isOver, progress ? std::function<void()>([&] { progress->tell(clock.now()); }) : nullptr);
-        if (progress)
+        QStringList bad = badSinceThen();
+        if (progress && bad.isEmpty())
             progress->tell(CmdStatus(CmdStatus::Done, 0, 100, QString()));
+        return bad;
     }
 
+private:
     /// What is wrong with the machine that was not before, or has ended meanwhile and come again.
     QStringList badSinceThen()
     {
@@ -152,7 +157,6 @@ public:
         return texts;
     }
 
-private:
     bool isAtWork()
     {
         return std::any_of(m_process.positions.begin(), m_process.positions.end(), [this](int position) {
@@ -172,14 +176,18 @@ private:
         const QString hint =
             QStringLiteral("the machine goes on; look at it with: quvctl status") + sameDriver(m_line);
         const OnInterrupt onInterrupt(stoppedBySecond(m_driver, toldPlan(hint, m_line.isSet("json"))));
-        const std::chrono::milliseconds interval = intervalOf(m_line);
-        for (Patience patience;; std::this_thread::sleep_for(interval)) {
-            const std::optional<bool> isSo = patience.answerTo(condition);
-            waitForInterrupt();
-            if (isSo.value_or(false))
-                return;
-            if (tell)
-                tell();
+        try {
+            for (Patience patience;; std::this_thread::sleep_for(m_interval)) {
+                const std::optional<bool> isSo = patience.answerTo(condition);
+                waitForInterrupt();
+                if (isSo.value_or(false))
+                    return;
+                if (tell)
+                    tell();
+            }
+        } catch (const TransportError &) {
+            printError(hint);
+            throw;
         }
     }
 
@@ -187,6 +195,7 @@ private:
     StatusQuestion &m_question;
     const MachineProcess &m_process;
     const CommandLine &m_line;
+    const std::chrono::milliseconds m_interval;
     QStringList m_badBefore{};
     BegunCommands m_commands{};
 };
@@ -229,11 +238,10 @@ ExitStatus carryOutProcess(const Driver &driver, StatusQuestion &question, const
         printLine(process.begun, Colour::Bold);
     if (!isWaitedFor)
         return tellEnd(process, QStringLiteral("begun"), {}, line);
-    run.waitForEnd();
-    const QStringList bad = run.badSinceThen();
+    const QStringList bad = run.waitForEnd();
     if (isTold && bad.isEmpty())
         printLine(process.ended, Colour::Bold);
-    return tellEnd(process, QStringLiteral("ended"), bad, line);
+    return tellEnd(process, bad.isEmpty() ? QStringLiteral("ended") : QStringLiteral("disturbed"), bad, line);
 }
 
 } // namespace quv
