@@ -27,6 +27,12 @@ namespace {
 /// What one screen tells. What the driver does not tell is missing.
 struct Screen
 {
+    /// Asks the driver. \throws as StatusQuestion::ask
+    explicit Screen(const Driver &driver);
+    Screen(const Screen &) = delete;
+    Screen &operator=(const Screen &) = delete;
+    ~Screen() = default;
+
     bool isMixer = false;
     ToldStatus status{};
     std::unique_ptr<const MachineInfo> machine{};
@@ -84,19 +90,17 @@ FormulaProgress poursOf(const Driver &driver)
     }
 }
 
-Screen screenOf(const Driver &driver)
+Screen::Screen(const Driver &driver)
 {
-    Screen screen;
     StatusQuestion question(driver);
-    screen.status = question.ask();
-    screen.isMixer = question.isMixer();
-    takeMachine(screen, driver);
-    screen.errors = errorsOf(driver);
-    if (screen.isMixer)
-        return screen;
-    screen.pours = poursOf(driver);
-    screen.canisters = canistersOf(driver);
-    return screen;
+    status = question.ask();
+    isMixer = question.isMixer();
+    takeMachine(*this, driver);
+    errors = errorsOf(driver);
+    if (isMixer)
+        return;
+    pours = poursOf(driver);
+    canisters = canistersOf(driver);
 }
 
 QString titleOf(const Screen &screen)
@@ -188,7 +192,7 @@ ExitStatus printAsJson(const Screen &screen)
 ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
-    const Screen screen = screenOf(driver);
+    const Screen screen(driver);
     return line.isSet("json") ? printAsJson(screen) : print(screen);
 }
 
