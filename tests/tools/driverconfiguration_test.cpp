@@ -79,8 +79,8 @@ TEST_F(DriverConfigurationTest, whatTheFirmwareRefuses)
     EXPECT_EQ(longer.retCode, 4);
     EXPECT_EQ(longer.error(),
               "DE03106 The firmware refused the code 0065: Bad command parameters (masks 0x20 and 0x0)");
-    EXPECT_EQ(write(7, "3,300,11,41").error(),
-              "DE03106 The firmware refused the code 0065: One or more fields contain values out of range (masks 0x1 and 0x0)");
+    EXPECT_EQ(write(7, "3,300,11,41").error(), "DE03106 The firmware refused the code 0065: One or more "
+                                               "fields contain values out of range (masks 0x1 and 0x0)");
     EXPECT_EQ(call("EXEC_B", "READ_CONFIG_ROW", 12, 1).retCode, 4);
     EXPECT_EQ(call("EXEC_B", "WRITE_CONFIG_ROW", row(0, "")).retCode, 4); // a command without a row
 }

@@ -181,8 +181,10 @@ std::string standingRefusal(const char *faults)
 
 TEST_F(ScenarioTest, theFaultsOfAMachineFileStand)
 {
-    const nlohmann::json faults = quv::faultsInMachineFile(
-        R"({"type":"dispenser","faults":[{"event":"circuit_blocked","circuit":2},{"event":"can_present"}]})");
+    const nlohmann::json faults =
+        quv::readDescribedMachine(
+            R"({"type":"dispenser","faults":[{"event":"circuit_blocked","circuit":2},{"event":"can_present"}]})")
+            .faults;
     const std::vector<FaultSpan> read = quv::standingFaults(faults, pouringMachine());
     ASSERT_EQ(read.size(), 2U);
     expectSpan(read[0], FaultKind::CircuitBlocked, 2, 0, std::nullopt);
@@ -191,7 +193,7 @@ TEST_F(ScenarioTest, theFaultsOfAMachineFileStand)
               "faults[1].at: unknown member");
     EXPECT_EQ(standingRefusal(R"([{"event":"circuit_blocked","circuit":9}])"),
               "faults[0].circuit: the machine has no circuit at position 9");
-    EXPECT_TRUE(quv::faultsInMachineFile(R"({"type":"mixer"})").empty());
+    EXPECT_TRUE(quv::readDescribedMachine(R"({"type":"mixer"})").faults.empty());
 }
 
 } // namespace
