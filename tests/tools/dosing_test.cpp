@@ -239,10 +239,11 @@ TEST_F(TurningDosingTest, theTableStandsWhereTheStopHasFoundIt)
     execute("0003", {0});
     EXPECT_EQ(machine.content(11), 499.01);
     EXPECT_EQ(machine.content(14), 500);
-    execute("0017", {1, 1, 2, 0, 50, 1, 100}); // from 1 it is a second to 2, from 4 it would be one as well
+    execute("0017", {1, 1, 2, 0, 50, 1, 100}); // from 1 it is a second to 2
+    now += 500;
     execute("0003", {0});
-    execute("0017", {1, 1, 3, 0, 50, 1, 100}); // from 2 two seconds
-    now += 2000;
+    execute("0017", {1, 1, 3, 0, 50, 1, 100}); // back to 1 half a second, and one more to 3
+    now += 1500;
     EXPECT_EQ(masks(3), Tinting);
     now -= 1;
     EXPECT_EQ(masks(3), Idle);

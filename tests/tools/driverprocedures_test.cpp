@@ -146,7 +146,7 @@ TEST_F(DriverProceduresTest, whatTheFirmwareRefusesEndsAProcedure)
     const Envelope envelope = call("EXEC_B", "GET_ERRORS");
     EXPECT_EQ(envelope.retCode, 4);
     EXPECT_EQ(envelope.error(),
-              "DE03106 The firmware refused the code 000C: the machine is not available (masks 0x0 and 0x8)");
+              "DE03106 The firmware refused the code 000C: Machine not available (masks 0x0 and 0x8)");
     EXPECT_EQ(call("EXEC_B", "STIR_ALL").retCode, 1); // it has no stirrers
 }
 

@@ -70,7 +70,8 @@ TEST_F(MachineTellsTest, aCanisterThatRunsEmptyIsAnErrorUntilItIsCleared)
     EXPECT_EQ(ask(*firmware, "0017", Tint1000OfCircuit1), "0");
     EXPECT_EQ(status(*firmware), "E 0 1 4 40 20 0 0 F5 F5 0 0 0 0 0");
     EXPECT_EQ(status(*firmware, 1), "E 0 1 4 40 20 0 0 F5 F5 0 0 0 0 0");
-    EXPECT_EQ(status(*firmware, 2), Tinting); // nothing is wrong with this one
+    EXPECT_EQ(status(*firmware, 2),
+              "E 0 1 0 0 0 0 0 F5 F5 0 0 0 0 0"); // nothing is wrong with this one, and it does not pour
     wait(6000);
     EXPECT_EQ(ask(*firmware, "000C", {245}), "3 1 0 1");
     EXPECT_EQ(status(*firmware), "E 0 1 0 40 20 0 0 F5 F5 4 0 0 0 0"); // new until it is read
@@ -184,15 +185,16 @@ TEST_F(MachineTellsTest, anOpenDoorKeepsStillWhatMovesInReach)
     FW_Dispenser made = pouringMachine();
     made.setModelName(QStringLiteral("ZANDOR"));
     const auto firmware = machine(made, {{FaultKind::DoorOpen, 0, 3000, 9000}});
-    EXPECT_EQ(ask(*firmware, "0043"), "B 46 0 0 60 1 0 0 0 0 20 0");
+    // the station beside it is at home
+    EXPECT_EQ(ask(*firmware, "0043"), "B 46 0 0 60 1 0 0 48 55 24 0");
     ask(*firmware, "0001");
     wait(3000);
-    EXPECT_EQ(status(*firmware), "E 0 1 0 0 0 0 40 F5 F5 0 0 0 0 0");
-    EXPECT_EQ(ask(*firmware, "0043"), "B 46 0 0 60 1 0 0 0 0 10 0");
+    EXPECT_EQ(status(*firmware), "E 0 1 0 0 0 0 40 F5 F5 0 0 0 0 8");
+    EXPECT_EQ(ask(*firmware, "0043"), "B 46 0 0 60 1 0 0 48 55 14 0");
     EXPECT_EQ(ask(*firmware, "0017", Tint1000OfCircuit1), NotAvailable);
     EXPECT_EQ(ask(*firmware, "0067"), "0"); // nothing moves
     wait(6000);
-    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(status(*firmware), "E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 8");
     EXPECT_EQ(ask(*firmware, "0017", Tint1000OfCircuit1), "0");
 }
 

@@ -28,7 +28,9 @@ const char *const RecirculatesBusily = "E 0 1 8 0 0 0 0 F5 F5 0 0 0 0 0";
 const char *const Tints = "E 0 1 4 0 0 0 0 F5 F5 0 0 0 0 0";
 const char *const Cleans = "E 0 1 0 0 0 0 8 F5 F5 0 0 0 0 0";
 const char *const CleansWithPump = "E 0 1 0 0 0 0 8 F5 F5 0 2 0 0 0";
-const char *const ReadsLevels = "E 0 1 0 0 0 0 0 F5 F5 0 0 8 0 0";
+// canister 14 is below its reserve, which its sensor tells
+const char *const ReadsLevels = "E 0 1 0 0 0 0 0 F5 F5 0 40 8 0 0";
+const char *const IdleWithLowLevel = "E 0 1 0 0 0 0 0 F5 F5 4 40 0 0 0";
 const char *const Reserved = "E 0 1 0 0 0 1 0 F5 F5 0 0 0 0 0";
 
 const char *const WrongModule = "refused 6 10 0 0 0 0 0";
@@ -109,10 +111,11 @@ TEST_F(SimulatedProcessesTest, busyStirringShowsOnTheMachineAndKeepsAllElseFromB
     EXPECT_EQ(tell(*firmware, "0004", 1, {30, 0, 0}), NotAvailable);
     EXPECT_EQ(tell(*firmware, "0005", 1, {50, 30, 0, 0, 0}), NotAvailable);
     EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), NotAvailable);
-    EXPECT_EQ(tell(*firmware, "0001", 0), NotAvailable);
     m_now += 30 * Second;
     EXPECT_EQ(status(*firmware), Idle);
-    EXPECT_EQ(tell(*firmware, "0004", 1, {30, 0, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0004", 1, {30, 0, 1}), "0");
+    EXPECT_EQ(tell(*firmware, "0001", 0), "0"); // a reset ends it
+    EXPECT_EQ(status(*firmware), "E 0 1 40 0 0 0 0 F5 F5 0 0 0 0 0");
 }
 
 TEST_F(SimulatedProcessesTest, allCircuitsAreStirredAtOnce)
@@ -701,7 +704,7 @@ TEST_F(SimulatedProcessesTest, levelSensorsTellWhatTheCanistersHold)
     m_now += 8 * Second - 1;
     EXPECT_EQ(status(*firmware), ReadsLevels);
     m_now += 1;
-    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(status(*firmware), IdleWithLowLevel);
     EXPECT_EQ(tell(*firmware, "0017", 0, {1, 1, 1, 0, 50, 2, 16, 4}), "0"); // 10 of 500
     EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), NotAvailable);
     m_now += 6 * Second;
@@ -724,7 +727,7 @@ TEST_F(SimulatedProcessesTest, asManySensorsAsPourAtOnceAreReadInEightSeconds)
     m_now += 1600 - 1;
     EXPECT_EQ(status(*firmware), ReadsLevels);
     m_now += 1;
-    EXPECT_EQ(status(*firmware), Idle);
+    EXPECT_EQ(status(*firmware), IdleWithLowLevel);
 }
 
 TEST_F(SimulatedProcessesTest, levelsThatNobodyCanTellAreRefused)
