@@ -45,7 +45,6 @@ protected:
     //                             length, not read, status, masks 1 to 5, position, zone, masks 8 to 12
     static constexpr char Idle[] = "E 0 1 0 0 0 0 0 F5 F5 4 0 0 0 0";
     static constexpr char Resetting[] = "E 0 1 40 0 0 0 0 F5 F5 0 0 0 0 0";
-    static constexpr char Tinting[] = "E 0 1 4 0 0 0 0 F5 F5 0 0 0 0 0";
     const QList<int> Tint1000OfCircuit1{1, 1, 1, 0, 50, 2, 16, 4}; // 6 s
     const QList<int> RowOutOfRange{7, 1, 1, 3};
 

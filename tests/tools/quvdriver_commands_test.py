@@ -16,7 +16,7 @@ from pathlib import Path
 
 import quvdriver_process
 
-MACHINES = ["dispenser", "turntable", "dual", "mixer"]
+MACHINES = ["dispenser", "turntable", "dual", "station", "mixer"]
 BEGIN = "<!-- what becomes of each command: written by tests/tools/quvdriver_commands_test.py -->\n"
 END = "<!-- end -->\n"
 QUVCTL = ""
@@ -38,8 +38,14 @@ def request(name):
     return eval(example["python"], {"driver": Recorder(), "xmlrpc": xmlrpc}) if example else [name]
 
 
+def in_words(error):
+    """The code, and of a firmware's refusal the reason."""
+    reason = re.search(r"refused the code \w+: (.*) \(masks", error["text"])
+    return error["code"] + (f": {reason.group(1)}" if reason else "")
+
+
 def attempt(machine, params):
-    """Error codes of the envelope, and the codes that the firmware was asked with, each once."""
+    """The errors of the envelope, and the codes that the firmware was asked with, each once."""
     with contextlib.ExitStack() as stack:
         driver = stack.enter_context(quvdriver_process.Driver(
             "--machine", machine, "--speed", "10000", "--trace=json", stderr=subprocess.PIPE))
@@ -48,7 +54,7 @@ def attempt(machine, params):
         lines = [json.loads(line) for line in driver.process.stderr.read().splitlines() if line.startswith("{")]
         driver.process.stderr.close()
     codes = dict.fromkeys(line["code"] for line in lines if line["what"] == "exchange" and not line.get("refused"))
-    return envelope["ret_code"], [error["code"] for error in envelope["errors"]], list(codes)
+    return envelope["ret_code"], [in_words(error) for error in envelope["errors"]], list(codes)
 
 
 def outcome(name):
@@ -57,7 +63,7 @@ def outcome(name):
     farthest = None
     for machine in MACHINES:
         ret_code, errors, codes = attempt(machine, params)
-        told = (machine, " ".join(codes) or "-", "done" if ret_code == 0 else " ".join(errors))
+        told = (machine, " ".join(codes) or "-", "done" if ret_code == 0 else "; ".join(errors))
         if ret_code == 0:
             return told
         if errors == ["DE03107"]:  # it needs no machine

@@ -82,7 +82,7 @@ class ProcessesTest(unittest.TestCase):
             self.assertTrue(self.status(client)["stirring"])
             self.call(client, "STIRRING", 0, 0)
             self.assertEqual(self.at(client, "stirring"), [])
-            self.refused(client, "wrong position", "STIRRING", 4, 30)
+            self.refused(client, "Wrong position ID", "STIRRING", 4, 30)
 
     def test_busy_stirring_keeps_all_else_from_beginning(self):
         with self.driver() as driver, driver.client() as client:
@@ -90,13 +90,17 @@ class ProcessesTest(unittest.TestCase):
             told = self.status(client)
             self.assertEqual((told["stirring"], told["head1_can_dose"]), (True, False))
             for command in (("TINT", FORMULA), ("RECIRCULATION", 2, 30), ("CLEANING", 1), ("NOZZLE_CLEAN", 0, 30),
-                            ("STIRRING", 2, 30), ("RESET",)):
+                            ("STIRRING", 2, 30)):
                 self.refused(client, "not available", *command)
             self.call(client, "STIRRING", 1, 0)
             self.assertFalse(self.status(client)["stirring"])
             self.call(client, "STIRRING", 1, 30, True)
             self.wait(lambda: not self.status(client)["stirring"], "the end of 30 s")
             self.call(client, "TINT", FORMULA)
+            self.call(client, "STIRRING", 1, ENDLESS, True)
+            self.call(client, "RESET")  # ends all
+            told = self.status(client)
+            self.assertEqual((told["stirring"], told["resetting"]), (False, True))
 
     def test_recirculation_gives_way_to_a_pour(self):
         with self.driver() as driver, driver.client() as client:
@@ -113,8 +117,8 @@ class ProcessesTest(unittest.TestCase):
             self.call(client, "RECIRCULATION", 1, 0)
             self.call(client, "RECIRCULATION", 1, 30, 245, 0, True)
             self.wait(lambda: not self.status(client)["recirculating"], "the end of 30 s")
-            self.refused(client, "bad parameters", "RECIRCULATION", 1, 30, 150)
-            self.refused(client, "bad parameters", "RECIRCULATION", 1, 30, 50, 1)  # strokes
+            self.refused(client, "Bad command parameters", "RECIRCULATION", 1, 30, 150)
+            self.refused(client, "Bad command parameters", "RECIRCULATION", 1, 30, 50, 1)  # strokes
 
     def test_strokes_of_a_machine_that_counts_them(self):
         with self.driver(model=6) as driver, driver.client() as client:
@@ -186,7 +190,7 @@ class ProcessesTest(unittest.TestCase):
             self.assertEqual(self.call(client, "WORKING_MODE", 3)["working_mode"], 3)
             told = self.status(client)
             self.assertEqual((told["normal_wm"], told["head1_can_dose"]), (False, False))
-            self.refused(client, "wrong working mode", "TINT", FORMULA)
+            self.refused(client, "Bad working mode", "TINT", FORMULA)
             self.call(client, "STIRRING", 1, 30)
             self.assertEqual(self.call(client, "WORKING_MODE", 1)["working_mode"], 1)
             self.assertTrue(self.status(client)["normal_wm"])
@@ -215,7 +219,7 @@ class ProcessesTest(unittest.TestCase):
 
     def test_level_sensors_follow_the_canister(self):
         with self.driver() as driver, driver.client() as client:
-            self.refused(client, "wrong position", "GET_LEVEL_SENSORS", [1])
+            self.refused(client, "Wrong position ID", "GET_LEVEL_SENSORS", [1])
             self.assertEqual(self.call(client, "GET_LEVEL_SENSORS")["levels"], [[2, 12500]])  # 125 strokes
             self.wait(lambda: not self.status(client)["check_level_in_progress"], "the end of the reading")
             self.call(client, "TINT", {**FORMULA, "ids": [2], "quantities": [40.0]})
@@ -227,7 +231,7 @@ class ProcessesTest(unittest.TestCase):
             self.assertEqual(self.at(client, "stirring"), [2])
             told = self.call(client, "DEEP_SERVICE", 0, 2, "0006")["parameters"]
             self.assertEqual((told[1], told[2]), (1, 16))
-            self.refused(client, "wrong position", "DEEP_SERVICE", 0, 4, "0004", [30, 0, 0])
+            self.refused(client, "Wrong position ID", "DEEP_SERVICE", 0, 4, "0004", [30, 0, 0])
 
 
 if __name__ == "__main__":

@@ -74,7 +74,7 @@ class Scenario(unittest.TestCase):
                               sensors["MASTER_24V"]), (True, True, False, True))
             refused = client.EXEC_B("RESET")
             self.assertEqual((refused["ret_code"], refused["errors"][0]["code"]), (4, "DE03106"))
-            self.assertIn("the machine is not available", refused["errors"][0]["text"])
+            self.assertIn("Machine not available", refused["errors"][0]["text"])
             status = self.status_with(client, emergency_pressed=False)
             self.assertEqual((status["head1_can_dose"], status["dispenser_not_ready"], status["hw_error"]),
                              (True, False, True))
