@@ -100,7 +100,6 @@ class ProgramTest(unittest.TestCase):
                               (["--port", "x"], "--port must be a number from 0 to 65535"),
                               (["--speed", "0"], "--speed must be a number from 0.01 to 10000"),
                               (["--speed", "nan"], "--speed must be a number from 0.01 to 10000"),
-                              (["--machine", "mixer", "--machine", "mixer"], "one dispenser and one mixer"),
                               (["--state", ""], "--state must be a file"),
                               (["--machine", "mixer:7", "--machine", "mixer:7"], "there are two mixers with the ID 7"),
                               (["--trace=xml"], "--trace stands alone, or as --trace=json"),

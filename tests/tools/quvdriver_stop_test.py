@@ -37,7 +37,7 @@ def formula(quantities):
             "quantities": [float(quantity) for quantity in quantities.values()], "levels_policy": 2}
 
 
-class StopTest(unittest.TestCase):
+class Stopping(unittest.TestCase):
     def start(self, *options, **more):
         self.driver = Driver(*options, **more)
         self.addCleanup(self.driver.kill)
@@ -78,6 +78,8 @@ class StopTest(unittest.TestCase):
         grams = dict(zip(report["dispensed_formula"]["ids"], report["dispensed_formula"]["quantities"]))
         return grams, report["dispensed_formula"] == report["total_formula"]
 
+
+class Stop(Stopping):
     def test_the_levels_are_lowered_by_what_was_poured(self):
         self.start("--speed", "20")
         dice = random.Random(13)
@@ -137,6 +139,8 @@ class StopTest(unittest.TestCase):
         self.assertEqual((ended["status"], ended["cmd_answer"]["errors"][0]["code"]), (-3, "DE03410"))
         self.assertEqual(self.client.EXEC_B("PAUSE", 20)["ret_code"], 0)
 
+
+class Latency(Stopping):
     def crowd(self):
         """Clients in programs of their own, so that they do not take turns with this one."""
         for _ in range(CLIENTS):
