@@ -437,13 +437,18 @@ TEST_F(SimulatedFirmwareTest, finalisingTakesThreeSecondsInWhichNothingElseBegin
     EXPECT_EQ(ask(firmware, "0067"), "6 0 8 0 0 0 0"); // not during a pour
 }
 
-TEST_F(SimulatedFirmwareTest, aMixerHasFinalisedWhenItReplies)
+TEST_F(SimulatedFirmwareTest, aMixerFinalisesAsADispenserDoes)
 {
     SimulatedFirmware firmware(FW_Mixer(), 1, clock());
     EXPECT_EQ(tokens(firmware.execute(QStringLiteral("0066"), 0, {0})), "7 2 0 2 1 1 2 2");
     EXPECT_EQ(tokens(firmware.execute(QStringLiteral("0065"), 0, {2, 2, 1, 1, 1, 65})), "0");
     EXPECT_EQ(ask(firmware, "0067"), "0");
     EXPECT_EQ(tokens(firmware.execute(QStringLiteral("0066"), 0, {2, 1})), "7 2 1 2 1 1 1 41");
+    m_now += 2999;
+    // its door is unlocked, its plates are 400 mm apart
+    EXPECT_EQ(ask(firmware, "0033"), "F 0 1 0 20 0 0 0 10 0 0 0 0 0 9A 1");
+    EXPECT_EQ(ask(firmware, "0067"), "6 0 8 0 0 0 0");
+    m_now += 1;
     EXPECT_EQ(ask(firmware, "0067"), "0");
 }
 

@@ -21,10 +21,11 @@ using nlohmann::json;
 
 struct EventKind
 {
-    const char *name;
-    FaultKind fault;
-    const char *number; ///< the member that tells what the fault is about; null for the machine as a whole
-    Range range;
+    const char *name = nullptr;
+    FaultKind fault{};
+    const char *number =
+        nullptr; ///< the member that tells what the fault is about; null for the machine as a whole
+    Range range{};
 };
 
 constexpr EventKind eventKinds[] = {

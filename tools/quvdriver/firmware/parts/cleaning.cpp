@@ -132,7 +132,7 @@ FirmwareReply Cleaning::cleanNozzles(int module, const QList<int> &parameters)
                                            : rinsing(module, seconds);
     if (stages.empty())
         return refused(module == 0 ? Reason::NotAvailable : Reason::WrongModule);
-    const FirmwareReply reply = begin(std::move(stages), true);
+    FirmwareReply reply = begin(std::move(stages), true);
     m_isOfNozzles = m_isOfNozzles || !reply.refused;
     return reply;
 }

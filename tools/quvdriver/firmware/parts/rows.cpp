@@ -87,9 +87,7 @@ FirmwareReply Rows::finalise()
         return refused(Reason::ConfigurationNotWritten, QString::fromUtf8(error.what()));
     }
     followRows();
-    // Nobody can ask a mixer's status, so that it is ready when it replies.
-    if (m_machine.type() == SerialDeviceType::Dispenser)
-        m_end = m_machine.endOf(Duration);
+    m_end = m_machine.endOf(Duration);
     return begun();
 }
 
