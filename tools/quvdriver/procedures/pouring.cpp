@@ -158,7 +158,7 @@ FW_ErrorList pour(ProcedureRun &run)
     run.begin(dynamic_cast<SerialProtoCommand &>(run.command));
     const bool isInterrupted = waitForEndOfPour(run);
     bool isLess = false;
-    const FW_ErrorList told = takePourFromLevels(run, isLess);
+    FW_ErrorList told = takePourFromLevels(run, isLess);
     // A reset forgets the interruption, and what was stopped may have been at its end already.
     if (!isInterrupted && !(isLess && run.stopped.hasBegun()))
         return told;

@@ -12,11 +12,11 @@ namespace quv {
 /// What the driver does by itself for a command, beyond one exchange with the firmware.
 struct Procedure
 {
-    ProtoCommandList::CommandListValue command;
-    Engages engages;
-    bool lasts; ///< its end is waited for
+    ProtoCommandList::CommandListValue command{};
+    Engages engages = Engages::Nothing;
+    bool lasts = false; ///< its end is waited for
     /// Gives what is told beside the answer. \throws CallRefusal when it does not come to its end
-    FW_ErrorList (*run)(ProcedureRun &run);
+    FW_ErrorList (*run)(ProcedureRun &run) = nullptr;
     /// Null, or \throws CallRefusal for what cannot be carried out, before anything has begun
     void (*check)(const ProtoCommand &command) = nullptr;
 };

@@ -373,7 +373,7 @@ FW_ErrorList Driver::runProcedure(Task &task)
             task.procedure->lasts ? estimatedTime(*task.command, task.machine) : 0);
     task.command->clearProtoAnswer(); // of the time before, when it waits for a change
     ProcedureRun run{*task.command, *task.machine, ask, task.progress, task.engagement->stopped, m_ending};
-    const FW_ErrorList errors = task.procedure->run(run);
+    FW_ErrorList errors = task.procedure->run(run);
     if (!task.command->getProtoAnswer()) {
         ConfProtoAnswer nothing;
         task.command->setProtoAnswer(&nothing);
