@@ -1,0 +1,144 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+"""A week of a simulated machine in a minute: pours, stirring and cleaning, stops and faults. In the end all books add up."""
+
+import json
+import os
+import random
+import tempfile
+import time
+import unittest
+
+import quvdriver_process
+from quvdriver_process import Driver
+
+SPEED = 10000
+DAY = 86400
+POSITIONS = 1, 2, 3, 4
+GRAMS_OF_STROKE = 4
+BLOCKED = 3
+BLOCKED_CIRCUITS = 10  # a number of GET_ACTIVE_CIRCUITS
+
+
+def machine():
+    """On a turntable, each canister with a level sensor. 100 steps pour a gram, a stroke has 400."""
+    return {
+        "type": "dispenser", "stirring_parallelism": 4,
+        "devices": {"turntable": {"positions": [3, 1, 2, 4], "step_time": 1000}},
+        "canisters": [{
+            "id": 10 + position, "maximum": 1000, "current": 1000, "level_sensor": {},
+            "circuits": [{
+                "id": 20 + position, "position_id": position, "dosing_motor": {"steps_per_stroke": 400},
+                "calibration": [{"steps": 1000, "quantity": 10, "speed": 50}],
+                "stirring_motor": {}, "cleaning_motors": [{"duration": 30}],
+            }],
+        } for position in POSITIONS],
+    }
+
+
+SCENARIO = {"events": [
+    {"at": 1.5 * DAY, "for": 12 * 3600, "event": "circuit_blocked", "circuit": BLOCKED},
+    {"at": 3 * DAY, "for": 3600, "event": "emergency"},
+    {"at": 4 * DAY, "for": 7200, "event": "door_open"},
+    {"at": 5.2 * DAY, "for": 6 * 3600, "event": "circuit_blocked", "circuit": BLOCKED},
+    {"at": 6 * DAY, "for": 1800, "event": "emergency"},
+]}
+
+
+class Week(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        paths = []
+        for name, content in (("machine.json", machine()), ("scenario.json", SCENARIO)):
+            paths.append(os.path.join(folder.name, name))
+            with open(paths[-1], "w", encoding="utf-8") as file:
+                json.dump(content, file)
+        self.driver = Driver("--machine", paths[0], "--scenario", paths[1], "--speed", str(SPEED))
+        self.addCleanup(self.driver.kill)
+        self.begin = time.monotonic()
+        self.client = self.driver.client()
+        self.addCleanup(self.client("close"))
+        self.dice = random.Random(7)
+        self.levels = dict.fromkeys(POSITIONS, 1000.0)
+        self.counts = {"whole": 0, "stopped": 0, "refused": 0, "blocked": 0}
+
+    def ask(self, *params):
+        envelope = self.client.EXEC_B(*params)
+        self.assertEqual(envelope["ret_code"], 0, (params, envelope))
+        return envelope["ret_value"]
+
+    def is_blocked(self):
+        return BLOCKED in self.ask("GET_ACTIVE_CIRCUITS", BLOCKED_CIRCUITS)["positions_id"]
+
+    def error_count(self):
+        return self.ask("ERRORS_NUM")["num_errors"]
+
+    def end(self, ticket):
+        while (told := self.ask("GET_CMD_STATUS", ticket))["status"] > 0:
+            time.sleep(0.002)
+        return told
+
+    def pour(self):
+        circuits = self.dice.sample(POSITIONS, self.dice.randint(1, 3))
+        formula = {"formula_type": 1, "quantity_unit": 3, "ids": circuits,
+                   "quantities": [self.dice.randint(1, 40) / 10 for _ in circuits]}
+        blocked_before, errors_before = self.is_blocked(), self.error_count()
+        begun = self.client.EXEC_NB("TINT", formula)
+        self.assertEqual(begun["ret_code"], 0, begun)
+        if self.dice.random() < 0.3:
+            time.sleep(self.dice.random() * 0.006)
+            self.ask("STOP")
+        told = self.end(begun["ret_value"]["ticket_id"])
+        if told["status"] == -1:
+            self.assertIn(told["cmd_answer"]["errors"][0]["code"], {"DE03106"}, told)
+            self.counts["refused"] += 1
+            return
+        report = self.ask("GET_DISPENSED_FORMULA", 1, 3)
+        poured = report["dispensed_formula"]
+        for position, grams in zip(map(int, poured["ids"]), poured["quantities"]):
+            self.levels[position] -= grams
+        if told["status"] == 0:
+            self.assertEqual(self.ask("GET_STATUS")["current_position_id"], int(report["total_formula"]["ids"][-1]))
+        self.counts["whole" if told["status"] == 0 else "stopped"] += 1
+        if self.is_blocked() == blocked_before:  # else nobody knows when it changed
+            expected = errors_before + (blocked_before and BLOCKED in circuits)
+            if self.error_count() != expected:  # the emergency button may have been pressed meanwhile
+                self.assertEqual(self.error_count(), expected + 1)
+            self.counts["blocked"] += blocked_before and BLOCKED in circuits
+
+    def work(self):
+        """Something that may be refused, since the machine is at something else."""
+        self.client.EXEC_B(*self.dice.choice([
+            ("STIRRING", self.dice.choice(POSITIONS), 30), ("STIRRING", 0, 60, True), ("NOZZLE_CLEAN", 0, 30), ("RESET",)]))
+
+    def check_books(self):
+        canisters = {canister["positions"][0]: canister["cur_q"] for canister in self.ask("GET_CANISTER_LIST")["canister_list"]}
+        for position, level in self.levels.items():
+            self.assertAlmostEqual(canisters[position], level, 6)
+
+    def rest(self):
+        """Until the machine is at nothing."""
+        self.client.EXEC_B("STOP")
+        while not self.ask("GET_STATUS")["head1_can_dose"]:
+            time.sleep(0.005)
+
+    def test_the_books_of_a_week(self):
+        while time.monotonic() < self.begin + 7 * DAY / SPEED:
+            if self.dice.random() < 0.2:
+                self.work()
+            else:
+                self.pour()
+            if self.error_count() > 40:
+                self.ask("CLEAR_ERRORS")
+            time.sleep(self.dice.random() * 0.1)
+        self.check_books()
+        self.rest()
+        # what the machine itself says: hundredths of strokes
+        for position, hundredths in self.ask("GET_LEVEL_SENSORS", list(POSITIONS))["levels"]:
+            self.assertAlmostEqual(hundredths / 100 * GRAMS_OF_STROKE, self.levels[position], delta=GRAMS_OF_STROKE / 100)
+        for kind, count in self.counts.items():
+            self.assertGreater(count, 0, (kind, self.counts))
+
+
+if __name__ == "__main__":
+    quvdriver_process.main()
