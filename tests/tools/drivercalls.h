@@ -30,18 +30,23 @@ public:
     explicit ScriptedFirmware(Script script)
         : m_script([script = std::move(script)](const QString &) { return script(); })
     {}
-    explicit ScriptedFirmware(CodeScript script) : m_script(std::move(script)) {}
+    explicit ScriptedFirmware(CodeScript script, double speed = 1)
+        : m_script(std::move(script)),
+          m_speed(speed)
+    {}
 
     FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) override
     {
         asked.append(QStringLiteral("%1 %2 %3").arg(code).arg(module).arg(parameters.size()));
         return m_script(code);
     }
+    double speed() const override { return m_speed; }
 
     QStringList asked{};
 
 private:
     CodeScript m_script{};
+    double m_speed = 1;
 };
 
 inline const QStringList IdleTokens =
@@ -163,9 +168,10 @@ protected:
         m_driver->addMachine(std::move(machine), std::move(firmware));
         return added;
     }
-    ScriptedFirmware &addScripted(std::unique_ptr<FW_Machine> machine, ScriptedFirmware::CodeScript script)
+    ScriptedFirmware &addScripted(std::unique_ptr<FW_Machine> machine, ScriptedFirmware::CodeScript script,
+                                  double speed = 1)
     {
-        auto firmware = std::make_unique<ScriptedFirmware>(std::move(script));
+        auto firmware = std::make_unique<ScriptedFirmware>(std::move(script), speed);
         ScriptedFirmware &added = *firmware;
         m_driver->addMachine(std::move(machine), std::move(firmware));
         return added;

@@ -560,15 +560,18 @@ TEST_F(DriverPourTest, aReportThatCannotBeReadLeavesTheLevels)
     EXPECT_EQ(level(11), "500");
 }
 
-TEST_F(DriverPourTest, aLinkThatFailsDuringAPourFreesTheMachine)
+TEST_F(DriverPourTest, aLinkThatStaysLostDuringAPourFreesTheMachine)
 {
     int asked = 0;
-    addScripted(std::make_unique<FW_Dispenser>(pouringMachine()), [&asked](const QString &code) {
-        if (code == QLatin1String("0006"))
-            throw std::runtime_error("no reply within 2 s");
-        ++asked;
-        return FirmwareReply{false, QStringList{QStringLiteral("0")}};
-    });
+    addScripted(
+        std::make_unique<FW_Dispenser>(pouringMachine()),
+        [&asked](const QString &code) {
+            if (code == QLatin1String("0006"))
+                throw std::runtime_error("no reply within 2 s");
+            ++asked;
+            return FirmwareReply{false, QStringList{QStringLiteral("0")}};
+        },
+        3000);
     for (int i = 1; i <= 2; ++i) {
         const Envelope envelope = call("EXEC_B", "TINT", formula({{"A", 10}}));
         EXPECT_EQ(envelope.retCode, 8);

@@ -158,6 +158,21 @@ class Scenario(unittest.TestCase):
                 time.sleep(0.01)
             self.assertTrue(self.done(client, "GET_STATUS")["head1_can_dose"])
 
+    def test_a_pour_outlives_a_lost_link(self):
+        with self.driver([{"at": 30, "event": "link_lost", "for": 10}], "--speed", "50") as driver, \
+                driver.client() as client:
+            ticket = client.EXEC_NB("TINT", tint(1, 200))["ret_value"]["ticket_id"]
+            end = time.monotonic() + 30
+            while (asked := client.EXEC_B("GET_STATUS"))["ret_code"] == 0:
+                self.assertTrue(asked["ret_value"]["tinting"], "the pour was over before")
+                self.assertLess(time.monotonic(), end)
+            while (told := self.done(client, "GET_CMD_STATUS", ticket))["status"] > 0:
+                self.assertLess(time.monotonic(), end)
+                time.sleep(0.005)
+            self.assertEqual((told["status"], told["cmd_answer"]["ret_code"]), (0, 0), told)
+            canister, _ = self.done(client, "GET_CANISTER_LIST")["canister_list"]
+            self.assertAlmostEqual(canister["cur_q"], 300, 6)
+
     def test_each_machine_has_its_own_events(self):
         events = [{"at": 0, "event": "emergency", "machine": "mixer"}, {"at": 0, "event": "can_present"}]
         with self.driver(events, "--machine", "mixer") as driver, driver.client() as client:

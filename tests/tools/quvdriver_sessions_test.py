@@ -115,6 +115,8 @@ class SessionsTest(unittest.TestCase):
         self.assertEqual([(status["mixer_info"]["mixer_id"], status["active"]) for status in answer["mixer_list"]],
                          [(2, True), (1, False)])
         self.assertEqual(answer["disp_list"][2]["dispenser_info"]["serial_number"], "SIM-T-0001")
+        self.assertEqual(Session.answer(client.EXEC_B("GET_DISP_LIST")), {"disp_list": answer["disp_list"], "mixer_list": []})
+        self.assertEqual(Session.answer(client.EXEC_B("GET_MIXER_LIST")), {"disp_list": [], "mixer_list": answer["mixer_list"]})
 
     def test_two_files_of_the_same_id_are_refused(self):
         path = self.file('{"type": "dispenser", "id": 1}')

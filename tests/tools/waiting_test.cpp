@@ -89,6 +89,43 @@ TEST_F(WaitingTest, theStatusIsLookedAtEvenWhenItIsStopped)
     EXPECT_EQ(quv::waitUntil(stirsNoMore, stirring(0), {}, m_ending), WaitEnd::Held);
 }
 
+/// A dispenser whose link is lost, and comes back after so many questions.
+DrivenMachine silentMachine(int questions, double speed)
+{
+    const auto script = [=](const QString &) mutable {
+        if (questions-- > 0)
+            throw std::runtime_error("no reply within 2 s");
+        return FirmwareReply{false, quv::test::IdleTokens};
+    };
+    return {std::make_unique<FW_Dispenser>(pouringMachine()),
+            std::make_unique<ScriptedFirmware>(ScriptedFirmware::CodeScript(script), speed)};
+}
+
+constexpr int Never = 1000000;
+
+TEST_F(WaitingTest, aLinkThatComesBackIsWaitedFor)
+{
+    DrivenMachine machine = silentMachine(3, 1);
+    EXPECT_EQ(quv::waitUntil(stirsNoMore, machine, {}, m_ending), WaitEnd::Held);
+}
+
+TEST_F(WaitingTest, aLinkThatIsGoneFailsAfterHalfAMinuteOfTheMachine)
+{
+    constexpr double Speed = 1000;
+    DrivenMachine machine = silentMachine(Never, Speed);
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_THROW(quv::waitUntil(stirsNoMore, machine, {}, m_ending), std::runtime_error);
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, 30ms);
+}
+
+TEST_F(WaitingTest, whoStopsItDoesNotWaitForALostLink)
+{
+    DrivenMachine machine = silentMachine(Never, 1);
+    m_ending.begin();
+    EXPECT_EQ(quv::waitUntil(stirsNoMore, machine, {}, m_ending), WaitEnd::Stopped);
+    EXPECT_EQ(quv::askPatiently(machine, ProtoCommandList::GET_STATUS, 0, m_ending), std::nullopt);
+}
+
 TEST_F(WaitingTest, aMixersStatus)
 {
     // mask 1, bit 4: it mixes; then cycle, two digits of time, speed, force, two digits of height

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "machines/drivenmachine.h"
 
-#include <QuvFramework/fw_turntable.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -17,14 +15,6 @@ int familyOf(const FW_Machine &machine)
     return dispenser ? dispenser->commandFamily() : FW_Dispenser::CommandFamily1;
 }
 
-int firstTablePosition(const FW_Machine &machine)
-{
-    const auto *dispenser = dynamic_cast<const FW_Dispenser *>(&machine);
-    const FW_Device *device = dispenser ? dispenser->getDevice(FW_Device::Turntable) : nullptr;
-    const auto *table = dynamic_cast<const FW_Turntable *>(device);
-    return table ? table->positions().value(0) : 0;
-}
-
 } // namespace
 
 DrivenMachine::DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Firmware> firmware,
@@ -34,8 +24,7 @@ DrivenMachine::DrivenMachine(std::unique_ptr<FW_Machine> machine, std::unique_pt
       m_speed(firmware->speed()),
       m_abilities(std::move(abilities)),
       m_firmware(std::move(firmware)),
-      m_machine(std::move(machine)),
-      m_tablePosition(firstTablePosition(*m_machine))
+      m_machine(std::move(machine))
 {}
 
 FirmwareReply DrivenMachine::exchange(const QString &code, int module, const QList<int> &parameters)
@@ -81,18 +70,6 @@ void DrivenMachine::configure(const std::function<void(FW_Machine &)> &changes)
     std::unique_ptr<FW_Machine> changed(m_machine->clone());
     changes(*changed);
     m_machine = std::move(changed);
-}
-
-int DrivenMachine::tablePosition() const
-{
-    const Lock lock(m_state);
-    return m_tablePosition;
-}
-
-void DrivenMachine::setTablePosition(int position)
-{
-    const Lock lock(m_state);
-    m_tablePosition = position;
 }
 
 std::shared_ptr<Engagement> DrivenMachine::engage(const QString &command, Engages part, QString *other)

@@ -73,10 +73,6 @@ public:
     /// Changes the machine as a whole; when \a changes throws, it stays as it is.
     void configure(const std::function<void(FW_Machine &)> &changes);
 
-    /// The circuit at the dosing point of a machine with a turntable: the table's first, later the one poured last.
-    int tablePosition() const;
-    void setTablePosition(int position);
-
     /// Begins a procedure, which the machine is at until the result is gone; null while another one needs the same part, and
     /// \a other is then what that one carries out.
     std::shared_ptr<Engagement> engage(const QString &command, Engages part, QString *other = nullptr);
@@ -100,7 +96,6 @@ private:
 
     mutable std::mutex m_state{}; ///< guards what follows
     std::unique_ptr<FW_Machine> m_machine{};
-    int m_tablePosition = 0;
     std::vector<std::weak_ptr<Engagement>> m_engagements{};
     RunningPour m_pour{};
     RowKeys m_writtenRows{};

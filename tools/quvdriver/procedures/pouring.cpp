@@ -72,15 +72,6 @@ bool isToPour(const QString &name)
            name != ProtoCommandList::cmdStr(ProtoCommandList::AIRPURGE);
 }
 
-/// The circuit at the dosing point of a turntable: the last one, or the last that poured of a pour that was stopped. 0 for none.
-int lastReached(const GetDispensedFormulaAnswer &report)
-{
-    const QVector<FormulaItem> &items = report.dispensedFormula().items();
-    const auto poured =
-        std::find_if(items.rbegin(), items.rend(), [](const FormulaItem &item) { return item.quantity > 0; });
-    return poured == items.rend() ? 0 : poured->id.toInt();
-}
-
 FW_ErrorList lessThanAsked(const ProtoCommand &command, const GetDispensedFormulaAnswer &report)
 {
     FW_ErrorList errors;
@@ -129,18 +120,19 @@ bool waitForEndOfPour(const ProcedureRun &run)
 /// What is told of the report, which lowers the levels. \a isLess tells whether something was not poured.
 FW_ErrorList takePourFromLevels(const ProcedureRun &run, bool &isLess)
 {
-    const FirmwareReply reply = ask(run.machine, ProtoCommandList::GET_DISPENSED_FORMULA);
-    if (reply.refused)
+    const auto reply =
+        askPatiently(run.machine, ProtoCommandList::GET_DISPENSED_FORMULA, 0, run.isDriverGoing);
+    if (!reply)
+        run.requireToGoOn();
+    if (reply->refused)
         return levelsAsTheyWere(QStringLiteral("it refuses to"));
     try {
-        const GetDispensedFormulaAnswer report(reply.tokens);
+        const GetDispensedFormulaAnswer report(reply->tokens);
         const Formula &poured = report.dispensedFormula();
         run.machine.change([&poured](FW_Dispenser &dispenser) {
             for (const FormulaItem &item : poured.items())
                 takeSteps(dispenser, item);
         });
-        if (const int position = lastReached(report))
-            run.machine.setTablePosition(position);
         FW_ErrorList lacking = lessThanAsked(run.command, report);
         isLess = !lacking.isEmpty();
         return lacking;

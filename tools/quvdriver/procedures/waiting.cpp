@@ -1,56 +1,68 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "procedures/waiting.h"
 
-#include "requests/refusal.h"
-
 #include "status/dispenserstatusanswer.h"
 #include "status/mixerstatusanswer.h"
 
-#include <QuvFramework/fw_exception.h>
-
 #include <algorithm>
+#include <cmath>
 #include <memory>
+#include <stdexcept>
 
 namespace quv {
 namespace {
 
 using std::chrono::milliseconds;
 
-/// Null when the machine does not tell it.
-std::unique_ptr<const MachineStatusAnswer> statusOf(DrivenMachine &machine, int module)
+using Clock = std::chrono::steady_clock;
+
+constexpr milliseconds ShortestInterval{5};
+
+ProtoCommandList::CommandListValue statusQuestion(const DrivenMachine &machine)
 {
-    const bool isMixer = machine.type() == SerialDeviceType::Mixer;
-    const FirmwareReply reply =
-        ask(machine, isMixer ? ProtoCommandList::MIXER_STATUS : ProtoCommandList::GET_STATUS, module);
-    if (reply.refused)
-        return nullptr;
-    try {
-        if (isMixer)
-            return std::make_unique<MixerStatusAnswer>(reply.tokens);
-        return std::make_unique<DispenserStatusAnswer>(reply.tokens);
-    } catch (const FW_Exception &error) {
-        throw CallRefusal{InvalidSerialAnswer, FW_DriverError(error.code(), error.text())};
-    }
+    return machine.type() == SerialDeviceType::Mixer ? ProtoCommandList::MIXER_STATUS
+                                                     : ProtoCommandList::GET_STATUS;
+}
+
+/// Null when the machine does not tell it.
+std::unique_ptr<const MachineStatusAnswer> statusIn(const FirmwareReply &reply, const DrivenMachine &machine)
+{
+    if (machine.type() == SerialDeviceType::Mixer)
+        return told<MixerStatusAnswer>(reply);
+    return told<DispenserStatusAnswer>(reply);
 }
 
 } // namespace
 
-FirmwareReply ask(DrivenMachine &machine, ProtoCommandList::CommandListValue question, int module)
+std::optional<FirmwareReply> askPatiently(DrivenMachine &machine, ProtoCommandList::CommandListValue question,
+                                          int module, const Ending &ending)
 {
-    return machine.exchange(ProtoCommandList::cmdCode(ProtoCommandList::cmdStr(question), machine.family()),
-                            module, {});
+    constexpr double Patience = 30000; // milliseconds
+    const auto giveUp = Clock::now() + milliseconds(std::llround(Patience / machine.speed()));
+    while (true) {
+        try {
+            return ask(machine, question, module);
+        } catch (const std::runtime_error &) {
+            if (Clock::now() >= giveUp)
+                throw;
+        }
+        if (!ending.wait(ShortestInterval))
+            return std::nullopt;
+    }
 }
 
 WaitEnd waitUntil(const StatusCondition &condition, DrivenMachine &machine, const WaitRules &rules,
                   const Ending &ending)
 {
-    using Clock = std::chrono::steady_clock;
-    constexpr qint64 Shortest = 5;
-    constexpr qint64 Longest = 100;
-    const milliseconds interval(std::clamp(rules.expected / 50, Shortest, Longest));
+    constexpr milliseconds LongestInterval{100};
+    const milliseconds interval =
+        std::clamp(milliseconds(rules.expected / 50), ShortestInterval, LongestInterval);
     const auto begin = Clock::now();
     while (true) {
-        const auto status = statusOf(machine, rules.module);
+        const auto reply = askPatiently(machine, statusQuestion(machine), rules.module, ending);
+        if (!reply)
+            return WaitEnd::Stopped;
+        const auto status = statusIn(*reply, machine);
         if (!status)
             return WaitEnd::Untold;
         if (condition(*status))

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "machines/drivenmachine.h"
+#include "machines/questions.h"
 
 #include "ending.h"
 
-#include "catalogue/protocommandlist.h"
 #include "status/machinestatusanswer.h"
 
 #include <chrono>
@@ -14,8 +13,10 @@
 
 namespace quv {
 
-/// Asks the machine's firmware, or one of its modules, a question without parameters. \throws what an exchange throws
-FirmwareReply ask(DrivenMachine &machine, ProtoCommandList::CommandListValue question, int module = 0);
+/// Asks a machine that is at something, which goes on while its link is lost: again and again, until there is a reply. Nothing when
+/// the ending has begun. \throws what an exchange throws, when there has been none for half a minute of the machine's time
+std::optional<FirmwareReply> askPatiently(DrivenMachine &machine, ProtoCommandList::CommandListValue question,
+                                          int module, const Ending &ending);
 
 /// What is waited for: something about the status of a dispenser (DispenserStatusAnswer) or of a mixer (MixerStatusAnswer).
 using StatusCondition = std::function<bool(const MachineStatusAnswer &)>;

@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "requests/commandbuilder.h"
 
-#include "machines/drivenmachine.h"
+#include "machines/questions.h"
 #include "requests/amounts.h"
 #include "requests/lowlevels.h"
-#include "requests/refusal.h"
 
 #include "base/getcmdestimatedexectimecmd.h"
-#include "catalogue/protocommandlist.h"
 #include "dispensing/turntablepurgeformulacmd.h"
 #include "dispensing/turntabletintcmd.h"
 #include "machine/commandidcmd.h"
+#include "status/dispenserstatusanswer.h"
 #include "status/errornumcmd.h"
 #include "status/fwerrorcmd.h"
 
-#include <QuvFramework/fw_exception.h>
+#include <QuvFramework/fw_turntable.h>
 #include <QuvFramework/fw_xmlrpc.h>
 
 #include <cmath>
@@ -29,8 +28,16 @@ bool isNamed(const QString &name, Catalogue::CommandListValue value)
     return name == Catalogue::cmdStr(value);
 }
 
+/// The circuit at the dosing point, from which the table begins. The machine's first one while nobody can tell, as when it turns.
+int tablePosition(DrivenMachine &machine, const FW_Turntable &table)
+{
+    const auto status = told<DispenserStatusAnswer>(ask(machine, Catalogue::GET_STATUS));
+    return status && table.positions().contains(status->current_position_id) ? status->current_position_id
+                                                                             : table.positions().value(0);
+}
+
 std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcValue arguments,
-                                          const DrivenMachine *machine)
+                                          DrivenMachine *machine)
 {
     if (isNamed(name, Catalogue::TINT2)) {
         auto command = makeCommand(Catalogue::cmdStr(Catalogue::TINT), arguments, machine);
@@ -43,11 +50,14 @@ std::unique_ptr<ProtoCommand> makeCommand(const QString &name, XmlRpc::XmlRpcVal
         return std::make_unique<ErrorNumCmd>();
     const std::unique_ptr<FW_Machine> copy = machine ? machine->copy() : nullptr;
     const auto *dispenser = dynamic_cast<const FW_Dispenser *>(copy.get());
-    if (dispenser && dispenser->acceptCommands(FW_Device::Turntable)) {
+    const auto *table =
+        dispenser ? dynamic_cast<const FW_Turntable *>(dispenser->getDevice(FW_Device::Turntable)) : nullptr;
+    if (table && dispenser->acceptCommands(FW_Device::Turntable)) {
         if (isNamed(name, Catalogue::TINT))
-            return std::make_unique<TurntableTintCmd>(arguments, machine->tablePosition(), dispenser);
+            return std::make_unique<TurntableTintCmd>(arguments, tablePosition(*machine, *table), dispenser);
         if (isNamed(name, Catalogue::PURGE))
-            return std::make_unique<TurntablePurgeFormulaCmd>(arguments, machine->tablePosition(), dispenser);
+            return std::make_unique<TurntablePurgeFormulaCmd>(arguments, tablePosition(*machine, *table),
+                                                              dispenser);
     }
     return std::unique_ptr<ProtoCommand>(Catalogue::getProtoCommand(name, arguments, copy.get()));
 }
@@ -90,7 +100,7 @@ bool isPour(const QString &name)
 }
 
 std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
-                                           const DrivenMachine *machine)
+                                           DrivenMachine *machine)
 {
     try {
         auto command = makeCommand(name, arguments, machine);

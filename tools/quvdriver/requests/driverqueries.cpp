@@ -229,7 +229,7 @@ Answer setLevels(const ProtoCommand &command, const DriverKnowledge &knowledge)
 
 const Query *queryOf(const QString &name)
 {
-    static constexpr std::array<Query, 20> queries{{
+    static constexpr std::array<Query, 22> queries{{
         {Catalogue::GET_CMD_STATUS, false, commandStatus},
         {Catalogue::GET_CMD_EST_EXEC_TIME, false, estimate},
         {Catalogue::CHECK_FORMULA_LEVELS, true, checkLevels},
@@ -242,6 +242,8 @@ const Query *queryOf(const QString &name)
         {Catalogue::CERTIFY_SESSION, false, certifySession},
         {Catalogue::LOGOUT, false, logOut},
         {Catalogue::GET_ACTIVE_DISP, false, listMachines},
+        {Catalogue::GET_DISP_LIST, false, listDispensers},
+        {Catalogue::GET_MIXER_LIST, false, listMixers},
         {Catalogue::SET_ACTIVE_DISP, false, activateDispenser},
         {Catalogue::SET_ACTIVE_MACHINE, false, activateMachine},
         {Catalogue::GET_DISP_STATUS, true, dispenserStatus},

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "requests/machinequeries.h"
 
+#include "machines/questions.h"
 #include "requests/driverqueries.h"
-#include "requests/refusal.h"
 
-#include "catalogue/protocommandlist.h"
 #include "sessions/certifysessionanswer.h"
 #include "sessions/certifysessioncmd.h"
 #include "sessions/getkeyanswer.h"
@@ -21,10 +20,7 @@
 #include "status/mixerdriverstatusanswer.h"
 #include "status/mixerstatusanswer.h"
 
-#include <QuvFramework/fw_exception.h>
 #include <QuvFramework/fw_mixer.h>
-
-#include <optional>
 
 namespace quv {
 namespace {
@@ -42,30 +38,36 @@ Status statusOf(const DrivenMachine &machine, const DriverKnowledge &knowledge)
     return Status(dynamic_cast<const Machine &>(*copy), QString(), true, isActive(machine, knowledge));
 }
 
+template <class Status, class Machine>
+QList<Status> statusesOf(SerialDeviceType type, const DriverKnowledge &knowledge)
+{
+    QList<Status> statuses;
+    for (const auto &machine : knowledge.machines.all()) {
+        if (machine->type() == type)
+            statuses.append(statusOf<Status, Machine>(*machine, knowledge));
+    }
+    return statuses;
+}
+
+QList<DispenserStatus> dispensersOf(const DriverKnowledge &knowledge)
+{
+    return statusesOf<DispenserStatus, FW_Dispenser>(SerialDeviceType::Dispenser, knowledge);
+}
+
+QList<MixerStatus> mixersOf(const DriverKnowledge &knowledge)
+{
+    return statusesOf<MixerStatus, FW_Mixer>(SerialDeviceType::Mixer, knowledge);
+}
+
 std::unique_ptr<ProtoAnswer> plainAnswer()
 {
     return std::make_unique<ConfProtoAnswer>();
 }
 
-/// What the machine's firmware tells; nothing of one that refuses to.
-template <class Answer>
-std::optional<Answer> told(DrivenMachine &machine, ProtoCommandList::CommandListValue question, int module)
-{
-    const QString code = ProtoCommandList::cmdCode(ProtoCommandList::cmdStr(question), machine.family());
-    const FirmwareReply reply = machine.exchange(code, module, {});
-    if (reply.refused)
-        return std::nullopt;
-    try {
-        return Answer(reply.tokens);
-    } catch (const FW_Exception &error) {
-        throw CallRefusal{InvalidSerialAnswer, FW_DriverError(error.code(), error.text())};
-    }
-}
-
 template <class Answer, class Status, class Word>
-std::unique_ptr<ProtoAnswer> pairOf(const Status &status, const std::optional<Word> &word)
+std::unique_ptr<ProtoAnswer> pairOf(const Status &status, const std::unique_ptr<Word> &word)
 {
-    return std::make_unique<Answer>(&status, word ? &*word : nullptr);
+    return std::make_unique<Answer>(&status, word.get());
 }
 
 } // namespace
@@ -103,15 +105,18 @@ std::unique_ptr<ProtoAnswer> logOut(const ProtoCommand &command, const DriverKno
 
 std::unique_ptr<ProtoAnswer> listMachines(const ProtoCommand & /*command*/, const DriverKnowledge &knowledge)
 {
-    QList<DispenserStatus> dispensers;
-    QList<MixerStatus> mixers;
-    for (const auto &machine : knowledge.machines.all()) {
-        if (machine->type() == SerialDeviceType::Dispenser)
-            dispensers.append(statusOf<DispenserStatus, FW_Dispenser>(*machine, knowledge));
-        else
-            mixers.append(statusOf<MixerStatus, FW_Mixer>(*machine, knowledge));
-    }
-    return std::make_unique<GetActiveDispAnswer>(dispensers, mixers);
+    return std::make_unique<GetActiveDispAnswer>(dispensersOf(knowledge), mixersOf(knowledge));
+}
+
+std::unique_ptr<ProtoAnswer> listDispensers(const ProtoCommand & /*command*/,
+                                            const DriverKnowledge &knowledge)
+{
+    return std::make_unique<GetActiveDispAnswer>(dispensersOf(knowledge), QList<MixerStatus>());
+}
+
+std::unique_ptr<ProtoAnswer> listMixers(const ProtoCommand & /*command*/, const DriverKnowledge &knowledge)
+{
+    return std::make_unique<GetActiveDispAnswer>(QList<DispenserStatus>(), mixersOf(knowledge));
 }
 
 std::unique_ptr<ProtoAnswer> activateDispenser(const ProtoCommand &command, const DriverKnowledge &knowledge)
@@ -131,14 +136,15 @@ std::unique_ptr<ProtoAnswer> activateMachine(const ProtoCommand &command, const 
 std::unique_ptr<ProtoAnswer> dispenserStatus(const ProtoCommand &command, const DriverKnowledge &knowledge)
 {
     const int position = dynamic_cast<const DispenserDriverStatusCmd &>(command).positionID();
-    const auto word = told<DispenserStatusAnswer>(*knowledge.machine, ProtoCommandList::GET_STATUS, position);
+    const auto word =
+        told<DispenserStatusAnswer>(ask(*knowledge.machine, ProtoCommandList::GET_STATUS, position));
     return pairOf<DispenserDriverStatusAnswer>(
         statusOf<DispenserStatus, FW_Dispenser>(*knowledge.machine, knowledge), word);
 }
 
 std::unique_ptr<ProtoAnswer> mixerStatus(const ProtoCommand & /*command*/, const DriverKnowledge &knowledge)
 {
-    const auto word = told<MixerStatusAnswer>(*knowledge.machine, ProtoCommandList::MIXER_STATUS, 0);
+    const auto word = told<MixerStatusAnswer>(ask(*knowledge.machine, ProtoCommandList::MIXER_STATUS));
     return pairOf<MixerDriverStatusAnswer>(statusOf<MixerStatus, FW_Mixer>(*knowledge.machine, knowledge),
                                            word);
 }

@@ -19,6 +19,8 @@ std::unique_ptr<ProtoAnswer> certifySession(const ProtoCommand &command, const D
 std::unique_ptr<ProtoAnswer> logOut(const ProtoCommand &command, const DriverKnowledge &knowledge);
 
 std::unique_ptr<ProtoAnswer> listMachines(const ProtoCommand &command, const DriverKnowledge &knowledge);
+std::unique_ptr<ProtoAnswer> listDispensers(const ProtoCommand &command, const DriverKnowledge &knowledge);
+std::unique_ptr<ProtoAnswer> listMixers(const ProtoCommand &command, const DriverKnowledge &knowledge);
 std::unique_ptr<ProtoAnswer> activateDispenser(const ProtoCommand &command, const DriverKnowledge &knowledge);
 std::unique_ptr<ProtoAnswer> activateMachine(const ProtoCommand &command, const DriverKnowledge &knowledge);
 
