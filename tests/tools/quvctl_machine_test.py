@@ -410,6 +410,15 @@ class Processes(MachineTest):
                 self.done(driver, *words, "--no-wait", *self.QUICK)
             self.assertEqual(driver.orders(), [("", *each) for each in sent], words)
 
+    def test_a_mixers_plates(self):
+        for goal, action in [("open", 0), ("close", 1)]:
+            status = [mixer(), mixer(clamping=True), mixer(clamping=True), mixer()]
+            with FakeDriver(MIXER_STATUS=status, MIXER_PLATES=envelope(0)) as driver:
+                out = self.done(driver, "move", "plates", goal, *self.QUICK).splitlines()
+            self.assertEqual(driver.orders(), [("", "MIXER_PLATES", action, 60515, 245, 0)])
+            self.assertEqual(out[-1], "moved")
+            self.assertEqual(driver.names().count("MIXER_STATUS"), 4)
+
     def test_mixing(self):
         def cycle(kind, speed, force, duration):
             return {"cycle_type": kind, "mixing_speed": speed, "clamping_force": force, "duration": duration}
@@ -492,7 +501,8 @@ class Processes(MachineTest):
                 (["mix"], "mix needs TIME[@SPEED]..."),
                 (["move", "shelf", "up"], "move shelf up needs --height"),
                 (["move", "shelf", "left"], 'move shelf goes to up, down, not "left"'),
-                (["move", "door", "open"], 'move has shelf, table and cap, not "door"'),
+                (["move", "plates", "up"], 'move plates goes to open, close, not "up"'),
+                (["move", "door", "open"], 'move has shelf, table, cap and plates, not "door"'),
                 (["move", "cap", "open", "--height", "3"], "--height belongs to move shelf"),
                 (["move", "table", "300"], "a circuit's position is a number from 1 to 255")]:
             self.assertIn(text, self.wrong(*words, "--port", "1"), words)

@@ -74,6 +74,8 @@ FW_Circuit circuitOf(int id)
 
     FW_Circuit circuit(id, id);
     circuit.setDosingMotor(motor);
+    circuit.setStirringMotor(FW_StirringMotor());
+    circuit.setCleaningMotor(FW_CleaningMotor());
     circuit.setValves({valve});
     circuit.setCalibration(calibrationOf(id));
     return circuit;

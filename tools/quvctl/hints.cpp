@@ -18,7 +18,7 @@ struct Hint
     const char *text;
 };
 
-constexpr char lowLevels[] = "fill the canister and tell the driver by SET_LEVELS, or pour what there is "
+constexpr char lowLevels[] = "fill the canister and tell the driver by quvctl refill, or pour what there is "
                              "with quvctl tint --levels-check off";
 constexpr char otherAmounts[] = "quvctl tint --force pours the nearest amounts, and leaves out those of 0";
 
@@ -37,7 +37,8 @@ constexpr Hint hints[] = {
     {"DE03112", "quvctl call GET_STATUS tells when it has ended"},
     {"DE03140", otherAmounts},
     {"DE03141", otherAmounts},
-    {"DE03142", "the canister is empty, or holds less than the driver believes; SET_LEVELS tells a refill"},
+    {"DE03142", "the canister is empty, or holds less than the driver believes; quvctl refill tells it what "
+                "was filled in"},
 };
 
 } // namespace
@@ -52,11 +53,14 @@ QString hintFor(const QString &code)
 
 QStringList errorLines(const XmlRpcAnswer &envelope)
 {
+    const auto codeOf = [](const QString &error) { return error.section(QLatin1Char(':'), 0, 0); };
     QStringList lines;
     const QStringList errors = envelope.toPrintableString().mid(1); // behind the formality
+    const bool isStoppedPour = codeOf(errors.value(0)) == QLatin1String("DE03411");
     for (int i = 0; i < errors.size(); ++i) {
-        const auto hintOf = [&errors](int index) {
-            return hintFor(errors.value(index).section(QLatin1Char(':'), 0, 0));
+        const auto hintOf = [&](int index) {
+            // what a stopped pour lacks is no sign of an empty canister
+            return isStoppedPour ? QString() : hintFor(codeOf(errors.value(index)));
         };
         lines.append(errors[i]);
         if (const QString hint = hintOf(i); !hint.isEmpty() && hint != hintOf(i + 1))

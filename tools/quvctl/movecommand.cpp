@@ -5,10 +5,12 @@
 #include "suggestions.h"
 
 #include "processes/autocapcmd.h"
+#include "processes/mixerplatescmd.h"
 #include "processes/shelfcmd.h"
 #include "processes/turntablemovecmd.h"
 #include "processes/turntablemovetorefillcmd.h"
 #include "status/dispenserstatusanswer.h"
+#include "status/mixerstatusanswer.h"
 
 namespace quv {
 
@@ -18,6 +20,7 @@ struct Movement
 {
     std::unique_ptr<ProtoCommand> command{};
     MachineProcess process{};
+    SerialDeviceType machine = SerialDeviceType::Dispenser;
 };
 
 [[noreturn]] void refuseGoal(const QString &part, const QString &word, const QStringList &goals)
@@ -89,6 +92,22 @@ Movement tableMovement(const QString &goal, const CommandLine &line)
                     QStringLiteral("moving the table to circuit %1").arg(position), isMoving);
 }
 
+Movement platesMovement(const QString &goal)
+{
+    constexpr auto openPlates = MixerPlatesCmd::MixerPlatesAction(0);
+    constexpr auto closePlates = MixerPlatesCmd::MixerPlatesAction(1);
+    const bool isOpening = goal == QLatin1String("open");
+    if (!isOpening && goal != QLatin1String("close"))
+        refuseGoal(QStringLiteral("plates"), goal, {QStringLiteral("open"), QStringLiteral("close")});
+    Movement moved =
+        movement(std::make_unique<MixerPlatesCmd>(isOpening ? openPlates : closePlates,
+                                                  MixerPlatesCmd::endless, MixerPlatesCmd::configSpeed, 0),
+                 isOpening ? QStringLiteral("opening the plates") : QStringLiteral("closing the plates"),
+                 anyOf({&MixerStatusAnswer::clamping}));
+    moved.machine = SerialDeviceType::Mixer;
+    return moved;
+}
+
 Movement movementOf(const CommandLine &line)
 {
     const QString part = line.words()[0];
@@ -103,8 +122,11 @@ Movement movementOf(const CommandLine &line)
         return tableMovement(goal, line);
     if (part == QLatin1String("cap"))
         return capMovement(goal);
-    const QStringList parts = {QStringLiteral("shelf"), QStringLiteral("table"), QStringLiteral("cap")};
-    throw UsageError(QStringLiteral("move has shelf, table and cap, not \"%1\"%2")
+    if (part == QLatin1String("plates"))
+        return platesMovement(goal);
+    const QStringList parts = {QStringLiteral("shelf"), QStringLiteral("table"), QStringLiteral("cap"),
+                               QStringLiteral("plates")};
+    throw UsageError(QStringLiteral("move has shelf, table, cap and plates, not \"%1\"%2")
                          .arg(excerpt(part), didYouMean(part, parts)));
 }
 
@@ -114,7 +136,7 @@ ExitStatus run(const CommandLine &line)
     const Driver driver(line);
     ProtoCommands commands;
     commands.push_back(std::move(moved.command));
-    StatusQuestion question(driver, SerialDeviceType::Dispenser);
+    StatusQuestion question(driver, moved.machine);
     return carryOutProcess(driver, question, commands, moved.process, line);
 }
 
@@ -122,11 +144,13 @@ ExitStatus run(const CommandLine &line)
 
 const Subcommand moveSubcommand = {
     "move",
-    "shelf|table|cap WHERE",
+    "shelf|table|cap|plates WHERE",
     "moves a part of the machine",
     "move shelf up --height 300, move shelf down, move cap open, move cap close, move table reference, and\n"
-    "move table 5, which brings the circuit at this position to the nozzles. Waits for the end; Ctrl-C ends\n"
-    "the waiting, and a second one within 2 seconds stops the machine.",
+    "move table 5, which brings the circuit at this position to the nozzles; of a can mixer move plates "
+    "open\n"
+    "and move plates close. Waits for the end; Ctrl-C ends the waiting, and a second one within 2 seconds\n"
+    "stops the machine.",
     2,
     2,
     withProcessOptions(
