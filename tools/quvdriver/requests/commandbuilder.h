@@ -24,6 +24,6 @@ std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::Xm
                                            DrivenMachine *machine);
 
 /// Milliseconds that the command should take on \a machine, a faster one taking less; 0 or less when nobody knows.
-qint64 estimatedTime(const ProtoCommand &command, DrivenMachine *machine);
+qint64 estimatedTime(const ProtoCommand &command, const DrivenMachine *machine);
 
 } // namespace quv
