@@ -72,7 +72,7 @@ class BatchTest(unittest.TestCase):
 
     def send(self, line):
         """The reply line to a line of bytes."""
-        watchdog = threading.Timer(30, self.process.kill)
+        watchdog = threading.Timer(120, self.process.kill)  # 16 MiB take their time under sanitizers
         watchdog.start()
         self.process.stdin.write(line + b"\n")
         self.process.stdin.flush()
