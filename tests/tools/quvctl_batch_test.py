@@ -691,7 +691,9 @@ class Series(BatchTest):
         self.assertEqual(reply["commands"][-1], {"request": ["RESET", 0], "code": "0001", "module": 0, "serial": []})
 
     def test_stirring(self):
-        self.series({"ok": True, "commands": []}, name="STIR_ALL", args=[30], machine="dispenser")
+        commands = [{"request": ["STIRRING", position, 30, False], "code": "0004", "module": position, "serial": [30, 0, 0]}
+                    for position in range(1, 17)]
+        self.series({"ok": True, "commands": commands}, name="STIR_ALL", args=[30], machine="dispenser")
 
     def test_refusals(self):
         self.series(refused("DE01865", "AutotestCmd: invalid autotest cycles value",

@@ -617,7 +617,7 @@ class Simulated(ConfigTest):
         return self.content()
 
     def test_a_pull_then_a_push_changes_nothing(self):
-        for machine, rows in [("dispenser", 34), ("turntable", 26), ("dual", 34), ("mixer", 2)]:
+        for machine, rows in [("dispenser", 50), ("turntable", 34), ("dual", 50), ("mixer", 2)]:
             for age in ["older", "equal", "newer"]:
                 with quvdriver_process.Driver("--machine", machine, "--firmware", age) as driver:
                     code, out, err = self.config(driver, "pull")

@@ -417,7 +417,7 @@ class Processes(MachineTest):
                 out = self.done(driver, "move", "plates", goal, *self.QUICK).splitlines()
             self.assertEqual(driver.orders(), [("", "MIXER_PLATES", action, 60515, 245, 0)])
             self.assertEqual(out[-1], "moved")
-            self.assertEqual(driver.names().count("MIXER_STATUS"), 4)
+            self.assertGreaterEqual(driver.names().count("MIXER_STATUS"), 4)
 
     def test_mixing(self):
         def cycle(kind, speed, force, duration):
