@@ -3,6 +3,7 @@
 
 #include <bitset>
 #include <initializer_list>
+#include <optional>
 
 namespace quv {
 
@@ -49,6 +50,13 @@ public:
     bool isEmpty() const { return m_bits.none(); }
     bool has(Process process) const { return m_bits.test(static_cast<std::size_t>(process)); }
     bool hasAny(ProcessSet others) const { return (m_bits & others.m_bits).any(); }
+    std::optional<Process> first() const
+    {
+        for (std::size_t bit = 0; bit < m_bits.size(); ++bit)
+            if (m_bits.test(bit))
+                return static_cast<Process>(bit);
+        return std::nullopt;
+    }
     ProcessSet without(ProcessSet others) const
     {
         ProcessSet set = *this;

@@ -11,6 +11,45 @@
 namespace quv {
 namespace {
 
+QString gerundOf(Process process)
+{
+    switch (process) {
+    case Process::Resetting:
+        return QStringLiteral("resetting");
+    case Process::Finalising:
+        return QStringLiteral("writing its configuration");
+    case Process::Pouring:
+        return QStringLiteral("pouring");
+    case Process::Stirring:
+        return QStringLiteral("stirring");
+    case Process::Recirculating:
+        return QStringLiteral("recirculating");
+    case Process::Cleaning:
+        return QStringLiteral("cleaning");
+    case Process::MovingShelf:
+        return QStringLiteral("moving its shelf");
+    case Process::MovingTurntable:
+        return QStringLiteral("turning its table");
+    case Process::MovingCap:
+        return QStringLiteral("moving its cap");
+    case Process::MovingStation:
+        return QStringLiteral("moving its capping station");
+    case Process::MovingPlates:
+        return QStringLiteral("moving its plates");
+    case Process::Mixing:
+        return QStringLiteral("mixing");
+    case Process::UpdatingBoards:
+        return QStringLiteral("updating its boards");
+    }
+    return {};
+}
+
+Obstacle obstacleOf(const FirmwarePart &part)
+{
+    const auto process = part.atWork().first();
+    return {part.obstacle(), process ? QStringLiteral("the machine is ") + gerundOf(*process) : QString()};
+}
+
 /// What so many steps pour; nothing when the circuit's calibration cannot tell.
 std::optional<double> quantityOfSteps(const FW_Circuit &circuit, qint64 steps)
 {
@@ -97,13 +136,32 @@ bool SimulatedMachine::isAt(ProcessSet processes) const
                        [processes](const auto &part) { return part->atWork().hasAny(processes); });
 }
 
-std::optional<Reason> SimulatedMachine::obstacle(Process process) const
+std::optional<Obstacle> SimulatedMachine::obstacle(Process process) const
 {
-    if (isHeld() || (m_faults.doorOpen && processesInReach().has(process)))
-        return Reason::NotAvailable;
+    if (const auto byHand = obstacleByHand(process))
+        return byHand;
     for (const auto &part : m_parts)
         if (part->excluded().has(process))
-            return part->obstacle();
+            return obstacleOf(*part);
+    return std::nullopt;
+}
+
+std::optional<Obstacle> SimulatedMachine::obstacleByHand(Process process) const
+{
+    if (m_faults.emergencyPressed)
+        return Obstacle{Reason::NotAvailable, QStringLiteral("the emergency button is pressed")};
+    if (m_faults.offlinePressed)
+        return Obstacle{Reason::NotAvailable, QStringLiteral("the offline button is pressed")};
+    if (m_faults.doorOpen && processesInReach().has(process))
+        return Obstacle{Reason::NotAvailable, QStringLiteral("the door is open")};
+    return std::nullopt;
+}
+
+std::optional<Obstacle> SimulatedMachine::obstacleByWork(ProcessSet processes) const
+{
+    for (const auto &part : m_parts)
+        if (part->atWork().hasAny(processes))
+            return obstacleOf(*part);
     return std::nullopt;
 }
 

@@ -77,9 +77,12 @@ public:
     bool isHeld() const { return m_faults.emergencyPressed || m_faults.offlinePressed; }
     /// Whether a part is at one of the processes.
     bool isAt(ProcessSet processes) const;
-    /// Why it cannot begin now: something that a part is at excludes it, or somebody has pressed a button or opened the door
-    /// against it. Nothing when it can.
-    std::optional<Reason> obstacle(Process process) const;
+    /// Why it cannot begin now: something that a part is at excludes it, or what somebody has done by hand. Nothing when it can.
+    std::optional<Obstacle> obstacle(Process process) const;
+    /// That of a button that is pressed, or of the door when it is open, alone.
+    std::optional<Obstacle> obstacleByHand(Process process) const;
+    /// That of the machine being at one of these processes. Nothing when it is at none.
+    std::optional<Obstacle> obstacleByWork(ProcessSet processes) const;
     bool mayBegin(Process process) const { return !obstacle(process); }
     /// Tells all parts that the pumps of these circuits are needed.
     void giveWay(const QList<int> &positions);

@@ -17,8 +17,19 @@ enum class Reason {
     WrongWorkingMode = 12,
 };
 
+/// What stands in the way of a command, also in words for people.
+struct Obstacle
+{
+    Reason reason = Reason::NotAvailable;
+    QString text{};
+};
+
 /// \a text tells people more than the bit does.
 FirmwareReply refused(Reason reason, const QString &text = {});
+inline FirmwareReply refused(const Obstacle &obstacle)
+{
+    return refused(obstacle.reason, obstacle.text);
+}
 /// The reply of a command with these numbers.
 FirmwareReply replied(const QList<int> &numbers);
 /// The reply of a command that tells nothing.

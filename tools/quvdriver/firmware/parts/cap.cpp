@@ -86,8 +86,8 @@ FirmwareReply Cap::move(const QList<int> &parameters)
     const int movement = reader.next(Close, isZandor ? LastMovementOfZandor : LastMovement);
     if (!reader.isGood() || !reader.atEnd())
         return refused(Reason::WrongParameters);
-    if (!m_machine.mayBegin(Process::MovingCap))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::MovingCap))
+        return refused(*obstacle);
     m_from = placeNow();
     if (movement == Close)
         m_to = Place::Closed;

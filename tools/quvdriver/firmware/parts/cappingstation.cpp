@@ -218,8 +218,8 @@ FirmwareReply CappingStation::beginCycle(const QList<int> &parameters)
     reader.next(0, WireBase - 1); // nothing of a simulated cycle depends on it
     if (!reader.isGood() || !reader.atEnd())
         return refused(Reason::WrongParameters);
-    if (!m_machine.mayBegin(Process::MovingStation))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::MovingStation))
+        return refused(*obstacle);
     goOn();
     if (cycle == HomeCycle) {
         add(Activity::GoingHome, HomingTime);
@@ -250,8 +250,8 @@ FirmwareReply CappingStation::moveActuator(const QList<int> &parameters)
         reader.nextCounted(1);
     if (!reader.isGood() || !reader.atEnd() || (operation > GoToWork && operation != NoOperation))
         return refused(Reason::WrongParameters);
-    if (!m_machine.mayBegin(Process::MovingStation))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::MovingStation))
+        return refused(*obstacle);
     goOn();
     addMove(actuator, operation == GoToWork ? Place::Working : Place::Home);
     return begun();
@@ -267,8 +267,8 @@ FirmwareReply CappingStation::beginProcedure(const QList<int> &parameters)
     const bool isKnown = procedure == GearmotorProcedure || procedure == LateProcedure;
     if (!reader.isGood() || !reader.atEnd() || !isKnown)
         return refused(Reason::WrongParameters);
-    if (!m_machine.mayBegin(Process::MovingStation))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::MovingStation))
+        return refused(*obstacle);
     goOn();
     add(Activity::Calibrating, Duration);
     return begun();

@@ -46,10 +46,10 @@ FirmwareReply CircuitMotors::begin(int module, bool isBusy, const EndOf &endOf)
         return refused(*obstacle);
     const QList<int> positions = addressed(module);
     if (positions.isEmpty())
-        return refused(module == 0 ? Reason::NotAvailable : Reason::WrongModule);
+        return module == 0 ? refused(Reason::NotAvailable, m_kind.lack) : refused(Reason::WrongModule);
     const bool areAll = movesAll(module);
     if (!areAll && !hasPlaceFor(module))
-        return refused(Reason::NotAvailable);
+        return refused(Reason::NotAvailable, m_kind.limit.arg(parallelism()));
     QList<qint64> ends;
     for (const int position : positions) {
         const auto moment = endOf(*m_machine.circuitAt(position));

@@ -34,6 +34,8 @@ protected:
         CircuitProcess number{};
         TimedProcess timed{};
         int statusBit = 0; ///< in the first word
+        QString lack{};    ///< of a machine without a motor for it, in words
+        QString limit{};   ///< of one where as many motors turn as it can, with a place for their number
     };
 
     /// When a circuit that begins now ends; nothing when that cannot be known.

@@ -11,6 +11,16 @@
 #include <utility>
 
 namespace quv {
+namespace {
+
+FirmwareReply refusedWithoutMotor(int module)
+{
+    return module == 0
+               ? refused(Reason::NotAvailable, QStringLiteral("the machine has no cleaning motors"))
+               : refused(Reason::WrongModule);
+}
+
+} // namespace
 
 std::vector<FirmwareCode> Cleaning::codes()
 {
@@ -104,10 +114,10 @@ FirmwareReply Cleaning::clean(int module, const QList<int> &parameters)
     if (seconds == 0)
         return end(module);
     if (type == ByBrush && !hasDevice(FW_Device::Brush) && !hasDevice(FW_Device::Brush2))
-        return refused(Reason::NotAvailable);
+        return refused(Reason::NotAvailable, QStringLiteral("the machine has no enabled brush"));
     const QList<int> cleaned = type == ByBrush ? positions(module) : positionsOfMotors(module);
     if (cleaned.isEmpty())
-        return refused(module == 0 ? Reason::NotAvailable : Reason::WrongModule);
+        return refusedWithoutMotor(module);
     Stage stage{Phase::Brushing, cleaned, seconds * MillisecondsOfSecond};
     stage.isEndless = seconds == EndlessDuration;
     return begin({stage}, isBusy);
@@ -126,12 +136,14 @@ FirmwareReply Cleaning::cleanNozzles(int module, const QList<int> &parameters)
     const bool hasBath = hasDevice(FW_Device::UltrasoundCleaning);
     const bool hasBrush = hasDevice(FW_Device::Brush);
     if (!hasBath && !hasBrush && !hasRinsingCap())
-        return refused(Reason::NotAvailable);
+        return refused(
+            Reason::NotAvailable,
+            QStringLiteral("the machine has no enabled ultrasound bath, brush or cap that rinses"));
     std::vector<Stage> stages = hasBath    ? fullBath()
                                 : hasBrush ? nozzleByNozzle(module, seconds)
                                            : rinsing(module, seconds);
     if (stages.empty())
-        return refused(module == 0 ? Reason::NotAvailable : Reason::WrongModule);
+        return refusedWithoutMotor(module);
     FirmwareReply reply = begin(std::move(stages), true);
     m_isOfNozzles = m_isOfNozzles || !reply.refused;
     return reply;
@@ -152,7 +164,7 @@ FirmwareReply Cleaning::useBath(const QList<int> &parameters)
     const auto *bath = dynamic_cast<const FW_UltrasoundCleaning *>(
         m_machine.dispenser().getDevice(FW_Device::UltrasoundCleaning));
     if (!bath || !bath->isEnabled())
-        return refused(Reason::NotAvailable);
+        return refused(Reason::NotAvailable, QStringLiteral("the machine has no enabled ultrasound bath"));
     if (number == 0)
         return end(0);
     std::vector<Stage> stages = fullBath();

@@ -157,9 +157,11 @@ bool Mixer::mayBegin(Process process) const
     return !m_isTurned && m_machine.mayBegin(process);
 }
 
-FirmwareReply Mixer::refusedToBegin() const
+FirmwareReply Mixer::refusedToBegin(Process process) const
 {
-    return refused(Reason::NotAvailable, m_isTurned ? QStringLiteral("the mixer must be reset") : QString());
+    const auto obstacle = m_machine.obstacle(process);
+    return obstacle ? refused(*obstacle)
+                    : refused(Reason::NotAvailable, QStringLiteral("the mixer must be reset"));
 }
 
 FirmwareReply Mixer::movePlates(const QList<int> &parameters)
@@ -181,7 +183,7 @@ FirmwareReply Mixer::movePlates(const QList<int> &parameters)
         return begun();
     }
     if (!mayBegin(Process::MovingPlates))
-        return refusedToBegin();
+        return refusedToBegin(Process::MovingPlates);
     goOn();
     m_isMix = false;
     m_isInterrupted = false;
@@ -242,7 +244,7 @@ FirmwareReply Mixer::mix(const QList<int> &parameters)
     if (!reader.isGood() || !reader.atEnd())
         return refused(Reason::WrongParameters);
     if (!mayBegin(Process::Mixing))
-        return refusedToBegin();
+        return refusedToBegin(Process::Mixing);
     goOn();
     m_isMix = true;
     m_isInterrupted = false;

@@ -37,7 +37,7 @@ private:
     FirmwareReply movePlates(const QList<int> &parameters);
     FirmwareReply mix(const QList<int> &parameters);
     FirmwareReply tell(int module) const;
-    FirmwareReply refusedToBegin() const;
+    FirmwareReply refusedToBegin(Process process) const;
     bool mayBegin(Process process) const;
 
     void add(Step step, double milliseconds);

@@ -48,8 +48,8 @@ ProcessSet Rows::atWork() const
 
 FirmwareReply Rows::write(const QList<int> &parameters)
 {
-    if (!atWork().isEmpty())
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacleByWork({Process::Finalising}))
+        return refused(*obstacle);
     switch (m_rows.write(parameters)) {
     case RowStore::Outcome::FieldOutOfRange:
         m_machine.raise({FieldOutOfRangeError, 0, RaisedError::Kind::Configuration,
@@ -77,8 +77,8 @@ FirmwareReply Rows::read(const QList<int> &parameters) const
 FirmwareReply Rows::finalise()
 {
     constexpr double Duration = 3000; // milliseconds
-    if (!m_machine.mayBegin(Process::Finalising))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::Finalising))
+        return refused(*obstacle);
     try {
         if (m_state)
             m_state->keep(m_machine.type(), m_rows.rows(), m_stateID);

@@ -112,8 +112,8 @@ FirmwareReply Shelf::move(const QList<int> &parameters)
         return refused(Reason::WrongParameters);
     if (type == ToCan && height > HighShelf)
         return refused(Reason::FieldOutOfRange);
-    if (!m_machine.mayBegin(Process::MovingShelf))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::MovingShelf))
+        return refused(*obstacle);
     begin(type == ToCan ? height : LowShelf, m_machine.endOf(Duration));
     return begun();
 }

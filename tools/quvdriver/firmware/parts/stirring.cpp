@@ -6,7 +6,9 @@
 namespace quv {
 
 Stirring::Stirring(SimulatedMachine &machine)
-    : CircuitMotors(machine, {Process::Stirring, CircuitProcess::Stirring, TimedProcess::Stirring, 4})
+    : CircuitMotors(machine, {Process::Stirring, CircuitProcess::Stirring, TimedProcess::Stirring, 4,
+                              QStringLiteral("no circuit has an enabled stirring motor"),
+                              QStringLiteral("no more circuits than %1 are stirred at once")})
 {}
 
 std::vector<FirmwareCode> Stirring::codes()

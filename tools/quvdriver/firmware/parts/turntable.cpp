@@ -115,8 +115,8 @@ FirmwareReply Turntable::move(int module, const QList<int> &parameters)
     const auto place = type == TableReference ? 0 : table->placeOf(module);
     if (!place)
         return refused(Reason::WrongModule);
-    if (!m_machine.mayBegin(Process::MovingTurntable))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::MovingTurntable))
+        return refused(*obstacle);
     m_unlocksRollbar = type != WithoutRollbar;
     double way = table->wayTo(*place, direction);
     const bool isRefill = angle > 0 && type != TableReference;
@@ -144,8 +144,8 @@ FirmwareReply Turntable::moveSteps(const QList<int> &parameters)
     const double way = table->placesOf(double(steps));
     if (way > table->round())
         return refused(Reason::FieldOutOfRange);
-    if (!m_machine.mayBegin(Process::MovingTurntable))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::MovingTurntable))
+        return refused(*obstacle);
     m_unlocksRollbar = true;
     table->move(direction == Table::CounterClockwise ? -way : way, double(m_machine.now()), speed);
     return begun();

@@ -69,8 +69,9 @@ FirmwareReply WorkingMode::set(const QList<int> &parameters)
     if (holds)
         return hold(mask, seconds);
     if (mode != NoMode) {
-        if (mode != NormalMode && m_machine.isAt({Process::Pouring}))
-            return refused(Reason::NotAvailable);
+        const auto obstacle = m_machine.obstacleByWork({Process::Pouring});
+        if (mode != NormalMode && obstacle)
+            return refused(*obstacle);
         enter(mode);
     }
     return replied({m_mode});
