@@ -22,6 +22,7 @@ enum class Process {
     MovingPlates,  ///< of a mixer
     Mixing,
     UpdatingBoards,
+    ReadingLevels,
 };
 
 /// Any number of processes.
@@ -65,7 +66,7 @@ public:
     }
 
 private:
-    std::bitset<static_cast<std::size_t>(Process::UpdatingBoards) + 1> m_bits{};
+    std::bitset<static_cast<std::size_t>(Process::ReadingLevels) + 1> m_bits{};
 };
 
 } // namespace quv

@@ -40,6 +40,8 @@ QString gerundOf(Process process)
         return QStringLiteral("mixing");
     case Process::UpdatingBoards:
         return QStringLiteral("updating its boards");
+    case Process::ReadingLevels:
+        return QStringLiteral("reading its level sensors");
     }
     return {};
 }

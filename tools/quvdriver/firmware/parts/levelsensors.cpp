@@ -55,17 +55,22 @@ void LevelSensors::tellStatus(StatusWords &status, int /*module*/) const
     status.words.set(10, 3, isReading());
 }
 
+ProcessSet LevelSensors::atWork() const
+{
+    return isReading() ? ProcessSet{Process::ReadingLevels} : ProcessSet();
+}
+
 /// A level that sinks tells nothing.
 ProcessSet LevelSensors::excluded() const
 {
-    return isReading() ? ProcessSet{Process::Pouring} : ProcessSet();
+    return isReading() ? ProcessSet{Process::ReadingLevels, Process::Pouring} : ProcessSet();
 }
 
 FirmwareReply LevelSensors::read(const QList<int> &parameters)
 {
     constexpr double TimeOfReading = 8000; // of as many sensors as circuits pour at once
-    if (isReading() || m_machine.isAt({Process::Pouring}))
-        return refused(Reason::NotAvailable);
+    if (const auto obstacle = m_machine.obstacle(Process::ReadingLevels))
+        return refused(*obstacle);
     if (parameters.value(0, -1) != 0)
         return refused(Reason::WrongParameters);
     const QList<int> asked = parameters.mid(1);

@@ -13,6 +13,7 @@ public:
 
     std::vector<FirmwareCode> codes() override;
     void tellStatus(StatusWords &status, int module) const override;
+    ProcessSet atWork() const override;
     ProcessSet excluded() const override;
     void stop() override { m_end = m_machine.now(); }
 
