@@ -177,7 +177,7 @@ bool SimulatedMachine::isDue(TimedProcess process, const Rhythm &rhythm, qint64 
 {
     if (!m_timed.has(process) || rhythm.activity <= 0)
         return false;
-    const double elapsed = double(now() - std::max(since, m_timed.since)) * m_speed;
+    const double elapsed = double(now() - std::max(since, m_timed.since(process))) * m_speed;
     return std::fmod(elapsed, rhythm.pause + rhythm.activity) >= rhythm.pause;
 }
 

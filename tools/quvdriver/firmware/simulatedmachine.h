@@ -90,7 +90,8 @@ public:
     /// What goes on by itself.
     const TimedProcesses &timed() const { return m_timed; }
     TimedProcesses &timed() { return m_timed; }
-    /// Whether a timed process is at work now, when it last began to rest at the moment \a since, or later when all did.
+    /// Whether a timed process is at work now, when it last began to rest at the moment \a since, or later when it did so at
+    /// all circuits.
     bool isDue(TimedProcess process, const Rhythm &rhythm, qint64 since) const;
     /// Whether the board at an address, which a circuit has by its position, refuses what it is told.
     bool refuses(int board) const { return m_faults.refusingBoards.contains(board); }

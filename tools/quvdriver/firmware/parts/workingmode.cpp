@@ -52,7 +52,7 @@ void WorkingMode::goOn()
 
 void WorkingMode::stop()
 {
-    follow(m_machine.now());
+    m_machine.timed().beginAnew(m_machine.now());
 }
 
 FirmwareReply WorkingMode::set(const QList<int> &parameters)
@@ -101,7 +101,7 @@ void WorkingMode::enter(int mode)
 void WorkingMode::follow(qint64 moment)
 {
     const int going = isReserved() ? 0 : m_mode == HoldingMode ? m_enabled & ~m_held : m_enabled;
-    m_machine.timed() = {going, moment};
+    m_machine.timed().follow(going, moment);
 }
 
 bool WorkingMode::isReserved() const
