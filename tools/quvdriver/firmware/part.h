@@ -49,7 +49,7 @@ public:
     /// The circuits engaged in a process by its number.
     virtual std::vector<ActiveCircuit> activeCircuits(int /*process*/) const { return {}; }
 
-    /// What it is at.
+    /// What it is at because it was told to, until that ends. What goes on by itself again and again is nothing to others.
     virtual ProcessSet atWork() const { return {}; }
     /// What cannot begin now: anything while it is at work, unless it says otherwise.
     virtual ProcessSet excluded() const { return atWork().isEmpty() ? ProcessSet() : ProcessSet::all(); }
@@ -59,6 +59,8 @@ public:
     /// The pumps of these circuits are about to be moved by another part.
     virtual void giveWay(const QList<int> & /*positions*/) {}
 
+    /// Called before the parts go on, while they all still know what has ended since they last did.
+    virtual void lookBack() {}
     /// What has come about since it was last called, by the machine's clock. Called before each command.
     virtual void goOn() {}
     /// Ends what runs, at this moment.

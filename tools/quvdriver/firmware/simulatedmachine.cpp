@@ -121,6 +121,8 @@ void SimulatedMachine::goOn()
 void SimulatedMachine::letPartsGoOn()
 {
     for (const auto &part : m_parts)
+        part->lookBack();
+    for (const auto &part : m_parts)
         part->goOn();
 }
 
@@ -136,6 +138,21 @@ bool SimulatedMachine::isAt(ProcessSet processes) const
 {
     return std::any_of(m_parts.begin(), m_parts.end(),
                        [processes](const auto &part) { return part->atWork().hasAny(processes); });
+}
+
+qint64 SimulatedMachine::endOfWork(qint64 from, qint64 until)
+{
+    const auto moment = m_moment;
+    while (from < until) { // work that has ended does not begin again by itself
+        const qint64 middle = from + (until - from) / 2;
+        m_moment = middle;
+        if (isAt(ProcessSet::all()))
+            from = middle + 1;
+        else
+            until = middle;
+    }
+    m_moment = moment;
+    return from;
 }
 
 std::optional<Obstacle> SimulatedMachine::obstacle(Process process) const

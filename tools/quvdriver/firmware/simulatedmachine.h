@@ -77,6 +77,9 @@ public:
     bool isHeld() const { return m_faults.emergencyPressed || m_faults.offlinePressed; }
     /// Whether a part is at one of the processes.
     bool isAt(ProcessSet processes) const;
+    /// Since when it rests: the first moment between the two, at \a until at the latest, at which no part is at work. Asked for
+    /// a time in which nothing began, before the parts go on.
+    qint64 endOfWork(qint64 from, qint64 until);
     /// Why it cannot begin now: something that a part is at excludes it, or what somebody has done by hand. Nothing when it can.
     std::optional<Obstacle> obstacle(Process process) const;
     /// That of a button that is pressed, or of the door when it is open, alone.

@@ -21,7 +21,7 @@ std::vector<ActiveCircuit> CircuitMotors::activeCircuits(int process) const
 
 ProcessSet CircuitMotors::atWork() const
 {
-    return turning().isEmpty() ? ProcessSet() : ProcessSet{m_kind.process};
+    return m_runs.turning(m_machine.now()).isEmpty() ? ProcessSet() : ProcessSet{m_kind.process};
 }
 
 ProcessSet CircuitMotors::excluded() const

@@ -37,16 +37,14 @@ std::vector<FirmwareCode> Sensors::codes()
              true}};
 }
 
-/// Work warms the machine, from when it was first seen at it until it was seen at rest.
-void Sensors::goOn()
+/// Work warms the machine, and then it cools, whether somebody looks or not.
+void Sensors::lookBack()
 {
     const qint64 now = m_machine.now();
-    const double minutes = double(now - m_looked) * m_machine.speed() / MillisecondsOfMinute;
-    const bool works = m_machine.isAt(ProcessSet::all());
-    m_warmth += minutes * (m_worked || works ? WarmingOfMinute : -CoolingOfMinute);
-    m_warmth = std::clamp(m_warmth, 0.0, MostWarmth);
+    const qint64 rests = m_machine.endOfWork(m_looked, now);
+    m_warmth = std::min(m_warmth + minutesOfMachine(m_looked, rests) * WarmingOfMinute, MostWarmth);
+    m_warmth = std::max(m_warmth - minutesOfMachine(rests, now) * CoolingOfMinute, 0.0);
     m_looked = now;
-    m_worked = works;
 }
 
 FirmwareReply Sensors::tellStates() const
@@ -69,7 +67,8 @@ FirmwareReply Sensors::measure(const QList<int> &parameters) const
     if (!reader.isGood() || !reader.atEnd())
         return refused(Reason::WrongParameters);
 
-    const qint64 hours = static_cast<qint64>(minutesOfMachine()) / MinutesOfHour;
+    const double minutes = minutesOfMachine(m_begin, m_machine.now());
+    const qint64 hours = static_cast<qint64>(minutes) / MinutesOfHour;
     qint64 value = temperature(sensor);
     if (measure == Humidity) // the warmer the air, the drier
         value = HumidityOfCoolest - 2 * (value - CoolestTemperature);
@@ -83,15 +82,15 @@ FirmwareReply Sensors::measure(const QList<int> &parameters) const
     return replied(QList<int>{sensor, measure} + digits);
 }
 
-/// Since it was turned on.
-double Sensors::minutesOfMachine() const
+double Sensors::minutesOfMachine(qint64 from, qint64 until) const
 {
-    return double(m_machine.now() - m_begin) * m_machine.speed() / MillisecondsOfMinute;
+    return double(until - from) * m_machine.speed() / MillisecondsOfMinute;
 }
 
 qint64 Sensors::temperature(int sensor) const
 {
-    const double ofHour = std::fmod(minutesOfMachine(), double(MinutesOfHour)) / MinutesOfHour;
+    const double minutes = minutesOfMachine(m_begin, m_machine.now());
+    const double ofHour = std::fmod(minutes, double(MinutesOfHour)) / MinutesOfHour;
     const double swing = 1 - std::abs(2 * ofHour - 1); // 0 at its ends, 1 in its middle
     return CoolestTemperature + SensorStep * sensor + std::llround(m_warmth + TemperatureSwing * swing);
 }

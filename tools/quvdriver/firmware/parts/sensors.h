@@ -16,19 +16,18 @@ public:
     {}
 
     std::vector<FirmwareCode> codes() override;
-    void goOn() override;
+    void lookBack() override;
 
 private:
     FirmwareReply tellStates() const;
     FirmwareReply measure(const QList<int> &parameters) const;
     qint64 temperature(int sensor) const;
-    double minutesOfMachine() const;
+    double minutesOfMachine(qint64 from, qint64 until) const;
 
     SimulatedMachine &m_machine;
     const qint64 m_begin;
-    qint64 m_looked;       ///< when it was last seen whether the machine works
-    bool m_worked = false; ///< whether it did then
-    double m_warmth = 0;   ///< of work, in hundredths of a degree
+    qint64 m_looked;     ///< until when the warmth is known
+    double m_warmth = 0; ///< of work, in hundredths of a degree
 };
 
 } // namespace quv
