@@ -197,6 +197,22 @@ TEST_F(MachineTellsTest, anOpenDoorKeepsStillWhatMovesInReach)
     EXPECT_EQ(ask(*firmware, "0017", Tint1000OfCircuit1), "0");
 }
 
+TEST_F(MachineTellsTest, anOpenDoorRefusesAResetAndChangesNothing)
+{
+    FW_Dispenser made = pouringMachine();
+    made.getCircuitByPosition(1)->setStirringMotor(FW_StirringMotor());
+    const auto firmware = machine(made, {{FaultKind::DoorOpen, 0, 0, 1000}});
+    EXPECT_EQ(ask(*firmware, "0004", {245, 245, 0}, 1), "0"); // without end
+    EXPECT_EQ(ask(*firmware, "0001"), NotAvailable);
+    EXPECT_EQ(status(*firmware, 1), "E 0 1 10 0 0 0 40 F5 F5 0 0 0 0 0");
+    const auto mixer = machine(FW_Mixer(), {{FaultKind::DoorOpen, 0, 0, 1000}});
+    EXPECT_EQ(ask(*mixer, "0001"), NotAvailable);
+    EXPECT_EQ(ask(*mixer, "0033"), "F 0 1 0 0 0 0 40 10 0 0 0 0 0 9A 1");
+    wait(1000);
+    EXPECT_EQ(ask(*firmware, "0001"), "0");
+    EXPECT_EQ(ask(*mixer, "0001"), "0");
+}
+
 TEST_F(MachineTellsTest, aCanIsTold)
 {
     const auto firmware = machine(pouringMachine(), {{FaultKind::CanPresent, 0, 0, 1000}});

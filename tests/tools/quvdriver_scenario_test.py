@@ -103,6 +103,23 @@ class Scenario(unittest.TestCase):
             self.assertEqual((sensors["can_present"], sensors["offline_pressed"]), (True, True))
             self.assertEqual(client.EXEC_B("TINT", tint(1, 1))["ret_code"], 4)
 
+    def test_an_open_door_refuses_a_reset_and_changes_nothing(self):
+        content = json.loads(json.dumps(MACHINE))
+        content["devices"] = {"autocap": {}}
+        content["canisters"][0]["circuits"][0]["stirring_motor"] = {}
+        machine = self.written("stirred.json", content)
+        with self.driver([{"at": 0, "event": "door_open"}], machine=machine) as driver, driver.client() as client:
+            self.done(client, "STIRRING", 1, 60515)  # without end
+            refused = client.EXEC_B("RESET")
+            self.assertEqual((refused["ret_code"], refused["errors"][0]["code"]), (4, "DE03106"))
+            self.assertIn("Machine not available", refused["errors"][0]["text"])
+            self.assertTrue(self.done(client, "GET_STATUS", 1)["stirring"])
+            self.assertFalse(self.done(client, "GET_STATUS")["resetting"])
+            self.assertTrue(self.done(client, "GET_SENSORS_STATUS")["cap_close"])
+        with self.driver([{"at": 0, "event": "door_open"}], machine="mixer") as driver, driver.client() as client:
+            self.assertEqual(client.EXEC_B("RESET")["ret_code"], 4)
+            self.assertFalse(self.done(client, "MIXER_STATUS")["repositioning"])
+
     def test_a_blocked_circuit_pours_nothing_and_is_told(self):
         with self.driver([{"at": 0, "event": "circuit_blocked", "circuit": 2}], "--speed", "1000") as driver, \
                 driver.client() as client:
