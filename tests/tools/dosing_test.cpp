@@ -79,6 +79,49 @@ TEST_F(DosingTest, aStopLeavesInTheCanisterWhatWasNotPoured)
     EXPECT_EQ(masks(), Interrupted);
 }
 
+TEST_F(DosingTest, aCanisterHoldsWhatHasNotLeftItYet)
+{
+    execute("0017", Tint);
+    EXPECT_EQ(machine.content(11), 500);
+    now += 1503; // 250.5 steps
+    EXPECT_EQ(machine.content(11), 497.5);
+    EXPECT_EQ(machine.content(12), 500);
+    now += 7497;
+    EXPECT_EQ(machine.content(11), 490);
+    EXPECT_EQ(machine.content(12), 495);
+    now += 3000;
+    EXPECT_EQ(machine.content(12), 490);
+}
+
+TEST_F(DosingTest, whatIsFilledDuringAPourIsThereButForThePour)
+{
+    execute("0017", Tint);
+    now += 3000;
+    machine.setContent(11, 800);
+    machine.setContent(12, 3);
+    EXPECT_EQ(machine.content(11), 795);
+    now += 6000;
+    EXPECT_EQ(machine.content(11), 790);
+    machine.setContent(11, 600); // it is through, and the pour is not
+    EXPECT_EQ(machine.content(11), 590);
+    EXPECT_EQ(machine.content(12), 0); // of 3, 5 have been poured
+    now += 3000;
+    EXPECT_EQ(machine.content(11), 590);
+    machine.setContent(11, 600);
+    EXPECT_EQ(machine.content(11), 600);
+}
+
+TEST_F(DosingTest, whatIsFilledDuringAPourThatIsStoppedIsThereButForWhatWasPoured)
+{
+    execute("0017", Tint);
+    now += 1503;
+    machine.setContent(11, 800);
+    machine.setContent(12, 700);
+    execute("0003", {0});
+    EXPECT_EQ(machine.content(11), 797.5);
+    EXPECT_EQ(machine.content(12), 700);
+}
+
 TEST_F(DosingTest, theNextPourBeginsWithACleanSheet)
 {
     execute("0017", Tint);

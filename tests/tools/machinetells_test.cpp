@@ -283,6 +283,20 @@ TEST_F(MachineTellsTest, aSensorFallsWhenItsCanisterRunsLow)
     EXPECT_EQ(status(*firmware), Idle);
 }
 
+TEST_F(MachineTellsTest, aSensorFallsInAPourWhenSoMuchHasLeft)
+{
+    FW_Dispenser made = machineWithSensors();
+    made.getCanisterById(11)->setCurrentQuantity(25);
+    const auto firmware = machine(made);
+    ask(*firmware, "0017", Tint1000OfCircuit1);
+    wait(3000); // 500 steps: 20 are left
+    EXPECT_EQ(status(*firmware), "E 0 1 4 0 0 0 0 F5 F5 0 0 0 0 0");
+    EXPECT_EQ(ask(*firmware, "001A", {12}), "2 0 2");
+    wait(12);
+    EXPECT_EQ(status(*firmware), "E 0 1 4 0 0 0 0 F5 F5 0 40 0 0 0");
+    EXPECT_EQ(ask(*firmware, "001A", {12}), "4 1 2 1 2");
+}
+
 TEST_F(MachineTellsTest, whereNobodyKnowsAStrokeTheReserveIsTheCriticalLevel)
 {
     FW_Dispenser made = machineWithSensors();

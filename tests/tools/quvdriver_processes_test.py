@@ -225,6 +225,45 @@ class ProcessesTest(unittest.TestCase):
             self.call(client, "TINT", {**FORMULA, "ids": [2], "quantities": [40.0]})
             self.assertEqual(self.call(client, "GET_LEVEL_SENSORS", [2])["levels"], [[2, 11500]])
 
+    def long_pour(self, client, quantity):
+        """One of circuit 2, which takes seconds."""
+        ticket = client.EXEC_NB("TINT", {**FORMULA, "ids": [2], "quantities": [quantity], "levels_policy": 0})
+        self.wait(lambda: self.status(client)["tinting"], "the pour")
+        return ticket["ret_value"]["ticket_id"]
+
+    def end(self, client, ticket):
+        self.wait(lambda: self.call(client, "GET_CMD_STATUS", ticket)["status"] <= 0, "the end of the pour")
+
+    def rich_machine(self):
+        """One with enough in canister 2, and not more than its sensor can tell."""
+        canisters = machine()["canisters"]
+        canisters[1]["current"] = 2000
+        return self.driver(canisters=canisters)
+
+    def test_levels_set_during_a_pour_are_those_of_the_machine(self):
+        for delta, quantity, is_stopped in ((True, -100.0, True), (False, 1950.0, True), (False, 1999.0, False)):
+            with self.rich_machine() as driver, driver.client() as client:
+                ticket = self.long_pour(client, 1900.0 if is_stopped else 700.0)
+                self.call(client, "SET_LEVELS", delta, {**FORMULA, "ids": [2], "quantities": [quantity]})
+                self.assertTrue(self.status(client)["tinting"], "it ended too early")
+                if is_stopped:
+                    self.call(client, "STOP")
+                self.end(client, ticket)
+                level = self.call(client, "GET_CANISTER_LIST")["canister_list"][1]["cur_q"]
+                self.assertGreater(level, 0)
+                told = self.call(client, "GET_LEVEL_SENSORS", [2])["levels"]
+                self.assertEqual(told, [[2, round(level * 100) // 4]], (delta, is_stopped))  # 400 steps a stroke
+
+    def test_a_canister_is_critical_when_it_has_been_poured_from(self):
+        with self.rich_machine() as driver, driver.client() as client:
+            ticket = self.long_pour(client, 1990.0)
+            self.assertFalse(self.status(client, 2)["canister_lvl_critical"])
+            self.assertEqual(self.call(client, "GET_ACTIVE_CIRCUITS", 12)["positions_id"], [])
+            self.assertTrue(self.status(client)["tinting"], "it ended too early")
+            self.call(client, "STOP")
+            self.end(client, ticket)
+            self.assertFalse(self.status(client, 2)["canister_lvl_critical"])
+
     def test_a_command_is_handed_through_to_a_board(self):
         with self.driver() as driver, driver.client() as client:
             self.call(client, "DEEP_SERVICE", 0, 2, "0004", [245, 245, 0])

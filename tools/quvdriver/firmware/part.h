@@ -28,6 +28,13 @@ struct ActiveCircuit
     int state = 0; ///< what the process tells of each: a mask, a valve's position or a stall level
 };
 
+/// What a process that runs takes from a canister, as quantities.
+struct Withdrawal
+{
+    double taken = 0;  ///< in all
+    double poured = 0; ///< of it, by now
+};
+
 /**
  * A part of a simulated machine. It reads the wire by itself and keeps its own state, under the clock of the machine; what it has
  * in common with others is the machine's (SimulatedMachine).
@@ -48,6 +55,9 @@ public:
     virtual void tellSensors(SensorWords & /*sensors*/) const {}
     /// The circuits engaged in a process by its number.
     virtual std::vector<ActiveCircuit> activeCircuits(int /*process*/) const { return {}; }
+
+    /// What it takes from the canister now.
+    virtual Withdrawal withdrawal(int /*canisterID*/) const { return {}; }
 
     /// What it is at because it was told to, until that ends. What goes on by itself again and again is nothing to others.
     virtual ProcessSet atWork() const { return {}; }

@@ -47,6 +47,14 @@ std::vector<EngagedCircuit> Pour::engaged(qint64 now) const
     return circuits;
 }
 
+std::vector<PouredSteps> Pour::steps(qint64 now) const
+{
+    std::vector<PouredSteps> steps;
+    for (const Course &course : m_courses)
+        steps.push_back({course.circuit.position, course.limit(), course.pouredBy(double(now))});
+    return steps;
+}
+
 bool Pour::turns(int position, qint64 now) const
 {
     return isRunning(now) && std::any_of(m_courses.begin(), m_courses.end(), [=](const Course &course) {
@@ -63,14 +71,14 @@ QList<int> Pour::positions() const
     return positions;
 }
 
-CutOff Pour::cutOff(int position, qint64 now)
+PouredSteps Pour::cutOff(int position, qint64 now)
 {
     const auto course = std::find_if(m_courses.begin(), m_courses.end(), [position](const Course &candidate) {
         return candidate.circuit.position == position;
     });
     if (course == m_courses.end())
         return {};
-    const CutOff cut{course->limit(), course->pouredBy(double(now))};
+    const PouredSteps cut{position, course->limit(), course->pouredBy(double(now))};
     course->circuit.available = cut.poured;
     return cut;
 }

@@ -30,9 +30,10 @@ struct EngagedCircuit
     bool turns = false; ///< its motor, at this moment
 };
 
-/// What became of the steps that a circuit had taken from its canister.
-struct CutOff
+/// What became of the steps that a circuit has taken from its canister.
+struct PouredSteps
 {
+    int position = 0;
     qint64 taken = 0;
     qint64 poured = 0;
 };
@@ -57,12 +58,13 @@ public:
     QList<int> positions() const; ///< of its circuits, in their order
 
     /// From now on nothing leaves the circuit's nozzle any more.
-    CutOff cutOff(int position, qint64 now);
+    PouredSteps cutOff(int position, qint64 now);
     /// All motors stand still from now on.
     void end(qint64 now) { m_end = std::min(m_end, double(now)); }
 
-    /// Its circuits that are not yet through.
+    /// Its circuits that are not yet through; none once it has been ended.
     std::vector<EngagedCircuit> engaged(qint64 now) const;
+    std::vector<PouredSteps> steps(qint64 now) const;
     /// The numbers of the firmware's report: criterion, number of circuits, then of each circuit position, queue, and the
     /// steps in all and so far, each as a count of digits and the digits.
     QList<int> report(qint64 now) const;

@@ -52,14 +52,6 @@ Obstacle obstacleOf(const FirmwarePart &part)
     return {part.obstacle(), process ? QStringLiteral("the machine is ") + gerundOf(*process) : QString()};
 }
 
-/// What so many steps pour; nothing when the circuit's calibration cannot tell.
-std::optional<double> quantityOfSteps(const FW_Circuit &circuit, qint64 steps)
-{
-    bool isKnown = false;
-    const double quantity = circuit.calibration().quantity(steps, &isKnown);
-    return isKnown ? std::optional(quantity) : std::nullopt;
-}
-
 /// What the canister holds when its sensor falls.
 double criticalContent(const FW_Canister &canister, const FW_CanisterLevelSensor &sensor)
 {
@@ -67,7 +59,7 @@ double criticalContent(const FW_Canister &canister, const FW_CanisterLevelSensor
     for (const FW_Circuit &circuit : canister.circuits()) {
         const double strokes = sensor.criticalLevel() / HundredthsOfStroke;
         const qint64 steps = std::llround(strokes * circuit.dosingMotor().stepsPerStroke());
-        const auto quantity = quantityOfSteps(circuit, steps);
+        const auto quantity = SimulatedMachine::quantityOfSteps(circuit, steps);
         if (quantity && steps > 0)
             return *quantity;
     }
@@ -213,6 +205,13 @@ ProcessSet SimulatedMachine::processesInReach()
             Process::MovingStation, Process::MovingPlates,    Process::Mixing};
 }
 
+std::optional<double> SimulatedMachine::quantityOfSteps(const FW_Circuit &circuit, qint64 steps)
+{
+    bool isKnown = false;
+    const double quantity = circuit.calibration().quantity(steps, &isKnown);
+    return isKnown ? std::optional(quantity) : std::nullopt;
+}
+
 qint64 SimulatedMachine::takeFromCanister(const FW_Circuit &circuit, qint64 steps)
 {
     if (steps > 0 && m_faults.blockedCircuits.contains(circuit.positionId())) {
@@ -244,6 +243,28 @@ void SimulatedMachine::putIntoCanister(const FW_Circuit &circuit, qint64 taken, 
     const FW_Canister *canister = m_dispenser.getCanisterOfCircuitID(circuit.id());
     if (canister && quantity)
         m_contents[canister->id()] += *quantity - quantityOfSteps(circuit, poured).value_or(0);
+}
+
+Withdrawal SimulatedMachine::withdrawal(int canisterID) const
+{
+    Withdrawal all;
+    for (const auto &part : m_parts) {
+        const Withdrawal withdrawal = part->withdrawal(canisterID);
+        all.taken += withdrawal.taken;
+        all.poured += withdrawal.poured;
+    }
+    return all;
+}
+
+double SimulatedMachine::content(int canisterID) const
+{
+    const Withdrawal running = withdrawal(canisterID);
+    return std::max(m_contents.value(canisterID) + running.taken - running.poured, 0.0);
+}
+
+void SimulatedMachine::setContent(int canisterID, double quantity)
+{
+    m_contents[canisterID] = quantity - withdrawal(canisterID).taken;
 }
 
 bool SimulatedMachine::tellsCriticalLevel(const FW_Canister &canister) const

@@ -103,6 +103,8 @@ public:
     /// What moves where a hand can reach, and stands still while the door is open.
     static ProcessSet processesInReach();
 
+    /// What so many steps pour; nothing when the circuit's calibration cannot tell.
+    static std::optional<double> quantityOfSteps(const FW_Circuit &circuit, qint64 steps);
     /// Takes what so many steps of the circuit pour from its canister, and gives the steps that it still held. What a circuit
     /// without a calibration takes is known to nobody.
     qint64 takeFromCanister(const FW_Circuit &circuit, qint64 steps);
@@ -112,8 +114,10 @@ public:
     bool tellsCriticalLevel(const FW_Canister &canister) const;
     /// What the canister holds by its level sensor, which may lie.
     double toldContent(const FW_Canister &canister) const;
-    double content(int canisterID) const { return m_contents.value(canisterID); }
-    void setContent(int canisterID, double quantity) { m_contents[canisterID] = quantity; }
+    /// What the canister holds at this moment.
+    double content(int canisterID) const;
+    /// What the canister holds but for what runs, which takes all of its part from that.
+    void setContent(int canisterID, double quantity);
 
     static constexpr int MaxErrors = 50;
     /// The last place of a full buffer says that later errors are lost: the first ones tell how it came about.
@@ -131,6 +135,7 @@ public:
 
 private:
     void letPartsGoOn();
+    Withdrawal withdrawal(int canisterID) const;
 
     FW_Dispenser m_dispenser{};
     const SerialDeviceType m_type;
@@ -138,7 +143,7 @@ private:
     const Clock m_clock;
     std::optional<qint64> m_moment{};
     std::optional<Table> m_table{};
-    QHash<int, double> m_contents{}; ///< by the canisters' IDs
+    QHash<int, double> m_contents{}; ///< by the canisters' IDs; what runs has taken all of its part already
     QList<RaisedError> m_errors{};
     int m_waterCycles = 0;
     MachineFaults m_faults{};

@@ -85,11 +85,28 @@ void Dosing::stop()
 /// What the circuit has not poured is in its canister again. False when it has poured all.
 bool Dosing::cutOff(int position)
 {
-    const CutOff cut = m_pour.cutOff(position, m_machine.now());
+    const PouredSteps cut = m_pour.cutOff(position, m_machine.now());
     if (cut.taken == cut.poured)
         return false;
     m_machine.putIntoCanister(*m_machine.circuitAt(position), cut.taken, cut.poured);
     return true;
+}
+
+Withdrawal Dosing::withdrawal(int canisterID) const
+{
+    Withdrawal all;
+    const qint64 now = m_machine.now();
+    if (!m_pour.isRunning(now))
+        return all;
+    for (const PouredSteps &steps : m_pour.steps(now)) {
+        const FW_Circuit &circuit = *m_machine.circuitAt(steps.position);
+        const FW_Canister *canister = m_machine.dispenser().getCanisterOfCircuitID(circuit.id());
+        if (!canister || canister->id() != canisterID)
+            continue;
+        all.taken += SimulatedMachine::quantityOfSteps(circuit, steps.taken).value_or(0);
+        all.poured += SimulatedMachine::quantityOfSteps(circuit, steps.poured).value_or(0);
+    }
+    return all;
 }
 
 FirmwareReply Dosing::tint(const QList<int> &parameters)

@@ -20,6 +20,7 @@ public:
     void tellStatus(StatusWords &status, int module) const override;
     ProcessSet atWork() const override;
     std::vector<ActiveCircuit> activeCircuits(int process) const override;
+    Withdrawal withdrawal(int canisterID) const override;
     void goOn() override;
     void stop() override;
     void reset() override { m_isInterrupted = false; }
