@@ -403,6 +403,44 @@ TEST_F(MachineTellsTest, eachKindOfPourIsAProcessOfItsOwn)
     EXPECT_EQ(ask(*firmware, "001A", {6}), "2 0 2");
 }
 
+TEST_F(MachineTellsTest, packsUnderTheCodeOfTintsArePacks)
+{
+    const auto firmware = machine(pouringMachine());
+    EXPECT_EQ(ask(*firmware, "0017", {3, 2, 1, 0, 50, 1, 1, 2, 0, 50, 1, 0}), "0");
+    EXPECT_EQ(ask(*firmware, "001A", {7}), "6 2 2 1 3 2 1");
+    EXPECT_EQ(ask(*firmware, "001A", {6}), "2 0 2");
+    wait(4800);                                                                     // a stroke each
+    EXPECT_EQ(ask(*firmware, "0017", {3, 2, 1, 0, 50, 1, 1, 2, 0, 50, 1, 2}), "0"); // one of them pours
+    EXPECT_EQ(ask(*firmware, "001A", {7}), "2 0 2");
+    EXPECT_EQ(ask(*firmware, "001A", {6}), "6 2 2 1 3 2 1");
+}
+
+TEST_F(MachineTellsTest, aStoppedPourEngagesNoCircuit)
+{
+    const auto firmware = machine(pouringMachine());
+    const QList<int> purgeThroughValve3{66, 1, 6, 1, 7, 50, 3, 2, 16, 4, 1, 90};
+    for (const char *ends : {"0003", "0001"}) {
+        EXPECT_EQ(ask(*firmware, "0035", purgeThroughValve3), "0");
+        wait(3000);
+        EXPECT_EQ(ask(*firmware, ends, ends == std::string("0003") ? QList<int>{0} : QList<int>()), "0");
+        EXPECT_EQ(ask(*firmware, "001A", {5}), "2 0 2") << ends;
+        EXPECT_EQ(ask(*firmware, "001A", {11}), "2 0 2") << ends;
+    }
+}
+
+TEST_F(MachineTellsTest, aResetEngagesAllCircuitsThatAreEnabled)
+{
+    FW_Dispenser made = pouringMachine();
+    made.getCircuitByPosition(2)->setEnabled(false);
+    const auto firmware = machine(made);
+    ask(*firmware, "0001");
+    wait(5999);
+    EXPECT_EQ(ask(*firmware, "001A", {8}), "8 3 2 1 3 3 3 4 3");
+    EXPECT_EQ(ask(*firmware, "001A", {1}), "2 0 2");
+    wait(1);
+    EXPECT_EQ(ask(*firmware, "001A", {8}), "2 0 2");
+}
+
 TEST_F(MachineTellsTest, aPositionThatTheMachineDoesNotHaveHasNoStatus)
 {
     FW_Dispenser made = pouringMachine();

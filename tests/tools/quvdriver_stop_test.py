@@ -119,6 +119,20 @@ class Stop(Stopping):
         self.assertEqual(self.client.EXEC_B("TINT", formula({"B": 1}))["ret_code"], 0)
         self.assertFalse(self.status()["formula_interrupted"])
 
+    def test_a_stopped_pour_leaves_no_circuit_engaged(self):
+        self.start("--speed", "1")
+
+        def engaged():
+            return self.client.EXEC_B("GET_ACTIVE_CIRCUITS", 1)["ret_value"]["positions_id"]
+
+        for command in "STOP", "RESET":
+            ticket = self.begin("TINT", formula({"B": 20, "C": 20}))
+            self.wait_for(lambda: self.status()["tinting"])
+            self.assertEqual(len(engaged()), 2)
+            self.assertEqual(self.client.EXEC_B(command)["ret_code"], 0)
+            self.assertEqual(engaged(), [], command)
+            self.assertEqual(self.end(ticket)["status"], -3)
+
     def test_a_reset_ends_a_pour(self):
         self.start("--speed", "5")
         ticket = self.begin("TINT", formula({"B": 20}))

@@ -39,6 +39,8 @@ qint64 Pour::Course::pouredBy(double now) const
 std::vector<EngagedCircuit> Pour::engaged(qint64 now) const
 {
     std::vector<EngagedCircuit> circuits;
+    if (!isRunning(now))
+        return circuits;
     for (const Course &course : m_courses) {
         if (double(now) < course.begin + course.circuit.duration)
             circuits.push_back(

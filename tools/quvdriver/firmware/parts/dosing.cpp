@@ -174,16 +174,11 @@ std::vector<ActiveCircuit> Dosing::activeCircuits(int process) const
 
 CircuitProcess Dosing::processOf(const PourRequest &request, Movement movement)
 {
-    switch (movement) {
-    case Movement::IdleStrokes:
-        return CircuitProcess::Packing;
-    case Movement::PouredStrokes:
-    case Movement::StrokesOrPack:
-        return CircuitProcess::Priming;
-    case Movement::Steps:
-        break;
-    }
-    return request.isPurge ? CircuitProcess::Purging : CircuitProcess::Dosing;
+    if (movement == Movement::Steps)
+        return request.isPurge ? CircuitProcess::Purging : CircuitProcess::Dosing;
+    const bool isPriming = std::any_of(request.parts.begin(), request.parts.end(),
+                                       [movement](const PourPart &part) { return pours(part, movement); });
+    return isPriming ? CircuitProcess::Priming : CircuitProcess::Packing;
 }
 
 /// A tint's code with strokes is a pack or an unpack when the number is one of these two movements.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/parts/resetting.h"
 
+#include "firmware/circuitprocess.h"
 #include "firmware/wirereply.h"
 
 namespace quv {
@@ -29,6 +30,17 @@ FirmwareReply Resetting::begin()
 void Resetting::tellStatus(StatusWords &status, int /*module*/) const
 {
     status.words.set(1, 6, !atWork().isEmpty()); // a mixer calls it repositioning
+}
+
+/// All, for each looks for its origin.
+std::vector<ActiveCircuit> Resetting::activeCircuits(int process) const
+{
+    std::vector<ActiveCircuit> circuits;
+    if (process != static_cast<int>(CircuitProcess::Resetting) || atWork().isEmpty())
+        return circuits;
+    for (const int position : m_machine.dispenser().getPositionsIDList(true))
+        circuits.push_back({position, LogicalState | PhysicalState});
+    return circuits;
 }
 
 ProcessSet Resetting::atWork() const

@@ -16,6 +16,7 @@ public:
 
     std::vector<FirmwareCode> codes() override;
     void tellStatus(StatusWords &status, int module) const override;
+    std::vector<ActiveCircuit> activeCircuits(int process) const override;
     ProcessSet atWork() const override;
     void stop() override { m_end = m_machine.now(); }
 
