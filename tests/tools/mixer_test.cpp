@@ -84,6 +84,20 @@ TEST(SimulatedMixer, stoppedInACycleItMustBeReset)
     EXPECT_EQ(mixer.ask("0031", TwoCycles), "0");
 }
 
+TEST(SimulatedMixer, platesWithoutATimeLeaveAResetAlone)
+{
+    SimulatedParts mixer{FW_Mixer()};
+    mixer.ask("0031", TwoCycles);
+    mixer.now += 5000;
+    mixer.stop();
+    mixer.ask("0001");
+    mixer.now += 3000;
+    EXPECT_EQ(mixer.ask("0030", {0, 0, 245, 0}), MixerRefuses);
+    EXPECT_EQ(mixer.ask("0033"), "F 0 1 48 2 0 40 0 18 0 3 0 0 0 4F 1"); // 325 mm, on their way
+    mixer.now += 3000;
+    EXPECT_EQ(mixer.ask("0033"), RestingMixer);
+}
+
 TEST(SimulatedMixer, stoppedWhileItClampsItNeedsNoReset)
 {
     SimulatedParts mixer{FW_Mixer()};

@@ -178,7 +178,8 @@ FirmwareReply Mixer::movePlates(const QList<int> &parameters)
     const int force = reader.next(0, WireBase - 1);
     if (!reader.isGood() || !reader.atEnd() || (speed > FullPlateSpeed && speed != OwnValue))
         return refused(Reason::WrongParameters);
-    if (time == 0 && atWork().has(Process::MovingPlates)) {
+    const bool areMoved = atWork().has(Process::MovingPlates) && !m_machine.isAt({Process::Resetting});
+    if (time == 0 && areMoved) { // a reset moves them as well, and is not for this to end
         stop();
         return begun();
     }
