@@ -127,8 +127,10 @@ void CappingStation::goOn()
             m_lacksPlug = m_plugs == 0;
             m_plugs = std::max(m_plugs - 1, 0);
         }
-        if (step->actuator == StationPlugLoader && step->place == Place::Working)
+        if (step->actuator == StationPlugLoader && step->place == Place::Working) {
             m_plugs = FullMagazine;
+            m_lacksPlug = false;
+        }
     }
     m_steps.erase(m_steps.begin(), step);
 }
