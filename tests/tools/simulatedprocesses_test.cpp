@@ -7,6 +7,7 @@
 
 #include <QuvFramework/fw_autocap.h>
 #include <QuvFramework/fw_brush.h>
+#include <QuvFramework/fw_brush2.h>
 #include <QuvFramework/fw_ultrasoundcleaning.h>
 
 #include <gtest/gtest.h>
@@ -403,6 +404,29 @@ TEST_F(SimulatedProcessesTest, nozzlesAreCleanedOneAfterTheOther)
     EXPECT_EQ(status(*firmware), Idle);
 }
 
+TEST_F(SimulatedProcessesTest, aBrushIsAmongTheOutputsWhileItTurns)
+{
+    const char *const without = "B 46 0 0 60 1 0 0 0 0 0 0";
+    const char *const brushes = "B 46 0 0 60 21 0 0 0 0 0 0";
+    FW_Dispenser machine = brushingMachine();
+    const auto firmware = firmwareOf(machine);
+    EXPECT_EQ(tell(*firmware, "0043", 0), without);
+    EXPECT_EQ(tell(*firmware, "0015", 0, {245, 15, 0, 2, 0}), "0");
+    EXPECT_EQ(tell(*firmware, "0043", 0), brushes);
+    m_now += 15 * Second;
+    EXPECT_EQ(tell(*firmware, "0043", 0), without);
+    EXPECT_EQ(tell(*firmware, "0015", 0, {245, 15, 0, 1, 0}), "0"); // motors of circuits
+    EXPECT_EQ(tell(*firmware, "0043", 0), without);
+    EXPECT_EQ(tell(*firmware, "0003", 0, {0}), "0");
+    EXPECT_EQ(tell(*firmware, "002F", 0, {245, 245}), "0");
+    EXPECT_EQ(tell(*firmware, "0043", 0), brushes);
+
+    machine.setDevice(FW_Brush2());
+    const auto withTwo = firmwareOf(machine);
+    EXPECT_EQ(tell(*withTwo, "0015", 0, {245, 15, 0, 2, 0}), "0");
+    EXPECT_EQ(tell(*withTwo, "0043", 0), "B 46 0 0 60 21 8 0 0 0 0 0");
+}
+
 TEST_F(SimulatedProcessesTest, nozzlesThatWaitToBeCleanedAreActive)
 {
     quv::SimulatedMachine machine(brushingMachine(), 1, [this] { return m_now; });
@@ -442,6 +466,24 @@ TEST_F(SimulatedProcessesTest, aCapThatRinsesCleansTheNozzles)
     EXPECT_EQ(status(*rinsing), Cleans);
     m_now += 1;
     EXPECT_EQ(status(*rinsing), Idle);
+}
+
+TEST_F(SimulatedProcessesTest, aCapThatRinsesIsClosedMeanwhile)
+{
+    const char *const open = "E 0 1 0 2 0 0 0 F5 F5 4 0 0 0 0";
+    FW_Dispenser machine = pouringMachine();
+    FW_Autocap cap;
+    cap.setType(FW_Autocap::SlidingWithCleaning);
+    machine.setDevice(cap);
+    const auto firmware = firmwareOf(machine);
+    EXPECT_EQ(tell(*firmware, "0041", 0, {1}), "0");
+    m_now += 1200;
+    EXPECT_EQ(status(*firmware), open);
+    EXPECT_EQ(tell(*firmware, "002F", 0, {3, 0}), "0");
+    EXPECT_EQ(status(*firmware), Cleans);
+    EXPECT_EQ(tell(*firmware, "0043", 0), "B 46 40 0 60 1 0 0 0 0 0 0"); // cap_close
+    m_now += 3 * Second;
+    EXPECT_EQ(status(*firmware), open);
 }
 
 TEST_F(SimulatedProcessesTest, theUltrasoundsBathIsFilledAndEmptied)

@@ -15,6 +15,7 @@ enum class Process {
     Stirring,
     Recirculating,
     Cleaning,
+    Rinsing, ///< a cleaning by the closed cap
     MovingShelf,
     MovingTurntable,
     MovingCap,

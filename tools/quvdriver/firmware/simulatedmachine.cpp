@@ -25,6 +25,7 @@ QString gerundOf(Process process)
     case Process::Recirculating:
         return QStringLiteral("recirculating");
     case Process::Cleaning:
+    case Process::Rinsing:
         return QStringLiteral("cleaning");
     case Process::MovingShelf:
         return QStringLiteral("moving its shelf");

@@ -20,11 +20,13 @@ bool Cap::isThere() const
     return m_machine.dispenser().acceptCommands(FW_Device::Autocap);
 }
 
-/// What pours goes through an open cap; afterwards it is as it was.
+/// What pours goes through an open cap, and a closed one rinses; afterwards it is as it was.
 Cap::Place Cap::placeNow() const
 {
     if (isThere() && m_machine.isAt({Process::Pouring}))
         return Place::Open;
+    if (m_machine.isAt({Process::Rinsing}))
+        return Place::Closed;
     return atWork().isEmpty() ? m_to : Place::Between;
 }
 

@@ -15,9 +15,8 @@ namespace {
 
 FirmwareReply refusedWithoutMotor(int module)
 {
-    return module == 0
-               ? refused(Reason::NotAvailable, QStringLiteral("the machine has no cleaning motors"))
-               : refused(Reason::WrongModule);
+    return module == 0 ? refused(Reason::NotAvailable, QStringLiteral("the machine has no cleaning motors"))
+                       : refused(Reason::WrongModule);
 }
 
 } // namespace
@@ -48,6 +47,15 @@ void Cleaning::tellStatus(StatusWords &status, int module) const
     status.words.set(9, 1, module == 0 && isWaterMoved);
 }
 
+/// Brushes alone are among the outputs.
+void Cleaning::tellSensors(SensorWords &sensors) const
+{
+    const Stage *current = stage();
+    const bool isBrushing = current && current->phase == Phase::Brushing;
+    sensors.set(4, 5, isBrushing && hasDevice(FW_Device::Brush));
+    sensors.set(5, 3, isBrushing && hasDevice(FW_Device::Brush2));
+}
+
 std::vector<ActiveCircuit> Cleaning::activeCircuits(int process) const
 {
     std::vector<ActiveCircuit> circuits;
@@ -74,7 +82,11 @@ std::vector<ActiveCircuit> Cleaning::activeCircuits(int process) const
 
 ProcessSet Cleaning::atWork() const
 {
-    return stage() ? ProcessSet{Process::Cleaning} : ProcessSet();
+    const Stage *current = stage();
+    if (!current)
+        return {};
+    return current->phase == Phase::Rinsing ? ProcessSet{Process::Cleaning, Process::Rinsing}
+                                            : ProcessSet{Process::Cleaning};
 }
 
 /// What moves colorant inside the machine does not disturb a brush in the background.
@@ -118,7 +130,7 @@ FirmwareReply Cleaning::clean(int module, const QList<int> &parameters)
     const QList<int> cleaned = type == ByBrush ? positions(module) : positionsOfMotors(module);
     if (cleaned.isEmpty())
         return refusedWithoutMotor(module);
-    Stage stage{Phase::Brushing, cleaned, seconds * MillisecondsOfSecond};
+    Stage stage{type == ByBrush ? Phase::Brushing : Phase::ByMotors, cleaned, seconds * MillisecondsOfSecond};
     stage.isEndless = seconds == EndlessDuration;
     return begin({stage}, isBusy);
 }
@@ -220,7 +232,7 @@ std::vector<Cleaning::Stage> Cleaning::fullBath() const
             {Phase::Emptying, all, bath.emptyingTime() * MillisecondsOfSecond}};
 }
 
-/// One nozzle after the other, by its own motor.
+/// One nozzle after the other, by its own motor and the brush.
 std::vector<Cleaning::Stage> Cleaning::nozzleByNozzle(int module, int seconds) const
 {
     constexpr double WayToNozzle = 4000;

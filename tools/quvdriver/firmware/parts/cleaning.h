@@ -16,6 +16,7 @@ public:
 
     std::vector<FirmwareCode> codes() override;
     void tellStatus(StatusWords &status, int module) const override;
+    void tellSensors(SensorWords &sensors) const override;
     std::vector<ActiveCircuit> activeCircuits(int process) const override;
     ProcessSet atWork() const override;
     ProcessSet excluded() const override;
@@ -23,7 +24,7 @@ public:
     void stop() override { m_stages.clear(); }
 
 private:
-    enum class Phase { Brushing, Rinsing, Filling, Ultrasound, Emptying };
+    enum class Phase { ByMotors, Brushing, Rinsing, Filling, Ultrasound, Emptying };
 
     /// A part of a cleaning, in which these nozzles are cleaned.
     struct Stage
