@@ -220,6 +220,26 @@ TEST_F(SlowPauseTest, aPauseIsStopped)
     EXPECT_EQ(end(other).number("status"), -3);
 }
 
+TEST_F(DriverProceduresTest, aPauseOfAFamilyWithoutACodeToStopIsStopped)
+{
+    FW_Dispenser machine = pouringMachine();
+    machine.setCommandFamily(FW_Dispenser::CommandFamily2);
+    const WatchedFirmware &firmware = addSimulated(machine, 1);
+    const std::string id = begin(arrayOf("PAUSE", 600000));
+    waitFor([&] { return ticket(id).number("status") == 1; });
+    for (const int type : {0, 2}) {
+        const Envelope refused = call("EXEC_B", "STOP", 0, type);
+        EXPECT_EQ(refused.retCode, 3);
+        EXPECT_EQ(refused.error(), "DE03105 The machine's firmware has no code for this command");
+    }
+    EXPECT_EQ(ticket(id).number("status"), 1);
+    EXPECT_EQ(call("EXEC_B", "STOP", 0, 1).error(), "");
+    const Envelope stopped = end(id);
+    EXPECT_EQ(stopped.number("status"), -3);
+    EXPECT_EQ(Envelope(stopped.member("cmd_answer")).error(), "DE03410 PAUSE was stopped before its end");
+    EXPECT_TRUE(firmware.received.isEmpty());
+}
+
 TEST_F(SlowPauseTest, theDriversEndEndsAPause)
 {
     const std::string id = pause();

@@ -216,6 +216,10 @@ class ProcessesTest(unittest.TestCase):
             self.assertEqual(self.at(client, "stirring"), [])
             self.wait(lambda: self.at(client, "stirring") == [1, 2, 3], "the end of the holding")
             self.assertEqual(client.EXEC_B("STIRRING", 1, 30)["errors"][0]["code"], "DE03105")
+            pause = self.call_in_background(client, "PAUSE", 600000)
+            self.assertEqual(client.EXEC_B("STOP")["errors"][0]["code"], "DE03105")
+            self.call(client, "STOP", 0, 1)
+            self.wait(lambda: self.call(client, "GET_CMD_STATUS", pause)["status"] == -3, "the end of the pause")
 
     def test_level_sensors_follow_the_canister(self):
         with self.driver() as driver, driver.client() as client:

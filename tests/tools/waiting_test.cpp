@@ -159,6 +159,7 @@ protected:
     std::shared_ptr<quv::Progress> m_progress = std::make_shared<quv::Progress>();
     StirringCmd m_command{3, 30, false};
     bool m_stopsInStep = false;
+    std::atomic<bool> m_isFirmwareSpared = false;
 
     quv::ProcedureRun run()
     {
@@ -167,7 +168,7 @@ protected:
             if (m_stopsInStep)
                 m_stopped.begin();
         };
-        return {m_command, stirring(0), ask, m_progress, m_stopped, m_ending};
+        return {m_command, stirring(0), ask, m_progress, m_stopped, m_isFirmwareSpared, m_ending};
     }
     /// What it throws; empty for nothing.
     template <class Work>
@@ -189,6 +190,14 @@ TEST_F(ProcedureRunTest, whatBeginsInTheMomentOfAStopIsEndedAgain)
     m_stopsInStep = true;
     run().begin(m_command);
     EXPECT_EQ(m_steps, (QStringList{"STIRRING", "STOP"}));
+}
+
+TEST_F(ProcedureRunTest, whatBeginsInTheMomentOfAStopGoesOnWhenTheFirmwareIsSpared)
+{
+    m_stopsInStep = true;
+    m_isFirmwareSpared = true;
+    run().begin(m_command);
+    EXPECT_EQ(m_steps, QStringList{"STIRRING"});
 }
 
 TEST_F(ProcedureRunTest, whatWasStoppedBeforeDoesNotBegin)

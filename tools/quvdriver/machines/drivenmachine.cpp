@@ -103,11 +103,15 @@ std::vector<std::shared_ptr<Engagement>> DrivenMachine::engagements() const
     return engagements;
 }
 
-void DrivenMachine::stopProcedures()
+void DrivenMachine::stopProcedures(bool sparesFirmware)
 {
     const Lock lock(m_state);
-    for (const auto &engagement : engagements())
+    for (const auto &engagement : engagements()) {
+        if (sparesFirmware && engagement->engages == Engages::Pumps)
+            continue;
+        engagement->isFirmwareSpared = sparesFirmware;
         engagement->stopped.begin();
+    }
 }
 
 void DrivenMachine::setRunningPour(const RunningPour &pour)

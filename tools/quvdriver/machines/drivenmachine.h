@@ -12,6 +12,7 @@
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -38,7 +39,8 @@ struct Engagement
 
     const QString command;
     const Engages engages;
-    Ending stopped{}; ///< begins when somebody stops the procedure
+    Ending stopped{};                           ///< begins when somebody stops the procedure
+    std::atomic<bool> isFirmwareSpared = false; ///< by who has stopped it
 };
 
 /**
@@ -76,8 +78,9 @@ public:
     /// Begins a procedure, which the machine is at until the result is gone; null while another one needs the same part, and
     /// \a other is then what that one carries out.
     std::shared_ptr<Engagement> engage(const QString &command, Engages part, QString *other = nullptr);
-    /// Tells all procedures that the machine is at to stop.
-    void stopProcedures();
+    /// Tells all procedures that the machine is at to stop. When the firmware is spared, what it has been told to begin goes on, so
+    /// that a pour does.
+    void stopProcedures(bool sparesFirmware = false);
     /// Tells everybody what is being poured, for as long as the machine is at it.
     void setRunningPour(const RunningPour &pour);
     /// Null when nothing is.

@@ -11,7 +11,7 @@ void ProcedureRun::begin(SerialProtoCommand &process) const
 {
     requireToGoOn();
     ask(process);
-    if (stopped.hasBegun()) {
+    if (stopped.hasBegun() && !isFirmwareSpared) {
         StopSerialCmd stop;
         ask(stop);
     }

@@ -4,6 +4,7 @@
 #include "machines/drivenmachine.h"
 #include "requests/progress.h"
 
+#include <atomic>
 #include <chrono>
 #include <functional>
 
@@ -21,8 +22,9 @@ struct ProcedureRun
     /// Has the firmware carry a command out, which holds its answer then. \throws CallRefusal, and what an exchange throws
     std::function<void(SerialProtoCommand &)> ask{};
     const std::shared_ptr<Progress> &progress;
-    Ending &stopped;       ///< begins when somebody stops it
-    Ending &isDriverGoing; ///< begins when the driver ends
+    Ending &stopped;                           ///< begins when somebody stops it
+    const std::atomic<bool> &isFirmwareSpared; ///< by who stops it: what has begun goes on
+    Ending &isDriverGoing;                     ///< begins when the driver ends
 
     /// Has the firmware begin something, and end it again when the procedure is stopped in that very moment: its stop may have come
     /// first. \throws what ask throws, and CallRefusal as requireToGoOn before it has begun

@@ -36,7 +36,7 @@ const Procedure *procedureOf(const QString &command)
         {Catalogue::PAUSE, Engages::Nothing, true, pause, checkPause},
         {Catalogue::RESET, Engages::Nothing, false, reset},
         {Catalogue::STIR_ALL, Engages::Stirrers, true, stirAll, checkStirring},
-        {Catalogue::STOP, Engages::Nothing, false, stop},
+        {Catalogue::STOP, Engages::Nothing, false, stop, nullptr, stopsFirmware},
     }};
     if (isPourByCode(command))
         return &pouring;
@@ -45,6 +45,17 @@ const Procedure *procedureOf(const QString &command)
         return row && candidate.command == row->id;
     });
     return found == others.end() ? nullptr : found;
+}
+
+bool needsCode(const ProtoCommand &command)
+{
+    const QString name = command.command();
+    const Procedure *procedure = procedureOf(name);
+    if (!procedure)
+        return true;
+    if (procedure->isSent)
+        return procedure->isSent(command);
+    return !ProtoCommandList::cmdCode(name, FW_Dispenser::CommandFamily1).isEmpty();
 }
 
 } // namespace quv

@@ -19,9 +19,14 @@ struct Procedure
     FW_ErrorList (*run)(ProcedureRun &run) = nullptr;
     /// Null, or \throws CallRefusal for what cannot be carried out, before anything has begun
     void (*check)(const ProtoCommand &command) = nullptr;
+    /// Null, or tells whether the firmware gets the command itself. Without it all that have a code do.
+    bool (*isSent)(const ProtoCommand &command) = nullptr;
 };
 
 /// Null for a command that is one exchange with the firmware, or is answered by the driver alone.
 const Procedure *procedureOf(const QString &command);
+
+/// Whether the firmware must have the command's code: not for a series of commands that have codes of their own.
+bool needsCode(const ProtoCommand &command);
 
 } // namespace quv

@@ -10,16 +10,26 @@ namespace {
 /// What of the two the software stop type of a command spares.
 enum SoftwareStop { SparesFirmware = 1, SparesProcedures = 2 };
 
+int softwareStopOf(const ProtoCommand &command)
+{
+    return dynamic_cast<const StopCmd &>(command).swStopType();
+}
+
 } // namespace
+
+bool stopsFirmware(const ProtoCommand &command)
+{
+    return softwareStopOf(command) != SparesFirmware;
+}
 
 // Procedures are told first, or one would begin its next step in the moment between the two.
 
 FW_ErrorList stop(ProcedureRun &run)
 {
-    const int kind = dynamic_cast<const StopCmd &>(run.command).swStopType();
-    if (kind != SparesProcedures)
-        run.machine.stopProcedures();
-    if (kind != SparesFirmware)
+    const bool sparesFirmware = !stopsFirmware(run.command);
+    if (softwareStopOf(run.command) != SparesProcedures)
+        run.machine.stopProcedures(sparesFirmware);
+    if (!sparesFirmware)
         run.ask(dynamic_cast<SerialProtoCommand &>(run.command));
     return {};
 }

@@ -9,6 +9,8 @@ namespace quv {
 
 /// STOP: ends the procedures that the machine is at, and what its firmware is at.
 FW_ErrorList stop(ProcedureRun &run);
+/// Whether such a command is for the firmware, too.
+bool stopsFirmware(const ProtoCommand &command);
 /// RESET: the firmware ends what it is at to begin anew, so that procedures end as well.
 FW_ErrorList reset(ProcedureRun &run);
 

@@ -315,12 +315,11 @@ void Driver::checkCarriedOut(const Task &task)
     }
     if (!task.machine)
         refuseWithoutMachine();
-    const bool isSeries = procedureOf(task.name) && // of commands that have codes
-                          ProtoCommandList::cmdCode(task.name, FW_Dispenser::CommandFamily1).isEmpty();
-    if (!isSeries && ProtoCommandList::cmdCode(task.name, task.machine->family()).isEmpty())
+    if (!needsCode(*task.command))
+        return;
+    if (ProtoCommandList::cmdCode(task.name, task.machine->family()).isEmpty())
         refuseWithoutCode();
-    if (!isSeries)
-        task.machine->abilities().require(*task.command);
+    task.machine->abilities().require(*task.command);
 }
 
 /// Gives a ticket, and goes on behind the client's back.
@@ -372,7 +371,10 @@ FW_ErrorList Driver::runProcedure(Task &task)
         task.progress = std::make_shared<Progress>(
             task.procedure->lasts ? estimatedTime(*task.command, task.machine) : 0);
     task.command->clearProtoAnswer(); // of the time before, when it waits for a change
-    ProcedureRun run{*task.command, *task.machine, ask, task.progress, task.engagement->stopped, m_ending};
+    Engagement &engagement = *task.engagement;
+    ProcedureRun run{*task.command, *task.machine,      ask,
+                     task.progress, engagement.stopped, engagement.isFirmwareSpared,
+                     m_ending};
     FW_ErrorList errors = task.procedure->run(run);
     if (!task.command->getProtoAnswer()) {
         ConfProtoAnswer nothing;
