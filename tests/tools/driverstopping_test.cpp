@@ -65,9 +65,10 @@ double quantityOf(double steps)
 class DriverStoppingTest : public DriverFixture
 {
 protected:
-    ClockedFirmware &addClocked(const FW_Dispenser &machine)
+    /// \a real is what stands there, if it is not what the driver believes.
+    ClockedFirmware &addClocked(const FW_Dispenser &machine, const FW_Dispenser *real = nullptr)
     {
-        auto firmware = std::make_unique<ClockedFirmware>(machine);
+        auto firmware = std::make_unique<ClockedFirmware>(real ? *real : machine);
         ClockedFirmware &added = *firmware;
         m_driver->addMachine(std::make_unique<FW_Dispenser>(machine), std::move(firmware));
         return added;
@@ -215,6 +216,37 @@ TEST_F(DriverStoppingTest, aStopThatSparesTheFirmwareLetsItPourOn)
     firmware.advance(6000);
     EXPECT_EQ(end(id).number("status"), 0);
     EXPECT_EQ(level(11), "490");
+}
+
+TEST_F(DriverStoppingTest, aPourThatGivesLessIsNotStoppedByAStopThatSparesTheFirmware)
+{
+    FW_Dispenser nearlyEmpty = pouringMachine();
+    nearlyEmpty.getCanisterById(11)->setCurrentQuantity(4);
+    ClockedFirmware &firmware = addClocked(pouringMachine(), &nearlyEmpty);
+    const std::string id = begin("TINT", formula({{"A", 10}}));
+    waitUntilItPours();
+    EXPECT_EQ(call("EXEC_B", "STOP", 0, 1).retCode, 0);
+    firmware.advance(6000);
+    const Envelope ended = end(id);
+    EXPECT_EQ(ended.number("status"), 0);
+    EXPECT_EQ(Envelope(ended.member("cmd_answer")).error(),
+              "DE03142 Less was poured than asked: \"A\" 4 of 10, in steps 400 of 1000");
+    EXPECT_EQ(level(11), "496");
+}
+
+TEST_F(DriverStoppingTest, aResetThatIsHandedThroughEndsAPour)
+{
+    ClockedFirmware &firmware = addClocked(pouringMachine());
+    const std::string id = begin("TINT", formula({{"A", 10}}));
+    waitUntilItPours();
+    firmware.advance(2400);
+    EXPECT_EQ(call("EXEC_B", "DEEP_SERVICE", 0, 0, "0001", arrayOf()).error(), "");
+    const Envelope ended = end(id);
+    EXPECT_EQ(ended.number("status"), -3);
+    EXPECT_EQ(Envelope(ended.member("cmd_answer")).error(),
+              "DE03411 TINT was stopped; the levels are lowered by what was poured|"
+              "DE03142 Less was poured than asked: \"A\" 4 of 10, in steps 400 of 1000");
+    EXPECT_EQ(level(11), "496");
 }
 
 TEST_F(DriverStoppingTest, stoppingAgainAndStoppingNothingIsNoMistake)

@@ -144,6 +144,28 @@ class Stop(Stopping):
         self.wait_for(lambda: not self.status()["resetting"])
         self.assertFalse(self.status()["formula_interrupted"])
 
+    def test_a_reset_that_is_handed_through_ends_a_pour(self):
+        self.start("--speed", "5")
+        ticket = self.begin("TINT", formula({"B": 20}))
+        self.wait_for(lambda: self.status()["tinting"])
+        self.assertEqual(self.client.EXEC_B("DEEP_SERVICE", 0, 0, "0001", [])["ret_code"], 0)
+        ended = self.end(ticket)
+        self.assertEqual((ended["status"], [error["code"] for error in ended["cmd_answer"]["errors"]]),
+                         (-3, ["DE03411", "DE03142"]))
+
+    def test_a_stop_of_the_procedures_alone_leaves_a_pour_that_gives_less(self):
+        blocked = {"events": [{"at": 0, "event": "circuit_blocked", "circuit": 1}]}
+        with tempfile.TemporaryDirectory() as folder:
+            scenario = Path(folder) / "scenario.json"
+            scenario.write_text(json.dumps(blocked), encoding="utf-8")
+            self.start("--speed", "20", "--scenario", str(scenario))
+        tint = {"formula_type": 1, "quantity_unit": 3, "ids": [1, 2], "quantities": [10.0, 10.0], "levels_policy": 2}
+        ticket = self.begin("TINT", tint)
+        self.wait_for(lambda: self.status()["tinting"])
+        self.assertEqual(self.client.EXEC_B("STOP", 0, 1)["ret_code"], 0)
+        ended = self.end(ticket)
+        self.assertEqual((ended["status"], [error["code"] for error in ended["cmd_answer"]["errors"]]), (0, ["DE03142"]))
+
     def test_a_pause_is_stopped(self):
         self.start("--speed", "1")
         ticket = self.begin("PAUSE", 600000)

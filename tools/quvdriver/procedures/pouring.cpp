@@ -101,20 +101,26 @@ RunningPour describedPour(const ProcedureRun &run)
     return pour;
 }
 
-/// Whether the machine says that it was interrupted.
-bool waitForEndOfPour(const ProcedureRun &run)
+/// What the machine tells when it pours no more.
+struct PourEnd
 {
     bool isInterrupted = false;
-    const auto hasEnded = [&isInterrupted](const MachineStatusAnswer &status) {
+    bool isReset = false; ///< it resets, which forgets an interruption
+};
+
+PourEnd waitForEndOfPour(const ProcedureRun &run)
+{
+    PourEnd end;
+    const auto hasEnded = [&end](const MachineStatusAnswer &status) {
         const auto &answer = dynamic_cast<const DispenserStatusAnswer &>(status);
-        isInterrupted = answer.formula_interrupted;
+        end = {answer.formula_interrupted, answer.resetting};
         return !answer.tinting;
     };
     WaitRules rules;
     rules.expected = run.progress->expected();
     if (waitUntil(hasEnded, run.machine, rules, run.isDriverGoing) == WaitEnd::Stopped)
         run.requireToGoOn();
-    return isInterrupted;
+    return end;
 }
 
 /// What is told of the report, which lowers the levels. \a isLess tells whether something was not poured.
@@ -148,11 +154,12 @@ FW_ErrorList pour(ProcedureRun &run)
     // before the machine's status can tell anybody that it pours
     run.machine.setRunningPour(describedPour(run));
     run.begin(dynamic_cast<SerialProtoCommand &>(run.command));
-    const bool isInterrupted = waitForEndOfPour(run);
+    const PourEnd end = waitForEndOfPour(run);
     bool isLess = false;
     FW_ErrorList told = takePourFromLevels(run, isLess);
-    // A reset forgets the interruption, and what was stopped may have been at its end already.
-    if (!isInterrupted && !(isLess && run.stopped.hasBegun()))
+    // What was stopped, or came to a reset, may have been at its end already.
+    const bool isCutShort = isLess && (end.isReset || run.stopped.hasBegun());
+    if (!end.isInterrupted && !isCutShort)
         return told;
     FW_ErrorList errors;
     errors.append(FW_DriverError(QStringLiteral("DE03411"),
