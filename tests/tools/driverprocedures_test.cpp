@@ -402,6 +402,60 @@ TEST_F(StirrersTest, whatStirsOnLongAfterItsTimeEndsTheSeries)
     EXPECT_EQ(firmware.asked(), "0004@1 1 0 0");
 }
 
+TEST_F(StirrersTest, aMachineThatEndsItsStirringTellsWhy)
+{
+    struct Case
+    {
+        const char *status; ///< when it has ended
+        const char *reason;
+    };
+    for (const Case &ended : {Case{"E 0 1 1 0 10 0 0 F5 F5 4 0 0 0 0", "the offline button is pressed"},
+                              Case{"E 0 1 0 0 50 0 0 F5 F5 4 0 0 0 0", "the emergency button is pressed"},
+                              Case{"E 0 1 0 0 10 0 0 F5 F5 4 0 0 0 0", "the machine is not ready"}}) {
+        for (const int duration : {60000, 60515}) { // a minute on this machine, and without an end
+            int questions = 0;
+            m_driver = std::make_unique<quv::Driver>();
+            const ToldFirmware &firmware = add(stirringMachine(), [&](const QString &asked) {
+                if (!asked.startsWith(QLatin1String("0006")))
+                    return tokensOf("0");
+                return tokensOf(++questions < 3 ? "E 0 1 10 0 0 0 0 F5 F5 4 0 0 0 0" : ended.status);
+            });
+            const Envelope envelope = call("EXEC_B", "STIR_ALL", duration, 0, true, 0);
+            EXPECT_EQ(envelope.retCode, 7);
+            EXPECT_EQ(envelope.error(),
+                      std::string("DE03417 The circuit at position 1 stirs no more, before its time: ") +
+                          ended.reason);
+            EXPECT_EQ(firmware.asked(),
+                      duration == 60515 ? "0004@1 245 245 0" : "0004@1 222 243 0"); // no other circuit
+        }
+    }
+}
+
+TEST_F(StirrersTest, aMachineThatIsNotReadyIsNotWaitedFor)
+{
+    add(stirringMachine(), [](const QString &asked) { // it ended before anybody saw it stir
+        return tokensOf(asked.startsWith(QLatin1String("0006")) ? "E 0 1 1 0 10 0 0 F5 F5 4 0 0 0 0" : "0");
+    });
+    EXPECT_EQ(call("EXEC_B", "STIR_ALL", 60000, 0, true, 0).error(),
+              "DE03417 The circuit at position 1 stirs no more, before its time: the offline button is "
+              "pressed");
+}
+
+TEST_F(StirrersTest, whatHasStirredItsTimeHasEndedWell)
+{
+    const auto begun = ProcClock::now();
+    add(stirringMachine(), [begun](const QString &asked) { // not ready only when the time is over
+        if (!asked.startsWith(QLatin1String("0006")))
+            return tokensOf("0");
+        return tokensOf(ProcClock::now() < begun + 150ms ? "E 0 1 10 0 0 0 0 F5 F5 4 0 0 0 0"
+                                                         : "E 0 1 1 0 10 0 0 F5 F5 4 0 0 0 0");
+    });
+    XmlRpcValue items;
+    items[0]["item"] = 4;
+    items[0]["duration"] = 100; // 100 ms
+    EXPECT_EQ(call("EXEC_B", "STIR_ALL", items, 0, true, 0).error(), "");
+}
+
 TEST_F(StirrersTest, progressFollowsTheBatches)
 {
     const ToldFirmware &firmware = addStirrers();

@@ -93,6 +93,30 @@ class Scenario(unittest.TestCase):
             self.assertEqual(client.EXEC_B("GET_ERROR_PKT", 2)["ret_code"], 4)
             self.assertEqual(self.hardware_errors(client), [(1, 0)])
 
+    def test_all_errors_are_listed_until_somebody_clears_them(self):
+        events = [{"at": 0, "event": "emergency", "for": 1}, {"at": 0, "event": "circuit_blocked", "circuit": 2}]
+        with self.driver(events, "--speed", "1000") as driver, driver.client() as client:
+            self.status_with(client, emergency_pressed=False)
+            for _ in range(6):
+                client.EXEC_B("TINT", tint(2, 1))
+            self.assertEqual(self.done(client, "ERRORS_NUM"), {"num_errors": 7, "packets_count": 2})
+            for _ in range(2):
+                errors = self.done(client, "GET_ERRORS")["fw_errors"]
+                self.assertEqual([(error["error_type"], error["code"], error["module"]) for error in errors],
+                                 [(2, 1, 0)] + 6 * [(2, 3, 2)])
+            self.done(client, "CLEAR_ERRORS")
+            self.assertEqual(self.done(client, "GET_ERRORS"), {"fw_errors": []})
+
+    def test_who_stirs_all_is_told_that_the_button_ended_it(self):
+        content = json.loads(json.dumps(MACHINE))
+        for canister in content["canisters"]:
+            canister["circuits"][0]["stirring_motor"] = {}
+        with self.driver([{"at": 50, "event": "offline"}], "--speed", "10",
+                         machine=self.written("stirring.json", content)) as driver, driver.client() as client:
+            told = client.EXEC_B("STIR_ALL", 600)
+            self.assertEqual((told["ret_code"], [error["code"] for error in told["errors"]]), (7, ["DE03417"]), told)
+            self.assertIn("the offline button is pressed", told["errors"][0]["text"])
+
     def test_door_can_and_offline_show_while_they_last(self):
         events = [{"at": 0, "event": "door_open"}, {"at": 0, "event": "can_present"}, {"at": 0, "event": "offline"}]
         with self.driver(events) as driver, driver.client() as client:

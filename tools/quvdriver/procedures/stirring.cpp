@@ -59,20 +59,43 @@ WaitEnd waitForCircuit(const StirringCmd &command, const StatusCondition &condit
     return end;
 }
 
+/// When a batch began: the firmware did so between the two.
+struct BatchBegin
+{
+    StirClock::time_point first{};
+    StirClock::time_point last{};
+};
+
+/// Why the machine ends what it is at; empty while it is ready.
+QString hindranceIn(const MachineStatusAnswer &status)
+{
+    if (!status.dispenser_not_ready)
+        return {};
+    if (status.emergency_pressed)
+        return QStringLiteral("the emergency button is pressed");
+    return status.offline_pressed ? QStringLiteral("the offline button is pressed")
+                                  : QStringLiteral("the machine is not ready");
+}
+
 /// Waits until the circuit stirs no more. A motor may turn only after the firmware has replied, and what has not been seen to stir is
 /// given its time.
-void waitForEnd(const StirringCmd &command, StirClock::time_point begin, const ProcedureRun &run)
+void waitForEnd(const StirringCmd &command, const BatchBegin &begin, const ProcedureRun &run)
 {
     constexpr double Slack = 60000; // milliseconds, beside as much again as it should take
-    const StatusCondition hasEnded = hasFallen(&DispenserStatusAnswer::stirring);
-    const StatusCondition hasBegun = [&hasEnded](const MachineStatusAnswer &status) {
-        return !hasEnded(status);
+    const StatusCondition standsStill = hasFallen(&DispenserStatusAnswer::stirring);
+    const StatusCondition hasBegun = [&standsStill](const MachineStatusAnswer &status) {
+        return !standsStill(status) || status.dispenser_not_ready;
+    };
+    QString hindrance;
+    const StatusCondition hasEnded = [&](const MachineStatusAnswer &status) {
+        hindrance = hindranceIn(status);
+        return standsStill(status);
     };
     const milliseconds expected = timeOf(command.duration(), run.machine);
     const auto left = [&](milliseconds time) -> std::optional<milliseconds> {
         if (expected == Endless)
             return std::nullopt;
-        const auto passed = std::chrono::duration_cast<milliseconds>(StirClock::now() - begin);
+        const auto passed = std::chrono::duration_cast<milliseconds>(StirClock::now() - begin.last);
         return std::max(time - passed, milliseconds(0));
     };
     if (waitForCircuit(command, hasBegun, expected, left(expected), run) == WaitEnd::Untold) {
@@ -84,13 +107,18 @@ void waitForEnd(const StirringCmd &command, StirClock::time_point begin, const P
         refuse(OtherFailure, "DE03414",
                QStringLiteral("The circuit at position %1 stirs on, long after its time")
                    .arg(command.moduleID()));
+    if (!hindrance.isEmpty() && StirClock::now() - begin.first < expected)
+        refuse(Interrupted, "DE03417",
+               QStringLiteral("The circuit at position %1 stirs no more, before its time: %2")
+                   .arg(QString::number(command.moduleID()), hindrance));
 }
 
 void stir(Batch batch, ProcedureRun &run)
 {
+    BatchBegin begin{StirClock::now(), {}};
     for (StirringCmd &command : batch)
         run.begin(command);
-    const auto begin = StirClock::now();
+    begin.last = StirClock::now();
     for (const StirringCmd &command : batch)
         waitForEnd(command, begin, run);
 }
