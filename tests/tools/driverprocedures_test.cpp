@@ -150,6 +150,36 @@ TEST_F(DriverProceduresTest, whatTheFirmwareRefusesEndsAProcedure)
     EXPECT_EQ(call("EXEC_B", "STIR_ALL").retCode, 1); // it has no stirrers
 }
 
+TEST_F(DriverProceduresTest, errorsThatOthersClearMeanwhileAreNoRefusal)
+{
+    bool isCleared = false;
+    const ToldFirmware &firmware = add(pouringMachine(), [&isCleared](const QString &asked) {
+        if (asked == QLatin1String("000C@0 245"))
+            return tokensOf(isCleared ? "3 1 0 1" : "3 6 0 2"); // one error in one packet, or six in two
+        if (asked == QLatin1String("000C@0 1"))
+            return tokensOf(isCleared ? "8 1 1 1 2 9 0 0 0" : "8 1 1 1 2 5 0 0 0");
+        isCleared = true; // before the second packet
+        return FirmwareReply{true, tokensOf("6 20 0 0 0 0 0").tokens};
+    });
+    const Envelope envelope = call("EXEC_B", "GET_ERRORS");
+    ASSERT_EQ(envelope.retCode, 0) << envelope.error();
+    EXPECT_EQ(firmware.asked(), "000C@0 245, 000C@0 1, 000C@0 2, 000C@0 245, 000C@0 1");
+    const XmlRpcValue errors = envelope.member("fw_errors");
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_EQ(FW_HwError(*FindXmlRpcElement(errors, 0)).code(), 9);
+}
+
+TEST_F(DriverProceduresTest, aPacketThatIsRefusedThoughItIsThereEndsTheQuestion)
+{
+    const ToldFirmware &firmware = add(pouringMachine(), [](const QString &asked) {
+        return asked == QLatin1String("000C@0 245") ? tokensOf("3 1 0 1")
+                                                    : FirmwareReply{true, tokensOf("6 20 0 0 0 0 0").tokens};
+    });
+    EXPECT_EQ(call("EXEC_B", "GET_ERRORS").error(),
+              "DE03106 The firmware refused the code 000C: Bad command parameters (masks 0x20 and 0x0)");
+    EXPECT_EQ(firmware.asked(), "000C@0 245, 000C@0 1, 000C@0 245");
+}
+
 TEST_F(DriverProceduresTest, theStatusOfCircuits)
 {
     const ToldFirmware &firmware = add(pouringMachine(), [](const QString &asked) {
