@@ -11,6 +11,26 @@ using namespace std::chrono_literals;
 using namespace quv::test;
 using quv::FirmwareReply;
 
+/// The simulated firmware, behind a link on which rows can be lost.
+class RowsLostFirmware final : public quv::Firmware
+{
+public:
+    explicit RowsLostFirmware(const FW_Machine &machine) : m_firmware(machine, 1000) {}
+
+    FirmwareReply execute(const QString &code, int module, const QList<int> &parameters) override
+    {
+        if (losesRows && code == QStringLiteral("0066"))
+            throw std::runtime_error("the firmware gives no reply");
+        return m_firmware.execute(code, module, parameters);
+    }
+    double speed() const override { return m_firmware.speed(); }
+
+    bool losesRows = false;
+
+private:
+    quv::SimulatedFirmware m_firmware;
+};
+
 /// A driver that writes the configuration of a machine which pours.
 class DriverConfigurationTest : public DriverFixture
 {
@@ -201,6 +221,24 @@ TEST_F(DriverConfigurationTest, aFirmwareThatDoesNotTellItsRowsIsNotFollowed)
     EXPECT_EQ(ended.error(), "DE03120 The driver's machine does not follow the configuration: @GMC: the "
                              "firmware does not tell it");
     EXPECT_EQ(estimate(), 12000);
+}
+
+TEST_F(DriverConfigurationTest, aRowThatIsLostOnTheWayIsReadTheNextTime)
+{
+    auto owned = std::make_unique<RowsLostFirmware>(pouringMachine(1));
+    RowsLostFirmware &firmware = *owned;
+    m_driver->addMachine(std::make_unique<FW_Dispenser>(pouringMachine(1)), std::move(owned));
+    ASSERT_EQ(estimate(), 12);
+    EXPECT_EQ(write(3, "1,1,1,1,2,1,1,60").retCode, 0);
+    firmware.losesRows = true;
+    const Envelope ended = call("EXEC_B", "FINALIZE_CONFIG");
+    EXPECT_EQ(ended.retCode, 0);
+    EXPECT_EQ(ended.error(), "DE03120 The driver's machine does not follow the configuration: @GMC: the "
+                             "firmware gives no reply");
+    EXPECT_EQ(estimate(), 12);
+    firmware.losesRows = false;
+    finalise();
+    EXPECT_EQ(estimate(), 6);
 }
 
 TEST_F(DriverConfigurationTest, aMixerKeepsItsName)

@@ -6,6 +6,8 @@
 
 #include "base/serialprotocommand.h"
 
+#include <algorithm>
+
 namespace quv {
 
 FW_ErrorList finaliseConfiguration(ProcedureRun &run)
@@ -21,7 +23,14 @@ FW_ErrorList finaliseConfiguration(ProcedureRun &run)
     const auto ask = [&machine](const QString &code, const QList<int> &parameters) {
         return machine.exchange(code, 0, parameters);
     };
-    const ToldRows rows = readRows(machine.takeWrittenRows(), ask, problems);
+    const RowKeys written = machine.takeWrittenRows();
+    const ToldRows rows = readRows(written, ask, problems);
+    for (const RowKey &key : written) {
+        const bool isTold =
+            std::any_of(rows.begin(), rows.end(), [&key](const ToldRow &row) { return row.key == key; });
+        if (!isTold) // as when the link is lost: the next time it is read again
+            machine.rowWritten(key);
+    }
     machine.configure([&](FW_Machine &changed) { applyRows(changed, rows, problems); });
     FW_ErrorList errors;
     for (const QString &problem : problems)
