@@ -129,13 +129,14 @@ TEST_F(DriverSessionsTest, aLeadingTextThatIsNoSessionsIsRefused)
 
 TEST_F(DriverSessionsTest, aLoginNamesAMachineThatThereIs)
 {
+    const std::string there = "; it has dispenser:1, mixer:1, dispenser:2, mixer:2";
     const Envelope envelope = call("EXEC_B", "LOGIN", 3, "client");
     EXPECT_EQ(envelope.retCode, 5);
-    EXPECT_EQ(envelope.error(), "DE03401 The driver has no dispenser with the ID 3");
+    EXPECT_EQ(envelope.error(), "DE03401 The driver has no dispenser with the ID 3" + there);
     EXPECT_EQ(call("EXEC_B", "LOGIN", 3, "client", 0, 4).error(),
-              "DE03401 The driver has no mixer with the ID 3");
+              "DE03401 The driver has no mixer with the ID 3" + there);
     EXPECT_EQ(call("EXEC_B", "LOGIN", 1, "client", 0, 2).error(),
-              "DE03401 The driver has no scale with the ID 1");
+              "DE03401 The driver has no scale with the ID 1" + there);
     EXPECT_EQ(call("EXEC_B", "LOGIN", 1, "client", 0, 7).error(),
               "DE03401 The driver has no machine of the kind 7 with the ID 1");
 }
@@ -172,7 +173,8 @@ TEST_F(DriverSessionsTest, theActiveMachineIsToldAndChosen)
     EXPECT_EQ(call("EXEC_B", "MIXER_PLATES", 1).retCode, 0);
     EXPECT_EQ(asked(), (Counts{0, 1, 0, 1}));
     EXPECT_EQ(call("EXEC_B", "SET_ACTIVE_DISP", 7, 1).error(),
-              "DE03401 The driver has no dispenser with the ID 7");
+              "DE03401 The driver has no dispenser with the ID 7; it has dispenser:1, mixer:1, dispenser:2, "
+              "mixer:2");
     EXPECT_EQ(listed(call("EXEC_B", "GET_ACTIVE_DISP")), "1 0, 2 1");
 }
 

@@ -137,7 +137,10 @@ class SessionsTest(unittest.TestCase):
         self.assertFalse(Session(client, 1).ask("GET_STATUS")["head2_can_dose"])
         Session.answer(client.EXEC_B("SET_ACTIVE_MACHINE", {"id": 1, "machine": 1}, {"id": 4, "machine": 1}))
         self.assertFalse(Session.answer(client.EXEC_B("GET_STATUS"))["head2_can_dose"])
-        self.assert_refused(client.EXEC_B("SET_ACTIVE_DISP", 2, 1), 5, "DE03401")
+        refused = client.EXEC_B("SET_ACTIVE_DISP", 2, 1)
+        self.assert_refused(refused, 5, "DE03401")
+        self.assertEqual(refused["errors"][0]["text"],
+                         "The driver has no dispenser with the ID 2; it has dispenser:1, dispenser:4, mixer:2")
 
     def test_the_levels_are_those_of_the_sessions_machine(self):
         _, client = self.driver("--machine", "dispenser", "--machine", "dispenser")

@@ -47,7 +47,17 @@ DrivenMachine &MachineRegistry::get(const MachineID &id) const
     if (DrivenMachine *machine = find(id))
         return *machine;
     refuse(NotConfigured, "DE03401",
-           QStringLiteral("The driver has no %1 with the ID %2").arg(kindInWords(id.type)).arg(id.id));
+           QStringLiteral("The driver has no %1 with the ID %2; it has %3")
+               .arg(kindInWords(id.type), QString::number(id.id), inWords()));
+}
+
+/// As they can be named when a program is told one.
+QString MachineRegistry::inWords() const
+{
+    QStringList names;
+    for (const auto &machine : m_machines)
+        names.append(QStringLiteral("%1:%2").arg(kindInWords(machine->type())).arg(machine->id().id));
+    return names.isEmpty() ? QStringLiteral("none at all") : names.join(QStringLiteral(", "));
 }
 
 DrivenMachine *MachineRegistry::active(SerialDeviceType type) const

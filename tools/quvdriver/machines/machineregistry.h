@@ -29,7 +29,7 @@ public:
 
     /// Null when there is none.
     DrivenMachine *find(const MachineID &id) const;
-    /// The same. \throws CallRefusal DE03401 when there is none
+    /// The same. \throws CallRefusal DE03401, with those that there are, when there is none
     DrivenMachine &get(const MachineID &id) const;
 
     /// Null when there is none of the kind.
@@ -40,6 +40,8 @@ public:
     void activate(const DrivenMachine &machine);
 
 private:
+    QString inWords() const;
+
     std::vector<std::unique_ptr<DrivenMachine>> m_machines{};
     mutable std::mutex m_mutex{}; ///< guards what follows
     std::map<SerialDeviceType, DrivenMachine *> m_active{};
