@@ -155,6 +155,9 @@ class SessionsTest(unittest.TestCase):
         self.assertEqual(mixer.call("RESET")["ret_code"], 0)
         self.assertFalse(Session(client, 1).ask("GET_STATUS")["resetting"])
         self.assert_refused(mixer.call("GET_STATUS"), 5, "DE03402")
+        tint = {"command": ["TINT", formula(B=10)]}
+        self.assert_refused(mixer.call("GET_CMD_EST_EXEC_TIME", tint), 5, "DE03402")
+        self.assertGreater(Session.answer(client.EXEC_B("GET_CMD_EST_EXEC_TIME", tint))["exec_time"], 0)
 
     def test_what_the_firmware_tells_of_itself(self):
         _, client = self.driver()

@@ -76,20 +76,22 @@ void requireErrorPacket(const ProtoCommand &command)
                    .arg(packet->packetIndex()));
 }
 
+/// The command whose time is asked for, and its arguments; null when none is.
+const XmlRpc::XmlRpcValue *askedForTime(const QString &name, const XmlRpc::XmlRpcValue &arguments)
+{
+    const XmlRpc::XmlRpcValue *request =
+        isNamed(name, Catalogue::GET_CMD_EST_EXEC_TIME) ? FindXmlRpcElement(arguments, 0) : nullptr;
+    return request ? FindXmlRpcMember(*request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS) : nullptr;
+}
+
 /// The canisters that would fall too low by a pour, or by that of which the time is asked for.
 FW_ErrorList lowLevelsOf(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                          const DrivenMachine *machine)
 {
     if (isPour(name))
         return lowLevels(arguments, machine);
-    if (!isNamed(name, Catalogue::GET_CMD_EST_EXEC_TIME))
-        return {};
-    const XmlRpc::XmlRpcValue *request = FindXmlRpcElement(arguments, 0);
-    const XmlRpc::XmlRpcValue *asked =
-        request ? FindXmlRpcMember(*request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS) : nullptr;
-    QString pour;
-    return asked && DecodeXmlRpcValue(*asked, 0, pour) && isPour(pour) ? lowLevels(*asked, machine)
-                                                                       : FW_ErrorList();
+    const QString pour = estimatedCommand(name, arguments);
+    return isPour(pour) ? lowLevels(*askedForTime(name, arguments), machine) : FW_ErrorList();
 }
 
 } // namespace
@@ -116,6 +118,13 @@ std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::Xm
         errors.append(canisters);
         throw CallRefusal(InvalidRequest, errors);
     }
+}
+
+QString estimatedCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments)
+{
+    const XmlRpc::XmlRpcValue *asked = askedForTime(name, arguments);
+    QString command;
+    return asked && DecodeXmlRpcValue(*asked, 0, command) ? command : name;
 }
 
 qint64 estimatedTime(const ProtoCommand &command, const DrivenMachine *machine)

@@ -23,6 +23,9 @@ bool isPour(const QString &name);
 std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                                            DrivenMachine *machine);
 
+/// The command whose time a request asks for; its own one when it asks for none.
+QString estimatedCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments);
+
 /// Milliseconds that the command should take on \a machine, a faster one taking less; 0 or less when nobody knows.
 qint64 estimatedTime(const ProtoCommand &command, const DrivenMachine *machine);
 

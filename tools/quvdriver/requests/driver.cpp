@@ -461,22 +461,29 @@ XmlRpcValue Driver::waitForChange(const Request &request, Ending &gone)
     }
 }
 
-/// The session's machine, or without a session the active one. Of what is for the driver itself it may be any, or null.
+/// The session's machine, or without a session the active one. Of what is for the driver itself it may be any, or null; a time is
+/// that of the machine that the command would go to.
 DrivenMachine *Driver::machineFor(const Request &request)
 {
-    if (request.session.isEmpty())
-        return m_machines.activeFor(request.name);
+    const QString estimated = estimatedCommand(request.name, request.arguments);
+    const QString name = ProtoCommandList::addressMachine(estimated) ? estimated : request.name;
+    DrivenMachine *active = m_machines.activeFor(name);
+    if (request.session.isEmpty()) {
+        if (!active && name != request.name)
+            refuseWithoutMachine();
+        return active;
+    }
     DrivenMachine &machine = m_sessions.machineOf(request.session);
     const bool fits = machine.type() == SerialDeviceType::Dispenser
-                          ? ProtoCommandList::targetIsDispenser(request.name)
-                          : ProtoCommandList::targetIsMixer(request.name);
+                          ? ProtoCommandList::targetIsDispenser(name)
+                          : ProtoCommandList::targetIsMixer(name);
     if (fits)
         return &machine;
-    if (ProtoCommandList::addressMachine(request.name))
+    if (ProtoCommandList::addressMachine(name))
         refuse(NotConfigured, "DE03402",
                QStringLiteral("%1 is not for a %2, which is the machine of the session")
-                   .arg(request.name, kindInWords(machine.type())));
-    return m_machines.activeFor(request.name);
+                   .arg(name, kindInWords(machine.type())));
+    return active;
 }
 
 } // namespace quv
