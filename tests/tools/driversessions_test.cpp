@@ -138,7 +138,59 @@ TEST_F(DriverSessionsTest, aLoginNamesAMachineThatThereIs)
     EXPECT_EQ(call("EXEC_B", "LOGIN", 1, "client", 0, 2).error(),
               "DE03401 The driver has no scale with the ID 1" + there);
     EXPECT_EQ(call("EXEC_B", "LOGIN", 1, "client", 0, 7).error(),
-              "DE03401 The driver has no machine of the kind 7 with the ID 1");
+              "DE03401 The driver has no machine of the kind 7 with the ID 1" + there);
+}
+
+TEST_F(DriverSessionsTest, aDriverWithoutMachinesSaysSo)
+{
+    m_driver = std::make_unique<quv::Driver>();
+    EXPECT_EQ(call("EXEC_B", "LOGIN", 1, "client").error(),
+              "DE03401 The driver has no dispenser with the ID 1; it has none at all");
+}
+
+TEST_F(DriverSessionsTest, aCommandThatThereIsNotIsNamedBehindItsSession)
+{
+    const std::string session = login(1, 1);
+    const Envelope unknown = call("EXEC_B", session, "NOSUCH", 5);
+    EXPECT_EQ(unknown.retCode, 1);
+    ASSERT_EQ(unknown.failures.size(), 2);
+    EXPECT_EQ(unknown.failures[1], QStringLiteral("DE03103 The catalogue has no command \"NOSUCH\""));
+    EXPECT_EQ(unknown.error().find(session), std::string::npos);
+    EXPECT_EQ(call("EXEC_NB", session, 5).error(),
+              "DE03102 The command name must be a text, not the integer 5");
+    EXPECT_EQ(call("EXEC_NC", session).error(), "DE03101 The request holds no command name");
+    // what is no session's may be a command with its first argument
+    EXPECT_EQ(call("EXEC_B", "NOSUCH", session).failures.value(1),
+              QStringLiteral("DE03103 The catalogue has no command \"NOSUCH\""));
+    EXPECT_EQ(asked(), (Counts{0, 0, 0, 0}));
+}
+
+XmlRpcValue timeOf(const XmlRpcValue &command)
+{
+    XmlRpcValue asked;
+    asked["command"] = command;
+    return asked;
+}
+
+TEST_F(DriverSessionsTest, aTimeIsThatOfTheMachineToWhichTheCommandWouldGo)
+{
+    addSimulated(*withID<FW_Dispenser>(3), 4);
+    const XmlRpcValue shelf = timeOf(arrayOf("SHELF_MOVE", 1, 0)); // 5 s
+    EXPECT_EQ(call("EXEC_B", login(3, 1), "GET_CMD_EST_EXEC_TIME", shelf).number("exec_time"), 1250);
+    EXPECT_EQ(call("EXEC_B", "GET_CMD_EST_EXEC_TIME", shelf).number("exec_time"), 5000);
+    const XmlRpcValue tint = timeOf(arrayOf("TINT", formula({{"A", 10}})));
+    const Envelope refused = call("EXEC_B", login(1, 4), "GET_CMD_EST_EXEC_TIME", tint);
+    EXPECT_EQ(refused.retCode, 5);
+    EXPECT_EQ(refused.error(), "DE03402 TINT is not for a mixer, which is the machine of the session");
+    EXPECT_EQ(call("EXEC_B", login(1, 1), "GET_CMD_EST_EXEC_TIME", timeOf(arrayOf("MIXER_STATUS"))).error(),
+              "DE03402 MIXER_STATUS is not for a dispenser, which is the machine of the session");
+    EXPECT_EQ(call("EXEC_B", "GET_CMD_EST_EXEC_TIME", timeOf(arrayOf("MIXER_STATUS"))).error(), "");
+    EXPECT_EQ(asked(), (Counts{0, 0, 0, 0}));
+
+    m_driver = std::make_unique<quv::Driver>();
+    addMixer({QStringLiteral("0")});
+    EXPECT_EQ(call("EXEC_B", "GET_CMD_EST_EXEC_TIME", tint).error(),
+              "DE03104 This driver has no machine that carries out this command");
 }
 
 /// "disp_id active" of each dispenser that the driver lists.

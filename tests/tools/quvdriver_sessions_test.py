@@ -106,6 +106,14 @@ class SessionsTest(unittest.TestCase):
         self.assert_refused(client.EXEC_NB("leading", "RESET"), 1, "DE03400")
         self.assert_refused(client.EXEC_NC("leading", "GET_STATUS", {"cmd_parameters": []}, 10, 10), 1, "DE03400")
 
+    def test_a_command_that_there_is_not_is_named_without_the_session(self):
+        _, client = self.driver()
+        session = Session(client, 1)
+        refused = session.call("GET_STATSU")
+        self.assertEqual((refused["ret_code"], refused["errors"][-1]["code"]), (1, "DE03103"))
+        self.assertIn('"GET_STATSU"', refused["errors"][-1]["text"])
+        self.assertNotIn(session.id, json.dumps(refused, default=str))
+
     def test_built_in_machines_given_twice_have_ids_of_their_own(self):
         _, client = self.driver("--machine", "dispenser", "--machine", "dispenser", "--machine", "turntable",
                                 "--machine", "dispenser:9", "--machine", "mixer", "--machine", "mixer")

@@ -146,11 +146,11 @@ bool asksForStatus(ProtoCommandList::CallKind kind, const Request &request)
 
 /// The envelope that \a work makes of what \a call asks for.
 template <class Work>
-XmlRpcValue withRequest(const MethodCall &call, Work work)
+XmlRpcValue withRequest(const MethodCall &call, const Request::IsSession &isSession, Work work)
 {
     std::optional<Request> request;
     XmlRpcValue refused = enveloped(QString(), [&] {
-        request.emplace(call.params);
+        request.emplace(call.params, isSession);
         return XmlRpcValue();
     });
     return request ? enveloped(request->name, [&] { return work(*request); }) : refused;
@@ -224,7 +224,8 @@ bool Driver::addMachine(std::unique_ptr<FW_Machine> machine, std::unique_ptr<Fir
 XmlRpcValue Driver::call(const MethodCall &call, Ending &gone)
 {
     const auto kind = knownKindOf(call);
-    return withRequest(call, [&](const Request &request) { return carryOut(kind, request, gone); });
+    return withRequest(call, sessionTest(),
+                       [&](const Request &request) { return carryOut(kind, request, gone); });
 }
 
 QByteArray Driver::reply(const MethodCall &call, Ending &gone)
@@ -232,7 +233,7 @@ QByteArray Driver::reply(const MethodCall &call, Ending &gone)
     const auto kind = knownKindOf(call);
     StatusSource source;
     QByteArray written;
-    const XmlRpcValue envelope = withRequest(call, [&](const Request &request) {
+    const XmlRpcValue envelope = withRequest(call, sessionTest(), [&](const Request &request) {
         return asksForStatus(kind, request) ? askStatus(request, source, written)
                                             : carryOut(kind, request, gone);
     });
@@ -242,6 +243,11 @@ QByteArray Driver::reply(const MethodCall &call, Ending &gone)
     if (!source.tokens.isEmpty())
         m_statusReplies.keep(source, written);
     return written;
+}
+
+std::function<bool(const QString &)> Driver::sessionTest()
+{
+    return [this](const QString &id) { return m_sessions.isOpen(id); };
 }
 
 bool Driver::mayLast(const MethodCall &call)
@@ -260,7 +266,7 @@ bool Driver::mayLast(const MethodCall &call)
 
 XmlRpcValue Driver::refuseLongCall(const MethodCall &call)
 {
-    return withRequest(call, [](const Request & /*request*/) -> XmlRpcValue {
+    return withRequest(call, {}, [](const Request & /*request*/) -> XmlRpcValue {
         refuse(NotCarriedOut, "DE03130",
                QStringLiteral("Too many calls wait for their end; a call with a ticket (EXEC_NB) does not"));
     });

@@ -14,6 +14,7 @@
 #include <QuvFramework/fw_errorlist.h>
 #include <QuvFramework/fw_machine.h>
 
+#include <functional>
 #include <memory>
 
 class SerialProtoCommand;
@@ -72,6 +73,7 @@ private:
     FW_ErrorList runProcedure(Task &task);
     static void finish(const Task &task);
     DrivenMachine *machineFor(const Request &request);
+    std::function<bool(const QString &)> sessionTest();
 
     Ending m_ending{};
     MachineRegistry m_machines{};

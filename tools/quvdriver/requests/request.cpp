@@ -11,8 +11,6 @@
 
 #include <QtCore/QLocale>
 
-#include <optional>
-
 namespace quv {
 namespace {
 
@@ -44,32 +42,35 @@ QString described(const XmlRpcValue &value)
     }
 }
 
-std::optional<QString> commandName(const XmlRpcValue *value)
+bool isCommandName(const XmlRpcValue *value)
 {
     QString name;
-    if (value && DecodeXmlRpcValue(*value, name) && ProtoCommandList::existsCommand(name))
-        return name;
-    return std::nullopt;
+    return value && DecodeXmlRpcValue(*value, name) && ProtoCommandList::existsCommand(name);
+}
+
+QString nameIn(const XmlRpcValue *value)
+{
+    if (!value)
+        refuse(InvalidRequest, "DE03101", QStringLiteral("The request holds no command name"));
+    QString name;
+    if (!DecodeXmlRpcValue(*value, name))
+        refuse(InvalidRequest, "DE03102",
+               QStringLiteral("The command name must be a text, not %1").arg(described(*value)));
+    return name;
 }
 
 } // namespace
 
-// The leading text may be anything, so it is one only when a command's name follows and it is none itself.
-Request::Request(const XmlRpcValue &params)
+// The leading text may be anything, so it is one only when it is no command's name, and one follows or it is a session's.
+Request::Request(const XmlRpcValue &params, const IsSession &isSession)
+    : name(nameIn(FindXmlRpcElement(params, 0)))
 {
-    const XmlRpcValue *first = FindXmlRpcElement(params, 0);
-    if (!first)
-        refuse(InvalidRequest, "DE03101", QStringLiteral("The request holds no command name"));
-    if (!DecodeXmlRpcValue(*first, name))
-        refuse(InvalidRequest, "DE03102",
-               QStringLiteral("The command name must be a text, not %1").arg(described(*first)));
     int begin = 1;
-    if (!ProtoCommandList::existsCommand(name)) {
-        if (const auto second = commandName(FindXmlRpcElement(params, 1))) {
-            session = name;
-            name = *second;
-            begin = 2;
-        }
+    const XmlRpcValue *second = FindXmlRpcElement(params, 1);
+    if (!ProtoCommandList::existsCommand(name) && (isCommandName(second) || (isSession && isSession(name)))) {
+        session = name;
+        name = nameIn(second);
+        begin = 2;
     }
     // Texts repeat the name, and one that nobody knows may be of any length.
     if (!ProtoCommandList::existsCommand(name))

@@ -46,6 +46,13 @@ QString Sessions::open(const Session &login, DrivenMachine &machine)
     return id;
 }
 
+bool Sessions::isOpen(const QString &id)
+{
+    const SessionsLock lock(m_mutex);
+    endUnused();
+    return m_sessions.contains(id);
+}
+
 DrivenMachine &Sessions::machineOf(const QString &id)
 {
     const SessionsLock lock(m_mutex);

@@ -35,6 +35,8 @@ public:
     /// The ID of a new session, of the client and level that \a login tells. \throws CallRefusal DE03403 when there is no room
     QString open(const Session &login, DrivenMachine &machine);
 
+    bool isOpen(const QString &id);
+
     // What follows counts as use. \throws CallRefusal DE03400 when there is no such session
 
     DrivenMachine &machineOf(const QString &id);
