@@ -2,12 +2,14 @@
 #include "drivercalls.h"
 #include "pouringmachine.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QMap>
 
 #include <chrono>
 #include <future>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -136,6 +138,40 @@ TEST_F(DriverProceduresTest, withoutErrorsNoPacketIsAskedFor)
     const ToldFirmware &firmware = add(pouringMachine(), [](const QString &) { return tokensOf("3 0 0 0"); });
     EXPECT_EQ(call("EXEC_B", "GET_ERRORS").member("fw_errors").size(), 0);
     EXPECT_EQ(firmware.asked(), "000C@0 245"); // the packet 0 would clear the buffer
+}
+
+TEST_F(DriverProceduresTest, anErrorKeepsTheTimeWhenItWasFirstRead)
+{
+    int raised = 1; // that many times the same error, 2 of module 7
+    add(pouringMachine(), [&raised](const QString &asked) {
+        if (asked == QLatin1String("000C@0 0"))
+            return tokensOf("0");
+        if (asked == QLatin1String("000C@0 245"))
+            return tokensOf(raised == 1 ? "3 1 0 1" : "3 2 0 1");
+        return tokensOf(raised == 1 ? "8 1 1 1 7 2 0 0 0" : "D 1 1 2 7 2 0 0 0 7 2 0 0 0");
+    });
+    const auto times = [this] {
+        std::this_thread::sleep_for(2ms);
+        const XmlRpcValue errors = call("EXEC_B", "GET_ERRORS").member("fw_errors");
+        std::vector<QDateTime> told;
+        for (int i = 0; i < errors.size(); ++i)
+            told.push_back(FW_HwError(*FindXmlRpcElement(errors, i)).timestamp());
+        return told;
+    };
+    const std::vector<QDateTime> first = times();
+    ASSERT_EQ(first.size(), 1U);
+    EXPECT_EQ(times(), first);
+    raised = 2;
+    const std::vector<QDateTime> second = times();
+    ASSERT_EQ(second.size(), 2U);
+    EXPECT_EQ(second[0], first[0]);
+    EXPECT_GT(second[1], first[0]);
+    EXPECT_EQ(times(), second);
+    raised = 1;
+    ASSERT_EQ(call("EXEC_B", "CLEAR_ERRORS").retCode, 0);
+    const std::vector<QDateTime> third = times();
+    ASSERT_EQ(third.size(), 1U);
+    EXPECT_GT(third[0], second[1]);
 }
 
 TEST_F(DriverProceduresTest, whatTheFirmwareRefusesEndsAProcedure)

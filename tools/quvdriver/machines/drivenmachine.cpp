@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "machines/drivenmachine.h"
 
+#include <QuvFramework/fw_error.h>
+
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace quv {
@@ -70,6 +73,34 @@ void DrivenMachine::configure(const std::function<void(FW_Machine &)> &changes)
     std::unique_ptr<FW_Machine> changed(m_machine->clone());
     changes(*changed);
     m_machine = std::move(changed);
+}
+
+FW_ErrorList DrivenMachine::withFirstTimes(const FW_ErrorList &told)
+{
+    const Lock lock(m_state);
+    std::vector<const FW_Error *> known; // the same error may stand there twice
+    for (int i = 0; i < m_errors.size(); ++i)
+        known.push_back(m_errors[i]);
+    FW_ErrorList timed;
+    for (int i = 0; i < told.size(); ++i) {
+        const std::unique_ptr<FW_Error> error(told[i]->clone());
+        const auto before = std::find_if(known.begin(), known.end(), [&error](const FW_Error *candidate) {
+            return candidate->equalTo(*error);
+        });
+        if (before != known.end()) {
+            error->setTimestamp((*before)->timestamp());
+            known.erase(before);
+        }
+        timed.append(error.get());
+    }
+    m_errors = timed;
+    return timed;
+}
+
+void DrivenMachine::errorsCleared()
+{
+    const Lock lock(m_state);
+    m_errors.clear();
 }
 
 std::shared_ptr<Engagement> DrivenMachine::engage(const QString &command, Engages part, QString *other)

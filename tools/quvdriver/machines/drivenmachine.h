@@ -11,6 +11,7 @@
 
 #include <QuvFramework/formula.h>
 #include <QuvFramework/fw_dispenser.h>
+#include <QuvFramework/fw_errorlist.h>
 
 #include <atomic>
 #include <functional>
@@ -75,6 +76,11 @@ public:
     /// Changes the machine as a whole; when \a changes throws, it stays as it is.
     void configure(const std::function<void(FW_Machine &)> &changes);
 
+    /// What the firmware's buffer holds, each error with the time when it was first told: a firmware tells none.
+    FW_ErrorList withFirstTimes(const FW_ErrorList &told);
+    /// Whatever the buffer holds later is new.
+    void errorsCleared();
+
     /// Begins a procedure, which the machine is at until the result is gone; null while another one needs the same part, and
     /// \a other is then what that one carries out.
     std::shared_ptr<Engagement> engage(const QString &command, Engages part, QString *other = nullptr);
@@ -102,6 +108,7 @@ private:
     std::vector<std::weak_ptr<Engagement>> m_engagements{};
     RunningPour m_pour{};
     RowKeys m_writtenRows{};
+    FW_ErrorList m_errors{}; ///< as they were told last
 };
 
 } // namespace quv

@@ -51,7 +51,7 @@ FW_ErrorList keptErrors(const ProcedureRun &run)
 
 FW_ErrorList askErrors(ProcedureRun &run)
 {
-    GetErrorsAnswer answer(keptErrors(run));
+    GetErrorsAnswer answer(run.machine.withFirstTimes(keptErrors(run)));
     run.command.setProtoAnswer(&answer);
     return {};
 }

@@ -7,7 +7,7 @@
 
 namespace quv {
 
-/// GET_ERRORS: asks how many packets of errors the firmware keeps, then for each of them.
+/// GET_ERRORS: asks how many packets of errors the firmware keeps, then for each of them. The answer tells when each was first read.
 FW_ErrorList askErrors(ProcedureRun &run);
 
 } // namespace quv

@@ -428,6 +428,8 @@ void Driver::finish(const Task &task)
 {
     if (task.name == ProtoCommandList::cmdStr(ProtoCommandList::GET_DISPENSED_FORMULA))
         answerAsAsked(*task.command, *task.machine);
+    if (task.name == ProtoCommandList::cmdStr(ProtoCommandList::CLEAR_ERRORS))
+        task.machine->errorsCleared();
     const auto *write = dynamic_cast<const WriteConfigurationParamCmd *>(task.command.get());
     if (write && write->confData())
         task.machine->rowWritten(writtenRow(*write->confData()));
