@@ -7,6 +7,7 @@ import re
 import signal
 import socketserver
 import sys
+import tempfile
 import threading
 import time
 import unittest
@@ -307,6 +308,15 @@ CANISTER  COLORANT  LEVEL                OF    WARNING  RESERVE
         with FakeDriver(GET_STATUS=dispenser()) as driver:
             self.assertEqual(self.done(driver, "status"), "Dispenser\nAt rest\n")
 
+    def test_capping_station(self):
+        flags = {"m_zdr_mixingInProgress": "mixing in progress", "m_zdr_openingPlatesInProgress": "plates opening",
+                 "m_zdr_closingPlatesInProgress": "plates closing", "m_zdr_pluggingInProgress": "plugging in progress",
+                 "m_zdr_canCentered": "can centred", "m_zdr_plasticPlugReserve": "few plugs left",
+                 "m_zdr_plasticPlugNotMounted": "no plug mounted", "m_zdr_homePosition": "at its home position"}
+        for flag, words in flags.items():
+            with FakeDriver(GET_STATUS=dispenser(**{flag: True})) as driver:
+                self.assertEqual(self.done(driver, "status"), f"Dispenser\nCapping station: {words}\n")
+
     def test_real_driver(self):
         with quvdriver_process.Driver("--machine", "dispenser") as driver:
             out = self.done(type("Port", (), {"port": str(driver.port)}), "status")
@@ -351,6 +361,67 @@ class Watch(MachineTest):
                 "hardware error 2: the canister of circuit 5 is empty",
                 "canister 1 (B) is below its reserve: 40 of 1000",
                 "canister 2 (KX) is above its warning level again: 900 of 1000"])
+
+    def test_the_same_error_twice(self):
+        def told(*seconds):
+            return errors(*[hardware_error(3, 5, f"2024-02-29T07:09:{each:02}.000Z") for each in seconds])
+
+        line = "hardware error 3: circuit 5 is blocked"  # whatever time the driver tells, and each as often as it is there
+        with FakeDriver(GET_STATUS=dispenser(),
+                        GET_ERRORS=[told(1), told(2), told(3, 3), told(4, 4), told(5), told(6, 6)]) as driver:
+            self.assertEqual(self.lines(driver, "--count", "7"), ["Machine status 1", line, line, line])
+
+    def test_changes_of_a_dispenser(self):
+        status = [dispenser(head1_can_dose=True, m_zdr_homePosition=True), dispenser(stall_high=True, current_position_id=4),
+                  dispenser(recirculating=True, current_position_id=7), dispenser(head1_can_dose=True, pumping=True)]
+        with FakeDriver(GET_STATUS=status) as driver:
+            self.assertEqual(self.lines(driver, "--count", "4"), [
+                "Machine status 1", "Head 1 ready to dispense", "Capping station: at its home position",
+                "Position 4", "No longer: Head 1 ready to dispense", "No longer: Capping station: at its home position",
+                "Stall high",
+                "Recirculation in progress", "Position 7", "No longer: Stall high",
+                "Recirculation not in progress", "No longer: Position 7", "Head 1 ready to dispense", "pumping"])
+
+    def test_mixer_of_a_driver_without_dispenser(self):
+        with FakeDriver(GET_STATUS=refused("DE03104", "no machine", 5), GET_ERRORS=errors(hardware_error(1, 0)),
+                        MIXER_STATUS=[mixer(), mixer(mixing=True)]) as driver:
+            self.assertEqual(self.lines(driver, "--count", "2"), [
+                "Machine status 1", "hardware error 1: the emergency button was pressed", "Mixing in progress"])
+        self.assertEqual([driver.names().count(name) for name in ["GET_STATUS", "MIXER_STATUS", "GET_CANISTER_LIST"]], [1, 2, 0])
+
+    def test_another_machine_is_no_change(self):
+        with FakeDriver(GET_STATUS=[dispenser(), refused("DE03104", "no machine", 5)], MIXER_STATUS=mixer()) as driver:
+            lines = self.lines(driver, "--count", "2")
+        self.assertEqual(lines[:2], ["Machine status 1", "No status: DE03104: no machine"])
+        self.assertNotIn("MIXER_STATUS", driver.names())
+
+    def test_real_driver(self):
+        """A circuit that is blocked for a while, and an error that stays: each is told once."""
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "scenario.json")
+            with open(path, "w", encoding="utf-8") as file:
+                json.dump({"events": [{"at": 10, "event": "circuit_blocked", "circuit": 5, "for": 10},
+                                      {"at": 25, "event": "emergency", "for": 5}]}, file)
+            with quvdriver_process.Driver("--machine", "dispenser", "--speed", "5", "--scenario", path) as driver, \
+                    start("watch", "--interval", "0.02", "--port", str(driver.port)) as process:
+                watchdog = threading.Timer(30, process.kill)
+                watchdog.start()
+                lines = []
+                while not lines or lines[-1] != "Emergency button released":
+                    lines.append(process.stdout.readline()[9:-1])
+                    self.assertNotEqual(lines[-1], "", lines)
+                asked = []
+                with driver.client() as client:
+                    for _ in range(3):  # a few more questions of the program meanwhile
+                        asked.append(client.EXEC_B("GET_ERRORS")["ret_value"]["fw_errors"])
+                        time.sleep(0.1)
+                process.terminate()
+                lines += [line[9:-1] for line in process.stdout.read().splitlines(True)]
+                watchdog.cancel()
+        for text in ["Stall high", "No longer: Stall high", "hardware error 1: the emergency button was pressed"]:
+            self.assertEqual(lines.count(text), 1, lines)
+        self.assertEqual([len(each) for each in asked], [1, 1, 1])
+        self.assertEqual(asked[0], asked[2])
 
     def test_json(self):
         with FakeDriver(GET_STATUS=dispenser(), GET_ERRORS=errors(hardware_error(1, 0)),

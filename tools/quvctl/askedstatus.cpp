@@ -51,7 +51,9 @@ ToldStatus StatusQuestion::ask(int position)
     if (isMixer())
         return ofMixer(m_driver);
     try {
-        return ofDispenser(m_driver, position);
+        ToldStatus told = ofDispenser(m_driver, position);
+        m_kind = SerialDeviceType::Dispenser;
+        return told;
     } catch (const RequestRefused &refusal) {
         if (m_kind || m_driver.chosen() || refusal.json()["code"] != noSuchMachine)
             throw;

@@ -19,7 +19,7 @@ struct ToldStatus
 
 /**
  * The status of the machine that the user has chosen. Without a choice it is that of the driver's dispenser, or of its mixer where
- * there is no dispenser.
+ * there is no dispenser; the first answer settles that.
  */
 class StatusQuestion
 {

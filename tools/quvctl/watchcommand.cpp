@@ -9,9 +9,6 @@
 #include "words.h"
 #include "xmlrpcerrors.h"
 
-#include "status/dispenserstatusanswer.h"
-#include "status/mixerstatusanswer.h"
-
 #include <QuvFramework/fw_error.h>
 
 #include <QtCore/QDateTime>
@@ -21,6 +18,7 @@
 #include <chrono>
 #include <optional>
 #include <thread>
+#include <vector>
 
 namespace quv {
 
@@ -59,13 +57,13 @@ Observation observe(StatusQuestion &question)
 class Surroundings
 {
 public:
-    Surroundings(const Driver &driver, bool isMixer) : m_driver(driver), m_tellsLevels(!isMixer) {}
+    explicit Surroundings(const Driver &driver) : m_driver(driver) {}
 
     /// The canisters whose level has crossed their warning or their reserve; at first those that are below.
     QList<CanisterData> crossedLevels()
     {
         QList<CanisterData> crossed;
-        for (const CanisterData &canister : ask(canistersOf, m_tellsLevels)) {
+        for (const CanisterData &canister : ask(canistersOf, m_tellsLevels).value_or(QList<CanisterData>())) {
             const Level level = levelOf(canister);
             if (m_levels.value(canister.id, Level::Good) != level)
                 crossed.append(canister);
@@ -74,14 +72,26 @@ public:
         return crossed;
     }
 
+    /// Not by their times: there are drivers that tell that of the question.
     FW_ErrorList newErrors()
     {
-        const FW_ErrorList errors = ask(errorsOf, m_tellsErrors);
+        const std::optional<FW_ErrorList> errors = ask(errorsOf, m_tellsErrors);
+        if (!errors)
+            return {};
+        std::vector<const FW_Error *> known; // the same error may wait there twice
+        for (int i = 0; i < m_errors.size(); ++i)
+            known.push_back(m_errors[i]);
         FW_ErrorList added;
-        for (int i = 0; i < errors.size(); ++i)
-            if (!isIn(*errors[i], m_errors))
-                added.append(errors[i]);
-        m_errors = errors;
+        for (int i = 0; i < errors->size(); ++i) {
+            const FW_Error &error = *(*errors)[i];
+            const auto before = std::find_if(known.begin(), known.end(),
+                                             [&error](const FW_Error *each) { return each->equalTo(error); });
+            if (before == known.end())
+                added.append(&error);
+            else
+                known.erase(before);
+        }
+        m_errors = *errors;
         return added;
     }
 
@@ -92,26 +102,19 @@ public:
     }
 
 private:
+    /// Nothing when nobody tells it this time.
     template <class Told>
-    Told ask(std::optional<Told> (*question)(const Driver &), bool &isTold)
+    std::optional<Told> ask(std::optional<Told> (*question)(const Driver &), bool &isTold)
     {
         try {
             if (!isTold)
-                return {};
-            const std::optional<Told> told = question(m_driver);
+                return std::nullopt;
+            std::optional<Told> told = question(m_driver);
             isTold = told.has_value();
-            return told.value_or(Told());
+            return told;
         } catch (const TransportError &) { // the next status tells it
-            return {};
+            return std::nullopt;
         }
-    }
-
-    static bool isIn(const FW_Error &error, const FW_ErrorList &errors)
-    {
-        for (int i = 0; i < errors.size(); ++i)
-            if (errors[i]->equalTo(error) && errors[i]->timestamp() == error.timestamp())
-                return true;
-        return false;
     }
 
     const Driver &m_driver;
@@ -125,42 +128,6 @@ void tell(const QString &text, bool bad)
 {
     printLine(QTime::currentTime().toString(QStringLiteral("hh:mm:ss ")) + text,
               bad ? Colour::Red : Colour::Plain);
-}
-
-/// The conditions of a mixer that are no other machine's.
-QStringList ownConditions(const MixerStatusAnswer &status)
-{
-    QStringList texts;
-    for (const auto &[text, bad] : status.getStatusDescriptions(nullptr))
-        texts.append(text);
-    for (const auto &[text, bad] : status.getMachineStatusDescriptions(SerialDeviceType::Mixer))
-        texts.removeAll(text);
-    return texts;
-}
-
-/// The library tells the changes that a mixer shares with dispensers.
-QStringList changesBetween(const MixerStatusAnswer &before, const MixerStatusAnswer &after)
-{
-    QStringList changes = MixerStatusAnswer::getNewStatesDescriptions(&before, &after);
-    const QStringList was = ownConditions(before);
-    const QStringList is = ownConditions(after);
-    for (const QString &text : is)
-        if (!was.contains(text))
-            changes.append(text);
-    for (const QString &text : was)
-        if (!is.contains(text))
-            changes.append(QStringLiteral("No longer: ") + text);
-    return changes;
-}
-
-/// What has changed of a machine, whose kind stays.
-QStringList changesBetween(const MachineStatusAnswer &before, const MachineStatusAnswer &after)
-{
-    if (const auto *mixer = dynamic_cast<const MixerStatusAnswer *>(&after))
-        return changesBetween(dynamic_cast<const MixerStatusAnswer &>(before), *mixer);
-    return DispenserStatusAnswer::getNewStatesDescriptions(
-        dynamic_cast<const DispenserStatusAnswer *>(&before),
-        dynamic_cast<const DispenserStatusAnswer *>(&after));
 }
 
 /// Tells what is new in each observation.
@@ -221,7 +188,7 @@ private:
     {
         if (status.status() != m_last->status())
             tell(QStringLiteral("Machine status %1").arg(status.status()), false);
-        for (const QString &text : changesBetween(*m_last, status))
+        for (const QString &text : changesInWords(*m_last, status))
             tell(text, false);
     }
 
@@ -279,9 +246,8 @@ ExitStatus watch(const CommandLine &line)
     const Driver driver(line);
     const std::chrono::milliseconds interval = intervalOf(line);
     const int count = line.number("count", 0, 0, 1000000000);
-    StatusQuestion question =
-        driver.chosen() ? StatusQuestion(driver) : StatusQuestion(driver, SerialDeviceType::Dispenser);
-    Surroundings surroundings(driver, question.isMixer());
+    StatusQuestion question(driver);
+    Surroundings surroundings(driver);
     AnyWatcher watcher;
     for (int i = 1;; ++i) {
         const Observation now = observe(question);
@@ -289,7 +255,8 @@ ExitStatus watch(const CommandLine &line)
             surroundings.askAgain();
         if (now.status) {
             watcher.takeErrors(surroundings.newErrors());
-            watcher.takeLevels(surroundings.crossedLevels());
+            if (!question.isMixer())
+                watcher.takeLevels(surroundings.crossedLevels());
         }
         if (!outputFailure().isEmpty())
             return Refused; // nobody looks any more
@@ -312,9 +279,11 @@ const Subcommand watchSubcommand = {
     "watch",
     "",
     "a machine's status as it changes",
-    "Asks a driver for the status of its dispenser, or of the machine of --on, again and again: shows what\n"
-    "holds at first, then what changes, new errors, and levels that cross their warning or their reserve. A\n"
-    "driver that goes away is waited for. With --count, the exit status is 1 when no status came.",
+    "Asks a driver for the status of its dispenser, of its mixer where there is no dispenser, or of the\n"
+    "machine of --on, again and again: shows what holds at first, then what changes, new errors, and levels\n"
+    "that cross their warning or their reserve. A driver that goes away is waited for. With --count, the "
+    "exit\n"
+    "status is 1 when no status came.",
     0,
     0,
     withDriverOptions({intervalOption,

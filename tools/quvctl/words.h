@@ -30,6 +30,9 @@ struct StatusLine
 /// of their change, and those without any words by their names.
 QList<StatusLine> statusInWords(const MachineStatusAnswer &status);
 
+/// What a status tells that the one before of the same machine did not, and what it tells no more.
+QStringList changesInWords(const MachineStatusAnswer &before, const MachineStatusAnswer &after);
+
 /// An answer for people: a status in words, anything else as its value.
 void printAnswer(const ProtoAnswer &answer);
 /// The same for the value of an answer whose command nobody told.
