@@ -6,6 +6,7 @@ import os
 import re
 import signal
 import socketserver
+import subprocess
 import sys
 import tempfile
 import threading
@@ -338,6 +339,16 @@ class Errors(MachineTest):
             reply = json.loads(self.done(driver, "errors", "--json"))
         self.assertEqual((reply["cleared"], [each["code"] for each in reply["errors"]]), (False, [3, 5, 99]))
 
+    def test_what_nobody_has_seen_is_not_cleared(self):
+        with FakeDriver(GET_ERRORS=errors(hardware_error(3, 4)), CLEAR_ERRORS=envelope(0)) as driver:
+            with open("/dev/full", "wb") as full:
+                process = subprocess.run([quvctl_process.PROGRAM, "errors", "--clear", "--port", driver.port], timeout=30,
+                                         stdin=subprocess.DEVNULL, stdout=full, stderr=subprocess.PIPE, check=False)
+            self.assertEqual((process.returncode, driver.orders()), (1, []))
+        with FakeDriver(GET_ERRORS=errors(hardware_error(3, 4))) as driver:
+            code, out, _ = self.call(driver, "errors", "--clear", TZ="UTC")
+        self.assertEqual((code, out), (1, "2024-02-29 07:08:09  hardware error 3: circuit 4 is blocked\n"))
+
     def test_none(self):
         with FakeDriver(GET_ERRORS=errors()) as driver:
             self.assertEqual(self.done(driver, "errors"), "no errors\n")
@@ -516,6 +527,25 @@ class Processes(MachineTest):
         self.assertEqual(code, 1)
         self.assertTrue(err.startswith("DE03106: The firmware refused the code 0004\n"), err)
 
+    def test_circuits_that_are_not_there(self):
+        circuits = envelope({"circuit_list": [
+            {"id": i, "position_id": i, "enabled": True, "canister_id": i, "colorant_id": 0, "stirring_enabled": True,
+             "recirculation_enabled": True, "pump_type": 0, "pump_serial_number": "", "head_ref_id": 1} for i in (1, 12)]})
+        with FakeDriver(GET_CIRCUIT_LIST=circuits, GET_CANISTER_LIST=canisters(canister(2, "B", 640)), GET_STATUS=dispenser(),
+                        STIRRING=envelope(0)) as driver:
+            for word, text in [("99", "the machine has no circuit 99; quvctl circuits tells which it has"),
+                               ("B,2", "the machine has no circuit 2;"),
+                               (",", '--circuit takes positions and codes of colorants, such as 3,KX; not ","'),
+                               ("B,", '--circuit takes positions and codes of colorants, such as 3,KX; not "B,"'),
+                               ("b", 'the machine has no circuit with the colorant b; did you mean "B"?'),
+                               ("Q", "the machine has no circuit with the colorant Q (see quvctl help)")]:
+                code, out, err = self.call(driver, "stir", "--circuit", word)
+                self.assertEqual((code, out), (2, ""))
+                self.assertIn(text, err)
+            self.assertEqual(driver.orders(), [])
+            self.done(driver, "stir", "--circuit", "1,B", "--no-wait", *self.QUICK)
+            self.assertEqual([order[2] for order in driver.orders()], [1, 12])
+
     def test_what_goes_wrong_meanwhile(self):
         with FakeDriver(GET_STATUS=[dispenser(hw_error=True), dispenser(hw_error=True, stirring=True),
                                     dispenser(hw_error=True, stirring=True, emergency_pressed=True)],
@@ -601,7 +631,10 @@ class Refill(MachineTest):
         with FakeDriver(GET_CANISTER_LIST=self.LIST) as driver:
             for word, text in [("KX=5", "the colorant KX is in the canisters 2, 3: name one by its number"),
                                ("ZZ=5", "the machine has no canister ZZ"), ("B", "B is no CANISTER=AMOUNT"),
-                               ("B=much", "B=much is no CANISTER=AMOUNT")]:
+                               ("B=much", "B=much is no CANISTER=AMOUNT"),
+                               ("b=5", 'the machine has no canister b; did you mean "B"?'),
+                               ("kx=5", 'the machine has no canister kx; did you mean "KX"?'),
+                               ("B=-5", "B=-5 is less than nothing; a level that is too high is set right by --level")]:
                 code, out, err = self.call(driver, "refill", word)
                 self.assertEqual((code, out), (2, ""))
                 self.assertIn(text, err)

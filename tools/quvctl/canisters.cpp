@@ -4,6 +4,7 @@
 #include "bar.h"
 #include "executed.h"
 #include "quantities.h"
+#include "suggestions.h"
 #include "terminal.h"
 
 #include "masterdata/getcanisterlistanswer.h"
@@ -74,6 +75,16 @@ QString levelInWords(const CanisterData &canister)
     return QStringLiteral("canister %1 is %2: %3 of %4")
         .arg(nameOf(canister), standing, quantityInWords(canister.currentQuantity),
              quantityInWords(canister.maximumQuantity));
+}
+
+QString didYouMeanColorant(const QString &code, const QList<CanisterData> &canisters)
+{
+    QStringList codes;
+    for (const CanisterData &canister : canisters)
+        if (canister.colorantCode.compare(code, Qt::CaseInsensitive) == 0)
+            codes.append(canister.colorantCode);
+    codes.removeDuplicates();
+    return didYouMean(code, codes);
 }
 
 void printCanisters(const QList<CanisterData> &canisters)

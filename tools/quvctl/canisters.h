@@ -19,6 +19,10 @@ Level levelOf(const CanisterData &canister);
 /// As in "canister 2 (B) is below its warning level: 90 of 1000".
 QString levelInWords(const CanisterData &canister);
 
+/// To append to an error about a code that no canister has: '; did you mean "B"?' for one that is told apart by capitals alone;
+/// otherwise nothing.
+QString didYouMeanColorant(const QString &code, const QList<CanisterData> &canisters);
+
 /// A line a canister: what it holds, with a bar, its warning and its reserve.
 void printCanisters(const QList<CanisterData> &canisters);
 OrderedJson canistersJson(const QList<CanisterData> &canisters);

@@ -1,14 +1,32 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "circuitchoice.h"
 
+#include "canisters.h"
 #include "excerpt.h"
 #include "executed.h"
 
 #include "masterdata/getcanisterlistanswer.h"
+#include "masterdata/getcircuitlistanswer.h"
 
 namespace quv {
 
 namespace {
+
+/// \throws UsageError for a position without a circuit; a driver that does not tell its circuits leaves that to the machine
+void requireCircuits(const Driver &driver, const QList<int> &positions)
+{
+    const auto answer = answerIfAny<GetCircuitListAnswer>(ProtoCommandList::GET_CIRCUIT_LIST, driver);
+    if (!answer)
+        return;
+    QList<int> known;
+    for (const CircuitData &circuit : answer->circuitList())
+        known.append(circuit.positionID);
+    for (const int position : positions)
+        if (!known.contains(position))
+            throw UsageError(
+                QStringLiteral("the machine has no circuit %1; quvctl circuits tells which it has")
+                    .arg(position));
+}
 
 QList<int> positionsOfColorant(const Driver &driver, const QString &code)
 {
@@ -18,8 +36,8 @@ QList<int> positionsOfColorant(const Driver &driver, const QString &code)
         if (canister.enabled && canister.colorantCode == code)
             positions.append(canister.positionIDs);
     if (positions.isEmpty())
-        throw UsageError(
-            QStringLiteral("the machine has no circuit with the colorant %1").arg(excerpt(code)));
+        throw UsageError(QStringLiteral("the machine has no circuit with the colorant %1%2")
+                             .arg(excerpt(code), didYouMeanColorant(code, list.canisterList())));
     return positions;
 }
 
@@ -42,11 +60,17 @@ CircuitChoice chosenCircuits(const Driver &driver, const CommandLine &line)
     if (!line.isSet("circuit"))
         return {{0}, QStringLiteral("all circuits")};
     const QString told = line.value("circuit", QString());
+    const QStringList words = told.split(QLatin1Char(','));
+    if (words.contains(QString()))
+        throw UsageError(
+            QStringLiteral("--circuit takes positions and codes of colorants, such as 3,KX; not \"%1\"")
+                .arg(excerpt(told)));
     CircuitChoice choice{{}, QString()};
-    for (const QString &word : told.split(QLatin1Char(',')))
+    for (const QString &word : words)
         for (const int position : positionsOf(driver, word))
             if (!choice.positions.contains(position))
                 choice.positions.append(position);
+    requireCircuits(driver, choice.positions);
     QStringList names;
     for (const int position : qAsConst(choice.positions))
         names.append(QString::number(position));

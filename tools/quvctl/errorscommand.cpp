@@ -19,26 +19,34 @@ void clearErrors(const Driver &driver)
         throw RequestRefused(envelope);
 }
 
+/// One object tells both, so that it comes behind the clearing.
+ExitStatus printAsJson(const Driver &driver, const FW_ErrorList &errors, bool clears)
+{
+    if (clears)
+        clearErrors(driver);
+    OrderedJson reply = success();
+    reply["errors"] = errorsJson(errors);
+    reply["cleared"] = clears;
+    printJson(reply);
+    return Done;
+}
+
 ExitStatus run(const CommandLine &line)
 {
     const Driver driver(line);
     const FW_ErrorList errors = answerTo<GetErrorsAnswer>(ProtoCommandList::GET_ERRORS, driver).errorList();
     const bool clears = line.isSet("clear");
-    if (clears)
-        clearErrors(driver);
-    if (line.isSet("json")) {
-        OrderedJson reply = success();
-        reply["errors"] = errorsJson(errors);
-        reply["cleared"] = clears;
-        printJson(reply);
-        return Done;
-    }
+    if (line.isSet("json"))
+        return printAsJson(driver, errors, clears);
     printErrors(errors);
-    if (line.isQuiet())
-        return Done;
-    if (errors.isEmpty())
+    if (errors.isEmpty() && !line.isQuiet())
         printLine(QStringLiteral("no errors"));
-    else if (clears)
+    if (!clears)
+        return Done;
+    if (!outputFailure().isEmpty())
+        return Refused; // what nobody has seen stays
+    clearErrors(driver);
+    if (!errors.isEmpty() && !line.isQuiet())
         printLine(QStringLiteral("cleared"));
     return Done;
 }

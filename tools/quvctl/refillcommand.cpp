@@ -37,6 +37,10 @@ Refill refillOf(const QString &word)
     if (equals < 1 || !isNumber || !std::isfinite(*refill.amount))
         throw UsageError(
             QStringLiteral("%1 is no CANISTER=AMOUNT, such as B=500 or B=full").arg(excerpt(word)));
+    if (*refill.amount < 0)
+        throw UsageError(
+            QStringLiteral("%1 is less than nothing; a level that is too high is set right by --level")
+                .arg(excerpt(word)));
     return refill;
 }
 
@@ -61,7 +65,8 @@ const CanisterData &canisterOf(const QString &name, const QList<CanisterData> &c
     if (found.size() == 1)
         return *found.first();
     if (found.isEmpty())
-        throw UsageError(QStringLiteral("the machine has no canister %1").arg(excerpt(name)));
+        throw UsageError(QStringLiteral("the machine has no canister %1%2")
+                             .arg(excerpt(name), didYouMeanColorant(name, canisters)));
     QStringList numbers;
     for (const CanisterData *canister : qAsConst(found))
         numbers.append(QString::number(canister->id));
