@@ -220,6 +220,30 @@ class On(MachineTest):
                           self.wrong("call", "GET_STATUS", f"--on={word}"))
 
 
+    def test_other_kind(self):
+        with FakeDriver() as driver:
+            for words, kind, other in [(["stir", "3"], "dispenser", "mixer"), (["recirculate", "off"], "dispenser", "mixer"),
+                                       (["clean", "brush"], "dispenser", "mixer"), (["tint", "B=1"], "dispenser", "mixer"),
+                                       (["refill", "B=1"], "dispenser", "mixer"), (["circuits"], "dispenser", "mixer"),
+                                       (["sensors"], "dispenser", "mixer"), (["mix", "3"], "mixer", "dispenser"),
+                                       (["move", "cap", "open"], "dispenser", "mixer"),
+                                       (["move", "plates", "open"], "mixer", "dispenser")]:
+                name = " ".join(words[:2]) if words[0] == "move" else words[0]
+                for source, environment in [(["--on", f"{other}:2"], {}), ([], {"QUV_ON": other})]:
+                    code, out, err = self.call(driver, *words, *source, **environment)
+                    self.assertEqual((code, out, err), (2, "", f"quvctl: {name} is for a {kind}; "
+                                                               f"{'--on' if source else 'QUV_ON'} names a {other} (see quvctl help)\n"))
+            self.assertEqual(driver.asked, [])
+
+    def test_hints(self):
+        for code, on, hint in [("DE03112", "dispenser:2", "quvctl status --on dispenser:2 tells when it has ended"),
+                               ("DE03402", "mixer:1", "--on, or QUV_ON, names the machine, such as mixer or dispenser:2")]:
+            with FakeDriver(TINT=refused(code, "no")) as driver:
+                _, _, err = self.call(driver, "call", "TINT", '{"formula_type":4,"quantity_unit":3,"ids":["B"],"quantities":[1]}',
+                                      "--on", on)
+            self.assertEqual(err.splitlines()[:2], [f"{code}: no", f"hint: {hint}"])
+
+
 class Stop(MachineTest):
     def test_stop(self):
         with FakeDriver() as driver:
@@ -526,6 +550,14 @@ class Processes(MachineTest):
             code, _, err = self.call(driver, "stir", *self.QUICK)
         self.assertEqual(code, 1)
         self.assertTrue(err.startswith("DE03106: The firmware refused the code 0004\n"), err)
+
+    def test_refused_since_it_is_busy(self):
+        busy = "DE03106: The firmware refused the code 0004: Machine not available (masks 0x0 and 0x8)"
+        for text, hint in [(busy, "hint: quvctl status --on dispenser:2 tells what the machine is at\n"),
+                           (busy + "; the machine has no stirrers", "")]:
+            with FakeDriver(GET_STATUS=dispenser(), STIRRING=refused("DE03106", text[9:], 4)) as driver:
+                _, _, err = self.call(driver, "stir", "--on", "dispenser:2")
+            self.assertEqual(err, f"{text}\n{hint}Failed! Command not executed due to errors on firmware.\n")
 
     def test_circuits_that_are_not_there(self):
         circuits = envelope({"circuit_list": [

@@ -119,6 +119,7 @@ const Subcommand circuitsSubcommand = {
     0,
     withDriverOptions({{"process", "NUMBER", "1 to 13, as the firmware numbers its processes"},
                        {"json", nullptr, "the circuits as one JSON object"}}),
-    run};
+    run,
+    SerialDeviceType::Dispenser};
 
 } // namespace quv

@@ -112,6 +112,7 @@ const Subcommand cleanSubcommand = {
     1,
     2,
     withProcessOptions({circuitOption}),
-    run};
+    run,
+    SerialDeviceType::Dispenser};
 
 } // namespace quv

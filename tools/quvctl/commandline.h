@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include <QuvFramework/fw_global.h>
+
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <chrono>
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -45,6 +48,7 @@ struct Subcommand
     int maxWords; ///< -1: any number
     std::vector<OptionText> options;
     ExitStatus (*run)(const CommandLine &line);
+    std::optional<SerialDeviceType> kind{}; ///< of the machines that it is for; nothing for all, or none
 };
 
 /// The words and options that follow a subcommand's name. Negative numbers are words, not options.

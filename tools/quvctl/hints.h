@@ -8,8 +8,11 @@ class XmlRpcAnswer;
 
 namespace quv {
 
-/// What a user can do about a refusal; empty when its text says it all.
-QString hintFor(const QString &code);
+/// Has the commands in hints name the machine that --on names; empty for none.
+void setMachineOfHints(const QString &machine);
+
+/// What a user can do about a refusal, of which its code, or all that it tells, is \a error; empty when that says it all.
+QString hintFor(const QString &error);
 
 /// The errors of an envelope, a hint behind each that needs one.
 QStringList errorLines(const XmlRpcAnswer &envelope);

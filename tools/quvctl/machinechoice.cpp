@@ -8,6 +8,18 @@
 
 namespace quv {
 
+namespace {
+
+constexpr char option[] = "--on";
+constexpr char variable[] = "QUV_ON";
+
+QString wordOf(SerialDeviceType kind)
+{
+    return kind == SerialDeviceType::Mixer ? QStringLiteral("mixer") : QStringLiteral("dispenser");
+}
+
+} // namespace
+
 MachineChoice machineChoice(const QString &text, const char *source)
 {
     static const QRegularExpression form(QStringLiteral("\\A(dispenser|mixer)(?::([0-9]{1,9}))?\\z"));
@@ -27,12 +39,20 @@ MachineChoice machineChoice(const QString &text, const char *source)
 
 std::optional<MachineChoice> chosenMachine(const CommandLine &line)
 {
-    constexpr const char *variable = "QUV_ON";
     if (line.isSet("on"))
-        return machineChoice(line.value("on", QString()), "--on");
+        return machineChoice(line.value("on", QString()), option);
     if (!qEnvironmentVariableIsEmpty(variable))
         return machineChoice(qEnvironmentVariable(variable), variable);
     return std::nullopt;
+}
+
+void requireKind(const CommandLine &line, SerialDeviceType kind, const QString &what)
+{
+    const std::optional<MachineChoice> chosen = chosenMachine(line);
+    if (chosen && chosen->type != kind)
+        throw UsageError(QStringLiteral("%1 is for a %2; %3 names a %4")
+                             .arg(what, wordOf(kind), QLatin1String(line.isSet("on") ? option : variable),
+                                  wordOf(chosen->type)));
 }
 
 } // namespace quv

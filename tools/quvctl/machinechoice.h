@@ -24,4 +24,7 @@ MachineChoice machineChoice(const QString &text, const char *source);
 /// What --on tells, or QUV_ON where it does not; nothing without either. \throws UsageError
 std::optional<MachineChoice> chosenMachine(const CommandLine &line);
 
+/// \throws UsageError when they name a machine of another kind than the one that \a what, a subcommand, is for
+void requireKind(const CommandLine &line, SerialDeviceType kind, const QString &what);
+
 } // namespace quv

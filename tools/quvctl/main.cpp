@@ -2,7 +2,9 @@
 #include "driver.h"
 #include "excerpt.h"
 #include "help.h"
+#include "hints.h"
 #include "language.h"
+#include "machinechoice.h"
 #include "operations.h"
 #include "subcommands.h"
 #include "suggestions.h"
@@ -16,6 +18,8 @@
 
 #include <QtCore/QLoggingCategory>
 
+#include <algorithm>
+#include <cstring>
 #include <exception>
 
 namespace {
@@ -44,6 +48,12 @@ const Subcommand &subcommandOf(const QString &name)
         QStringLiteral("there is no subcommand \"%1\"%2").arg(excerpt(name), didYouMean(name, names)));
 }
 
+bool hasMachine(const Subcommand &subcommand)
+{
+    return std::any_of(subcommand.options.begin(), subcommand.options.end(),
+                       [](const OptionText &option) { return std::strcmp(option.name, "on") == 0; });
+}
+
 ExitStatus help(const QStringList &words)
 {
     if (words.size() > 1)
@@ -70,6 +80,11 @@ ExitStatus run(QStringList words)
     const CommandLine line(subcommand, words);
     if (line.wantsHelp())
         return help({name});
+    if (hasMachine(subcommand)) {
+        setMachineOfHints(line.value("on", QString()));
+        if (subcommand.kind)
+            requireKind(line, *subcommand.kind, name);
+    }
     return subcommand.run(line);
 }
 

@@ -84,6 +84,7 @@ const Subcommand mixSubcommand = {
                         {"force", "NUMBER", "with which the plates hold the can, 0 to 245 (50)"},
                         {"type", "NUMBER", "the kind of motion, as the mixer numbers it (1)"},
                         {"times", "N", "all of the cycles so many times, 1 to 20 (1)"}}),
-    run};
+    run,
+    SerialDeviceType::Mixer};
 
 } // namespace quv

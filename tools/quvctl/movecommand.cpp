@@ -133,6 +133,7 @@ Movement movementOf(const CommandLine &line)
 ExitStatus run(const CommandLine &line)
 {
     Movement moved = movementOf(line);
+    requireKind(line, moved.machine, QStringLiteral("move ") + line.words().first());
     const Driver driver(line);
     ProtoCommands commands;
     commands.push_back(std::move(moved.command));

@@ -53,6 +53,7 @@ const Subcommand recirculateSubcommand = {
     0,
     1,
     withProcessOptions({circuitOption, {"speed", "PERCENT", "1 to 100 (as the machine is configured to)"}}),
-    run};
+    run,
+    SerialDeviceType::Dispenser};
 
 } // namespace quv

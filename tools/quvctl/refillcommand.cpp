@@ -143,6 +143,7 @@ const Subcommand refillSubcommand = {
     withDriverOptions({{"level", nullptr, "an amount is the new level, not what was added"},
                        quietOption,
                        {"json", nullptr, "the canisters as one JSON object"}}),
-    run};
+    run,
+    SerialDeviceType::Dispenser};
 
 } // namespace quv

@@ -125,6 +125,7 @@ const Subcommand sensorsSubcommand = {
     0,
     0,
     withDriverOptions({{"json", nullptr, "these, and all of them by their names, as one JSON object"}}),
-    run};
+    run,
+    SerialDeviceType::Dispenser};
 
 } // namespace quv

@@ -33,6 +33,7 @@ const Subcommand stirSubcommand = {
     0,
     1,
     withProcessOptions({circuitOption}),
-    run};
+    run,
+    SerialDeviceType::Dispenser};
 
 } // namespace quv

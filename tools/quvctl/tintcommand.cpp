@@ -252,6 +252,7 @@ const Subcommand tintSubcommand = {
          intervalOption,
          quietOption,
          {"json", nullptr, "ticket and amounts, or the plan, as one JSON object"}}),
-    run};
+    run,
+    SerialDeviceType::Dispenser};
 
 } // namespace quv
