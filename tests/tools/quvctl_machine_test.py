@@ -243,6 +243,65 @@ class On(MachineTest):
                                       "--on", on)
             self.assertEqual(err.splitlines()[:2], [f"{code}: no", f"hint: {hint}"])
 
+    def end(self, number, *words, **script):
+        """Has the program ended by a signal while it is at a call."""
+        answered = threading.Event()
+        with FakeDriver(**{"GET_STATUS": lambda: (answered.wait(30), dispenser())[1], **script}) as driver:
+            with start(*words, "--on", "dispenser:1", "--port", driver.port) as process:
+                until(lambda: "GET_STATUS" in driver.names())
+                process.send_signal(number)
+                out, err = process.communicate(timeout=30)
+                answered.set()
+        self.assertEqual(driver.asked[-1], self.LOGOUT)
+        return process.returncode, out, err
+
+    def test_ended_by_others(self):
+        for number, status in [(signal.SIGTERM, 143), (signal.SIGHUP, 129)]:
+            self.assertEqual(self.end(number, "watch"), (status, "", ""))
+
+    def test_others_leave_no_time_for_a_second(self):
+        asked = []
+
+        def once_then_never():
+            asked.append(True)
+            if len(asked) > 1:
+                threading.Event().wait(5)
+            return dispenser()
+
+        with FakeDriver(GET_STATUS=once_then_never, STIRRING=envelope(0)) as driver:
+            with start("stir", "--on", "dispenser:1", "--port", driver.port) as process:
+                until(lambda: len(asked) > 1)
+                process.send_signal(signal.SIGTERM)
+                _, err = process.communicate(timeout=30)
+        self.assertEqual((process.returncode, err), (
+            143, f"the machine goes on; look at it with: quvctl status --port {driver.port} --on dispenser:1\n"))
+        self.assertEqual(driver.asked[-1], self.LOGOUT)
+
+    def test_what_is_ignored(self):
+        with FakeDriver(GET_STATUS=dispenser()) as driver:
+            with subprocess.Popen([quvctl_process.PROGRAM, "watch", "--on", "dispenser:1", "--interval", "0.01", "--port",
+                                   driver.port], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                  preexec_fn=lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN)) as process:
+                until(lambda: driver.names().count("GET_STATUS") > 1)
+                process.send_signal(signal.SIGHUP)
+                asked = driver.names().count("GET_STATUS")
+                until(lambda: driver.names().count("GET_STATUS") > asked + 2)
+                process.send_signal(signal.SIGTERM)
+                self.assertEqual(process.wait(30), 143)
+        self.assertEqual(driver.asked[-1], self.LOGOUT)
+
+    def test_closed_output(self):
+        with FakeDriver(GET_STATUS=dispenser()) as driver:
+            for words in [["status"], ["watch", "--interval", "0.01"]]:
+                reader, writer = os.pipe()
+                os.close(reader)
+                with subprocess.Popen([quvctl_process.PROGRAM, *words, "--on", "dispenser:1", "--port", driver.port],
+                                      stdin=subprocess.DEVNULL, stdout=writer, stderr=subprocess.PIPE, text=True) as process:
+                    os.close(writer)
+                    _, err = process.communicate(timeout=30)
+                self.assertEqual((process.returncode, err), (-signal.SIGPIPE, ""))
+                self.assertEqual(driver.asked[-1], self.LOGOUT)
+
 
 class Stop(MachineTest):
     def test_stop(self):

@@ -159,6 +159,11 @@ QString outputFailure()
     return outputError == 0 ? QString() : QStringLiteral("standard output: ") + qt_error_string(outputError);
 }
 
+bool isOutputClosed()
+{
+    return outputError == EPIPE;
+}
+
 void printNote(const QString &text)
 {
     print(stderr, text, Colour::Plain);

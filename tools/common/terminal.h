@@ -33,6 +33,8 @@ void printError(const QString &text);
 void noteOutputFailure();
 /// Flushes standard output. What went wrong with it since the program began, for the user; empty for nothing.
 QString outputFailure();
+/// Whether it has failed since nobody reads it any more.
+bool isOutputClosed();
 
 /// A line on standard error that tells nothing bad.
 void printNote(const QString &text);

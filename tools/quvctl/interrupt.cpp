@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <iterator>
 #include <mutex>
 #include <thread>
 #include <unistd.h>
@@ -23,11 +24,23 @@ constexpr timespec secondComesWithin = {2, 0};
 std::mutex interruptMutex;
 std::vector<const OnInterrupt *> standingInterrupts;
 
+bool isIgnored(int signal)
+{
+    struct sigaction action = {};
+    sigaction(signal, nullptr, &action);
+    return action.sa_handler == SIG_IGN;
+}
+
+constexpr int interrupting[] = {SIGINT, SIGTERM, SIGHUP};
+
+/// A background job ignores Ctrl-C, and one of nohup the end of its terminal.
 sigset_t interruptSignals()
 {
     sigset_t signals;
     sigemptyset(&signals);
-    sigaddset(&signals, SIGINT);
+    for (const int signal : interrupting)
+        if (!isIgnored(signal))
+            sigaddset(&signals, signal);
     return signals;
 }
 
@@ -35,13 +48,6 @@ void changeMask(int how)
 {
     const sigset_t signals = interruptSignals();
     pthread_sigmask(how, &signals, nullptr);
-}
-
-bool isIgnored()
-{
-    struct sigaction action = {};
-    sigaction(SIGINT, nullptr, &action);
-    return action.sa_handler == SIG_IGN;
 }
 
 void writeAtOnce(int descriptor, const std::string &text)
@@ -68,23 +74,28 @@ void carryOutSecond(const std::function<QString()> &again)
     writeAtOnce(STDERR_FILENO, printable(again()).toStdString() + '\n');
 }
 
-[[noreturn]] void endInterrupted()
+[[noreturn]] void endInterrupted(int signal)
 {
+    constexpr int statusOfSignals = 128;
+    static_assert(statusOfSignals + SIGINT == Interrupted);
+
     const auto told = std::find_if(standingInterrupts.rbegin(), standingInterrupts.rend(),
                                    [](const OnInterrupt *each) { return each->plan().isTold; });
     if (told != standingInterrupts.rend()) {
         const InterruptPlan &plan = (*told)->plan();
         writeAtOnce(STDOUT_FILENO, plan.output);
         writeAtOnce(STDERR_FILENO, plan.error);
-        if (plan.again)
+        if (plan.again && signal == SIGINT) {
+            writeAtOnce(STDERR_FILENO, plan.offer);
             carryOutSecond(plan.again);
+        }
     }
     changeMask(SIG_UNBLOCK);
     std::for_each(standingInterrupts.rbegin(), standingInterrupts.rend(), [](const OnInterrupt *each) {
         if (each->plan().beforeTheEnd)
             each->plan().beforeTheEnd();
     });
-    _exit(Interrupted);
+    _exit(statusOfSignals + signal);
 }
 
 /// In a thread of its own, since what becomes of a Ctrl-C calls the driver while another call is still waiting.
@@ -95,7 +106,7 @@ void listenForInterrupt()
     while (sigwait(&signals, &signal) != 0) {
     }
     const std::lock_guard<std::mutex> lock(interruptMutex);
-    endInterrupted();
+    endInterrupted(signal);
 }
 
 void beginListening()
@@ -113,7 +124,7 @@ OnInterrupt::OnInterrupt(InterruptPlan plan) : m_plan(std::move(plan))
 {
     const std::lock_guard<std::mutex> lock(interruptMutex);
     standingInterrupts.push_back(this);
-    if (isIgnored())
+    if (std::all_of(std::begin(interrupting), std::end(interrupting), isIgnored))
         return;
     changeMask(SIG_BLOCK);
     beginListening();
@@ -129,7 +140,7 @@ OnInterrupt::~OnInterrupt()
     const auto place = std::find(standingInterrupts.begin(), standingInterrupts.end(), this);
     if (place != standingInterrupts.end())
         standingInterrupts.erase(place);
-    if (standingInterrupts.empty() && !isIgnored())
+    if (standingInterrupts.empty())
         changeMask(SIG_UNBLOCK);
 }
 
@@ -151,7 +162,7 @@ InterruptPlan toldPlan(const QString &text, bool asJson, const QString &ticket)
 
 InterruptPlan withSecond(InterruptPlan plan, const QString &offer, std::function<QString()> again)
 {
-    plan.error += printable(offer).toStdString() + '\n';
+    plan.offer = printable(offer).toStdString() + '\n';
     plan.again = std::move(again);
     return plan;
 }

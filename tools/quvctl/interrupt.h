@@ -8,7 +8,7 @@
 
 namespace quv {
 
-/// What becomes of a Ctrl-C.
+/// What becomes of a Ctrl-C, and of a program that is told to end (SIGTERM) or whose terminal is closed (SIGHUP).
 struct InterruptPlan
 {
     std::string output{}; ///< what is told on standard output, and on standard error
@@ -16,12 +16,13 @@ struct InterruptPlan
     bool isTold = false;              ///< false for a plan that only tidies up
     std::function<QString()> again{}; ///< what a second one does, within the time; gives what is told of it
     std::function<void()> beforeTheEnd{}; ///< what is tidied up in any case
+    std::string offer{};                  ///< told of the second one, for which only Ctrl-C leaves the time
 };
 
 /**
- * While it stands, Ctrl-C ends the program at once with exit status 130 and a text on standard error, even within a call
- * that the driver does not answer. With --json the failure is on standard output as well, and names the ticket, if any. Of several
- * the one made last tells its text, and each tidies up, that one first. A Ctrl-C that is ignored stays ignored.
+ * While it stands, Ctrl-C ends the program at once with exit status 130 (SIGTERM 143, SIGHUP 129) and a text on standard error, even
+ * within a call that the driver does not answer. With --json the failure is on standard output as well, and names the ticket, if any.
+ * Of several the one made last tells its text, and each tidies up, that one first. What is ignored stays ignored.
  */
 class OnInterrupt
 {

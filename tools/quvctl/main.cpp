@@ -19,6 +19,7 @@
 #include <QtCore/QLoggingCategory>
 
 #include <algorithm>
+#include <csignal>
 #include <cstring>
 #include <exception>
 
@@ -166,6 +167,8 @@ ExitStatus runReporting(const QStringList &words)
 
 int main(int argc, char *argv[])
 {
+    // when the reader has gone the program comes to its end all the same, since it may have to log out
+    const auto atClosedOutput = std::signal(SIGPIPE, SIG_IGN);
     // QT_LOGGING_RULES shows them all the same
     QLoggingCategory::setFilterRules(QStringLiteral("quvprotocol.*.debug=false"));
     // UTF-8 whatever the locale: a service's environment often has none
@@ -179,6 +182,10 @@ int main(int argc, char *argv[])
     const QString failure = outputFailure();
     if (failure.isEmpty())
         return status;
+    if (isOutputClosed() && atClosedOutput == SIG_DFL) {
+        std::signal(SIGPIPE, SIG_DFL);
+        std::raise(SIGPIPE);
+    }
     printError(QStringLiteral("quvctl: ") + failure);
     return status == Done ? Refused : status;
 }
