@@ -148,6 +148,18 @@ class MixerTest(MachineTest):
         self.assertEqual((end["cycle_id"], end["timeleft"], end["clamping_height"]), (0, 0, 400))
         self.assertTrue(end["ready_next_cycle"])
 
+    def test_its_status_stands_beside_what_the_driver_does(self):
+        told = self.call(self.client, "GET_MIXER_STATUS")
+        self.assertEqual((told["pos_available"], told["pos_ready"], told["disp_status"]["mixing"]), (True, True, False))
+        driver = told["driver_status"]
+        self.assertEqual((driver["active"], driver["conf_mng"], driver["fw_update"], driver["mixer_info"]["mixer_id"]),
+                         (True, False, False, 2))
+        cycle = {"cycle_type": 1, "mixing_speed": 100, "clamping_force": 30, "duration": 30}
+        self.assertEqual(self.client.EXEC_NB("MIX", {"mixer_cycles": [cycle]})["ret_code"], 0)
+        self.wait(self.client, "MIXER_STATUS", mixing=True)
+        told = self.call(self.client, "GET_MIXER_STATUS")
+        self.assertEqual((told["disp_status"]["mixing"], told["disp_status"]["cycle_id"]), (True, 1))
+
     def test_moves_its_plates(self):
         self.call(self.client, "MIXER_PLATES", 1)
         status = self.call(self.client, "MIXER_STATUS")

@@ -48,6 +48,11 @@ class ProcessesTest(unittest.TestCase):
         self.assertEqual((envelope["ret_code"], envelope["errors"]), (0, []), params)
         return envelope["ret_value"]
 
+    def call_in_background(self, client, *params):
+        begun = client.EXEC_NB(*params)
+        self.assertEqual(begun["ret_code"], 0, begun)
+        return begun["ret_value"]["ticket_id"]
+
     def refused(self, client, reason, *params):
         envelope = client.EXEC_B(*params)
         self.assertEqual((envelope["ret_code"], envelope["errors"][0]["code"]), (4, "DE03106"), params)
@@ -101,6 +106,35 @@ class ProcessesTest(unittest.TestCase):
             self.call(client, "RESET")  # ends all
             told = self.status(client)
             self.assertEqual((told["stirring"], told["resetting"]), (False, True))
+
+    def test_all_circuits_are_stirred_in_batches(self):
+        with self.driver() as driver, driver.client() as client:
+            def stirring():
+                answers = self.call(client, "GET_CIRCUITS_STATUS")["circuits_status_answers"]
+                self.assertEqual([answer["position_id"] for answer in answers], [1, 2, 3, 4])
+                return [answer["position_id"] for answer in answers if answer["status_answer"]["stirring"]]
+            ticket = self.call_in_background(client, "STIR_ALL", 100, 0, False, 0)  # 1 s, two at once
+            seen = []
+            while (told := self.call(client, "GET_CMD_STATUS", ticket))["status"] > 0:
+                if (now := stirring()) and (not seen or now != seen[-1]):
+                    seen.append(now)
+            self.assertEqual((told["status"], told["cmd_answer"]["ret_code"]), (0, 0), told)
+            self.assertEqual(stirring(), [])
+            self.assertIn([1, 2], seen)
+            self.assertEqual(seen[-1], [3])
+            self.assertNotIn(4, sum(seen, []))  # it has no stirrer
+            one = self.call(client, "GET_CIRCUITS_STATUS", 3)["circuits_status_answers"]
+            self.assertEqual([answer["position_id"] for answer in one], [3])
+
+    def test_a_series_of_stirring_is_stopped(self):
+        with self.driver() as driver, driver.client() as client:
+            ticket = self.call_in_background(client, "STIR_ALL", ENDLESS)
+            self.wait(lambda: self.at(client, "stirring") == [1], "the first circuit")
+            self.call(client, "STOP")
+            self.wait(lambda: self.call(client, "GET_CMD_STATUS", ticket)["status"] <= 0, "the end of the series")
+            told = self.call(client, "GET_CMD_STATUS", ticket)
+            self.assertEqual((told["status"], told["cmd_answer"]["errors"][0]["code"]), (-3, "DE03410"))
+            self.assertEqual(self.at(client, "stirring"), [])
 
     def test_recirculation_gives_way_to_a_pour(self):
         with self.driver() as driver, driver.client() as client:
