@@ -347,8 +347,9 @@ class SecondInterrupt(MachineTest):
         self.assertIn(("", "STOP", 0, 0), driver.asked)
 
     def test_refused(self):
-        _, more = self.pour(2, STOP=refused("DE03110", "broken", 8))
-        self.assertEqual(more, "the machine was not stopped: DE03110: broken; try again with: quvctl stop\n")
+        driver, more = self.pour(2, STOP=refused("DE03110", "broken", 8))
+        self.assertEqual(more, "the machine was not stopped: DE03110: broken; try again with: "
+                               f"quvctl stop --port {driver.port}\n")
 
 
 class Status(MachineTest):

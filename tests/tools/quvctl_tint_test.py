@@ -49,7 +49,7 @@ def levels(critical=(), warning=()):
 
 
 class ScriptedDriver(quvctl_process.ScriptedDriver):
-    """Answers a pour by its script, and remembers what it was asked."""
+    """Answers a pour by its script, and remembers what it was asked. It tells nothing of its machines."""
 
     def __init__(self, **script):
         self.script = {"levels": levels(), "start": envelope({"ticket_id": "T-1"}),
@@ -61,6 +61,8 @@ class ScriptedDriver(quvctl_process.ScriptedDriver):
         super().__init__()
 
     def execute(self, name, *params):
+        if name == "GET_ACTIVE_DISP":
+            return envelope(0, 1, "unknown")
         self.asked.append([name, *params])
         if name == "GET_CMD_STATUS":
             tickets = self.script["tickets"]

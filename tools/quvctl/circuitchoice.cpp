@@ -8,6 +8,8 @@
 #include "masterdata/getcanisterlistanswer.h"
 #include "masterdata/getcircuitlistanswer.h"
 
+#include <optional>
+
 namespace quv {
 
 namespace {
@@ -41,19 +43,32 @@ QList<int> positionsOfColorant(const Driver &driver, const QString &code)
     return positions;
 }
 
-QList<int> positionsOf(const Driver &driver, const QString &word)
+/// Nothing for the code of a colorant. \throws UsageError for a number that is no position
+std::optional<int> positionIn(const QString &word)
 {
     bool isNumber = false;
     const int position = word.toInt(&isNumber);
     if (!isNumber)
-        return positionsOfColorant(driver, word);
+        return std::nullopt;
     if (position < 1 || position > 255)
         throw UsageError(
             QStringLiteral("a circuit's position is a number from 1 to 255, not %1").arg(position));
-    return {position};
+    return position;
+}
+
+QList<int> positionsOf(const Driver &driver, const QString &word)
+{
+    const std::optional<int> position = positionIn(word);
+    return position ? QList<int>{*position} : positionsOfColorant(driver, word);
 }
 
 } // namespace
+
+void requirePositions(const CommandLine &line)
+{
+    for (const QString &word : line.value("circuit", QString()).split(QLatin1Char(',')))
+        positionIn(word);
+}
 
 CircuitChoice chosenCircuits(const Driver &driver, const CommandLine &line)
 {

@@ -18,6 +18,9 @@ struct CircuitChoice
     QString words{};         ///< as in "all circuits"
 };
 
+/// \throws UsageError for a number of --circuit that is no position, before a driver is asked
+void requirePositions(const CommandLine &line);
+
 /// What --circuit tells; all circuits without it. The driver is asked for the circuits of a colorant. \throws UsageError for one that
 /// the machine does not have, and as executed
 CircuitChoice chosenCircuits(const Driver &driver, const CommandLine &line);

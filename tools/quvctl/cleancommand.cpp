@@ -80,7 +80,8 @@ ExitStatus run(const CommandLine &line)
     const int seconds = line.words().size() > 1
                             ? secondsOf(line.words()[1], static_cast<int>(FWProcess::maxDuration()))
                             : ownTime;
-    const Driver driver(line);
+    requirePositions(line);
+    const Driver driver(line, SerialDeviceType::Dispenser);
     const CircuitChoice circuits = chosenCircuits(driver, line);
     ProtoCommands commands;
     for (const int position : circuits.positions)

@@ -7,6 +7,7 @@
 #include "operations.h"
 #include "replies.h"
 #include "terminal.h"
+#include "xmlrpcerrors.h"
 
 #include "base/protoanswer.h"
 #include "base/protocommand.h"
@@ -54,6 +55,23 @@ qint64 millisecondsSince(std::chrono::steady_clock::time_point begin)
     return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - begin).count();
 }
 
+/// Of a driver that has no such command.
+bool isUnknownCommand(const RequestRefused &refusal)
+{
+    constexpr int invalidForDriver = 1;
+    return refusal.json()["envelope"]["ret_code"] == invalidForDriver;
+}
+
+/// A request that is refused so has not begun. One that names a session of its own may be refused for that.
+bool isOfEndedSession(const XmlRpcAnswer &answer, const ProtoCommand &command)
+{
+    const QStringList own = {ProtoCommandList::cmdStr(ProtoCommandList::LOGOUT),
+                             ProtoCommandList::cmdStr(ProtoCommandList::GET_KEY),
+                             ProtoCommandList::cmdStr(ProtoCommandList::CERTIFY_SESSION)};
+    return answer.retCode() != 0 && !own.contains(command.command()) &&
+           firstError(answer).code() == QLatin1String("DE03400");
+}
+
 } // namespace
 
 FW_DriverError firstError(const XmlRpcAnswer &envelope, const QString &what)
@@ -81,23 +99,45 @@ RequestRefused::RequestRefused(const XmlRpcAnswer &envelope, const QString &what
         m_lines.prepend(what);
 }
 
-Driver::Driver(const CommandLine &line)
+Driver::Driver(const CommandLine &line, std::optional<SerialDeviceType> kept)
     : m_address(driverAddress(line)),
       m_chosen(chosenMachine(line)),
       m_isVerbose(line.isSet("verbose")),
       m_client(m_address.host, m_address.port, timeoutOf(line), optionsOf(m_address, line))
 {
-    if (!m_chosen)
-        return;
+    logIn(line, kept);
+    m_sameMachine = sameDriver(line, m_chosen);
+}
+
+void Driver::logIn(const CommandLine &line, std::optional<SerialDeviceType> kept)
+{
     constexpr std::chrono::milliseconds longestFarewell(2000);
     const XmlRpcClient hasty(m_address.host, m_address.port, std::min(timeoutOf(line), longestFarewell),
                              optionsOf(m_address, line));
     const auto sentBy = [this](const XmlRpcClient &client) {
-        return [this, client](ProtoCommand &command) -> const XmlRpcAnswer & {
-            return sendBy(client, command, ProtoCommandList::BlockingCall);
+        return [this, client](ProtoCommand &command, const QString &session) -> const XmlRpcAnswer & {
+            return sendBy(client, command, ProtoCommandList::BlockingCall, session);
         };
     };
-    m_session = std::make_unique<const MachineSession>(*m_chosen, sentBy(m_client), sentBy(hasty));
+    std::optional<MachineID> machine;
+    if (m_chosen)
+        machine = machineOf(*m_chosen, sentBy(m_client));
+    else if (kept)
+        machine = activeMachine(*kept, sentBy(m_client));
+    if (!machine)
+        return;
+    try {
+        m_session = std::make_unique<MachineSession>(*machine, sentBy(m_client), sentBy(hasty));
+    } catch (const RequestRefused &refusal) {
+        if (m_chosen || !isUnknownCommand(refusal))
+            throw;
+        return;
+    } catch (const FaultException &) {
+        if (m_chosen)
+            throw;
+        return;
+    }
+    m_chosen = MachineChoice{machine->type, machine->id};
 }
 
 const XmlRpcAnswer &Driver::execute(ProtoCommand &command) const
@@ -112,11 +152,15 @@ const XmlRpcAnswer &Driver::start(ProtoCommand &command) const
 
 const XmlRpcAnswer &Driver::send(ProtoCommand &command, ProtoCommandList::CallKind kind) const
 {
-    return sendBy(m_client, command, kind);
+    const XmlRpcAnswer &answer = sendBy(m_client, command, kind, m_session ? m_session->id() : QString());
+    if (!m_session || !isOfEndedSession(answer, command))
+        return answer;
+    m_session->renew();
+    return sendBy(m_client, command, kind, m_session->id());
 }
 
 const XmlRpcAnswer &Driver::sendBy(const XmlRpcClient &client, ProtoCommand &command,
-                                   ProtoCommandList::CallKind kind) const
+                                   ProtoCommandList::CallKind kind, const QString &session) const
 {
     const auto begin = std::chrono::steady_clock::now();
     const QString method = ProtoCommandList::functionCallStr(kind);
@@ -124,8 +168,7 @@ const XmlRpcAnswer &Driver::sendBy(const XmlRpcClient &client, ProtoCommand &com
         printNote(QStringLiteral("%1 %2 to %3:%4")
                       .arg(method, command.command(), m_address.host)
                       .arg(m_address.port));
-    const QString leading = m_session ? m_session->id() : QString();
-    const auto reply = client.call(method, command.toXmlRpcValue(leading));
+    const auto reply = client.call(method, command.toXmlRpcValue(session));
     FW_DriverError error;
     if (!command.setAnswer(reply, kind == ProtoCommandList::NonBlockingCall, &error))
         throw FW_DriverError(error);

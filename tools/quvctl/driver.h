@@ -46,18 +46,23 @@ private:
 
 /**
  * The driver that --host, --port and --timeout name, and the environment where they do not; and of its machines that of --on, on which
- * the user is logged in for as long as this stands.
+ * the user is logged in for as long as this stands. A session that the driver knows no more is opened again on the same machine.
  */
 class Driver
 {
 public:
-    /// \throws UsageError, and as execute when it cannot log in
-    explicit Driver(const CommandLine &line);
+    /**
+     * Without --on a machine of the kind \a kept is that of the beginning, whichever is active later; a driver that does not tell of
+     * its machines, or has no sessions, chooses by itself. \throws UsageError, and as execute when it cannot log in
+     */
+    explicit Driver(const CommandLine &line, std::optional<SerialDeviceType> kept = std::nullopt);
     Driver(const Driver &) = delete;
     Driver &operator=(const Driver &) = delete;
 
-    /// The machine that the user has chosen; nothing leaves the choice to the driver.
+    /// The machine that the user has chosen, or that is kept; nothing leaves the choice to the driver.
     const std::optional<MachineChoice> &chosen() const { return m_chosen; }
+    /// The options of a command line that lead to the same machine, a blank before each.
+    const QString &sameMachine() const { return m_sameMachine; }
 
     /**
      * Sends \a command, waits for its end, and gives it the answer.
@@ -70,14 +75,15 @@ public:
 private:
     const XmlRpcAnswer &send(ProtoCommand &command, ProtoCommandList::CallKind kind) const;
     const XmlRpcAnswer &sendBy(const XmlRpcClient &client, ProtoCommand &command,
-                               ProtoCommandList::CallKind kind) const;
+                               ProtoCommandList::CallKind kind, const QString &session) const;
+    void logIn(const CommandLine &line, std::optional<SerialDeviceType> kept);
 
     DriverAddress m_address{};
     std::optional<MachineChoice> m_chosen{};
+    QString m_sameMachine{};
     bool m_isVerbose = false;
     XmlRpcClient m_client;
-    std::unique_ptr<const MachineSession>
-        m_session{}; ///< last, so that it ends while the driver can be asked
+    std::unique_ptr<MachineSession> m_session{}; ///< last, so that it ends while the driver can be asked
 };
 
 } // namespace quv

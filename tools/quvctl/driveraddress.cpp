@@ -99,11 +99,20 @@ DriverAddress driverAddress(const CommandLine &line)
 
 QString sameDriver(const CommandLine &line)
 {
+    return sameDriver(line, std::nullopt);
+}
+
+QString sameDriver(const CommandLine &line, const std::optional<MachineChoice> &machine)
+{
     QString words;
+    const auto add = [&words](const char *option, const QString &value) {
+        words += QStringLiteral(" --%1 %2").arg(QLatin1String(option), shellWord(value));
+    };
     for (const char *option : {"host", "port", "on", "token-file"})
-        if (line.isSet(option))
-            words += QStringLiteral(" --%1 %2")
-                         .arg(QLatin1String(option), shellWord(line.value(option, QString())));
+        if (machine && QLatin1String(option) == QLatin1String("on"))
+            add(option, inWords(*machine));
+        else if (line.isSet(option))
+            add(option, line.value(option, QString()));
     return words;
 }
 

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "machinechoice.h"
+
 #include <QtCore/QString>
+
+#include <optional>
 
 namespace quv {
 
@@ -23,5 +27,7 @@ DriverAddress driverAddress(const CommandLine &line);
 
 /// The options of the command line that lead to the same driver and machine, a blank before each, to be pasted into a shell.
 QString sameDriver(const CommandLine &line);
+/// The same, with \a machine, if any, in the place of that of the command line.
+QString sameDriver(const CommandLine &line, const std::optional<MachineChoice> &machine);
 
 } // namespace quv

@@ -37,6 +37,13 @@ MachineChoice machineChoice(const QString &text, const char *source)
     return choice;
 }
 
+QString inWords(const MachineChoice &choice)
+{
+    const QString kind =
+        choice.type == SerialDeviceType::Mixer ? QStringLiteral("mixer") : QStringLiteral("dispenser");
+    return choice.id ? kind + QLatin1Char(':') + QString::number(*choice.id) : kind;
+}
+
 std::optional<MachineChoice> chosenMachine(const CommandLine &line)
 {
     if (line.isSet("on"))

@@ -21,6 +21,9 @@ struct MachineChoice
 /// What \a text calls. \throws UsageError, which names \a source
 MachineChoice machineChoice(const QString &text, const char *source);
 
+/// As --on takes it.
+QString inWords(const MachineChoice &choice);
+
 /// What --on tells, or QUV_ON where it does not; nothing without either. \throws UsageError
 std::optional<MachineChoice> chosenMachine(const CommandLine &line);
 

@@ -12,36 +12,52 @@ namespace quv {
 
 namespace {
 
-bool isMixer(SerialDeviceType type)
+struct ListedMachines
 {
-    return type == SerialDeviceType::Mixer;
+    QList<int> active{};
+    QList<int> all{};
+};
+
+ListedMachines machinesOf(SerialDeviceType type, const MachineSession::Send &send)
+{
+    const auto command = plainCommand(ProtoCommandList::GET_ACTIVE_DISP);
+    const auto &list = answerIn<GetActiveDispAnswer>(send(*command, QString()), *command);
+    if (type == SerialDeviceType::Mixer)
+        return {list.getActiveMixerIDs(), list.getMixerIDs()};
+    return {list.getActiveDispenserIDs(), list.getDispenserIDs()};
 }
 
 /// The active one of the kind, or the first that the driver lists.
 int idOfActive(SerialDeviceType type, const MachineSession::Send &send)
 {
-    const auto command = plainCommand(ProtoCommandList::GET_ACTIVE_DISP);
-    const auto &list = answerIn<GetActiveDispAnswer>(send(*command), *command);
-    const QList<int> active = isMixer(type) ? list.getActiveMixerIDs() : list.getActiveDispenserIDs();
-    const QList<int> all = isMixer(type) ? list.getMixerIDs() : list.getDispenserIDs();
-    if (all.isEmpty())
-        throw std::runtime_error(isMixer(type) ? "the driver has no mixer" : "the driver has no dispenser");
-    return active.isEmpty() ? all.first() : active.first();
+    const ListedMachines listed = machinesOf(type, send);
+    if (listed.all.isEmpty())
+        throw std::runtime_error(type == SerialDeviceType::Mixer ? "the driver has no mixer"
+                                                                 : "the driver has no dispenser");
+    return listed.active.isEmpty() ? listed.all.first() : listed.active.first();
 }
 
-QString loggedIn(const MachineChoice &choice, const MachineSession::Send &send)
+QString loggedIn(const MachineID &machine, const MachineSession::Send &send)
 {
-    const int machine = choice.id ? *choice.id : idOfActive(choice.type, send);
-    LoginCmd command(MachineID(machine, choice.type), QStringLiteral("quvctl"), 0);
-    return answerIn<LoginAnswer>(send(command), command).sessionID();
+    LoginCmd command(machine, QStringLiteral("quvctl"), 0);
+    return answerIn<LoginAnswer>(send(command, QString()), command).sessionID();
+}
+
+InterruptPlan tidyingPlan(std::function<void()> tidyUp)
+{
+    InterruptPlan plan;
+    plan.beforeTheEnd = std::move(tidyUp);
+    return plan;
 }
 
 } // namespace
 
-MachineSession::MachineSession(const MachineChoice &choice, const Send &send, const Send &sendShortly)
-    : m_sendShortly(sendShortly),
-      m_id(loggedIn(choice, send)),
-      m_onInterrupt(InterruptPlan{{}, {}, false, {}, [this] { logOut(); }})
+MachineSession::MachineSession(const MachineID &machine, const Send &send, const Send &sendShortly)
+    : m_machine(machine),
+      m_send(send),
+      m_sendShortly(sendShortly),
+      m_id(loggedIn(machine, send)),
+      m_onInterrupt(tidyingPlan([this] { logOut(); }))
 {}
 
 MachineSession::~MachineSession()
@@ -49,14 +65,47 @@ MachineSession::~MachineSession()
     logOut();
 }
 
+QString MachineSession::id() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_id;
+}
+
+void MachineSession::renew()
+{
+    const QString id = loggedIn(m_machine, m_send);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_id = id;
+}
+
 void MachineSession::logOut() const noexcept
 {
     try {
-        LogoutCmd command(m_id);
-        m_sendShortly(command);
+        const QString session = id();
+        LogoutCmd command(session);
+        m_sendShortly(command, session);
     } catch (...) { // what was asked for has been done, or has failed for a reason of its own
         return;
     }
+}
+
+MachineID machineOf(const MachineChoice &choice, const MachineSession::Send &send)
+{
+    return {choice.id ? *choice.id : idOfActive(choice.type, send), choice.type};
+}
+
+std::optional<MachineID> activeMachine(SerialDeviceType type, const MachineSession::Send &send)
+{
+    try {
+        const ListedMachines listed = machinesOf(type, send);
+        if (!listed.active.isEmpty())
+            return MachineID(listed.active.first(), type);
+    } catch (const TransportError &) {
+        throw;
+    } catch (const std::exception &) { // not all drivers tell it
+    } catch (const FW_DriverError &) {
+    }
+    return std::nullopt;
 }
 
 } // namespace quv

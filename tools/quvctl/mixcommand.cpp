@@ -51,7 +51,7 @@ ExitStatus run(const CommandLine &line)
     long long seconds = 0;
     for (const MixerCycle &cycle : cycles)
         seconds += cycle.duration;
-    const Driver driver(line);
+    const Driver driver(line, SerialDeviceType::Mixer);
     ProtoCommands commands;
     commands.push_back(std::make_unique<MixCmd>(cycles));
     MachineProcess process;

@@ -13,8 +13,9 @@ namespace {
 
 QString toldOfStopping(const Driver &driver)
 {
-    const auto failed = [](const QString &why) {
-        return QStringLiteral("the machine was not stopped: %1; try again with: quvctl stop").arg(why);
+    const auto failed = [&driver](const QString &why) {
+        return QStringLiteral("the machine was not stopped: %1; try again with: quvctl stop%2")
+            .arg(why, driver.sameMachine());
     };
     try {
         stopMachine(driver);

@@ -209,7 +209,8 @@ ExitStatus waitAndReport(const Driver &driver, const Ticket &ticket, const PourO
 
 ExitStatus run(const CommandLine &line)
 {
-    const Driver driver(line);
+    const bool isWaitedFor = !line.isSet("no-wait") && !line.isSet("dry-run");
+    const Driver driver(line, isWaitedFor ? std::optional(SerialDeviceType::Dispenser) : std::nullopt);
     intervalOf(line); // refused before anything is poured
     std::optional<PourOrder> order = typedOrder(line);
     if (!order)
@@ -221,7 +222,7 @@ ExitStatus run(const CommandLine &line)
     const bool isJson = line.isSet("json");
     if (!isJson)
         printLine(QStringLiteral("Ticket %1").arg(ticket.id()));
-    if (!line.isSet("no-wait"))
+    if (isWaitedFor)
         return behindTicket(ticket.id(), [&] { return waitAndReport(driver, ticket, *order, line); });
     if (isJson)
         printJson({{"ok", true}, {"ticket", toJson(ticket.id())}});
