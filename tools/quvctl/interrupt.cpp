@@ -10,6 +10,7 @@
 #include <csignal>
 #include <iterator>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -66,12 +67,15 @@ bool comesAgain()
     return signal == SIGINT;
 }
 
-void carryOutSecond(const std::function<QString()> &again)
+/// What is told of a second one; nothing when it does not come.
+std::optional<QString> carryOutSecond(const std::function<QString()> &again)
 {
     if (!comesAgain())
-        return;
+        return std::nullopt;
     changeMask(SIG_UNBLOCK); // whoever has no more patience
-    writeAtOnce(STDERR_FILENO, printable(again()).toStdString() + '\n');
+    QString told = again();
+    writeAtOnce(STDERR_FILENO, printable(told).toStdString() + '\n');
+    return told;
 }
 
 [[noreturn]] void endInterrupted(int signal)
@@ -83,12 +87,14 @@ void carryOutSecond(const std::function<QString()> &again)
                                    [](const OnInterrupt *each) { return each->plan().isTold; });
     if (told != standingInterrupts.rend()) {
         const InterruptPlan &plan = (*told)->plan();
-        writeAtOnce(STDOUT_FILENO, plan.output);
         writeAtOnce(STDERR_FILENO, plan.error);
+        std::optional<QString> second;
         if (plan.again && signal == SIGINT) {
             writeAtOnce(STDERR_FILENO, plan.offer);
-            carryOutSecond(plan.again);
+            second = carryOutSecond(plan.again);
         }
+        if (plan.output)
+            writeAtOnce(STDOUT_FILENO, plan.output(second.value_or(plan.text)));
     }
     changeMask(SIG_UNBLOCK);
     std::for_each(standingInterrupts.rbegin(), standingInterrupts.rend(), [](const OnInterrupt *each) {
@@ -153,10 +159,13 @@ InterruptPlan toldPlan(const QString &text, bool asJson, const QString &ticket)
         plan.error.insert(0, canRedraw() ? "\n" : "");
         return plan;
     }
-    OrderedJson reply = failureReply(text.toStdString());
-    if (!ticket.isEmpty())
-        reply["ticket"] = toJson(ticket);
-    plan.output = writeJson(reply) + '\n';
+    plan.text = text;
+    plan.output = [ticket](const QString &told) {
+        OrderedJson reply = failureReply(told.toStdString());
+        if (!ticket.isEmpty())
+            reply["ticket"] = toJson(ticket);
+        return writeJson(reply) + '\n';
+    };
     return plan;
 }
 

@@ -11,8 +11,10 @@ namespace quv {
 /// What becomes of a Ctrl-C, and of a program that is told to end (SIGTERM) or whose terminal is closed (SIGHUP).
 struct InterruptPlan
 {
-    std::string output{}; ///< what is told on standard output, and on standard error
-    std::string error{};
+    std::function<std::string(const QString &)>
+        output{};                     ///< of what has become of the machine, on standard output
+    QString text{};                   ///< what has, without a second one
+    std::string error{};              ///< what is told on standard error
     bool isTold = false;              ///< false for a plan that only tidies up
     std::function<QString()> again{}; ///< what a second one does, within the time; gives what is told of it
     std::function<void()> beforeTheEnd{}; ///< what is tidied up in any case
