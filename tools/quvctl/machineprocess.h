@@ -34,20 +34,26 @@ struct MachineProcess
     QString begun{}; ///< as in "stirring all circuits"
     QString ended{}; ///< as in "stirred"
     StatusCondition isAtWork{};
-    QList<int> positions{0}; ///< whose status tells it; 0 is the machine's
+    QList<int> positions{0}; ///< whose status tells it, one for each command; 0 is the machine's
     long long expected = 0;  ///< milliseconds; 0 when nobody knows
     bool isLasting = true;   ///< false for what nobody waits for: no end, or nothing but an order to end
+    bool goesOn = true;      ///< false for an order to end
+    std::function<QString()>
+        failure{}; ///< what the status does not tell of a bad end; empty after a good one
 };
 
 /// The options of a command that begins a process, behind its own.
 std::vector<OptionText> withProcessOptions(std::vector<OptionText> options);
 
 /**
- * Sends the commands, one after the other, and waits until the machine has done what they began, with its progress. Ctrl-C ends the
- * waiting, a second one stops the machine. Refused when something is wrong with the machine that was not before.
- * \throws RequestRefused, and as StatusQuestion::ask
+ * Sends the commands, and waits until the machine has done what they began, with its progress. Of several as many go on at a time as
+ * the machine takes. Ctrl-C ends the waiting, a second one stops the machine. Refused when something is wrong with the machine that
+ * was not before. \throws RequestRefused, and as StatusQuestion::ask
  */
 ExitStatus carryOutProcess(const Driver &driver, StatusQuestion &question, const ProtoCommands &commands,
-                           MachineProcess process, const CommandLine &line);
+                           const MachineProcess &process, const CommandLine &line);
+
+/// Tells that what is asked for is so already.
+ExitStatus tellNothingToDo(const QString &text, const CommandLine &line);
 
 } // namespace quv

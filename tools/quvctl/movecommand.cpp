@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "excerpt.h"
+#include "executed.h"
 #include "machineprocess.h"
 #include "subcommands.h"
 #include "suggestions.h"
@@ -11,16 +12,28 @@
 #include "processes/turntablemovetorefillcmd.h"
 #include "status/dispenserstatusanswer.h"
 #include "status/mixerstatusanswer.h"
+#include "status/sensorsstatusanswer.h"
+
+#include <memory>
+#include <optional>
 
 namespace quv {
 
 namespace {
+
+/// Where a cap is to stand.
+struct CapGoal
+{
+    bool SensorsStatusAnswer::*sensor = nullptr;
+    QString word{}; ///< as in "the cap is open"
+};
 
 struct Movement
 {
     std::unique_ptr<ProtoCommand> command{};
     MachineProcess process{};
     SerialDeviceType machine = SerialDeviceType::Dispenser;
+    std::optional<CapGoal> cap{};
 };
 
 [[noreturn]] void refuseGoal(const QString &part, const QString &word, const QStringList &goals)
@@ -60,24 +73,34 @@ Movement shelfMovement(const QString &goal, const CommandLine &line)
 Movement capMovement(const QString &goal)
 {
     const auto isOpen = anyOf({&DispenserStatusAnswer::cap_open});
-    if (goal == QLatin1String("open"))
-        return movement(std::make_unique<AutocapCmd>(AutocapCmd::Open), QStringLiteral("opening the cap"),
-                        [isOpen](const MachineStatusAnswer &status) { return !isOpen(status); });
-    if (goal == QLatin1String("close"))
-        return movement(std::make_unique<AutocapCmd>(AutocapCmd::Close), QStringLiteral("closing the cap"),
-                        isOpen);
-    refuseGoal(QStringLiteral("cap"), goal, {QStringLiteral("open"), QStringLiteral("close")});
+    Movement moved;
+    if (goal == QLatin1String("open")) {
+        moved = movement(std::make_unique<AutocapCmd>(AutocapCmd::Open), QStringLiteral("opening the cap"),
+                         [isOpen](const MachineStatusAnswer &status) { return !isOpen(status); });
+        moved.cap = CapGoal{&SensorsStatusAnswer::cap_open, QStringLiteral("open")};
+    } else if (goal == QLatin1String("close")) {
+        moved = movement(std::make_unique<AutocapCmd>(AutocapCmd::Close), QStringLiteral("closing the cap"),
+                         isOpen);
+        moved.cap = CapGoal{&SensorsStatusAnswer::cap_close, QStringLiteral("closed")};
+    } else {
+        refuseGoal(QStringLiteral("cap"), goal, {QStringLiteral("open"), QStringLiteral("close")});
+    }
+    return moved;
 }
 
 Movement tableMovement(const QString &goal, const CommandLine &line)
 {
     const auto isMoving = anyOf({&DispenserStatusAnswer::turntable_moving});
     constexpr int noPosition = 0;
-    if (goal == QLatin1String("reference"))
+    const bool isForRefill = line.isSet("refill");
+    if (goal == QLatin1String("reference")) {
+        if (isForRefill)
+            throw UsageError(QStringLiteral("--refill needs the position of a circuit, not reference"));
         return movement(std::make_unique<TurntableMoveCmd>(noPosition, TurntableMoveCmd::ReferenceSearch,
                                                            TurntableMovement::Shortest, 0, 0,
                                                            TurntableMovement::configurationSpeed()),
                         QStringLiteral("moving the table to its reference"), isMoving);
+    }
     bool isNumber = false;
     const int position = goal.toInt(&isNumber);
     if (!isNumber)
@@ -85,7 +108,7 @@ Movement tableMovement(const QString &goal, const CommandLine &line)
                    {QStringLiteral("reference"), QStringLiteral("a circuit's position")});
     if (position < 1 || position > 255)
         throw UsageError(QStringLiteral("a circuit's position is a number from 1 to 255"));
-    if (line.isSet("refill"))
+    if (isForRefill)
         return movement(std::make_unique<TurntableMoveToRefillCmd>(position, nullptr),
                         QStringLiteral("moving circuit %1 to where it is refilled").arg(position), isMoving);
     return movement(std::make_unique<TurntableMoveCmd>(position),
@@ -130,11 +153,38 @@ Movement movementOf(const CommandLine &line)
                          .arg(excerpt(part), didYouMean(part, parts)));
 }
 
+std::optional<SensorsStatusAnswer> sensorsOf(const Driver &driver)
+{
+    return answerIfAny<SensorsStatusAnswer>(ProtoCommandList::GET_SENSORS_STATUS, driver);
+}
+
+/// A status tells that a cap is not closed, which it is not while it moves either; the sensors tell more.
+void followCap(MachineProcess &process, const CapGoal &goal, const Driver &driver)
+{
+    const auto hasMoved = std::make_shared<bool>(false);
+    process.isAtWork = [hasMoved, goal, &driver](const MachineStatusAnswer &) {
+        const auto sensors = answerTo<SensorsStatusAnswer>(ProtoCommandList::GET_SENSORS_STATUS, driver);
+        *hasMoved = *hasMoved || sensors.autocap_active;
+        return sensors.autocap_active || (!(sensors.*goal.sensor) && !*hasMoved);
+    };
+    process.failure = [goal, &driver] {
+        const auto sensors = sensorsOf(driver);
+        return sensors && !((*sensors).*goal.sensor) ? QStringLiteral("the cap is not %1").arg(goal.word)
+                                                     : QString();
+    };
+}
+
 ExitStatus run(const CommandLine &line)
 {
     Movement moved = movementOf(line);
     requireKind(line, moved.machine, QStringLiteral("move ") + line.words().first());
-    const Driver driver(line);
+    const Driver driver(line, moved.machine);
+    intervalOf(line); // refused before anything is asked
+    if (const auto sensors = moved.cap ? sensorsOf(driver) : std::nullopt) {
+        if ((*sensors).*moved.cap->sensor && !sensors->autocap_active)
+            return tellNothingToDo(QStringLiteral("the cap is %1 already").arg(moved.cap->word), line);
+        followCap(moved.process, *moved.cap, driver);
+    }
     ProtoCommands commands;
     commands.push_back(std::move(moved.command));
     StatusQuestion question(driver, moved.machine);

@@ -43,7 +43,8 @@ QString beginningInWords(const TimedProcess &timed, const QString &circuits, con
 ExitStatus carryOutTimed(const TimedProcess &timed, const CommandLine &line)
 {
     const AskedTime time = askedTime(line);
-    const Driver driver(line);
+    requirePositions(line);
+    const Driver driver(line, SerialDeviceType::Dispenser);
     const CircuitChoice circuits = chosenCircuits(driver, line);
     ProtoCommands commands;
     for (const int position : circuits.positions)
@@ -55,6 +56,7 @@ ExitStatus carryOutTimed(const TimedProcess &timed, const CommandLine &line)
     process.positions = circuits.positions;
     process.expected = time.seconds * 1000;
     process.isLasting = time.isLasting;
+    process.goesOn = time.seconds > 0;
     StatusQuestion question(driver, SerialDeviceType::Dispenser);
     return carryOutProcess(driver, question, commands, process, line);
 }
