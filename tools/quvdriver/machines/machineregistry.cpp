@@ -57,7 +57,9 @@ QString MachineRegistry::inWords() const
     QStringList names;
     for (const auto &machine : m_machines)
         names.append(QStringLiteral("%1:%2").arg(kindInWords(machine->type())).arg(machine->id().id));
-    return names.isEmpty() ? QStringLiteral("none at all") : names.join(QStringLiteral(", "));
+    if (names.isEmpty())
+        names.append(QStringLiteral("none at all"));
+    return names.join(QStringLiteral(", "));
 }
 
 DrivenMachine *MachineRegistry::active(SerialDeviceType type) const
