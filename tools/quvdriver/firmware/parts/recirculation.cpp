@@ -24,10 +24,10 @@ std::optional<double> strokeTime(const FW_Circuit &circuit, int strokes, int spe
 } // namespace
 
 Recirculation::Recirculation(SimulatedMachine &machine)
-    : CircuitMotors(machine, {Process::Recirculating, CircuitProcess::Recirculating,
-                              TimedProcess::Recirculation, 3,
-                              QStringLiteral("no circuit has a motor that recirculates"),
-                              QStringLiteral("no more circuits than %1 recirculate at once")})
+    : CircuitMotors(machine,
+                    {Process::Recirculating, CircuitProcess::Recirculating, TimedProcess::Recirculation, 3,
+                     QStringLiteral("no circuit has a motor that recirculates"),
+                     QStringLiteral("no more circuits than %1 recirculate at once")})
 {}
 
 std::vector<FirmwareCode> Recirculation::codes()

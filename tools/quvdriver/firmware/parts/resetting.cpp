@@ -16,8 +16,8 @@ FirmwareReply Resetting::begin()
     if (const auto obstacle = m_machine.obstacleByHand(Process::Resetting))
         return refused(*obstacle);
     // What writes a memory is not cut off, and the search is not begun anew while it goes on.
-    if (const auto obstacle = m_machine.obstacleByWork(
-            {Process::Resetting, Process::Finalising, Process::UpdatingBoards}))
+    if (const auto obstacle =
+            m_machine.obstacleByWork({Process::Resetting, Process::Finalising, Process::UpdatingBoards}))
         return refused(*obstacle);
     for (const auto &part : m_machine.parts()) {
         part->stop();
