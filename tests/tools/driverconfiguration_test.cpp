@@ -181,7 +181,8 @@ TEST_F(DriverConfigurationTest, aTicketTellsTheEnd)
     while (!call("EXEC_B", "GET_STATUS").flag("conf_writing"))
         ASSERT_LT(std::chrono::steady_clock::now(), until);
     EXPECT_EQ(call("EXEC_B", "TINT", formula({{"A", 1}})).error(),
-              "DE03106 The firmware refused the code 0017: Machine not available (masks 0x0 and 0x8)");
+              "DE03106 The firmware refused the code 0017: Machine not available (masks 0x0 and 0x8); "
+              "the machine is writing its configuration");
     EXPECT_EQ(write(7, "1,300,11,41").retCode, 4);
     EXPECT_EQ(read(3).substr(0, 16), "1,1,1,1,2,1,1,60");
     const std::string id = begun.text("ticket_id");

@@ -3,8 +3,11 @@
 
 #include "pouringmachine.h"
 
+#include <QuvFramework/fw_autocap.h>
+#include <QuvFramework/fw_brush.h>
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_mixer.h>
+#include <QuvFramework/fw_shelf.h>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +40,13 @@ protected:
     static std::string status(SimulatedFirmware &firmware, int module = 0)
     {
         return ask(firmware, "0006", {}, module);
+    }
+    /// Why it refuses.
+    static std::string reason(SimulatedFirmware &firmware, const char *code,
+                              const QList<int> &parameters = {}, int module = 0)
+    {
+        const FirmwareReply reply = firmware.execute(QLatin1String(code), module, parameters);
+        return reply.refused ? reply.reason.toStdString() : "not refused";
     }
     void wait(qint64 milliseconds) { m_now += milliseconds; }
 
@@ -211,6 +221,121 @@ TEST_F(MachineTellsTest, anOpenDoorRefusesAResetAndChangesNothing)
     wait(1000);
     EXPECT_EQ(ask(*firmware, "0001"), "0");
     EXPECT_EQ(ask(*mixer, "0001"), "0");
+}
+
+TEST_F(MachineTellsTest, aHandThatStandsInTheWayIsNamed)
+{
+    const std::pair<FaultKind, const char *> hands[] = {
+        {FaultKind::Emergency, "the emergency button is pressed"},
+        {FaultKind::Offline, "the offline button is pressed"},
+        {FaultKind::DoorOpen, "the door is open"}};
+    for (const auto &[fault, expected] : hands) {
+        const auto firmware = machine(pouringMachine(), {{fault, 0, 0, {}}});
+        EXPECT_EQ(reason(*firmware, "0017", Tint1000OfCircuit1), expected);
+        EXPECT_EQ(reason(*firmware, "0001"), expected);
+        const auto mixer = machine(FW_Mixer(), {{fault, 0, 0, {}}});
+        EXPECT_EQ(reason(*mixer, "0030", {1, 245, 245, 245, 0}), expected);
+        EXPECT_EQ(reason(*mixer, "0001"), expected);
+    }
+}
+
+/// A dispenser of the Zandor line that can do most of what there is.
+FW_Dispenser ableMachine()
+{
+    FW_Dispenser made = pouringMachine();
+    made.setModelName(QStringLiteral("ZANDOR"));
+    made.setGlobalStirring(true);
+    made.setDevice(FW_Autocap());
+    made.setDevice(FW_Brush());
+    made.setDevice(FW_Shelf());
+    made.getCanisterById(11)->setCanisterLevelSensor(1);
+    return made;
+}
+
+TEST_F(MachineTellsTest, whatTheMachineIsAtIsNamed)
+{
+    struct Work
+    {
+        const char *code;
+        QList<int> parameters;
+        const char *expected;
+    };
+    const Work works[] = {{"0001", {}, "the machine is resetting"},
+                          {"0067", {}, "the machine is writing its configuration"},
+                          {"0017", Tint1000OfCircuit1, "the machine is pouring"},
+                          {"0004", {30, 0, 1}, "the machine is stirring"},
+                          {"0005", {50, 30, 0, 0, 1}, "the machine is recirculating"},
+                          {"0015", {50, 30, 0, 2, 0}, "the machine is cleaning"},
+                          {"0071", {1, 0, 0}, "the machine is moving its shelf"},
+                          {"0041", {1}, "the machine is moving its cap"},
+                          {"0032", {0, 0, 0}, "the machine is moving its capping station"},
+                          {"0029", {0}, "the machine is reading its level sensors"}};
+    for (const Work &work : works) {
+        const auto firmware = machine(ableMachine());
+        EXPECT_EQ(reason(*firmware, work.code, work.parameters), "not refused") << work.code;
+        EXPECT_EQ(reason(*firmware, "0017", Tint1000OfCircuit1), work.expected);
+    }
+    const auto rotating = machine(rotatingMachine());
+    EXPECT_EQ(reason(*rotating, "0016", {1, 2, 0, 0}, 1), "not refused");
+    EXPECT_EQ(reason(*rotating, "0017", Tint1000OfCircuit1), "the machine is turning its table");
+    const QList<int> mix{0, 1, 5, 0, 50, 20, 30, 0};
+    const auto mixer = machine(FW_Mixer());
+    EXPECT_EQ(reason(*mixer, "0030", {1, 245, 245, 245, 0}), "not refused");
+    EXPECT_EQ(reason(*mixer, "0031", mix), "the machine is moving its plates");
+    wait(5000);
+    EXPECT_EQ(reason(*mixer, "0031", mix), "not refused");
+    EXPECT_EQ(reason(*mixer, "0031", mix), "the machine is mixing");
+    EXPECT_EQ(reason(*mixer, "0030", {1, 245, 245, 245, 0}), "the machine is mixing");
+    wait(5000);
+    EXPECT_EQ(reason(*mixer, "0003", {0}), "not refused");
+    EXPECT_EQ(reason(*mixer, "0031", mix), "the mixer must be reset");
+    EXPECT_EQ(reason(*mixer, "0001"), "not refused");
+    EXPECT_EQ(reason(*mixer, "0031", mix), "the machine is resetting");
+}
+
+TEST_F(MachineTellsTest, eachCommandThatIsRefusedSaysWhatIsInItsWay)
+{
+    const auto firmware = machine(ableMachine());
+    EXPECT_EQ(ask(*firmware, "0017", Tint1000OfCircuit1), "0");
+    const std::pair<const char *, QList<int>> commands[] = {{"0004", {30, 0, 0}},
+                                                            {"0005", {50, 30, 0, 0, 0}},
+                                                            {"0015", {50, 30, 0, 2, 0}},
+                                                            {"0020", {2, 0, 0}},
+                                                            {"0023", {1, 1, 1, 0, 50}},
+                                                            {"0027", {1, 1, 0, 0, 0}},
+                                                            {"0028", {100, 0}},
+                                                            {"0029", {0}},
+                                                            {"0032", {0, 0, 0}},
+                                                            {"0035", {1, 1, 1, 0}},
+                                                            {"0041", {1}},
+                                                            {"0067", {}},
+                                                            {"0071", {1, 0, 0}}};
+    for (const auto &[code, parameters] : commands)
+        EXPECT_EQ(reason(*firmware, code, parameters), "the machine is pouring") << code;
+    wait(6000);
+    EXPECT_EQ(ask(*firmware, "0067"), "0");
+    EXPECT_EQ(reason(*firmware, "0065", {7, 1, 1, 1}), "the machine is writing its configuration");
+    EXPECT_EQ(reason(*firmware, "0001"), "the machine is writing its configuration");
+    wait(3000);
+    EXPECT_EQ(ask(*firmware, "0001"), "0");
+    EXPECT_EQ(reason(*firmware, "0001"), "the machine is resetting");
+    const auto rotating = machine(rotatingMachine());
+    EXPECT_EQ(ask(*rotating, "0017", Tint1000OfCircuit1), "0");
+    EXPECT_EQ(reason(*rotating, "0016", {1, 2, 0, 0}, 1), "the machine is pouring");
+    EXPECT_EQ(reason(*rotating, "0018", {0, 245, 1, 1}), "the machine is pouring");
+}
+
+TEST_F(MachineTellsTest, anEmergencyEndsTheReadingOfLevels)
+{
+    const auto firmware = machine(ableMachine(), {{FaultKind::Emergency, 0, 3000, 5000}});
+    EXPECT_EQ(ask(*firmware, "0029", {0}), "4 1 1 C8 32");
+    wait(2999);
+    EXPECT_EQ(status(*firmware), "E 0 1 0 0 0 0 0 F5 F5 0 0 8 0 8");
+    wait(1);
+    EXPECT_EQ(status(*firmware), "E 0 1 0 40 70 0 0 F5 F5 0 0 0 0 8");
+    EXPECT_EQ(ask(*firmware, "0029", {0}), NotAvailable);
+    wait(2000);
+    EXPECT_EQ(status(*firmware), "E 0 1 0 40 20 0 0 F5 F5 4 0 0 0 8"); // it does not go on
 }
 
 TEST_F(MachineTellsTest, aCanIsTold)
@@ -486,6 +611,30 @@ TEST_F(MachineTellsTest, workWarmsTheMachine)
     EXPECT_EQ(ask(*firmware, "0060", {0, 0}), "7 0 0 C3 8 0 0 0"); // 21.63, half of the warmth is gone
     wait(180000);
     EXPECT_EQ(ask(*firmware, "0060", {0, 0}), "7 0 0 A5 8 0 0 0"); // 21.33
+}
+
+TEST_F(MachineTellsTest, workWarmsWhetherSomebodyLooksOrNot)
+{
+    FW_Dispenser made = pouringMachine();
+    made.setGlobalStirring(true);
+    const auto seldom = machine(made, {}, 100);
+    const auto often = machine(made, {}, 100);
+    for (SimulatedFirmware *firmware : {seldom.get(), often.get()})
+        ask(*firmware, "0004", {54, 1, 0}); // 300 s
+    for (int look = 0; look < 36; ++look) { // until 6 minutes are over
+        ask(*often, "0060", {0, 0});
+        wait(100);
+    }
+    // 21.00, 0.40 of the hour, 5 of the work, of which half a degree is gone
+    EXPECT_EQ(ask(*often, "0060", {0, 0}), "7 0 0 82 A 0 0 0");
+    EXPECT_EQ(ask(*seldom, "0060", {0, 0}), "7 0 0 82 A 0 0 0");
+
+    const auto looked = machine(made, {}, 100);
+    ask(*looked, "0001"); // 6 s
+    wait(30);
+    EXPECT_EQ(status(*looked), Resetting);
+    wait(3570);
+    EXPECT_EQ(ask(*looked, "0060", {0, 0}), "7 0 0 AC 8 0 0 0"); // 21.40: what 6 s warm is gone in 12
 }
 
 } // namespace

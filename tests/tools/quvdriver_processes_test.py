@@ -95,7 +95,7 @@ class ProcessesTest(unittest.TestCase):
             told = self.status(client)
             self.assertEqual((told["stirring"], told["head1_can_dose"]), (True, False))
             for command in (("TINT", FORMULA), ("RECIRCULATION", 2, 30), ("CLEANING", 1), ("NOZZLE_CLEAN", 0, 30),
-                            ("STIRRING", 2, 30)):
+                            ("STIRRING", 2, 30), ("GET_LEVEL_SENSORS",)):
                 self.refused(client, "not available", *command)
             self.call(client, "STIRRING", 1, 0)
             self.assertFalse(self.status(client)["stirring"])
@@ -164,7 +164,7 @@ class ProcessesTest(unittest.TestCase):
         with self.driver() as driver, driver.client() as client:
             self.call(client, "STIRRING", 1, ENDLESS)
             self.call(client, "STIRRING", 2, ENDLESS)
-            self.refused(client, "not available", "STIRRING", 3, 30)
+            self.refused(client, "no more circuits than 2 are stirred at once", "STIRRING", 3, 30)
             self.call(client, "STIRRING", 1, 0)
             self.call(client, "STIRRING", 3, ENDLESS)
             self.assertEqual(self.at(client, "stirring"), [2, 3])
@@ -174,8 +174,8 @@ class ProcessesTest(unittest.TestCase):
             self.call(client, "CLEANING", 0, 50, ENDLESS, 0, True)
             self.assertTrue(self.status(client)["cleaning"])
             self.assertEqual(self.at(client, "cleaning"), [1, 2, 3, 4])
-            self.refused(client, "not available", "STIRRING", 1, 30)
-            self.refused(client, "not available", "TINT", FORMULA)
+            self.refused(client, "the machine is cleaning", "STIRRING", 1, 30)
+            self.refused(client, "the machine is cleaning", "TINT", FORMULA)
 
     def test_a_cleaning_in_the_background_leaves_stirring_alone(self):
         with self.driver(devices={"brush": {}}) as driver, driver.client() as client:
@@ -214,9 +214,9 @@ class ProcessesTest(unittest.TestCase):
 
     def test_nothing_is_cleaned_without_the_device(self):
         with self.driver() as driver, driver.client() as client:
-            self.refused(client, "not available", "ULTRASOUND_CLEAN", 1)
-            self.refused(client, "not available", "NOZZLE_CLEAN", 0, 30)
-            self.refused(client, "not available", "CLEANING", 0)
+            self.refused(client, "the machine has no enabled ultrasound bath", "ULTRASOUND_CLEAN", 1)
+            self.refused(client, "no enabled ultrasound bath, brush or cap that rinses", "NOZZLE_CLEAN", 0, 30)
+            self.refused(client, "the machine has no enabled brush", "CLEANING", 0)
 
     def test_a_reserved_mode_pours_nothing(self):
         with self.driver() as driver, driver.client() as client:
@@ -242,6 +242,16 @@ class ProcessesTest(unittest.TestCase):
             self.call(client, "TOGGLE_TEMPORIZED", False)
             self.wait(lambda: self.at(client, "stirring") == [1, 2, 3], "the stirring by itself")
             self.wait(lambda: self.at(client, "recirculating") == [1, 2, 3, 4], "the recirculation by itself")
+
+    def test_holding_one_timed_process_leaves_the_other(self):
+        canisters = machine()["canisters"]
+        for canister in canisters:
+            canister["circuits"][0]["recirculation_motor"]["activity"] = 60000  # 600 s
+        with self.driver(timed_processes_mask=3, canisters=canisters) as driver, driver.client() as client:
+            self.wait(lambda: self.at(client, "recirculating") == [1, 2, 3, 4], "the recirculation by itself")
+            self.call(client, "TOGGLE_TEMPORIZED", True, 2, 0)
+            self.assertEqual(self.at(client, "recirculating"), [1, 2, 3, 4])
+            self.assertEqual(self.at(client, "stirring"), [])
 
     def test_family_2_holds_timed_processes(self):
         with self.driver(timed_processes_mask=2, command_family=2) as driver, driver.client() as client:

@@ -83,6 +83,13 @@ protected:
     {
         return tell(firmware, "0006", module);
     }
+    /// Why it refuses.
+    static std::string reason(SimulatedFirmware &firmware, const char *code, int module,
+                              const Numbers &numbers)
+    {
+        const FirmwareReply reply = firmware.execute(QLatin1String(code), module, numbers);
+        return reply.refused ? reply.reason.toStdString() : "not refused";
+    }
 
     qint64 m_now = 5000;
 };
@@ -594,6 +601,33 @@ TEST_F(SimulatedProcessesTest, cleaningThatThereIsNotIsRefused)
         EXPECT_EQ(tell(*firmware, "0025", 0, numbers), WrongParameters);
 }
 
+TEST_F(SimulatedProcessesTest, aRefusalSaysWhatTheMachineLacks)
+{
+    FW_Dispenser machine = pouringMachine();
+    FW_RecirculationMotor disabled;
+    disabled.setEnabled(false);
+    for (int position = 1; position <= 4; ++position)
+        machine.getCircuitByPosition(position)->setRecirculationMotor(disabled);
+    FW_Dispenser brushed = machine;
+    brushed.setDevice(FW_Brush());
+    const auto none = firmwareOf(machine);
+    EXPECT_EQ(reason(*none, "0004", 0, {30, 0, 0}), "no circuit has an enabled stirring motor");
+    EXPECT_EQ(reason(*none, "0005", 0, {50, 10, 0, 0, 0}), "no circuit has a motor that recirculates");
+    EXPECT_EQ(reason(*none, "0015", 0, {50, 10, 0, 1, 0}), "the machine has no cleaning motors");
+    EXPECT_EQ(reason(*none, "0015", 0, {50, 10, 0, 2, 0}), "the machine has no enabled brush");
+    EXPECT_EQ(reason(*none, "0025", 0, {1}), "the machine has no enabled ultrasound bath");
+    EXPECT_EQ(reason(*none, "002F", 0, {10, 0}),
+              "the machine has no enabled ultrasound bath, brush or cap that rinses");
+    EXPECT_EQ(reason(*firmwareOf(brushed), "002F", 0, {10, 0}), "the machine has no cleaning motors");
+    const auto working = firmwareOf(workingMachine());
+    for (const int position : {1, 2}) {
+        EXPECT_EQ(tell(*working, "0004", position, {30, 0, 0}), "0");
+        EXPECT_EQ(tell(*working, "0005", position, {50, 10, 0, 0, 0}), "0");
+    }
+    EXPECT_EQ(reason(*working, "0004", 3, {30, 0, 0}), "no more circuits than 2 are stirred at once");
+    EXPECT_EQ(reason(*working, "0005", 3, {50, 10, 0, 0, 0}), "no more circuits than 2 recirculate at once");
+}
+
 // Working mode: the mode, and of mode 5 what it holds and for how many seconds.
 
 TEST_F(SimulatedProcessesTest, aReservedModeShowsAndPoursNothing)
@@ -683,13 +717,50 @@ TEST_F(SimulatedProcessesTest, timedProcessesAreHeldForATime)
     m_now += 1;
     EXPECT_EQ(status(*firmware, 1), Stirs);
     EXPECT_EQ(tell(*firmware, "0020", 0, {5, 1, 0}), "1 5"); // recirculation, until told otherwise
-    m_now += 210 * Second;
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    m_now += 210 * Second; // 480 s from the beginning: recirculation would be at it for the second time
     EXPECT_EQ(status(*firmware, 1), Idle);
-    m_now += 20 * Second; // 230 s: stirring in its second turn, recirculation would be at it
+    m_now += 30 * Second; // 340 s since stirring was let go: it is in its third turn
     EXPECT_EQ(status(*firmware, 1), Stirs);
     EXPECT_EQ(tell(*firmware, "0020", 0, {1, 0, 0}), "1 1");
     m_now += 205 * Second;
     EXPECT_EQ(status(*firmware, 1), Recirculates);
+}
+
+TEST_F(SimulatedProcessesTest, theTimedProcessThatIsNotHeldGoesOnAsItWas)
+{
+    FW_Dispenser machine = workingMachine();
+    machine.setTimedProcessesStartupMask(3);
+    const auto firmware = firmwareOf(machine);
+    m_now += 220 * Second; // stirring is in its second turn, recirculation in its first
+    EXPECT_EQ(status(*firmware, 1), "E 0 1 18 0 0 0 0 F5 F5 4 0 0 0 0");
+    EXPECT_EQ(tell(*firmware, "0020", 0, {5, 2, 10}), "1 5"); // stirring, for 10 s
+    EXPECT_EQ(status(*firmware, 1), Recirculates);
+    m_now += 10 * Second; // stirring is let go
+    EXPECT_EQ(tell(*firmware, "0020", 0, {1, 0, 0}), "1 1");
+    m_now += 20 * Second - 1;
+    EXPECT_EQ(status(*firmware, 1), Recirculates);
+    m_now += 1; // 250 s
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    m_now += 80 * Second; // 100 s since it was let go
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    EXPECT_EQ(tell(*firmware, "0003", 0, {0}), "0"); // all begin anew
+    m_now += 120 * Second;                           // 450 s, where recirculation would be at it
+    EXPECT_EQ(status(*firmware, 1), Idle);
+    m_now += 80 * Second;
+    EXPECT_EQ(status(*firmware, 1), Recirculates);
+}
+
+TEST_F(SimulatedProcessesTest, whatGoesOnByItselfDoesNotWarmTheMachine)
+{
+    FW_Dispenser machine = workingMachine();
+    machine.setTimedProcessesStartupMask(3);
+    const auto firmware = firmwareOf(machine);
+    m_now += 110 * Second;
+    EXPECT_EQ(status(*firmware, 1), Stirs);
+    m_now += 3490 * Second;
+    EXPECT_EQ(tell(*firmware, "0060", 0, {0, 0}),
+              "7 0 0 84 8 0 0 0"); // 21.00, as at the beginning of each hour
 }
 
 TEST_F(SimulatedProcessesTest, normalModeLetsAllTimedProcessesGoAndAReservedOneNone)
@@ -751,6 +822,26 @@ TEST_F(SimulatedProcessesTest, levelSensorsTellWhatTheCanistersHold)
     EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), NotAvailable);
     m_now += 6 * Second;
     EXPECT_EQ(tell(*firmware, "0029", 0, {0}), "7 2 1 C4 31 4 32 0"); // 12250 is 196 + 49 x 246, and 50
+}
+
+TEST_F(SimulatedProcessesTest, noLevelIsReadWhileNothingMayBegin)
+{
+    const auto firmware = firmwareOf(sensingMachine());
+    EXPECT_EQ(tell(*firmware, "0001", 0), "0");
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), NotAvailable);
+    m_now += 6 * Second;
+    EXPECT_EQ(tell(*firmware, "0067", 0), "0");
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), NotAvailable);
+    m_now += 3 * Second;
+    EXPECT_EQ(tell(*firmware, "0005", 1, {50, 10, 0, 0, 1}), "0");
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), NotAvailable);
+    EXPECT_EQ(tell(*firmware, "0005", 1, {50, 10, 0, 0, 0}), NotAvailable);
+    m_now += 10 * Second;
+    EXPECT_EQ(tell(*firmware, "0005", 1, {50, 10, 0, 0, 0}), "0"); // in the background
+    EXPECT_EQ(tell(*firmware, "0029", 0, {0, 1}), "4 1 1 C8 32");
+    EXPECT_EQ(tell(*firmware, "0005", 1, {50, 10, 0, 0, 0}), "0"); // which a reading is as well
+    EXPECT_EQ(tell(*firmware, "0001", 0), "0");                    // a reset ends it
+    EXPECT_EQ(status(*firmware), "E 0 1 40 0 0 0 0 F5 F5 0 40 0 0 0");
 }
 
 TEST_F(SimulatedProcessesTest, aLevelIsAtMostTwoDigits)
