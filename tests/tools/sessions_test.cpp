@@ -3,7 +3,7 @@
 
 #include "firmware/simulatedfirmware.h"
 #include "machines/drivenmachine.h"
-#include "requests/refusal.h"
+#include "machines/refusal.h"
 
 #include <QuvFramework/fw_mixer.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "requests/refusal.h"
+#include "machines/refusal.h"
 #include "requests/tickets.h"
 
 #include "base/xmlrpcanswer.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "drivercalls.h"
+#include "machines/refusal.h"
 #include "pouringmachine.h"
 #include "procedures/procedure.h"
 #include "procedures/waiting.h"
-#include "requests/refusal.h"
 
 #include "processes/stirringcmd.h"
 #include "status/dispenserstatusanswer.h"

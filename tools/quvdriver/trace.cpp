@@ -3,7 +3,7 @@
 
 #include "excerpt.h"
 #include "jsonvalue.h"
-#include "requests/refusal.h"
+#include "machines/refusal.h"
 #include "requests/request.h"
 #include "unseencharacters.h"
 

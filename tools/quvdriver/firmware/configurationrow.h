@@ -5,6 +5,8 @@
 #include <QtCore/QList>
 
 #include <optional>
+#include <set>
+#include <utility>
 
 namespace quv {
 
@@ -23,6 +25,10 @@ struct ConfigurationRow
         return code == other.code && values == other.values && name == other.name;
     }
 };
+
+/// A row by structure code and, of structures that exist more than once, the ID in the row; 1 of the others.
+using RowKey = std::pair<int, int>;
+using RowKeys = std::set<RowKey>;
 
 constexpr int NameStructure = 2;     ///< "@NOM"
 constexpr int MachineStructure = 3;  ///< "@GMC"

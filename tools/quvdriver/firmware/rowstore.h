@@ -10,15 +10,9 @@
 
 #include <map>
 #include <optional>
-#include <set>
-#include <utility>
 #include <vector>
 
 namespace quv {
-
-/// A row by structure code and, of structures that exist more than once, the ID in the row; 1 of the others.
-using RowKey = std::pair<int, int>;
-using RowKeys = std::set<RowKey>;
 
 /**
  * The configuration of a simulated machine: integers that it keeps as they are written. It has the structures of its kind, at

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "firmware/configurationrow.h"
 #include "firmware/firmware.h"
-#include "firmware/rowstore.h"
 #include "machines/abilities.h"
-#include "requests/progress.h"
+#include "machines/progress.h"
 
 #include "base/machineid.h"
 #include "ending.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "machines/drivenmachine.h"
-#include "requests/refusal.h"
+#include "machines/refusal.h"
 
 #include "catalogue/protocommandlist.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "procedures/circuitsstatus.h"
 
-#include "requests/refusal.h"
+#include "machines/refusal.h"
 
 #include "status/circuitsstatusanswer.h"
 #include "status/circuitsstatuscmd.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "firmware/configurationrow.h"
 #include "firmware/firmware.h"
-#include "firmware/rowstore.h"
 
 #include "configuration/readconfigurationparamanswer.h"
 

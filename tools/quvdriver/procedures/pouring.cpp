@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "procedures/pouring.h"
 
+#include "machines/refusal.h"
+#include "procedures/amounts.h"
 #include "procedures/waiting.h"
 #include "quantities.h"
-#include "requests/amounts.h"
-#include "requests/refusal.h"
 
 #include "base/serialprotocommand.h"
 #include "catalogue/protocommandlist.h"
@@ -148,6 +148,11 @@ FW_ErrorList takePourFromLevels(const ProcedureRun &run, bool &isLess)
 }
 
 } // namespace
+
+bool isPour(const QString &command)
+{
+    return ProtoCommandList::erogationCommand(command) && ProtoCommandList::targetIsDispenser(command);
+}
 
 FW_ErrorList pour(ProcedureRun &run)
 {

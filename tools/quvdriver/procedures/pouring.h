@@ -7,6 +7,9 @@
 
 namespace quv {
 
+/// Whether a command delivers colorant. A mixer's delivers nothing.
+bool isPour(const QString &command);
+
 /**
  * The commands that pour: sees a pour to its end, asks the firmware what it really took, and lowers the levels of the canisters by
  * it. What goes wrong afterwards no longer makes the pour a failure: gives DE03117 when the firmware does not tell, and the levels

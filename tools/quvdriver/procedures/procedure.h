@@ -2,7 +2,7 @@
 #pragma once
 
 #include "machines/drivenmachine.h"
-#include "requests/progress.h"
+#include "machines/progress.h"
 
 #include <atomic>
 #include <chrono>

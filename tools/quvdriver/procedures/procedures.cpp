@@ -8,7 +8,8 @@
 #include "procedures/pouring.h"
 #include "procedures/stirring.h"
 #include "procedures/stopping.h"
-#include "requests/commandbuilder.h"
+
+#include "base/protocommand.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "procedures/stirring.h"
 
+#include "machines/refusal.h"
 #include "procedures/waiting.h"
-#include "requests/refusal.h"
 
 #include "processes/stirallcmd.h"
 #include "status/dispenserstatusanswer.h"

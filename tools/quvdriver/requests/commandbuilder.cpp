@@ -2,7 +2,8 @@
 #include "requests/commandbuilder.h"
 
 #include "machines/questions.h"
-#include "requests/amounts.h"
+#include "procedures/amounts.h"
+#include "procedures/pouring.h"
 #include "requests/lowlevels.h"
 
 #include "base/getcmdestimatedexectimecmd.h"
@@ -95,11 +96,6 @@ FW_ErrorList lowLevelsOf(const QString &name, const XmlRpc::XmlRpcValue &argumen
 }
 
 } // namespace
-
-bool isPour(const QString &name)
-{
-    return Catalogue::erogationCommand(name) && Catalogue::targetIsDispenser(name);
-}
 
 std::unique_ptr<ProtoCommand> buildCommand(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                                            DrivenMachine *machine)

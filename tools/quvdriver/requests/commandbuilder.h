@@ -9,9 +9,6 @@ namespace quv {
 
 class DrivenMachine;
 
-/// Whether a command delivers colorant. A mixer's delivers nothing.
-bool isPour(const QString &name);
-
 /**
  * The command that a client asks for, made for \a machine as it is now; null for none. On a machine with a turntable a tint
  * and a purge pour in the order in which the table reaches the circuits from where the firmware tells that it stands; TINT2 is a tint

@@ -2,9 +2,9 @@
 #include "requests/dispensedformula.h"
 
 #include "machines/drivenmachine.h"
+#include "machines/refusal.h"
+#include "procedures/amounts.h"
 #include "quantities.h"
-#include "requests/amounts.h"
-#include "requests/refusal.h"
 
 #include "base/protocommand.h"
 #include "dispensing/getdispensedformulaanswer.h"

@@ -2,13 +2,13 @@
 #include "requests/driver.h"
 
 #include "excerpt.h"
+#include "machines/refusal.h"
 #include "procedures/machineconfiguration.h"
 #include "procedures/procedures.h"
 #include "requests/commandbuilder.h"
 #include "requests/dispensedformula.h"
 #include "requests/driverqueries.h"
 #include "requests/firmwarerefusal.h"
-#include "requests/refusal.h"
 #include "requests/request.h"
 
 #include "base/asyncanswer.h"

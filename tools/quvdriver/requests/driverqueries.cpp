@@ -2,10 +2,11 @@
 #include "requests/driverqueries.h"
 
 #include "excerpt.h"
+#include "machines/refusal.h"
+#include "procedures/pouring.h"
 #include "requests/commandbuilder.h"
 #include "requests/machinequeries.h"
 #include "requests/masterdataqueries.h"
-#include "requests/refusal.h"
 
 #include "base/getcmdestimatedexectimeanswer.h"
 #include "base/getcmdestimatedexectimecmd.h"

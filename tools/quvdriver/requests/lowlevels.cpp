@@ -2,8 +2,8 @@
 #include "requests/lowlevels.h"
 
 #include "machines/drivenmachine.h"
+#include "procedures/amounts.h"
 #include "quantities.h"
-#include "requests/amounts.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
 

@@ -2,7 +2,7 @@
 #include "requests/request.h"
 
 #include "excerpt.h"
-#include "requests/refusal.h"
+#include "machines/refusal.h"
 
 #include "base/nccommand.h"
 #include "catalogue/protocommandlist.h"

@@ -3,7 +3,7 @@
 
 #include "excerpt.h"
 #include "machines/drivenmachine.h"
-#include "requests/refusal.h"
+#include "machines/refusal.h"
 
 #include "sessions/getkeycmd.h"
 

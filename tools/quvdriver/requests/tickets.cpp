@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "requests/tickets.h"
 
-#include "requests/refusal.h"
+#include "machines/refusal.h"
 
 #include <QuvFramework/fw_xmlrpc.h>
 

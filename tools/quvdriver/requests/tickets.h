@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "requests/progress.h"
+#include "machines/progress.h"
 
 #include "base/cmdstatus.h"
 

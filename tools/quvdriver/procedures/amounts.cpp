@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "requests/amounts.h"
+#include "procedures/amounts.h"
 
+#include "machines/refusal.h"
 #include "quantities.h"
-#include "requests/refusal.h"
 
 #include "base/protocommand.h"
 #include "catalogue/protocommandlist.h"
