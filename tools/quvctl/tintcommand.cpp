@@ -209,12 +209,12 @@ ExitStatus waitAndReport(const Driver &driver, const Ticket &ticket, const PourO
 
 ExitStatus run(const CommandLine &line)
 {
-    const bool isWaitedFor = !line.isSet("no-wait") && !line.isSet("dry-run");
-    const Driver driver(line, isWaitedFor ? std::optional(SerialDeviceType::Dispenser) : std::nullopt);
-    intervalOf(line); // refused before anything is poured
+    intervalOf(line); // refused before anything is asked
     std::optional<PourOrder> order = typedOrder(line);
     if (!order)
         return Refused;
+    const bool isWaitedFor = !line.isSet("no-wait") && !line.isSet("dry-run");
+    const Driver driver(line, isWaitedFor ? std::optional(SerialDeviceType::Dispenser) : std::nullopt);
     if (line.isSet("dry-run"))
         return plan(driver, *order, line);
     tellLevels(driver, order->sent);
