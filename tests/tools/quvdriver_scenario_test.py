@@ -117,6 +117,23 @@ class Scenario(unittest.TestCase):
             self.assertEqual((told["ret_code"], [error["code"] for error in told["errors"]]), (7, ["DE03417"]), told)
             self.assertIn("the offline button is pressed", told["errors"][0]["text"])
 
+    def test_a_refused_reset_stops_no_procedure(self):
+        content = json.loads(json.dumps(MACHINE))
+        content["canisters"][0]["circuits"][0]["stirring_motor"] = {}
+        with self.driver([{"at": 0, "event": "door_open"}],
+                         machine=self.written("stirring.json", content)) as driver, driver.client() as client:
+            ticket = client.EXEC_NB("STIR_ALL", 600)["ret_value"]["ticket_id"]
+            end = time.monotonic() + 30
+            while not self.done(client, "GET_STATUS", 1)["stirring"]:
+                self.assertLess(time.monotonic(), end)
+            self.assertEqual(client.EXEC_B("RESET")["ret_code"], 4)
+            self.assertGreater(self.done(client, "GET_CMD_STATUS", ticket)["status"], 0)
+            self.assertTrue(self.done(client, "GET_STATUS", 1)["stirring"])
+            self.done(client, "STOP")
+            while (told := self.done(client, "GET_CMD_STATUS", ticket))["status"] > 0:
+                self.assertLess(time.monotonic(), end)
+            self.assertEqual((told["status"], told["cmd_answer"]["errors"][0]["code"]), (-3, "DE03410"))
+
     def test_door_can_and_offline_show_while_they_last(self):
         events = [{"at": 0, "event": "door_open"}, {"at": 0, "event": "can_present"}, {"at": 0, "event": "offline"}]
         with self.driver(events) as driver, driver.client() as client:

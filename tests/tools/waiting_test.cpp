@@ -9,6 +9,7 @@
 #include "status/dispenserstatusanswer.h"
 #include "status/mixerstatusanswer.h"
 
+#include <future>
 #include <thread>
 
 namespace {
@@ -158,17 +159,11 @@ protected:
     quv::Ending m_stopped{};
     std::shared_ptr<quv::Progress> m_progress = std::make_shared<quv::Progress>();
     StirringCmd m_command{3, 30, false};
-    bool m_stopsInStep = false;
-    std::atomic<bool> m_isFirmwareSpared = false;
 
     quv::ProcedureRun run()
     {
-        const auto ask = [this](SerialProtoCommand &command) {
-            m_steps.append(command.command());
-            if (m_stopsInStep)
-                m_stopped.begin();
-        };
-        return {m_command, stirring(0), ask, m_progress, m_stopped, m_isFirmwareSpared, m_ending};
+        const auto ask = [this](SerialProtoCommand &command) { m_steps.append(command.command()); };
+        return {m_command, stirring(0), ask, m_progress, m_stopped, m_ending};
     }
     /// What it throws; empty for nothing.
     template <class Work>
@@ -185,18 +180,20 @@ protected:
     }
 };
 
-TEST_F(ProcedureRunTest, whatBeginsInTheMomentOfAStopIsEndedAgain)
+TEST_F(ProcedureRunTest, aStopWaitsForTheStepThatHasBegun)
 {
-    m_stopsInStep = true;
-    run().begin(m_command);
-    EXPECT_EQ(m_steps, (QStringList{"STIRRING", "STOP"}));
-}
-
-TEST_F(ProcedureRunTest, whatBeginsInTheMomentOfAStopGoesOnWhenTheFirmwareIsSpared)
-{
-    m_stopsInStep = true;
-    m_isFirmwareSpared = true;
-    run().begin(m_command);
+    DrivenMachine &stirred = stirring(0);
+    std::future<void> stop;
+    const auto ask = [&](SerialProtoCommand &command) {
+        m_steps.append(command.command());
+        stop = std::async(std::launch::async, [&] { stirred.asOneStep([this] { m_stopped.begin(); }); });
+        EXPECT_EQ(stop.wait_for(20ms), std::future_status::timeout);
+        EXPECT_FALSE(m_stopped.hasBegun());
+    };
+    const quv::ProcedureRun run{m_command, stirred, ask, m_progress, m_stopped, m_ending};
+    run.begin(m_command);
+    stop.get();
+    EXPECT_EQ(refusalOf([&] { run.begin(m_command); }), "DE03410 STIRRING was stopped before its end");
     EXPECT_EQ(m_steps, QStringList{"STIRRING"});
 }
 

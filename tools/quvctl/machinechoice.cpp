@@ -39,8 +39,7 @@ MachineChoice machineChoice(const QString &text, const char *source)
 
 QString inWords(const MachineChoice &choice)
 {
-    const QString kind =
-        choice.type == SerialDeviceType::Mixer ? QStringLiteral("mixer") : QStringLiteral("dispenser");
+    const QString kind = wordOf(choice.type);
     return choice.id ? kind + QLatin1Char(':') + QString::number(*choice.id) : kind;
 }
 

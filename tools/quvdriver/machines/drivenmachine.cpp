@@ -134,13 +134,18 @@ std::vector<std::shared_ptr<Engagement>> DrivenMachine::engagements() const
     return engagements;
 }
 
+void DrivenMachine::asOneStep(const std::function<void()> &work)
+{
+    const Lock lock(m_step);
+    work();
+}
+
 void DrivenMachine::stopProcedures(bool sparesFirmware)
 {
     const Lock lock(m_state);
     for (const auto &engagement : engagements()) {
         if (sparesFirmware && engagement->engages == Engages::Pumps)
             continue;
-        engagement->isFirmwareSpared = sparesFirmware;
         engagement->stopped.begin();
     }
 }

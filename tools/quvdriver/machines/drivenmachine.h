@@ -13,7 +13,6 @@
 #include <QuvFramework/fw_dispenser.h>
 #include <QuvFramework/fw_errorlist.h>
 
-#include <atomic>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -40,8 +39,7 @@ struct Engagement
 
     const QString command;
     const Engages engages;
-    Ending stopped{};                           ///< begins when somebody stops the procedure
-    std::atomic<bool> isFirmwareSpared = false; ///< by who has stopped it
+    Ending stopped{}; ///< begins when somebody stops the procedure
 };
 
 /**
@@ -84,6 +82,8 @@ public:
     /// Begins a procedure, which the machine is at until the result is gone; null while another one needs the same part, and
     /// \a other is then what that one carries out.
     std::shared_ptr<Engagement> engage(const QString &command, Engages part, QString *other = nullptr);
+    /// Does \a work while nobody else does such: a procedure begins nothing between a stop of the procedures and that of the firmware.
+    void asOneStep(const std::function<void()> &work);
     /// Tells all procedures that the machine is at to stop. When the firmware is spared, what it has been told to begin goes on, so
     /// that a pour does.
     void stopProcedures(bool sparesFirmware = false);
@@ -103,6 +103,7 @@ private:
     std::mutex m_exchange{}; ///< held for one exchange, never for a whole process
     std::unique_ptr<Firmware> m_firmware{};
 
+    std::mutex m_step{};          ///< held for one step, which may be an exchange
     mutable std::mutex m_state{}; ///< guards what follows
     std::unique_ptr<FW_Machine> m_machine{};
     std::vector<std::weak_ptr<Engagement>> m_engagements{};

@@ -3,18 +3,16 @@
 
 #include "machines/refusal.h"
 
-#include "processes/stopserialcmd.h"
+#include "base/protocommand.h"
 
 namespace quv {
 
 void ProcedureRun::begin(SerialProtoCommand &process) const
 {
-    requireToGoOn();
-    ask(process);
-    if (stopped.hasBegun() && !isFirmwareSpared) {
-        StopSerialCmd stop;
-        ask(stop);
-    }
+    machine.asOneStep([&] {
+        requireToGoOn();
+        ask(process);
+    });
 }
 
 void ProcedureRun::wait(std::chrono::milliseconds time) const

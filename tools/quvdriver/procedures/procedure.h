@@ -4,7 +4,6 @@
 #include "machines/drivenmachine.h"
 #include "machines/progress.h"
 
-#include <atomic>
 #include <chrono>
 #include <functional>
 
@@ -22,12 +21,10 @@ struct ProcedureRun
     /// Has the firmware carry a command out, which holds its answer then. \throws CallRefusal, and what an exchange throws
     std::function<void(SerialProtoCommand &)> ask{};
     const std::shared_ptr<Progress> &progress;
-    Ending &stopped;                           ///< begins when somebody stops it
-    const std::atomic<bool> &isFirmwareSpared; ///< by who stops it: what has begun goes on
-    Ending &isDriverGoing;                     ///< begins when the driver ends
+    Ending &stopped;       ///< begins when somebody stops it
+    Ending &isDriverGoing; ///< begins when the driver ends
 
-    /// Has the firmware begin something, and end it again when the procedure is stopped in that very moment: its stop may have come
-    /// first. \throws what ask throws, and CallRefusal as requireToGoOn before it has begun
+    /// Has the firmware begin something, as one step. \throws what ask throws, and CallRefusal as requireToGoOn before it has begun
     void begin(SerialProtoCommand &process) const;
     /// Waits so long. \throws CallRefusal as requireToGoOn, at once
     void wait(std::chrono::milliseconds time) const;

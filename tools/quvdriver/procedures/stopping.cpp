@@ -22,22 +22,24 @@ bool stopsFirmware(const ProtoCommand &command)
     return softwareStopOf(command) != SparesFirmware;
 }
 
-// Procedures are told first, or one would begin its next step in the moment between the two.
-
 FW_ErrorList stop(ProcedureRun &run)
 {
     const bool sparesFirmware = !stopsFirmware(run.command);
-    if (softwareStopOf(run.command) != SparesProcedures)
-        run.machine.stopProcedures(sparesFirmware);
-    if (!sparesFirmware)
-        run.ask(dynamic_cast<SerialProtoCommand &>(run.command));
+    run.machine.asOneStep([&] {
+        if (softwareStopOf(run.command) != SparesProcedures)
+            run.machine.stopProcedures(sparesFirmware);
+        if (!sparesFirmware)
+            run.ask(dynamic_cast<SerialProtoCommand &>(run.command));
+    });
     return {};
 }
 
 FW_ErrorList reset(ProcedureRun &run)
 {
-    run.machine.stopProcedures();
-    run.ask(dynamic_cast<SerialProtoCommand &>(run.command));
+    run.machine.asOneStep([&] {
+        run.ask(dynamic_cast<SerialProtoCommand &>(run.command)); // one that is refused ends nothing
+        run.machine.stopProcedures();
+    });
     return {};
 }
 

@@ -378,9 +378,7 @@ FW_ErrorList Driver::runProcedure(Task &task)
             task.procedure->lasts ? estimatedTime(*task.command, task.machine) : 0);
     task.command->clearProtoAnswer(); // of the time before, when it waits for a change
     Engagement &engagement = *task.engagement;
-    ProcedureRun run{*task.command, *task.machine,      ask,
-                     task.progress, engagement.stopped, engagement.isFirmwareSpared,
-                     m_ending};
+    ProcedureRun run{*task.command, *task.machine, ask, task.progress, engagement.stopped, m_ending};
     FW_ErrorList errors = task.procedure->run(run);
     if (!task.command->getProtoAnswer()) {
         ConfProtoAnswer nothing;
