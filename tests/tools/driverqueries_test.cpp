@@ -142,6 +142,21 @@ TEST_F(DriverQueriesTest, timeThatACommandWouldTake)
     EXPECT_TRUE(m_firmware.received.isEmpty());
 }
 
+TEST_F(DriverQueriesTest, timeOfWhatGoesOnInTheBackground)
+{
+    const auto time = [this](const XmlRpcValue &request) {
+        XmlRpcValue asked;
+        asked["command"] = request;
+        return call("EXEC_B", "GET_CMD_EST_EXEC_TIME", asked).number("exec_time");
+    };
+    EXPECT_EQ(time(arrayOf("STIRRING", 1, 30)), 15000); // twice as fast
+    EXPECT_EQ(time(arrayOf("RECIRCULATION", 1, 30)), 15000);
+    EXPECT_EQ(time(arrayOf("CLEANING", 1, 245, 20)), 10000);
+    EXPECT_EQ(time(arrayOf("RECIRCULATION", 1, 30, 50, 1)), 0); // strokes
+    EXPECT_EQ(time(arrayOf("STIRRING", 1, 60515)), 0);          // without an end
+    EXPECT_EQ(time(arrayOf("STIRRING", 1, 0)), 0);
+}
+
 TEST_F(DriverQueriesTest, nothingRuns)
 {
     const Envelope envelope = call("EXEC_B", "GET_FORMULA_EXECUTION", formula({{"A", 1}}));

@@ -158,6 +158,11 @@ class Circuits(ProcessTest):
         self.driver("--machine", "dispenser")
         self.assertTrue(self.done("clean", "circuits", "1", "--circuit", "2,3", "--interval", "0.05").endswith("cleaned\n"))
 
+    def test_a_machine_that_is_faster_was_not_stopped(self):
+        self.driver("--machine", "dispenser", speed=10)
+        for words in (["stir", "5"], ["recirculate", "5"], ["clean", "circuits", "5"]):
+            self.assertEqual(self.done(*words, "--circuit", "2,3", "-q", "--interval", "0.05"), "")
+
     def test_nothing_more_is_begun_on_a_machine_that_was_stopped(self):
         client = self.two_at_a_time()
         process = self.waiting("recirculate", "100", "--circuit", "2,3,4,5")

@@ -85,6 +85,21 @@ const XmlRpc::XmlRpcValue *askedForTime(const QString &name, const XmlRpc::XmlRp
     return request ? FindXmlRpcMember(*request, GetCmdEstimatedExecTimeCmd::COMMAND_AND_PARAMS) : nullptr;
 }
 
+/// Milliseconds that a circuit is told to be at something for which no command waits, and so has no estimate; 0 without an end.
+qint64 timeInBackground(const ProtoCommand &command)
+{
+    constexpr int Endless = 60515;
+    constexpr int Second = 1000; // milliseconds
+    const QList<QVariant> told = command.parameters();
+    int seconds = 0;
+    if (isNamed(command.command(), Catalogue::STIRRING) ||
+        (isNamed(command.command(), Catalogue::RECIRCULATION) && told.value(3).toInt() == 0))
+        seconds = told.value(1).toInt();
+    else if (isNamed(command.command(), Catalogue::CLEANING))
+        seconds = told.value(2).toInt();
+    return seconds == Endless ? 0 : qint64(seconds) * Second;
+}
+
 /// The canisters that would fall too low by a pour, or by that of which the time is asked for.
 FW_ErrorList lowLevelsOf(const QString &name, const XmlRpc::XmlRpcValue &arguments,
                          const DrivenMachine *machine)
@@ -126,7 +141,9 @@ QString estimatedCommand(const QString &name, const XmlRpc::XmlRpcValue &argumen
 qint64 estimatedTime(const ProtoCommand &command, const DrivenMachine *machine)
 {
     const std::unique_ptr<FW_Machine> copy = machine ? machine->copy() : nullptr;
-    const qint64 time = command.getCmdEstimatedExecutionTime(copy.get());
+    qint64 time = command.getCmdEstimatedExecutionTime(copy.get());
+    if (time == 0)
+        time = timeInBackground(command);
     return machine && time > 0 ? std::llround(double(time) / machine->speed()) : time;
 }
 
