@@ -28,6 +28,7 @@ public:
     double speed() const override { return m_machine.speed(); }
     void canisterFilled(int canisterID, double quantity) override
     {
+        m_machine.goOn();
         m_machine.setContent(canisterID, quantity);
     }
 

@@ -107,7 +107,7 @@ void SimulatedMachine::goOn()
         m_faults = m_plan.faultsAt(*moment);
         letPartsGoOn();
     }
-    m_moment.reset();
+    m_moment = until; // for all parts, whatever the clock tells meanwhile
     letPartsGoOn();
 }
 

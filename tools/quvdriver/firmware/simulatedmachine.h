@@ -49,7 +49,7 @@ public:
     const std::vector<std::unique_ptr<FirmwarePart>> &parts() const { return m_parts; }
 
     SerialDeviceType type() const { return m_type; }
-    /// That of the clock, or the moment of a fault that is being caught up with.
+    /// The moment until which the parts have gone on, or of a fault that is being caught up with.
     qint64 now() const { return m_moment ? *m_moment : m_clock(); }
     double speed() const { return m_speed; }
     /// When something ends that begins now and takes so many milliseconds on a machine that is not simulated.
