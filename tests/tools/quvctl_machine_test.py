@@ -288,7 +288,7 @@ class On(MachineTest):
                 until(lambda: driver.names().count("GET_STATUS") > asked + 2)
                 process.send_signal(signal.SIGTERM)
                 self.assertEqual(process.wait(30), 143)
-        self.assertEqual(driver.asked[-1], self.LOGOUT)
+        self.assertIn(self.LOGOUT, driver.asked[-2:])  # a question that was on its way may come behind it
 
     def test_closed_output(self):
         with FakeDriver(GET_STATUS=dispenser()) as driver:
