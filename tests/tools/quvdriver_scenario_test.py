@@ -217,9 +217,10 @@ class Scenario(unittest.TestCase):
             self.assertTrue(self.done(client, "GET_STATUS")["head1_can_dose"])
 
     def test_a_pour_outlives_a_lost_link(self):
-        with self.driver([{"at": 30, "event": "link_lost", "for": 10}], "--speed", "50") as driver, \
+        with self.driver([{"at": 90, "event": "link_lost", "for": 10}], "--speed", "50") as driver, \
                 driver.client() as client:
             ticket = client.EXEC_NB("TINT", tint(1, 200))["ret_value"]["ticket_id"]
+            self.status_with(client, tinting=True)
             end = time.monotonic() + 30
             while (asked := client.EXEC_B("GET_STATUS"))["ret_code"] == 0:
                 self.assertTrue(asked["ret_value"]["tinting"], "the pour was over before")
