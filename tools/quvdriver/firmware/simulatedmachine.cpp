@@ -150,7 +150,7 @@ qint64 SimulatedMachine::endOfWork(qint64 from, qint64 until)
 
 std::optional<Obstacle> SimulatedMachine::obstacle(Process process) const
 {
-    if (const auto byHand = obstacleByHand(process))
+    if (auto byHand = obstacleByHand(process))
         return byHand;
     for (const auto &part : m_parts)
         if (part->excluded().has(process))
