@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "askedstatus.h"
 #include "canisters.h"
+#include "knownerrors.h"
 #include "machineerrors.h"
 #include "operations.h"
 #include "replies.h"
@@ -14,11 +15,9 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QMap>
 
-#include <algorithm>
 #include <chrono>
 #include <optional>
 #include <thread>
-#include <vector>
 
 namespace quv {
 
@@ -78,18 +77,12 @@ public:
         const std::optional<FW_ErrorList> errors = ask(errorsOf, m_tellsErrors);
         if (!errors)
             return {};
-        std::vector<const FW_Error *> known; // the same error may wait there twice
-        for (int i = 0; i < m_errors.size(); ++i)
-            known.push_back(m_errors[i]);
+        KnownErrors known(m_errors);
         FW_ErrorList added;
         for (int i = 0; i < errors->size(); ++i) {
             const FW_Error &error = *(*errors)[i];
-            const auto before = std::find_if(known.begin(), known.end(),
-                                             [&error](const FW_Error *each) { return each->equalTo(error); });
-            if (before == known.end())
+            if (!known.take(error))
                 added.append(&error);
-            else
-                known.erase(before);
         }
         m_errors = *errors;
         return added;

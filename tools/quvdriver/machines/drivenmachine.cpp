@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "machines/drivenmachine.h"
 
+#include "knownerrors.h"
+
 #include <QuvFramework/fw_error.h>
 
 #include <algorithm>
@@ -78,19 +80,12 @@ void DrivenMachine::configure(const std::function<void(FW_Machine &)> &changes)
 FW_ErrorList DrivenMachine::withFirstTimes(const FW_ErrorList &told)
 {
     const Lock lock(m_state);
-    std::vector<const FW_Error *> known; // the same error may stand there twice
-    for (int i = 0; i < m_errors.size(); ++i)
-        known.push_back(m_errors[i]);
+    KnownErrors known(m_errors);
     FW_ErrorList timed;
     for (int i = 0; i < told.size(); ++i) {
         const std::unique_ptr<FW_Error> error(told[i]->clone());
-        const auto before = std::find_if(known.begin(), known.end(), [&error](const FW_Error *candidate) {
-            return candidate->equalTo(*error);
-        });
-        if (before != known.end()) {
-            error->setTimestamp((*before)->timestamp());
-            known.erase(before);
-        }
+        if (const FW_Error *before = known.take(*error))
+            error->setTimestamp(before->timestamp());
         timed.append(error.get());
     }
     m_errors = timed;
