@@ -15,8 +15,7 @@ namespace {
 void clearErrors(const Driver &driver)
 {
     ClearErrorsCmd command;
-    if (const XmlRpcAnswer &envelope = driver.execute(command); envelope.retCode() != 0)
-        throw RequestRefused(envelope);
+    requireDone(driver.execute(command));
 }
 
 /// One object tells both, so that it comes behind the clearing.

@@ -16,12 +16,18 @@
 
 namespace quv {
 
+/// \throws RequestRefused for a command that was not carried out
+inline void requireDone(const XmlRpcAnswer &envelope)
+{
+    if (envelope.retCode() != 0)
+        throw RequestRefused(envelope);
+}
+
 /// The answer that \a command has got. \throws RequestRefused, std::runtime_error for an answer of another class
 template <class Answer>
 const Answer &answerIn(const XmlRpcAnswer &envelope, const ProtoCommand &command)
 {
-    if (envelope.retCode() != 0)
-        throw RequestRefused(envelope);
+    requireDone(envelope);
     const auto *answer = dynamic_cast<const Answer *>(command.getProtoAnswer());
     if (!answer)
         throw std::runtime_error("the answer to " + command.command().toStdString() + " is another one");
@@ -50,12 +56,12 @@ Answer answerTo(ProtoCommandList::CommandListValue row, const Driver &driver)
     return executed<Answer>(driver, *command);
 }
 
-/// The same; nothing when the driver cannot tell it. \throws TransportError when it is gone
-template <class Answer>
-std::optional<Answer> answerIfAny(ProtoCommandList::CommandListValue row, const Driver &driver)
+/// What \a question gives; nothing when the driver cannot tell it. \throws TransportError when it is gone
+template <class Question>
+auto ifTold(Question question) -> std::optional<decltype(question())>
 {
     try {
-        return answerTo<Answer>(row, driver);
+        return question();
     } catch (const TransportError &) {
         throw;
     } catch (const std::exception &) { // a refusal, or an answer of another driver's own
@@ -63,6 +69,13 @@ std::optional<Answer> answerIfAny(ProtoCommandList::CommandListValue row, const 
     } catch (const FW_DriverError &) {
         return std::nullopt;
     }
+}
+
+/// The answer to a command without arguments; nothing when the driver cannot tell it. \throws as ifTold
+template <class Answer>
+std::optional<Answer> answerIfAny(ProtoCommandList::CommandListValue row, const Driver &driver)
+{
+    return ifTold([&] { return answerTo<Answer>(row, driver); });
 }
 
 } // namespace quv

@@ -51,8 +51,7 @@ public:
 private:
     static QString started(const Driver &driver, ProtoCommand &command, const CommandLine &line)
     {
-        if (const XmlRpcAnswer &envelope = startOnMachine(driver, command, line); envelope.retCode() != 0)
-            throw RequestRefused(envelope);
+        requireDone(startOnMachine(driver, command, line));
         return ticketIn(command);
     }
 

@@ -96,16 +96,10 @@ MachineID machineOf(const MachineChoice &choice, const MachineSession::Send &sen
 
 std::optional<MachineID> activeMachine(SerialDeviceType type, const MachineSession::Send &send)
 {
-    try {
-        const ListedMachines listed = machinesOf(type, send);
-        if (!listed.active.isEmpty())
-            return MachineID(listed.active.first(), type);
-    } catch (const TransportError &) {
-        throw;
-    } catch (const std::exception &) { // not all drivers tell it
-    } catch (const FW_DriverError &) {
-    }
-    return std::nullopt;
+    const auto listed = ifTold([&] { return machinesOf(type, send); });
+    if (!listed || listed->active.isEmpty())
+        return std::nullopt;
+    return MachineID(listed->active.first(), type);
 }
 
 } // namespace quv

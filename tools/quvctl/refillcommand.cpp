@@ -115,8 +115,7 @@ ExitStatus run(const CommandLine &line)
     const Driver driver(line);
     const Formula formula = formulaOfRefills(refills, toldCanisters(driver), isLevel);
     SetLevelsCmd command(formula, !isLevel, true);
-    if (const XmlRpcAnswer &envelope = driver.execute(command); envelope.retCode() != 0)
-        throw RequestRefused(envelope);
+    requireDone(driver.execute(command));
     const QList<CanisterData> filled = filledOf(formula, toldCanisters(driver));
     if (line.isSet("json")) {
         OrderedJson reply = success();

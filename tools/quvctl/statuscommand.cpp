@@ -81,13 +81,8 @@ void takeMachine(Screen &screen, const Driver &driver)
 FormulaProgress poursOf(const Driver &driver)
 {
     GenericFormulaCmd command(ProtoCommandList::cmdStr(ProtoCommandList::GET_FORMULA_EXECUTION), Formula());
-    try {
-        return executed<GetFormulaExecutionAnswer>(driver, command).formulaProgress();
-    } catch (const TransportError &) {
-        throw;
-    } catch (const std::exception &) { // not all drivers tell it
-        return {};
-    }
+    return ifTold([&] { return executed<GetFormulaExecutionAnswer>(driver, command).formulaProgress(); })
+        .value_or(FormulaProgress());
 }
 
 Screen::Screen(const Driver &driver)

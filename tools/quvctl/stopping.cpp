@@ -34,8 +34,7 @@ QString toldOfStopping(const Driver &driver)
 void stopMachine(const Driver &driver)
 {
     StopSerialCmd command;
-    if (const XmlRpcAnswer &envelope = driver.execute(command); envelope.retCode() != 0)
-        throw RequestRefused(envelope);
+    requireDone(driver.execute(command));
 }
 
 InterruptPlan stoppedBySecond(const Driver &driver, InterruptPlan plan)
