@@ -10,6 +10,9 @@
 #include "dispensing/turntablepurgeformulacmd.h"
 #include "dispensing/turntabletintcmd.h"
 #include "machine/commandidcmd.h"
+#include "processes/cleaningcmd.h"
+#include "processes/recirculationcmd.h"
+#include "processes/stirringcmd.h"
 #include "status/dispenserstatusanswer.h"
 #include "status/errornumcmd.h"
 #include "status/fwerrorcmd.h"
@@ -88,16 +91,16 @@ const XmlRpc::XmlRpcValue *askedForTime(const QString &name, const XmlRpc::XmlRp
 /// Milliseconds that a circuit is told to be at something for which no command waits, and so has no estimate; 0 without an end.
 qint64 timeInBackground(const ProtoCommand &command)
 {
-    constexpr int Endless = 60515;
-    constexpr int Second = 1000; // milliseconds
-    const QList<QVariant> told = command.parameters();
-    int seconds = 0;
-    if (isNamed(command.command(), Catalogue::STIRRING) ||
-        (isNamed(command.command(), Catalogue::RECIRCULATION) && told.value(3).toInt() == 0))
-        seconds = told.value(1).toInt();
-    else if (isNamed(command.command(), Catalogue::CLEANING))
-        seconds = told.value(2).toInt();
-    return seconds == Endless ? 0 : qint64(seconds) * Second;
+    constexpr qint64 Second = 1000; // milliseconds
+    qint64 seconds = 0;
+    if (const auto *stirring = dynamic_cast<const StirringCmd *>(&command))
+        seconds = stirring->duration();
+    else if (const auto *cleaning = dynamic_cast<const CleaningCmd *>(&command))
+        seconds = cleaning->duration();
+    else if (const auto *recirculation = dynamic_cast<const RecirculationCmd *>(&command);
+             recirculation && recirculation->durationType() == FWProcess::Seconds)
+        seconds = recirculation->duration();
+    return seconds == FWProcess::infiniteDuration() ? 0 : seconds * Second;
 }
 
 /// The canisters that would fall too low by a pour, or by that of which the time is asked for.
