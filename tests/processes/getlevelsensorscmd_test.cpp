@@ -92,7 +92,7 @@ TEST(GetLevelSensorsCmd, knowsItsFirmware)
 TEST(GetLevelSensorsCmd, holdsThePositions)
 {
     EXPECT_EQ(GetLevelSensorsCmd(arrayOf(arrayOf(3, 5))).positions(), (QList<int>{3, 5}));
-    EXPECT_EQ(GetLevelSensorsCmd(List{List{3, 5}}).positions(), (QList<int>{3, 5}));
+    EXPECT_EQ(GetLevelSensorsCmd(List{QVariant(List{3, 5})}).positions(), (QList<int>{3, 5}));
     EXPECT_EQ(GetLevelSensorsCmd().positions(), QList<int>());
 }
 

@@ -119,8 +119,8 @@ TEST(AddStatsErrorsCmd, takesErrorsAsVariantsToo)
         {"error_type", 2}, {"timestamp", errorTime}, {"code", 17}, {"module", 3}, {"value", 4}, {"device", 4},
         {"flag", true}};
     const List errors = {QVariant::fromValue(FW_DriverError("DE00337", "no command")), hardware};
-    EXPECT_EQ(AddStatsErrorsCmd(List{errors}).errorList(), twoErrors());
-    EXPECT_TRUE(AddStatsErrorsCmd(List{List()}).errorList().isEmpty());
+    EXPECT_EQ(AddStatsErrorsCmd(List{QVariant(errors)}).errorList(), twoErrors());
+    EXPECT_TRUE(AddStatsErrorsCmd(List{QVariant(List())}).errorList().isEmpty());
     EXPECT_EQ(
         AddStatsErrorsCmd(
             List{QVariant(List{QVariant::fromValue(FW_HwError(17, 3, 4, true, SerialDeviceType::Mixer))})})
