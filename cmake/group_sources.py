@@ -15,6 +15,7 @@ MOST = 8
 DECLARED = re.compile(r"(\w+)(?:<[^;{}()]*>)?\s*(?=\(|\[|=|\{|;)")
 TEMPLATES = re.compile(r"described\w+_p\.h")
 SHARED = re.compile(r"using (?:\w+::)+\w+;|using namespace ")  # may be said twice
+NO_NAMES = {"auto", "class", "const", "int", "void"}  # they stand where names do
 
 
 def included(path):
@@ -49,7 +50,7 @@ def own_names(text):
         elif inside and re.match(r"\w|\[\[", line) and not SHARED.match(line):
             before_body = re.split(r"=(?!=)", line, maxsplit=1)[0] + " ="
             names |= set(DECLARED.findall(before_body)) | set(re.findall(r"^(?:struct|class|enum|enum class) (\w+)", line))
-    return names
+    return names - NO_NAMES
 
 
 class Group:

@@ -9,7 +9,7 @@ namespace quv {
 
 namespace {
 
-ExitStatus run(const CommandLine &)
+ExitStatus runBatchOfInput(const CommandLine &)
 {
     std::ios::sync_with_stdio(false);
     runBatch(std::cin, std::cout);
@@ -31,6 +31,6 @@ const Subcommand batchSubcommand = {
     0,
     0,
     {},
-    run};
+    runBatchOfInput};
 
 } // namespace quv

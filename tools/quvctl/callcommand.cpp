@@ -99,7 +99,7 @@ std::unique_ptr<ProtoCommand> commandOf(const CommandLine &line)
     }
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runCall(const CommandLine &line)
 {
     const Driver driver(line);
     const auto command = commandOf(line);
@@ -129,6 +129,6 @@ const Subcommand callSubcommand = {
                        quietOption,
                        {"async", nullptr, "do not wait for the answer, show a ticket"},
                        {"json", nullptr, "envelope and answer as one JSON object"}}),
-    run};
+    runCall};
 
 } // namespace quv

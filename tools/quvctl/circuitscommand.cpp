@@ -94,7 +94,7 @@ ExitStatus showEngaged(const Driver &driver, int process, bool asJson)
     return Done;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runCircuits(const CommandLine &line)
 {
     const Driver driver(line);
     const bool asJson = line.isSet("json");
@@ -119,7 +119,7 @@ const Subcommand circuitsSubcommand = {
     0,
     withDriverOptions({{"process", "NUMBER", "1 to 13, as the firmware numbers its processes"},
                        {"json", nullptr, "the circuits as one JSON object"}}),
-    run,
+    runCircuits,
     SerialDeviceType::Dispenser};
 
 } // namespace quv

@@ -72,7 +72,7 @@ const Cleaning &cleaningOf(const QString &word)
                          .arg(words.join(QStringLiteral(", ")), excerpt(word), didYouMean(word, words)));
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runClean(const CommandLine &line)
 {
     const Cleaning &cleaning = cleaningOf(line.words().first());
     if (!cleaning.ofCircuits && line.isSet("circuit"))
@@ -113,7 +113,7 @@ const Subcommand cleanSubcommand = {
     1,
     2,
     withProcessOptions({circuitOption}),
-    run,
+    runClean,
     SerialDeviceType::Dispenser};
 
 } // namespace quv

@@ -280,7 +280,7 @@ ExitStatus diff(const FirmwareConfiguration &firmware, const QString &path, cons
     return comparison.changes.empty() ? Done : Refused;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runConfig(const CommandLine &line)
 {
     const QString action = line.words()[0];
     const QString path = line.words()[1];
@@ -318,6 +318,6 @@ const Subcommand configSubcommand = {
     withDriverOptions({{"yes", nullptr, "push without asking"},
                        quietOption,
                        {"json", nullptr, "one JSON object, and no question"}}),
-    run};
+    runConfig};
 
 } // namespace quv

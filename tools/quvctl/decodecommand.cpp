@@ -33,7 +33,7 @@ nlohmann::json requestOf(const CommandLine &line)
     return request;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runDecode(const CommandLine &line)
 {
     const Request request(requestOf(line));
     withCommandName(line.words().first(), [&] {
@@ -58,6 +58,6 @@ const Subcommand decodeSubcommand = {
     {{"args", "JSON", "the command's arguments, a JSON array"},
      machineOption,
      {"json", nullptr, "one JSON object, as from quvctl batch"}},
-    run};
+    runDecode};
 
 } // namespace quv

@@ -38,7 +38,7 @@ void print(const OrderedJson &reply)
     columns.print(false);
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runEncode(const CommandLine &line)
 {
     nlohmann::json request = commandRequest(line);
     const int family = line.number("family", 1, 1, 2);
@@ -69,6 +69,6 @@ const Subcommand encodeSubcommand = {
      machineOption,
      {"form", "FORM", "the arguments are given as a value (default) or a list"},
      {"json", nullptr, "one JSON object, as from quvctl batch"}},
-    run};
+    runEncode};
 
 } // namespace quv

@@ -30,7 +30,7 @@ ExitStatus printAsJson(const Driver &driver, const FW_ErrorList &errors, bool cl
     return Done;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runErrors(const CommandLine &line)
 {
     const Driver driver(line);
     const FW_ErrorList errors = answerTo<GetErrorsAnswer>(ProtoCommandList::GET_ERRORS, driver).errorList();
@@ -64,6 +64,6 @@ const Subcommand errorsSubcommand = {
     withDriverOptions({{"clear", nullptr, "have the machine forget them, when they have been shown"},
                        quietOption,
                        {"json", nullptr, "the errors as one JSON object"}}),
-    run};
+    runErrors};
 
 } // namespace quv

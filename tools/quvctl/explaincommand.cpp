@@ -143,7 +143,7 @@ void print(const QString &code, const Explanations &found)
     }
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runExplain(const CommandLine &line)
 {
     QStringList codes;
     for (const QString &word : line.words())
@@ -174,6 +174,6 @@ const Subcommand explainSubcommand = {
     1,
     -1,
     {{"json", nullptr, "one JSON object a line, one a code"}},
-    run};
+    runExplain};
 
 } // namespace quv

@@ -62,7 +62,7 @@ void printTable(const std::vector<const CMD_STRUCT *> &rows)
     columns.print(true);
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runList(const CommandLine &line)
 {
     const auto rows = chosenRows(line);
     if (line.isSet("names")) {
@@ -93,6 +93,6 @@ const Subcommand listSubcommand = {
      {"family", "FAMILY", "the command family, 1 or 2"},
      {"names", nullptr, "the names only, one a line"},
      {"json", nullptr, "the whole rows as one JSON array"}},
-    run};
+    runList};
 
 } // namespace quv

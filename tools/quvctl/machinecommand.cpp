@@ -9,7 +9,7 @@ namespace quv {
 
 namespace {
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runMachine(const CommandLine &line)
 {
     const DescribedMachine described = describedMachineByName(line.words().first());
     if (!described.machine)
@@ -38,6 +38,6 @@ const Subcommand machineSubcommand = {
     1,
     1,
     {{"json", nullptr, "one JSON object, with the machine in it"}},
-    run};
+    runMachine};
 
 } // namespace quv

@@ -45,7 +45,7 @@ QList<MixerCycle> cyclesOf(const CommandLine &line)
     return cycles;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runMix(const CommandLine &line)
 {
     const QList<MixerCycle> cycles = cyclesOf(line);
     long long seconds = 0;
@@ -84,7 +84,7 @@ const Subcommand mixSubcommand = {
                         {"force", "NUMBER", "with which the plates hold the can, 0 to 245 (50)"},
                         {"type", "NUMBER", "the kind of motion, as the mixer numbers it (1)"},
                         {"times", "N", "all of the cycles so many times, 1 to 20 (1)"}}),
-    run,
+    runMix,
     SerialDeviceType::Mixer};
 
 } // namespace quv

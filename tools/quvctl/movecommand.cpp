@@ -174,7 +174,7 @@ void followCap(MachineProcess &process, const CapGoal &goal, const Driver &drive
     };
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runMove(const CommandLine &line)
 {
     Movement moved = movementOf(line);
     requireKind(line, moved.machine, QStringLiteral("move ") + line.words().first());
@@ -207,6 +207,6 @@ const Subcommand moveSubcommand = {
     withProcessOptions(
         {{"height", "MM", "of the shelf that goes up, in millimetres"},
          {"refill", nullptr, "the table brings the circuit to where its canister is refilled"}}),
-    run};
+    runMove};
 
 } // namespace quv

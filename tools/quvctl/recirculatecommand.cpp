@@ -30,7 +30,7 @@ std::unique_ptr<ProtoCommand> recirculation(int position, long long duration, in
                                               nullptr);
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runRecirculate(const CommandLine &line)
 {
     const auto command = [speed = speedOf(line)](int position, long long seconds) {
         return recirculation(position, seconds, speed);
@@ -53,7 +53,7 @@ const Subcommand recirculateSubcommand = {
     0,
     1,
     withProcessOptions({circuitOption, {"speed", "PERCENT", "1 to 100 (as the machine is configured to)"}}),
-    run,
+    runRecirculate,
     SerialDeviceType::Dispenser};
 
 } // namespace quv

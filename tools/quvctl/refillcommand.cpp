@@ -108,7 +108,7 @@ QList<CanisterData> toldCanisters(const Driver &driver)
     return answerTo<GetCanisterListAnswer>(ProtoCommandList::GET_CANISTER_LIST, driver).canisterList();
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runRefill(const CommandLine &line)
 {
     const QList<Refill> refills = refillsOf(line);
     const bool isLevel = line.isSet("level");
@@ -142,7 +142,7 @@ const Subcommand refillSubcommand = {
     withDriverOptions({{"level", nullptr, "an amount is the new level, not what was added"},
                        quietOption,
                        {"json", nullptr, "the canisters as one JSON object"}}),
-    run,
+    runRefill,
     SerialDeviceType::Dispenser};
 
 } // namespace quv

@@ -94,7 +94,7 @@ QStringList activeIn(const SensorsStatusAnswer &sensors)
     return texts;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runSensors(const CommandLine &line)
 {
     const Driver driver(line);
     const auto sensors = answerTo<SensorsStatusAnswer>(ProtoCommandList::GET_SENSORS_STATUS, driver);
@@ -125,7 +125,7 @@ const Subcommand sensorsSubcommand = {
     0,
     0,
     withDriverOptions({{"json", nullptr, "these, and all of them by their names, as one JSON object"}}),
-    run,
+    runSensors,
     SerialDeviceType::Dispenser};
 
 } // namespace quv

@@ -20,7 +20,7 @@ void printNames(const QString &command)
         printLine(argument.name);
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runShow(const CommandLine &line)
 {
     if (line.isSet("markdown")) {
         if (!line.words().isEmpty())
@@ -58,6 +58,6 @@ const Subcommand showSubcommand = {"show",
                                    {{"json", nullptr, "one JSON object"},
                                     {"names", nullptr, "the names of its arguments only, one a line"},
                                     {"markdown", nullptr, "without NAME: the reference of all commands"}},
-                                   run};
+                                   runShow};
 
 } // namespace quv

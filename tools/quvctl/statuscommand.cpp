@@ -184,7 +184,7 @@ ExitStatus printAsJson(const Screen &screen)
     return Done;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runStatus(const CommandLine &line)
 {
     const Driver driver(line);
     const Screen screen(driver);
@@ -203,6 +203,6 @@ const Subcommand statusSubcommand = {
     0,
     0,
     withDriverOptions({{"json", nullptr, "all of it as one JSON object"}}),
-    run};
+    runStatus};
 
 } // namespace quv

@@ -11,7 +11,7 @@ namespace quv {
 
 namespace {
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runStir(const CommandLine &line)
 {
     const auto command = [](int position, long long seconds) {
         return std::make_unique<StirringCmd>(position, seconds, false);
@@ -33,7 +33,7 @@ const Subcommand stirSubcommand = {
     0,
     1,
     withProcessOptions({circuitOption}),
-    run,
+    runStir,
     SerialDeviceType::Dispenser};
 
 } // namespace quv

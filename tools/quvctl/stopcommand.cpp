@@ -9,7 +9,7 @@ namespace quv {
 
 namespace {
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runStop(const CommandLine &line)
 {
     const Driver driver(line);
     stopMachine(driver);
@@ -32,6 +32,6 @@ const Subcommand stopSubcommand = {
     0,
     0,
     withDriverOptions({quietOption, {"json", nullptr, "what became of it as one JSON object"}}),
-    run};
+    runStop};
 
 } // namespace quv

@@ -43,7 +43,7 @@ ExitStatus printAsJson(const Ticket &ticket, const CmdStatus &status)
     return isGood ? Done : Refused;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runTicket(const CommandLine &line)
 {
     const Driver driver(line);
     const std::chrono::milliseconds interval = intervalOf(line);
@@ -82,6 +82,6 @@ const Subcommand ticketSubcommand = {
                        intervalOption,
                        quietOption,
                        {"json", nullptr, "status, envelope and answer as one JSON object"}}),
-    run};
+    runTicket};
 
 } // namespace quv

@@ -207,7 +207,7 @@ ExitStatus waitAndReport(const Driver &driver, const Ticket &ticket, const PourO
     return hasErrors || isLacking(report) ? Refused : Done;
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runTint(const CommandLine &line)
 {
     intervalOf(line); // refused before anything is asked
     std::optional<PourOrder> order = typedOrder(line);
@@ -253,7 +253,7 @@ const Subcommand tintSubcommand = {
          intervalOption,
          quietOption,
          {"json", nullptr, "ticket and amounts, or the plan, as one JSON object"}}),
-    run,
+    runTint,
     SerialDeviceType::Dispenser};
 
 } // namespace quv

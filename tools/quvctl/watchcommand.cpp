@@ -261,7 +261,7 @@ ExitStatus watch(const CommandLine &line)
     }
 }
 
-ExitStatus run(const CommandLine &line)
+ExitStatus runWatch(const CommandLine &line)
 {
     return line.isSet("json") ? watch<JsonWatcher>(line) : watch<Watcher>(line);
 }
@@ -282,6 +282,6 @@ const Subcommand watchSubcommand = {
     withDriverOptions({intervalOption,
                        {"json", nullptr, "a JSON object a line, with the time, whenever something changes"},
                        {"count", "N", "ends after N questions; 0 goes on for ever (0)"}}),
-    run};
+    runWatch};
 
 } // namespace quv
