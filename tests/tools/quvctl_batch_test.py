@@ -618,6 +618,7 @@ class Supports(BatchTest):
 
     def test_bad_requests(self):
         self.expect({"op": "supports", "name": "GET_STATUS", "family": 63}, bad('"revision" is missing'))
+        self.expect({"op": "supports", "name": "GET_STATUS"}, bad('"family" is missing'))
         self.expect({"op": "supports", "name": "NOPE", "family": 63, "revision": 38},
                     refused("DE00337", "Command type not recognized", GET_PROTO_VALUE))
 

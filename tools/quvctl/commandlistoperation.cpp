@@ -54,7 +54,7 @@ std::optional<FW_Version> firmwareOf(const Request &request)
 {
     if (!request.has("firmware_family") && !request.has("revision"))
         return std::nullopt;
-    return FW_Version(request.number("firmware_family"), request.number("revision"));
+    return FW_Version{request.number("firmware_family"), request.number("revision")}; // braces: in this order
 }
 
 CommandDataList listOf(const Request &request)

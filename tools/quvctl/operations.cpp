@@ -107,7 +107,7 @@ OrderedJson envelope(const Request &request)
 
 OrderedJson supports(const Request &request)
 {
-    const FW_Version version(request.number("family"), request.number("revision"));
+    const FW_Version version{request.number("family"), request.number("revision")}; // braces: in this order
     OrderedJson reply = success();
     reply["supported"] = makeCommand(request)->isSupportedCommand(version);
     return reply;
