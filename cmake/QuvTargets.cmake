@@ -28,8 +28,11 @@ function(quv_precompile_headers target)
         else()
             target_precompile_headers(${target} PRIVATE ${ARGN})
         endif()
+        # for ccache
         if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-            target_compile_options(${target} PRIVATE -fpch-preprocess) # for ccache
+            target_compile_options(${target} PRIVATE -fpch-preprocess)
+        elseif(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+            target_compile_options(${target} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
         endif()
     endif()
 endfunction()
