@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """Says which sources of a target can be compiled joined, a line "path;group" for each. Usage: group_sources.py SOURCE...
 
-Up to eight of a folder are a group. Apart stay two sources of which one has in its unnamed namespace a name that the other one
+Up to sixteen of a folder are a group. Apart stay two sources of which one has in its unnamed namespace a name that the other one
 speaks of, and one that uses another's class or sees other templates: a description that makes a class is known in the source of
 that class only. What is not recognised here is told by the compiler.
 """
@@ -10,7 +10,7 @@ import re
 import sys
 from pathlib import Path
 
-MOST = 8
+MOST = 16
 # what stands at the beginning of a line is declared there, since the contents of namespaces are not indented
 DECLARED = re.compile(r"(\w+)(?:<[^;{}()]*>)?\s*(?=\(|\[|=|\{|;)")
 TEMPLATES = re.compile(r"described\w+_p\.h")
