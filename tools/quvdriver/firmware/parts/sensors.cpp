@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "firmware/parts/sensors.h"
 
+#include "firmware/processnumbers.h"
 #include "firmware/wiredigits.h"
 #include "firmware/wirereader.h"
 #include "firmware/wirereply.h"
@@ -11,7 +12,6 @@
 namespace quv {
 namespace {
 
-constexpr double MillisecondsOfMinute = 60000;
 constexpr qint64 MinutesOfHour = 60;
 
 // Measures are in hundredths: of a degree Celsius, of a percent.
