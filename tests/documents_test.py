@@ -101,7 +101,7 @@ def form_of(lines):
     for line in lines:
         line = TICKET.sub("TICKET", line)
         line = re.sub(r"^\d\d:\d\d:\d\d ", "hh:mm:ss ", line)
-        line = re.sub(r"^(\[[#.]+\] )?((?!100 %)\d+ %  .*|Queued\.\.\.)$", "PROGRESS", line)
+        line = re.sub(r"^(\[[#.]+\] )?((?!100 %)\d+ %(  .*)?|Queued\.\.\.)$", "PROGRESS", line)
         if line != "PROGRESS" or formed[-1:] != ["PROGRESS"]:
             formed.append(line)
     return formed
